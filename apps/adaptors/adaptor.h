@@ -1,0 +1,93 @@
+#pragma once
+
+#include <functional>
+#include <nlohmann/json.hpp>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+/// An adaptor runs one dialog or tool from JSON: inputs in, outcome out. Both hosts find it by the
+/// class name. A new dialog is one new file here, which defines one `Register` object.
+namespace adaptors {
+
+using Json = nlohmann::ordered_json;
+
+/// One input that an adaptor takes.
+struct Input {
+    std::string name;
+    std::string type;  ///< "text", "number", "flag", "list of texts", ...
+    std::string meaning;
+    Json sample;  ///< what makes sense on the sample data; null where the input may be left out
+};
+
+/// Inputs that do not fit; the words say which and why.
+class BadInput : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// What a run takes and gives.
+class Run {
+public:
+    explicit Run(Json inputs) : inputs_(std::move(inputs)) {}
+
+    /// The value of an input, or the default where it was left out. Throws BadInput for a value of
+    /// another type.
+    template <typename T>
+    T Get(const std::string& name, T byDefault) const {
+        if (!inputs_.contains(name)) return byDefault;
+        try {
+            return inputs_.at(name).template get<T>();
+        } catch (const nlohmann::json::exception&) {
+            throw BadInput("The input \"" + name + "\" is of the wrong type: " +
+                           inputs_.at(name).dump());
+        }
+    }
+    const Json& Inputs() const { return inputs_; }
+
+    /// What a modeless tool's host may do to it while it is open; throws BadInput for a method that
+    /// it has not.
+    using Call = std::function<void(const std::string& method, const Json& arguments)>;
+    void SetCall(Call call) { call_ = std::move(call); }
+    void DoCall(const std::string& method, const Json& arguments) const;
+
+    /// "IDOK" or "IDCANCEL"; "failed" when nothing could be opened.
+    const char* ResultName() const;
+
+    /// What getters and the caller's vectors hold in the end.
+    Json outcome = Json::object();
+    /// 1 for OK, 2 for Cancel, -1 when nothing could be opened.
+    int result = 1;
+
+private:
+    Json inputs_;
+    Call call_;
+};
+
+struct Adaptor {
+    std::string className;
+    std::string family;
+    std::string caption;
+    int templateId = 0;
+    std::vector<Input> inputs;
+    std::string returns;  ///< what the outcome holds, in a sentence
+    std::function<void(Run&)> run;
+
+    /// The sample inputs, those that are left out excepted.
+    Json SampleInputs() const;
+    /// Throws BadInput when `inputs` is no object or holds a name that is none of the inputs.
+    void Check(const Json& given) const;
+};
+
+/// Puts an adaptor in the list; defined as a static object in the adaptor's file.
+class Register {
+public:
+    explicit Register(Adaptor adaptor);
+};
+
+/// All adaptors, by family and class name.
+std::vector<const Adaptor*> All();
+/// Null for an unknown class.
+const Adaptor* Find(const std::string& className);
+
+}  // namespace adaptors

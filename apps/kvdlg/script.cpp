@@ -1,0 +1,212 @@
+#include "kvdlg/script.h"
+
+#include <algorithm>
+#include <map>
+#include <vector>
+
+#include "window/input.h"
+
+namespace kvdlg {
+
+namespace {
+
+using Action = std::function<void(kv::User&)>;
+
+[[noreturn]] void Wrong(const std::string& where, const std::string& expected) {
+    throw BadScript(where + ": expected " + expected);
+}
+
+int IdAt(const Json& value, std::size_t index, const std::string& where) {
+    if (!value.is_array() || value.size() <= index || !value[index].is_number_integer()) {
+        Wrong(where, "a list with the control's id at place " + std::to_string(index));
+    }
+    return value[index].get<int>();
+}
+
+std::string TextAt(const Json& value, std::size_t index, const std::string& where) {
+    if (!value.is_array() || value.size() <= index || !value[index].is_string()) {
+        Wrong(where, "a text at place " + std::to_string(index) + " of the list");
+    }
+    return value[index].get<std::string>();
+}
+
+int IdOf(const Json& value, const std::string& where) {
+    if (value.is_number_integer()) return value.get<int>();
+    Wrong(where, "a control's id");
+}
+
+Action MakeType(const Json& value, const std::string& where) {
+    return [id = IdAt(value, 0, where), text = TextAt(value, 1, where)](kv::User& user) {
+        user.Type(id, text);
+    };
+}
+
+Action MakeKey(const Json& value, const std::string& where) {
+    const int id = IdAt(value, 0, where);
+    const std::string name = TextAt(value, 1, where);
+    const auto last = name.find_last_of('+');
+    const std::string key = last == std::string::npos ? name : name.substr(last + 1);
+    if (!kv::input::KeyByName(key)) Wrong(where, "the name of a key, and not \"" + name + "\"");
+    return [id, name](kv::User& user) { user.Key(id, name); };
+}
+
+Action MakePaste(const Json& value, const std::string& where) {
+    return [id = IdAt(value, 0, where), text = TextAt(value, 1, where)](kv::User& user) {
+        user.Paste(id, text);
+    };
+}
+
+Action MakeClick(const Json& value, const std::string& where) {
+    return [id = IdOf(value, where)](kv::User& user) { user.Click(id); };
+}
+
+Action MakeDoubleClick(const Json& value, const std::string& where) {
+    const int id = IdAt(value, 0, where);
+    if (value.size() > 1 && value[1].is_number_integer()) {
+        return [id, row = value[1].get<int>()](kv::User& user) { user.DoubleClick(id, row); };
+    }
+    return [id, text = TextAt(value, 1, where)](kv::User& user) { user.DoubleClick(id, text); };
+}
+
+Action MakeSelect(const Json& value, const std::string& where) {
+    const int id = IdAt(value, 0, where);
+    if (value.size() != 2) Wrong(where, "[id, row text | index | list of them]");
+    if (value[1].is_string()) {
+        return [id, text = value[1].get<std::string>()](kv::User& user) { user.Select(id, text); };
+    }
+    const Json rows = value[1].is_array() ? value[1] : Json::array({value[1]});
+    for (const Json& row : rows) {
+        if (!row.is_string() && !row.is_number_integer()) Wrong(where, "rows as texts or indices");
+    }
+    return [id, rows](kv::User& user) {
+        std::vector<int> indices;
+        for (const Json& row : rows) {
+            indices.push_back(row.is_string() ? user.RowIndex(id, row.get<std::string>())
+                                              : row.get<int>());
+        }
+        user.Select(id, indices);
+    };
+}
+
+Action MakeDrop(const Json& value, const std::string& where) {
+    return [id = IdOf(value, where)](kv::User& user) { user.Drop(id); };
+}
+
+Action MakeFocus(const Json& value, const std::string& where) {
+    return [id = IdOf(value, where)](kv::User& user) { user.Focus(id); };
+}
+
+Action MakeClose(const Json&, const std::string&) {
+    return [](kv::User& user) { user.Close(); };
+}
+
+using Maker = Action (*)(const Json&, const std::string&);
+
+const std::map<std::string, Maker>& Makers() {
+    static const std::map<std::string, Maker> makers{
+        {"type", MakeType},     {"key", MakeKey},
+        {"paste", MakePaste},   {"click", MakeClick},
+        {"select", MakeSelect}, {"doubleclick", MakeDoubleClick},
+        {"drop", MakeDrop},     {"focus", MakeFocus},
+        {"close", MakeClose},
+    };
+    return makers;
+}
+
+Action MakeAction(const Json& step, const std::string& where, const Hooks& hooks) {
+    if (!step.is_object() || step.size() != 1) Wrong(where, "an object with one action");
+    const std::string name = step.begin().key();
+    const Json& value = step.begin().value();
+    const std::string here = where + " (" + name + ")";
+    if (name == "snapshot") {
+        if (!value.is_string()) Wrong(here, "a name");
+        return [take = hooks.snapshot, title = value.get<std::string>()](kv::User& user) {
+            take(user.WindowNode(), title);
+        };
+    }
+    if (name == "call") {
+        const std::string method = TextAt(value, 0, here);
+        const Json arguments(value.begin() + 1, value.end());
+        return [call = hooks.call, method, arguments](kv::User&) { call(method, arguments); };
+    }
+    const auto maker = Makers().find(name);
+    if (maker == Makers().end()) {
+        std::string known = "snapshot, call";
+        for (const auto& [each, make] : Makers()) known += ", " + each;
+        Wrong(where, "one of the actions " + known + ", and not \"" + name + "\"");
+    }
+    return maker->second(value, here);
+}
+
+std::vector<Action> MakeActions(const Json& scene, const std::string& where, const Hooks& hooks) {
+    std::vector<Action> actions;
+    if (!scene.contains("do")) return actions;
+    if (!scene["do"].is_array()) Wrong(where, "\"do\" to be a list of actions");
+    int number = 0;
+    for (const Json& step : scene["do"]) {
+        const std::string here = where + ", action " + std::to_string(++number);
+        actions.push_back(MakeAction(step, here, hooks));
+    }
+    return actions;
+}
+
+int AnswerOf(const Json& scene, const std::string& where) {
+    static const std::map<std::string, int> answers{
+        {"ok", IDOK},       {"cancel", IDCANCEL}, {"yes", IDYES},      {"no", IDNO},
+        {"retry", IDRETRY}, {"abort", IDABORT},   {"ignore", IDIGNORE}};
+    if (!scene.contains("answer")) return IDOK;
+    const std::string answer = scene["answer"].is_string() ? scene["answer"] : "";
+    const auto at = answers.find(answer);
+    if (at == answers.end()) Wrong(where, "\"answer\" to be ok, cancel, yes, no, retry, abort or ignore");
+    return at->second;
+}
+
+void AddScene(const Json& scene, const std::string& where, kv::HeadlessDesktop& desktop,
+              const Hooks& hooks) {
+    if (!scene.is_object()) Wrong(where, "an object");
+    const auto play = [actions = MakeActions(scene, where, hooks)](kv::User& user) {
+        for (const Action& action : actions) action(user);
+    };
+    const auto textOf = [&](const char* key) {
+        if (!scene[key].is_string()) Wrong(where, std::string("\"") + key + "\" to be a text");
+        return scene[key].get<std::string>();
+    };
+    if (scene.contains("window")) {
+        desktop.ExpectWindow(textOf("window"), play);
+    } else if (scene.contains("message")) {
+        desktop.ExpectMessage(textOf("message"), AnswerOf(scene, where));
+    } else if (scene.contains("file")) {
+        if (scene["file"].is_null()) {
+            desktop.ExpectFileCancel();
+        } else {
+            desktop.ExpectFile(textOf("file"));
+        }
+    } else if (scene.contains("pump")) {
+        if (!scene["pump"].is_number_integer()) Wrong(where, "\"pump\" to be how many pumpings go by first");
+        desktop.ExpectPump(play, scene["pump"].get<int>());
+    } else {
+        Wrong(where, "\"window\", \"message\", \"file\" or \"pump\"");
+    }
+}
+
+}  // namespace
+
+Json ParseJson(const std::string& text, const std::string& nameOfText) {
+    try {
+        return Json::parse(text);
+    } catch (const nlohmann::json::parse_error& e) {
+        const auto end = text.begin() + static_cast<std::ptrdiff_t>(std::min(e.byte, text.size()));
+        const auto line = 1 + std::count(text.begin(), end, '\n');
+        throw BadScript(nameOfText + ", line " + std::to_string(line) + ": no JSON: " + e.what());
+    }
+}
+
+void AddScenes(const Json& user, kv::HeadlessDesktop& desktop, Hooks hooks) {
+    if (!user.is_array()) Wrong("The script", "\"user\" to be a list of scenes");
+    int number = 0;
+    for (const Json& scene : user) {
+        AddScene(scene, "Scene " + std::to_string(++number), desktop, hooks);
+    }
+}
+
+}  // namespace kvdlg

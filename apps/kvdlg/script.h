@@ -1,0 +1,35 @@
+#pragma once
+
+#include <functional>
+#include <stdexcept>
+#include <string>
+
+#include "adaptors/adaptor.h"
+#include "window/headless_desktop.h"
+
+/// A script of scenes as JSON, turned into the scenes of a headless desktop.
+namespace kvdlg {
+
+using adaptors::Json;
+
+/// A script that cannot be read, with what was expected and where.
+class BadScript : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+struct Hooks {
+    /// "snapshot": the window as it stands.
+    std::function<void(kv::Node&, const std::string& name)> snapshot;
+    /// "call": a method that a tool's host calls.
+    std::function<void(const std::string& method, const Json& arguments)> call;
+};
+
+/// Reads the text as JSON. Throws BadScript with the line and column of what is wrong.
+Json ParseJson(const std::string& text, const std::string& nameOfText);
+
+/// Adds the scenes of `user`, a list, to the desktop. The whole script is checked before anything
+/// runs: throws BadScript naming the scene and the action.
+void AddScenes(const Json& user, kv::HeadlessDesktop& desktop, Hooks hooks);
+
+}  // namespace kvdlg

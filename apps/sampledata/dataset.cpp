@@ -1,0 +1,96 @@
+#include "sampledata/dataset.h"
+
+#include "sampledata/areas.h"
+#include "sampledata/blocks.h"
+#include "sampledata/counties.h"
+#include "sampledata/leases.h"
+#include "sampledata/pipelines.h"
+#include "sampledata/projections.h"
+#include "sampledata/wells.h"
+
+namespace kv::sample {
+namespace {
+
+void WriteAreas(Sink& sink) {
+    sink.Begin(TableNamed("gulf_mexico_connam2"));
+    for (const Area& area : Areas())
+        sink.Add({area.name, area.code, area.mmsCode});
+    sink.End();
+
+    sink.Begin(TableNamed("gulf_mexico_area_projection"));
+    for (const Area& area : Areas())
+        sink.Add({area.code, std::to_string(area.projection)});
+    sink.End();
+
+    sink.Begin(TableNamed("nvd2000_area_order"));
+    int place = 0;
+    for (const Area& area : Areas()) {
+        const std::string text = std::to_string(++place);
+        sink.Add({area.name, text, text});
+    }
+    sink.End();
+}
+
+void WriteZones(Sink& sink) {
+    sink.Begin(TableNamed("gulf_mexico_zone_code"));
+    for (const Zone& zone : Zones()) {
+        sink.Add({std::to_string(zone.code), zone.description, zone.category,
+                  zone.statePlaneCode ? std::to_string(zone.statePlaneCode) : "", zone.definition});
+    }
+    sink.End();
+}
+
+void WriteBlocks(const std::vector<Block>& blocks, Sink& sink) {
+    sink.Begin(TableNamed("gulf_mexico_lbi"));
+    for (const Block& block : blocks) {
+        sink.Add({block.area->code, std::to_string(block.number), block.ext,
+                  std::to_string(block.refnum)});
+    }
+    sink.End();
+
+    sink.Begin(TableNamed("gulf_mexico_lbv"));
+    for (const Block& block : blocks) {
+        int point = 0;
+        for (const GeoPoint& corner : block.outline) {
+            sink.Add({std::to_string(block.refnum), std::to_string(++point),
+                      DegreesText(corner.lat), DegreesText(corner.lon)});
+        }
+    }
+    sink.End();
+}
+
+/// The work table of block selections is there, and empty.
+void WriteWorkTable(Sink& sink) {
+    sink.Begin(TableNamed("nvd2000_tmp_abe2"));
+    sink.End();
+}
+
+}  // namespace
+
+void WriteDataset(Sink& sink, const std::function<void(const std::string&)>& progress) {
+    progress("areas, counties and projection zones");
+    WriteAreas(sink);
+    WriteZones(sink);
+    WriteCounties(sink);
+    WriteWorkTable(sink);
+
+    progress("blocks");
+    const std::vector<Block> blocks = LayOutBlocks();
+    WriteBlocks(blocks, sink);
+
+    progress("leases, owners and bids");
+    const std::vector<Lease> leases = MakeLeases(blocks);
+    WriteLeases(leases, sink);
+
+    progress("wells and completions");
+    const std::vector<Well> wells = DrillWells(leases);
+    WriteWells(wells, sink);
+
+    progress("platforms, plans, permits, prospects, fields and shotpoints");
+    WriteSites(leases, sink);
+
+    progress("pipelines");
+    WritePipelines(blocks, sink);
+}
+
+}  // namespace kv::sample

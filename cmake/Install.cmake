@@ -1,0 +1,32 @@
+# Installation: the library, its headers but those of the services, a CMake package and a pkg-config
+# file. All of it may be moved as a whole.
+
+file(GLOB_RECURSE headers CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/*.h)
+list(FILTER headers EXCLUDE REGEX "/src/(services|qt)/")
+
+set(KVGUICTL_INCLUDEDIR ${CMAKE_INSTALL_INCLUDEDIR}/KVGuiCtl)
+set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/KVGuiCtl)
+
+add_library(KVGuiCtl::KVGuiCtl ALIAS KVGuiCtl)
+target_compile_features(KVGuiCtl INTERFACE cxx_std_20)
+target_sources(KVGuiCtl PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR}/src
+                                                FILES ${headers})
+
+install(TARGETS KVGuiCtl EXPORT KVGuiCtlTargets
+        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+        FILE_SET HEADERS DESTINATION ${KVGUICTL_INCLUDEDIR})
+install(EXPORT KVGuiCtlTargets NAMESPACE KVGuiCtl:: DESTINATION ${package_folder})
+
+configure_package_config_file(cmake/KVGuiCtlConfig.cmake.in
+                              ${PROJECT_BINARY_DIR}/KVGuiCtlConfig.cmake
+                              INSTALL_DESTINATION ${package_folder})
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/KVGuiCtlConfigVersion.cmake
+                                 COMPATIBILITY SameMinorVersion)
+install(FILES ${PROJECT_BINARY_DIR}/KVGuiCtlConfig.cmake
+              ${PROJECT_BINARY_DIR}/KVGuiCtlConfigVersion.cmake
+        DESTINATION ${package_folder})
+
+file(RELATIVE_PATH KVGUICTL_PREFIX_FROM_PC /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
+string(REGEX REPLACE "/$" "" KVGUICTL_PREFIX_FROM_PC ${KVGUICTL_PREFIX_FROM_PC})
+configure_file(cmake/KVGuiCtl.pc.in ${PROJECT_BINARY_DIR}/KVGuiCtl.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/KVGuiCtl.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)

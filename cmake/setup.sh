@@ -1,0 +1,61 @@
+# shellcheck shell=bash disable=SC2154
+# Shared by run, test and .ci/run, which source it from the project's folder. The caller sets
+# `program`, the name under which messages appear.
+
+say() { printf '%s: %s\n' "$program" "$*"; }
+fail() { printf '%s: %s\n' "$program" "$*" >&2; exit 1; }
+
+# What of the packages for these purposes is missing, one name a line.
+missing_packages() {
+    local purpose package
+    for purpose in "$@"; do
+        awk -v purpose="$purpose" '$1 == purpose { print $2 }' cmake/debian-packages.txt
+    done | while read -r package; do
+        [ "$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null)" = installed ] ||
+            printf '%s\n' "$package"
+    done
+}
+
+# Installs what is missing for these purposes.
+install_packages() {
+    if ! command -v dpkg-query >/dev/null; then
+        say "no Debian here: the packages of cmake/debian-packages.txt are taken to be installed"
+        return
+    fi
+    local missing
+    mapfile -t missing < <(missing_packages "$@")
+    [ ${#missing[@]} -gt 0 ] || return 0
+
+    local as_root=()
+    if [ "$(id -u)" -ne 0 ]; then
+        command -v sudo >/dev/null ||
+            fail "not root, and there is no sudo. Please install: ${missing[*]}"
+        as_root=(sudo)
+        [ -t 0 ] || as_root+=(-n)
+    fi
+    as_root+=(env DEBIAN_FRONTEND=noninteractive)
+    say "installing ${missing[*]}"
+    "${as_root[@]}" apt-get update -qq </dev/null ||
+        say "the package lists could not be brought up to date; going on with those at hand"
+    "${as_root[@]}" apt-get install -y -qq --no-install-recommends "${missing[@]}" \
+        </dev/null >"$log_folder/packages.log" 2>&1 ||
+        fail "could not install them; see $log_folder/packages.log, or install them by hand"
+}
+
+# Configures a preset, with further settings of CMake, and builds it.
+build_preset() {
+    local preset=$1
+    shift
+    say "configuring build/$preset"
+    cmake --preset "$preset" "$@" >"$log_folder/configure-$preset.log" 2>&1 || {
+        tail -n 30 "$log_folder/configure-$preset.log" >&2
+        fail "configuring failed; see $log_folder/configure-$preset.log"
+    }
+    say "building build/$preset"
+    NINJA_STATUS='[%f/%t, %es] ' cmake --build "build/$preset" </dev/null || fail "the build failed"
+}
+
+log_folder=build/log
+mkdir -p "$log_folder"
+started=$SECONDS
+elapsed() { printf '%dm%02ds' $(((SECONDS - started) / 60)) $(((SECONDS - started) % 60)); }

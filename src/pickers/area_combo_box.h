@@ -1,0 +1,54 @@
+#pragma once
+
+#include <string>
+
+#include "pickers/blk_combo_box.h"
+#include "pickers/db_combo_box.h"
+
+/// The areas of the dataset in one of the three area modes, with two label rows that switch the
+/// mode. A pick fills the block box that is bound to it. The text of the box is its only record of
+/// the pick.
+class KVGUICTL_API CKvAreaComboBox : public CKvDbComboBox {
+public:
+    /// Binds the block box, which is not owned, and gives it the present mode. To be called ahead of
+    /// `V_InitializeCombo`.
+    void SetBlkCombo(CKvBlkComboBox* combo);
+
+    int GetMode() const { return m_nMode; }
+    /// Touches neither the list nor the block box.
+    void SetMode(int mode) { m_nMode = mode; }
+
+    void V_InitializeCombo() override;
+    void V_SelChanged(bool bCommit) override;
+
+    /// The window text as it stands.
+    std::string GetArea() const { return WindowText(); }
+
+    /// The area code of the pick, or the codes where an MMS code stands for several and no single
+    /// block is picked: c1,c2. With `bQuoted` ready to stand in SQL: 'c1', or ('c1','c2'). Empty
+    /// for an empty box.
+    std::string GetAreacode(bool bQuoted) const;
+
+    /// Selects the area with that area code. One that the database does not know is logged, and the
+    /// box stays as it was; so it does while the list is not filled yet.
+    void SetArea(const std::string& areacode);
+
+    /// Whether the text is a row of the list, wholly entered: the block box may then be used. If it
+    /// is not, the block box's text is emptied.
+    bool EnableBlkCombo();
+
+protected:
+    /// The statement of the present mode that lists labels and areas, empty for an unknown mode.
+    std::string AreaQuery() const;
+    /// Fills the list from the statement. The first fill in the process, which `firstFill` marks,
+    /// does not clear it.
+    void Fill(const std::string& query, bool& firstFill);
+
+    std::string m_sTable;
+    CKvBlkComboBox* m_pBlkCombo = nullptr;
+    int m_nMode = kv::catalogue::kMmsCode;
+
+private:
+    std::string AreacodesOfMms(const std::string& mmsCode, bool bQuoted) const;
+    void TakeText(const std::string& text);
+};

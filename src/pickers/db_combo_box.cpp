@@ -1,0 +1,34 @@
+#include "pickers/db_combo_box.h"
+
+#include "frame/db_abs_data_mgr.h"
+#include "frame/log.h"
+
+BOOL CKvDbComboBox::OnCmdMsg(UINT id, int code, void* extra, void* info) {
+    switch (code) {
+        case CBN_SELCHANGE:
+        case CBN_KILLFOCUS:
+            V_SelChanged(true);
+            break;
+        case EN_CHANGE:
+            V_SelChanged(false);
+            break;
+        default:
+            break;
+    }
+    return CComboBoxExx::OnCmdMsg(id, code, extra, info);
+}
+
+void CKvDbComboBox::FillFromQuery(const std::string& sql, bool bClear) {
+    if (bClear) ResetContent();
+    CKvDbAbsDataMgr manager(1);
+    try {
+        manager.Connect();
+        manager.Select(sql);
+        const int rows = manager.NumberOfRows();
+        for (int row = 0; row < rows; ++row) AddString(manager.GetItem(row, 0));
+    } catch (const CKvException& e) {
+        CKvLog::Output(e.GetErrorMessage(true, true), 101, false);
+    }
+    manager.FreeData();
+    manager.Disconnect();
+}

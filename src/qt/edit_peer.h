@@ -1,0 +1,24 @@
+#pragma once
+
+#include "qt/peer.h"
+#include "window/edit_node.h"
+
+namespace kv::qt {
+
+/// An edit of one line or of several: shows the node's text, selection and caret.
+class EditPeer : public Peer {
+public:
+    /// `framed` is false within a combo box.
+    EditPeer(EditNode& node, QWidget* host, bool framed = true);
+
+    void ShowAll() override;
+    void Changed(Change change) override;
+    void ShowColors() override;
+
+protected:
+    void ShowText() override;
+    void ShowFocus() override;
+    void ShowStyle() override;
+};
+
+}  // namespace kv::qt

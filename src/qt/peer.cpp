@@ -1,0 +1,210 @@
+#include "qt/peer.h"
+
+#include <QHash>
+#include <algorithm>
+
+#include "qt/colors.h"
+#include "qt/keyboard.h"
+#include "qt/text.h"
+#include "window/owner_draw.h"
+#include "window/window_system.h"
+
+namespace kv::qt {
+
+namespace {
+
+QHash<const QWidget*, Peer*>& Peers() {
+    static QHash<const QWidget*, Peer*> peers;
+    return peers;
+}
+
+bool IsGroupBox(const Node& node) {
+    return node.Class() == NodeClass::kButton && (node.Style() & BS_TYPEMASK) == BS_GROUPBOX;
+}
+
+bool IsLabel(const Node& node) {
+    return node.Class() == NodeClass::kStatic && !node.Text().empty() &&
+           (node.Style() & SS_TYPEMASK) != SS_ICON;
+}
+
+bool ShowsOwnText(const Node& node) {
+    return node.Class() == NodeClass::kButton || node.Class() == NodeClass::kStatic ||
+           node.Class() == NodeClass::kDialog || node.Class() == NodeClass::kFrame ||
+           node.Class() == NodeClass::kBar || node.Class() == NodeClass::kToolBar;
+}
+
+}  // namespace
+
+Peer::Peer(Node& node, QWidget* widget) : node_(node), widget_(widget) {
+    AddWidget(*this, widget);
+    widget->setFocusPolicy(Qt::NoFocus);
+}
+
+Peer::~Peer() {
+    Peers().removeIf([this](const auto& each) { return each.value() == this; });
+    if (!widget_) return;
+    widget_->hide();
+    widget_->deleteLater();
+}
+
+Peer* PeerOf(const QWidget* widget) {
+    for (; widget; widget = widget->parentWidget()) {
+        if (Peer* peer = Peers().value(widget)) return peer;
+    }
+    return nullptr;
+}
+
+Peer* PeerOf(const Node& node) { return dynamic_cast<Peer*>(node.GetView()); }
+
+void AddWidget(Peer& peer, QWidget* widget) {
+    Peers().insert(widget, &peer);
+    TakeKeysOf(widget);
+}
+
+void Peer::ShowAll() {
+    ShowStyle();
+    ShowText();
+    ShowRect();
+    ShowEnabled();
+    ShowColors();
+    ShowName();
+    if (ChildHost()) MakeChildren();
+    ShowVisible();
+    if (WindowSystem::Get().Focus() == &node_) ShowFocus();
+}
+
+void Peer::Changed(Change change) {
+    if (!widget_) return;
+    switch (change) {
+        case Change::kText:
+            ShowText();
+            ShowName();
+            break;
+        case Change::kRect:
+            ShowRect();
+            break;
+        case Change::kEnabled:
+            ShowEnabled();
+            ShowColors();
+            break;
+        case Change::kVisible:
+            ShowVisible();
+            break;
+        case Change::kStyle:
+        case Change::kDefault:
+            ShowStyle();
+            ShowColors();
+            break;
+        case Change::kFocus:
+            ShowFocus();
+            break;
+        case Change::kChildren:
+            if (ChildHost()) MakeChildren();
+            break;
+        case Change::kZOrder:
+            ShowOrder();
+            break;
+        case Change::kPaint:
+            ShowColors();
+            widget_->update();
+            break;
+        default:
+            widget_->update();
+            break;
+    }
+}
+
+void Peer::ShowRect() { widget_->setGeometry(CurrentScale().ToScreen(node_.Rect())); }
+
+void Peer::ShowEnabled() { widget_->setEnabled(node_.Enabled()); }
+
+void Peer::ShowVisible() { widget_->setVisible(node_.Visible()); }
+
+void Peer::ShowFocus() {
+    if (WindowSystem::Get().Focus() != &node_) return;
+    widget_->setFocus(Qt::OtherFocusReason);
+    QWidget* window = widget_->window();
+    if (window->isVisible() && !window->isActiveWindow()) window->activateWindow();
+}
+
+/// The first child of the order lies in front.
+void Peer::ShowOrder() {
+    for (const auto& child : node_.Children()) {
+        if (Peer* peer = PeerOf(*child); peer && peer->Widget()) peer->Widget()->lower();
+    }
+}
+
+void Peer::MakeChildren() {
+    const auto children = node_.Children();
+    for (const auto& child : children) {
+        if (!child->GetView() && !child->Destroyed()) MakePeer(*child, ChildHost());
+    }
+    for (const auto& child : children) {
+        Peer* peer = IsGroupBox(*child) ? PeerOf(*child) : nullptr;
+        if (peer && peer->Widget()) peer->Widget()->lower();
+    }
+}
+
+void Peer::ShowColors() {
+    CDC context;
+    const ControlColors colors = AskColors(node_, context);
+    const bool field = node_.Class() == NodeClass::kEdit || node_.Class() == NodeClass::kComboBox ||
+                       node_.Class() == NodeClass::kListBox || node_.Class() == NodeClass::kListView;
+    const std::initializer_list<SystemColor> texts = {
+        SystemColor::kWindowText, SystemColor::kButtonText, SystemColor::kGrayText};
+    const std::initializer_list<SystemColor> backgrounds = {SystemColor::kWindow,
+                                                            SystemColor::kButtonFace};
+    const auto isPlatform = [](COLORREF color, std::initializer_list<SystemColor> own) {
+        return std::any_of(own.begin(), own.end(),
+                           [color](SystemColor each) { return PaletteColor(each) == color; });
+    };
+    QPalette palette;
+    bool changed = widget_->testAttribute(Qt::WA_SetPalette);
+    if (!isPlatform(colors.text, texts)) {
+        palette.setColor(field ? QPalette::Text : QPalette::WindowText, ToQColor(colors.text));
+        palette.setColor(QPalette::ButtonText, ToQColor(colors.text));
+        changed = true;
+    }
+    const bool ownBackground =
+        colors.background && !isPlatform(*colors.background, backgrounds);
+    if (ownBackground) {
+        palette.setColor(field ? QPalette::Base : QPalette::Window, ToQColor(*colors.background));
+        changed = true;
+    }
+    if (!changed) return;
+    widget_->setPalette(palette);
+    widget_->setAutoFillBackground(ownBackground && !field);
+}
+
+QString AccessibleName(const Node& node) {
+    if (ShowsOwnText(node) && !node.Text().empty()) return PlainText(node.Text());
+    const Node* parent = node.Parent();
+    if (parent && parent->Class() == NodeClass::kComboBox) return AccessibleName(*parent);
+    if (!parent || node.Class() == NodeClass::kStatic) return {};
+    const auto& siblings = parent->Children();
+    auto at = std::find_if(siblings.begin(), siblings.end(),
+                           [&](const auto& each) { return each.get() == &node; });
+    while (at != siblings.begin()) {
+        --at;
+        if (IsLabel(**at) || (IsGroupBox(**at) && !(*at)->Text().empty())) {
+            QString name = PlainText((*at)->Text()).trimmed();
+            if (name.endsWith(u':')) name.chop(1);
+            return name;
+        }
+    }
+    return PlainText(parent->Text());
+}
+
+void Peer::ShowName() {
+    widget_->setAccessibleName(AccessibleName(node_));
+    if (node_.Class() != NodeClass::kStatic || !node_.Parent()) return;
+    // The controls behind a label go by its text.
+    for (const auto& sibling : node_.Parent()->Children()) {
+        Peer* peer = sibling->Class() == NodeClass::kStatic ? nullptr : PeerOf(*sibling);
+        if (peer && peer->Widget()) {
+            peer->Widget()->setAccessibleName(AccessibleName(*sibling));
+        }
+    }
+}
+
+}  // namespace kv::qt

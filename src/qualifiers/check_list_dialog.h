@@ -1,0 +1,70 @@
+#pragma once
+
+#include <span>
+#include <string>
+#include <vector>
+
+#include "window/dialog.h"
+
+class CComboBox;
+
+namespace kv {
+
+/// One check box of a group, and the word that it stands for.
+struct CheckMember {
+    int id;
+    const char* word;
+};
+
+/// A group of check boxes under an "ALL" box. Words are saved in the order of the members, but for
+/// the two exceptions: `allOrder`, where it is not empty, is the order when the ALL box is checked,
+/// `singleOrder` the one when it is not.
+struct CheckGroup {
+    int allId;
+    std::span<const CheckMember> members;
+    std::span<const CheckMember> allOrder = {};
+    std::span<const CheckMember> singleOrder = {};
+};
+
+/// Picks words from groups of check boxes. The status, product and lease dialogs are this machine
+/// with three tables.
+///
+/// A combo box and a vector of the caller's go in, neither owned. When it is made: "<LIST>" in the
+/// combo box lets the vector stand, any other text replaces its content. On IDOK the vector holds
+/// the checked words, group by group in the order of saving, and the combo box reads "<LIST>" for
+/// more than one, the word for one, nothing for none. On IDCANCEL both stand.
+class KVGUICTL_API CheckListDialog : public CDialog {
+public:
+    BOOL OnInitDialog() override;
+    void OnOK() override;
+
+protected:
+    /// `groups` in the order of the template, with static lifetime; `saveOrder` are their indices.
+    CheckListDialog(UINT templateId, CWnd* parent, std::span<const CheckGroup> groups,
+                    std::span<const int> saveOrder);
+    CheckListDialog(UINT templateId, CWnd* parent, std::span<const CheckGroup> groups,
+                    std::span<const int> saveOrder, CComboBox* combo,
+                    std::vector<std::string>& values, bool readOnly);
+
+    /// A click on a box: an ALL box sets its members, a member its ALL box.
+    void OnBox(UINT id);
+    /// Unchecks every box.
+    void ClearAll();
+    /// Appends a group's checked words to the vector.
+    void SaveGroup(int group);
+    /// Where the dialog only shows the selection, nothing but OK can be used.
+    void EnableDisable();
+
+private:
+    void CheckMembers(const CheckGroup& group, bool checked);
+    void UpdateAllBox(const CheckGroup& group);
+    bool AllChecked(const CheckGroup& group) const;
+
+    std::span<const CheckGroup> m_groups;
+    std::span<const int> m_saveOrder;
+    std::vector<std::string>* m_pValues = nullptr;
+    CComboBox* m_pCombo = nullptr;
+    bool m_bReadOnly = false;
+};
+
+}  // namespace kv

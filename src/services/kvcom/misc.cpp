@@ -1,0 +1,66 @@
+#include "frame/misc.h"
+
+#include <unistd.h>
+
+#include <array>
+#include <cstdint>
+#include <utility>
+
+#include "services/kvdbkvn/connection.h"
+#include "services/kvdbkvn/secrets.h"
+#include "window/paths.h"
+#include "window/text.h"
+
+namespace {
+
+CString& ImportFilePath() {
+    static CString path;
+    return path;
+}
+
+/// What the operating system tells this machine by, else its name in the network.
+std::string MachineName() {
+    for (const char* path : {"/etc/machine-id", "/var/lib/dbus/machine-id"}) {
+        const std::string id = kv::TrimSpace(kv::ReadTextFile(path).value_or(""));
+        if (!id.empty()) return id;
+    }
+    std::array<char, 256> name{};
+    gethostname(name.data(), name.size() - 1);
+    return name.data();
+}
+
+/// The 64-bit FNV-1a hash.
+std::uint64_t Hash(const std::string& text) {
+    std::uint64_t hash = 0xcbf29ce484222325;
+    for (const char ch : text) {
+        hash ^= static_cast<unsigned char>(ch);
+        hash *= 0x100000001b3;
+    }
+    return hash;
+}
+
+}  // namespace
+
+CString CKvMisc::S_GetImportFilePath() {
+    return ImportFilePath();
+}
+
+void CKvMisc::S_SetImportFilePath(CString path) {
+    ImportFilePath() = std::move(path);
+}
+
+void CKvMisc::GetParsedConnectString(std::string& user, std::string& password, std::string& server,
+                                     bool withPassword) {
+    const CKvDbInfo& connection = kv::db::ConnectionInForce();
+    user = connection.GetUser();
+    password = withPassword ? connection.GetPassword() : std::string();
+    server =
+        withPassword ? connection.GetServer() : kv::db::Scrub(connection.GetServer(), connection);
+}
+
+CString CKvMisc::GetMachineID(bool upperCase) {
+    // The system's own identifier is not to be spread; its hash tells machines apart as well.
+    const auto hash = static_cast<unsigned long long>(Hash("KVGuiCtl " + MachineName()));
+    const std::string id = kv::FormatText("%016llx", hash);
+    return upperCase ? kv::ToUpper(id) : id;
+}

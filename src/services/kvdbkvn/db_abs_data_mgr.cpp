@@ -1,0 +1,229 @@
+#include "frame/db_abs_data_mgr.h"
+
+#include <utility>
+
+#include "frame/log.h"
+#include "frame/statement_trace.h"
+#include "services/kvdbkvn/connection.h"
+#include "services/kvdbkvn/dialect.h"
+#include "services/kvdbkvn/engine.h"
+#include "services/kvdbkvn/session_pool.h"
+
+namespace {
+
+using kv::db::Rows;
+using kv::db::Session;
+using kv::db::SessionPool;
+using kv::dialect::Kind;
+using kv::dialect::Translation;
+
+constexpr int kConnected = 1;
+constexpr int kLogLevel = 101;
+
+std::string WordsOf(const CKvException& failure) {
+    return failure.GetErrorMessage(false, false);
+}
+
+void Log(const std::string& line) {
+    CKvLog::Output(line, kLogLevel, false);
+}
+
+/// The schema is asked for while a statement is being read, where nothing may be thrown; a session
+/// that fails here fails again, and is heard, when the statement runs.
+bool HasSchema(Session& session, const std::string& name) noexcept {
+    try {
+        return session.HasSchema(name);
+    } catch (const CKvException&) {
+        return false;
+    }
+}
+
+Translation Translate(const std::string& sql, Session& session) {
+    // The engines' client libraries take texts that end at a zero.
+    if (sql.find('\0') != std::string::npos)
+        throw CKvException("Refused: the statement holds a zero byte");
+    kv::dialect::Context context;
+    context.target = session.Target();
+    context.hasLeaseSort = session.HasLeaseSort();
+    context.hasSchema = [&](const std::string& name) { return HasSchema(session, name); };
+    Translation translation = kv::dialect::Translate(sql, context);
+    for (const std::string& note : translation.notes)
+        Log(note);
+    if (!translation.refusal.empty()) throw CKvException(translation.refusal);
+    return translation;
+}
+
+/// As on Oracle, a definition and a grant commit what came before them, and themselves.
+bool Commits(Kind kind) {
+    return kind == Kind::kDefine || kind == Kind::kGrant || kind == Kind::kCommit;
+}
+
+bool MayRead(Kind kind) {
+    return kind == Kind::kRead || kind == Kind::kUnknown;
+}
+
+}  // namespace
+
+/// What copies of a manager share. Destroyed with a connection open it undoes what was not
+/// committed, as a process that dies does.
+struct CKvDbAbsDataMgr::State {
+    CKvDbInfo info;
+    /// Null while not connected, and after the server was lost until the next statement.
+    std::unique_ptr<Session> session;
+    bool connected = false;
+    /// Whether the open transaction holds changes.
+    bool changed = false;
+    std::unique_ptr<Rows> rows;
+
+    State() = default;
+    State(const State&) = delete;
+    State& operator=(const State&) = delete;
+    ~State() { GiveBack(); }
+
+    void Connect() {
+        Disconnect();
+        info = kv::db::ConnectionInForce();
+        session = SessionPool::Instance().Borrow(info);
+        connected = true;
+    }
+
+    void Disconnect() noexcept {
+        try {
+            if (session) session->Commit();
+        } catch (const CKvException& failure) {
+            Log("Changes could not be committed: " + WordsOf(failure));
+        }
+        GiveBack();
+    }
+
+    void GiveBack() noexcept {
+        if (session) SessionPool::Instance().GiveBack(info, std::move(session));
+        session.reset();
+        connected = false;
+        changed = false;
+    }
+
+    void Commit(Session& s) {
+        s.Commit();
+        changed = false;
+    }
+
+    /// Puts the caller's own text beside the words of a failure.
+    template <typename Operation>
+    auto Run(const std::string& sql, const Operation& operation) {
+        kv::db::TraceStatement(sql);
+        try {
+            return RunOnLiveSession(operation);
+        } catch (const CKvException& failure) {
+            throw CKvException(WordsOf(failure), sql);
+        }
+    }
+
+    /// A server that was stopped and started again is not noticed before a statement fails. Where
+    /// nothing is lost by it the statement is run once more, on a new session.
+    template <typename Operation>
+    auto RunOnLiveSession(const Operation& operation) {
+        if (!connected) throw CKvException("There is no connection to a database");
+        if (session) {
+            try {
+                return operation(*session);
+            } catch (const CKvException& failure) {
+                if (session->IsAlive()) throw;
+                session.reset();
+                SessionPool::Instance().Forget(info);
+                if (changed) ThrowLost(failure);
+            }
+        }
+        session = SessionPool::Instance().Borrow(info);
+        return operation(*session);
+    }
+
+    /// Statements to come must not be committed without those that are lost.
+    [[noreturn]] void ThrowLost(const CKvException& failure) {
+        GiveBack();
+        throw CKvException(WordsOf(failure) +
+                           "; the connection is closed, and what it had not committed is undone");
+    }
+
+    int Select(const std::string& sql) {
+        rows.reset();
+        rows = Run(sql, [&](Session& s) -> std::unique_ptr<Rows> {
+            const Translation translation = Translate(sql, s);
+            if (!MayRead(translation.kind)) throw CKvException(kv::db::kOnlyReads);
+            return s.Query(translation.text);
+        });
+        return rows->Count();
+    }
+
+    int Change(const std::string& sql) {
+        return Run(sql, [&](Session& s) {
+            const Translation translation = Translate(sql, s);
+            const bool commits = Commits(translation.kind);
+            if (commits) Commit(s);
+            if (translation.text.empty() || translation.kind == Kind::kCommit) return 0;
+            const int count = s.Execute(translation.text);
+            changed = true;
+            if (commits) Commit(s);
+            return count;
+        });
+    }
+};
+
+CKvDbAbsDataMgr::CKvDbAbsDataMgr(enuConnectType) : m_pState(std::make_shared<State>()) {}
+CKvDbAbsDataMgr::CKvDbAbsDataMgr(const CKvDbAbsDataMgr&) = default;
+CKvDbAbsDataMgr& CKvDbAbsDataMgr::operator=(const CKvDbAbsDataMgr&) = default;
+CKvDbAbsDataMgr::~CKvDbAbsDataMgr() = default;
+
+int CKvDbAbsDataMgr::Connect() {
+    m_pState->Connect();
+    return kConnected;
+}
+
+bool CKvDbAbsDataMgr::IsConnected() const {
+    return m_pState->connected;
+}
+
+int CKvDbAbsDataMgr::Select(const std::string& sql) {
+    return m_pState->Select(sql);
+}
+
+int CKvDbAbsDataMgr::NumberOfRows() const {
+    return m_pState->rows ? m_pState->rows->Count() : 0;
+}
+
+const char* CKvDbAbsDataMgr::GetItem(int row, int column) const {
+    const Rows* rows = m_pState->rows.get();
+    const bool inside =
+        rows && row >= 0 && row < rows->Count() && column >= 0 && column < rows->Columns();
+    return inside ? rows->Cell(row, column) : "";
+}
+
+void CKvDbAbsDataMgr::FreeData() {
+    m_pState->rows.reset();
+}
+
+void CKvDbAbsDataMgr::Disconnect() {
+    m_pState->Disconnect();
+}
+
+int CKvDbAbsDataMgr::Insert(const std::string& sql) {
+    return m_pState->Change(sql);
+}
+
+int CKvDbAbsDataMgr::Delete(const std::string& sql) {
+    return m_pState->Change(sql);
+}
+
+bool CKvDbAbsDataMgr::ExecuteDDL(std::string sql) {
+    m_pState->Change(sql);
+    return true;
+}
+
+bool CKvDbAbsDataMgr::ExecuteDML(std::string sql) {
+    m_pState->Change(sql);
+    return true;
+}
+
+void CKvDbAbsDataMgr::SetDbInfo(CKvDbInfo& info) {
+    kv::db::SetConnectionInForce(info);
+}

@@ -1,0 +1,260 @@
+#include "frame/db_util.h"
+
+#include "frame/catalogue.h"
+#include "frame/db_abs_data_mgr.h"
+#include "frame/db_dataset_set.h"
+#include "frame/log.h"
+#include "frame/table_owner.h"
+#include "window/numbers.h"
+#include "window/text.h"
+
+namespace {
+
+using kv::catalogue::kAllBlocks;
+using kv::catalogue::kAreaTable;
+using kv::catalogue::kBlockTable;
+using kv::catalogue::kVertexTable;
+
+constexpr int kLogLevel = 101;
+constexpr const char* kProjectionTable = "_area_projection";
+constexpr const char* kCountyTable = ".nvd2000_county";
+
+/// Runs `work` with a connected manager. Its answer, or, when the database fails, which goes to the
+/// log, `otherwise`.
+template <class Answer, class Work>
+Answer LookUp(Answer otherwise, const Work& work) {
+    CKvDbAbsDataMgr manager(KV_CONNECT_DEFAULT);
+    try {
+        manager.Connect();
+        otherwise = work(manager);
+    } catch (const CKvException& failure) {
+        CKvLog::Output(failure.GetErrorMessage(true, true), kLogLevel, false);
+    }
+    manager.FreeData();
+    manager.Disconnect();
+    return otherwise;
+}
+
+std::string Quoted(const std::string& text) {
+    return "'" + kv::ReplaceAll(text, "'", "''") + "'";
+}
+
+/// Bracketed, for "in"; the list is not empty.
+std::string QuotedList(const std::vector<std::string>& texts) {
+    std::string list;
+    for (const std::string& text : texts)
+        list += (list.empty() ? "(" : ",") + Quoted(text);
+    return list + ")";
+}
+
+/// A table of the dataset, with its owner, unless the stem already names one.
+std::string TableOf(const std::string& dataset, const char* suffix) {
+    const std::string stem = dataset.empty() ? CKvDbDatasetSet::S_GetGlobalDataset() : dataset;
+    if (stem.find('.') != std::string::npos) return stem + suffix;
+    return CKvDbDatasetSet::S_GetGlobalOwner() + "." + stem + suffix;
+}
+
+/// Column 0 of every row.
+std::vector<std::string> ColumnOf(CKvDbAbsDataMgr& manager, const std::string& sql) {
+    manager.Select(sql);
+    std::vector<std::string> cells;
+    for (int row = 0; row < manager.NumberOfRows(); ++row)
+        cells.emplace_back(manager.GetItem(row, 0));
+    return cells;
+}
+
+std::string FirstOf(const std::vector<std::string>& cells) {
+    return cells.empty() ? std::string() : cells.front();
+}
+
+/// One column of the area table where another has that value.
+std::vector<std::string> AreaCells(CKvDbAbsDataMgr& manager, const std::string& dataset,
+                                   const char* wanted, const char* known,
+                                   const std::string& value) {
+    return ColumnOf(manager, std::string("select ") + wanted + " from " +
+                                 TableOf(dataset, kAreaTable) + " where " + known + " = " +
+                                 Quoted(value) + " order by " + wanted);
+}
+
+/// The area codes that an area code, an MMS code or an area name stands for.
+std::vector<std::string> AreaCodesOf(CKvDbAbsDataMgr& manager, const std::string& dataset,
+                                     const std::string& area) {
+    using namespace kv::catalogue;
+    for (const char* column : {kColumnAreaCode, kColumnMmsCode, kColumnAreaName}) {
+        const std::vector<std::string> codes =
+            AreaCells(manager, dataset, kColumnAreaCode, column, area);
+        if (!codes.empty()) return codes;
+    }
+    return {};
+}
+
+/// A block where it was found.
+struct Found {
+    std::string label;
+    std::string areaCode;
+    std::string refnum;
+};
+
+/// The blocks of that number and extension in these areas, whatever their water.
+std::vector<Found> BlocksIn(CKvDbAbsDataMgr& manager, const std::string& dataset,
+                            const std::vector<std::string>& areaCodes, const std::string& label) {
+    if (areaCodes.empty()) return {};
+    manager.Select(kv::catalogue::BlockLabelExpression() + "lbnum||lbext), areacode, refnum from " +
+                   TableOf(dataset, kBlockTable) + " where areacode in " + QuotedList(areaCodes) +
+                   " and lbnum||lbext = " + Quoted(kv::catalogue::StripWaterSuffix(label)) +
+                   " order by areacode, refnum");
+    std::vector<Found> blocks;
+    for (int row = 0; row < manager.NumberOfRows(); ++row) {
+        blocks.push_back(
+            {manager.GetItem(row, 0), manager.GetItem(row, 1), manager.GetItem(row, 2)});
+    }
+    return blocks;
+}
+
+/// The one whose label it is, null where there is none.
+const Found* WithLabel(const std::vector<Found>& blocks, const std::string& label) {
+    for (const Found& block : blocks) {
+        if (block.label == label) return &block;
+    }
+    return nullptr;
+}
+
+/// The one that is meant: a label without a suffix may stand for a block in any water.
+const Found* Meant(const std::vector<Found>& blocks, const std::string& label) {
+    if (const Found* exact = WithLabel(blocks, label)) return exact;
+    const bool anyWater = kv::catalogue::StripWaterSuffix(label) == label;
+    return anyWater && !blocks.empty() ? &blocks.front() : nullptr;
+}
+
+/// The query's first row as bounds: least and greatest latitude, least and greatest longitude.
+bool ReadBounds(CKvDbAbsDataMgr& manager, const std::string& sql, CMinMax2Dd_t& out) {
+    manager.Select(sql);
+    if (manager.NumberOfRows() == 0 || !*manager.GetItem(0, 0)) return false;
+    out = {kv::Atof(manager.GetItem(0, 0)), kv::Atof(manager.GetItem(0, 1)),
+           kv::Atof(manager.GetItem(0, 2)), kv::Atof(manager.GetItem(0, 3))};
+    return true;
+}
+
+std::string BoundsOfVertices(const std::string& dataset, const std::string& condition) {
+    return "select min(lat), max(lat), min(lon), max(lon) from " + TableOf(dataset, kVertexTable) +
+           " where " + condition;
+}
+
+bool BoundsOfArea(CKvDbAbsDataMgr& manager, const std::string& dataset,
+                  const std::vector<std::string>& areaCodes, CMinMax2Dd_t& out) {
+    return ReadBounds(
+        manager,
+        BoundsOfVertices(dataset, "refnum in (select refnum from " + TableOf(dataset, kBlockTable) +
+                                      " where areacode in " + QuotedList(areaCodes) + ")"),
+        out);
+}
+
+/// A county's row: the columns, and the condition that finds it.
+std::string CountyQuery(const char* columns, const std::string& county) {
+    return std::string("select ") + columns + " from " +
+           CKvTableOwner().GetTableOwner().GetString() + kCountyTable +
+           " where county_id = " + Quoted(county);
+}
+
+}  // namespace
+
+std::string CKvDbUtil::S_GetArea(const std::string& areaName, bool abbreviated) {
+    using namespace kv::catalogue;
+    return LookUp(std::string(), [&](CKvDbAbsDataMgr& manager) {
+        return FirstOf(AreaCells(manager, "", abbreviated ? kColumnMmsCode : kColumnAreaCode,
+                                 kColumnAreaName, areaName));
+    });
+}
+
+std::string CKvDbUtil::S_GetAreaName(const std::string& areaCode, bool abbreviated) {
+    using namespace kv::catalogue;
+    return LookUp(std::string(), [&](CKvDbAbsDataMgr& manager) {
+        return FirstOf(AreaCells(manager, "", abbreviated ? kColumnMmsCode : kColumnAreaName,
+                                 kColumnAreaCode, areaCode));
+    });
+}
+
+std::vector<std::string> CKvDbUtil::S_GetAreacodesFromMMS(const std::string& mmsCode) {
+    using namespace kv::catalogue;
+    return LookUp(std::vector<std::string>(), [&](CKvDbAbsDataMgr& manager) {
+        return AreaCells(manager, "", kColumnAreaCode, kColumnMmsCode, mmsCode);
+    });
+}
+
+std::string CKvDbUtil::S_GetAreacodeFromMMSandBlk(const std::string& mmsCode,
+                                                  const std::string& block) {
+    using namespace kv::catalogue;
+    return LookUp(std::string(), [&](CKvDbAbsDataMgr& manager) {
+        const std::vector<Found> blocks = BlocksIn(
+            manager, "", AreaCells(manager, "", kColumnAreaCode, kColumnMmsCode, mmsCode), block);
+        const Found* found = WithLabel(blocks, block);
+        return found ? found->areaCode : std::string();
+    });
+}
+
+bool CKvDbUtil::S_GetLLBounds(std::string area, std::string block, std::string ext,
+                              CMinMax2Dd_t& out, std::string dataset) {
+    return LookUp(false, [&](CKvDbAbsDataMgr& manager) {
+        const std::vector<std::string> areaCodes = AreaCodesOf(manager, dataset, area);
+        if (areaCodes.empty()) return false;
+        if (block == kAllBlocks) return BoundsOfArea(manager, dataset, areaCodes, out);
+        const std::string label = kv::Trim(block) + kv::Trim(ext);
+        const std::vector<Found> blocks = BlocksIn(manager, dataset, areaCodes, label);
+        const Found* found = Meant(blocks, label);
+        return found &&
+               ReadBounds(manager, BoundsOfVertices(dataset, "refnum = " + found->refnum), out);
+    });
+}
+
+bool CKvDbUtil::S_GetLLBoundsOnshore(std::string county, CMinMax2Dd_t& out) {
+    return LookUp(false, [&](CKvDbAbsDataMgr& manager) {
+        return ReadBounds(manager, CountyQuery("min_lat, max_lat, min_lon, max_lon", county), out);
+    });
+}
+
+int CKvDbUtil::S_GetProjectionByArea(std::string area, std::string dataset) {
+    constexpr int kNone = -1;
+    return LookUp(kNone, [&](CKvDbAbsDataMgr& manager) {
+        const std::vector<std::string> areaCodes = AreaCodesOf(manager, dataset, area);
+        if (areaCodes.empty()) return kNone;
+        const std::vector<std::string> projections = ColumnOf(
+            manager, "select projection from " + TableOf(dataset, kProjectionTable) +
+                         " where areacode in " + QuotedList(areaCodes) + " order by areacode");
+        return projections.empty() ? kNone : kv::Atoi(projections.front());
+    });
+}
+
+void CKvDbUtil::S_GetCountyInfo(std::string county, std::string& state, std::string& name,
+                                double& minLat, double& maxLat, double& minLon, double& maxLon,
+                                int& projection, int& number, bool upperCase) {
+    struct Record {
+        std::string state;
+        std::string name;
+        CMinMax2Dd_t bounds;
+        int projection = -1;
+        int number = 0;
+    };
+    const Record record = LookUp(Record(), [&](CKvDbAbsDataMgr& manager) {
+        Record read;
+        if (!ReadBounds(manager,
+                        CountyQuery("min_lat, max_lat, min_lon, max_lon, state, county_name, "
+                                    "projection, county_no",
+                                    county),
+                        read.bounds)) {
+            return read;
+        }
+        read.state = manager.GetItem(0, 4);
+        read.name = manager.GetItem(0, 5);
+        read.projection = kv::Atoi(manager.GetItem(0, 6));
+        read.number = kv::Atoi(manager.GetItem(0, 7));
+        return read;
+    });
+    state = record.state;
+    name = upperCase ? kv::ToUpper(record.name) : record.name;
+    minLat = record.bounds.minX;
+    maxLat = record.bounds.maxX;
+    minLon = record.bounds.minY;
+    maxLon = record.bounds.maxY;
+    projection = record.projection;
+    number = record.number;
+}

@@ -1,0 +1,49 @@
+#include "services/kvdbkvn/session_pool.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace kv::db {
+namespace {
+
+constexpr std::ptrdiff_t kMostIdleOfOneRecord = 4;
+constexpr std::size_t kMostIdle = 16;
+
+}  // namespace
+
+/// Never destroyed: client libraries may have shut down by the time static objects go, and the
+/// system closes what is open.
+SessionPool& SessionPool::Instance() {
+    static auto* const pool = new SessionPool;
+    return *pool;
+}
+
+std::unique_ptr<Session> SessionPool::Borrow(const CKvDbInfo& info) {
+    for (std::size_t i = idle_.size(); i-- > 0;) {
+        if (idle_[i].info != info) continue;
+        std::unique_ptr<Session> session = std::move(idle_[i].session);
+        idle_.erase(idle_.begin() + static_cast<std::ptrdiff_t>(i));
+        if (session->IsAlive()) return session;
+    }
+    return Open(info);
+}
+
+void SessionPool::GiveBack(const CKvDbInfo& info, std::unique_ptr<Session> session) noexcept {
+    session->Rollback();
+    if (!session->IsAlive()) return;
+    idle_.push_back({info, std::move(session)});
+    CloseBeyondLimits(info);
+}
+
+void SessionPool::Forget(const CKvDbInfo& info) {
+    std::erase_if(idle_, [&](const Entry& entry) { return entry.info == info; });
+}
+
+void SessionPool::CloseBeyondLimits(const CKvDbInfo& info) {
+    const auto ofRecord = [&](const Entry& entry) { return entry.info == info; };
+    if (std::ranges::count_if(idle_, ofRecord) > kMostIdleOfOneRecord)
+        idle_.erase(std::ranges::find_if(idle_, ofRecord));
+    if (idle_.size() > kMostIdle) idle_.pop_front();
+}
+
+}  // namespace kv::db

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <memory>
+
+#include "window/desktop.h"
+#include "window/export.h"
+#include "window/node.h"
+
+namespace kv {
+
+/// The time that a modal thing is open: it takes the focus, whose holder is told that it lost it,
+/// and gives it back: to the holder, or, where that cannot hold it any more, quietly to the next tab
+/// stop.
+class KVGUICTL_API ModalScope {
+public:
+    ModalScope();
+    ~ModalScope();
+    ModalScope(const ModalScope&) = delete;
+    ModalScope& operator=(const ModalScope&) = delete;
+
+private:
+    std::weak_ptr<Node> holder_;
+    std::weak_ptr<Node> host_;
+};
+
+/// Runs a message box on the desktop within a modal scope of its own.
+KVGUICTL_API int RunMessageBox(const MessageBoxRequest& request);
+
+}  // namespace kv

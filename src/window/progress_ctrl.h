@@ -1,0 +1,25 @@
+#pragma once
+
+#include "window/export.h"
+#include "window/progress_node.h"
+#include "window/wnd.h"
+
+/// A handle on a progress bar. Positions outside the range are brought into it.
+class KVGUICTL_API CProgressCtrl : public CWnd {
+public:
+    void SetRange(int lower, int upper) { SetRange32(lower, upper); }
+    void SetRange32(int lower, int upper) {
+        SendMessage(PBM_SETRANGE32, static_cast<WPARAM>(lower), upper);
+    }
+    /// Each of these returns the former position, or step.
+    int SetPos(int position) { return Ask(PBM_SETPOS, position); }
+    int OffsetPos(int by) { return Ask(PBM_DELTAPOS, by); }
+    int SetStep(int step) { return Ask(PBM_SETSTEP, step); }
+    int StepIt() { return Ask(PBM_STEPIT, 0); }
+    int GetPos() const { return Ask(PBM_GETPOS, 0); }
+
+private:
+    int Ask(UINT message, int value) const {
+        return static_cast<int>(SendMessage(message, static_cast<WPARAM>(value)));
+    }
+};

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "window/export.h"
+#include "window/spin_node.h"
+#include "window/wnd.h"
+
+/// A handle on a spin button.
+class KVGUICTL_API CSpinButtonCtrl : public CWnd {
+public:
+    void SetRange(int lower, int upper) {
+        SendMessage(UDM_SETRANGE32, static_cast<WPARAM>(lower), upper);
+    }
+    void GetRange(int& lower, int& upper) const {
+        lower = upper = 0;
+        SendMessage(UDM_GETRANGE32, reinterpret_cast<WPARAM>(&lower),
+                    reinterpret_cast<LPARAM>(&upper));
+    }
+    /// Returns the former position.
+    int SetPos(int position) { return static_cast<int>(SendMessage(UDM_SETPOS32, 0, position)); }
+    int GetPos() const { return static_cast<int>(SendMessage(UDM_GETPOS32)); }
+    /// Returns the former buddy.
+    CWnd* SetBuddy(CWnd* buddy) {
+        const WPARAM window = reinterpret_cast<WPARAM>(buddy ? buddy->m_hWnd : nullptr);
+        return FromHandle(reinterpret_cast<HWND>(SendMessage(UDM_SETBUDDY, window)));
+    }
+    CWnd* GetBuddy() const { return FromHandle(reinterpret_cast<HWND>(SendMessage(UDM_GETBUDDY))); }
+};

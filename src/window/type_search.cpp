@@ -1,0 +1,36 @@
+#include "window/type_search.h"
+
+#include "window/desktop.h"
+#include "window/window_system.h"
+
+namespace kv {
+
+namespace {
+
+constexpr std::chrono::milliseconds kPause{1000};
+
+std::chrono::system_clock::time_point Now() {
+    return WindowSystem::Get().GetDesktop().Now();
+}
+
+}  // namespace
+
+bool TypeSearch::Running() const {
+    const auto now = Now();
+    return !typed_.empty() && now >= last_ && now - last_ < kPause;
+}
+
+int TypeSearch::Type(char ch, const RowList& rows, int current) {
+    if (!Running()) typed_.clear();
+    last_ = Now();
+    typed_ += ch;
+    const bool oneCharacter = typed_.find_first_not_of(ch) == std::string::npos;
+    if (typed_.size() > 1) {
+        // The row that fits what was typed so far may go on to fit.
+        const int found = rows.FindPrefix(typed_, current - 1);
+        if (found >= 0 || !oneCharacter) return found;
+    }
+    return rows.FindPrefix(std::string(1, ch), current);
+}
+
+}  // namespace kv

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <chrono>
+#include <string>
+
+#include "window/row_list.h"
+
+namespace kv {
+
+/// Finds rows by what is typed into a list. Characters that come quickly one behind the other make
+/// up one text; a single one, or one that is repeated, goes on to the next row that begins with it.
+class TypeSearch {
+public:
+    /// The row to go to, or -1. `current` is the row to start from, or -1.
+    int Type(char ch, const RowList& rows, int current);
+    /// Whether a next character would be added to a text.
+    bool Running() const;
+    void Stop() { typed_.clear(); }
+
+private:
+    std::string typed_;
+    std::chrono::system_clock::time_point last_;
+};
+
+}  // namespace kv

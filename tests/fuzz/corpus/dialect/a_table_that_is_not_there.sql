@@ -1,0 +1,1 @@
+select table_name from all_tables where table_name = 'GULF_MEXICO_WELL_COMMENT' and owner='NORVADON'

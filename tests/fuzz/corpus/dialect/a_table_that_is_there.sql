@@ -1,0 +1,1 @@
+select table_name from all_tables where table_name = 'PLANS' and owner='NORVADON'

@@ -1,0 +1,1 @@
+select a||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c||b+c from t

@@ -1,0 +1,1 @@
+select ' -AREA NAME-' from dual union select ' -MMS CODE-' from dual union select distinct stcode from NORVADON.gulf_mexico_connam2

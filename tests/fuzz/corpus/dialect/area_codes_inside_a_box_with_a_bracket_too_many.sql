@@ -1,0 +1,1 @@
+select ' -AREA NAME-' from dual union select ' -MMS CODE-' from dual union (select distinct stcode from NORVADON.gulf_mexico_connam2 where stcode in (select areacode from NORVADON.gulf_mexico_LBI I, NORVADON.gulf_mexico_LBV V  where (I.refnum = V.refnum) and (V.lat between 28.000000 and 29.100000) and (V.lon between -91.000000 and -89.000000))))

@@ -1,0 +1,1 @@
+select ' -AREA CODE-' from dual union select ' -MMS CODE-' from dual union select distinct areaname from NORVADON.gulf_mexico_connam2

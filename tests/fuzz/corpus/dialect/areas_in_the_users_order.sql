@@ -1,0 +1,1 @@
+select areaname from NORVADON.nvd2000_area_order order by seq

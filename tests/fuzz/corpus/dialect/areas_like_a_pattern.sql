@@ -1,0 +1,1 @@
+select distinct areaname from NORVADON.gulf_mexico_connam2 where areaname like '%EST%'

@@ -1,0 +1,1 @@
+select 'ÿþ' from À€ where a = '°'

@@ -1,0 +1,1 @@
+select case a when 1 then case when b is null then 'x' end else 'y' end from dual

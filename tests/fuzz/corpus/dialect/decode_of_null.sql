@@ -1,0 +1,1 @@
+select decode(a, null, b, '', c, d, e, f) from o.t order by 1 desc nulls first, lesort(a)

@@ -1,0 +1,1 @@
+delete from NORVADON.nvd2000_tmp_abe2 where machine_ID = 'PC 7'

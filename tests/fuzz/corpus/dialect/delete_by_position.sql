@@ -1,0 +1,1 @@
+delete from NORVADON.nvd2000_area_order where seq = 3

@@ -1,0 +1,1 @@
+delete from NORVADON.nvd2000_tmp_abe2 where (n_area, n_bext) in (select o_area, o_bext from NORVADON.nvd2000_tmp_abe2)

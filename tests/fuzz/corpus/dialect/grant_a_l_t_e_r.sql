@@ -1,0 +1,1 @@
+ GRANT ALTER ON plans TO PUBLIC;

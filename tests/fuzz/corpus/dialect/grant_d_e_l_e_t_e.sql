@@ -1,0 +1,1 @@
+ GRANT DELETE ON plans TO PUBLIC;

@@ -1,0 +1,1 @@
+ GRANT INDEX ON plans TO PUBLIC;

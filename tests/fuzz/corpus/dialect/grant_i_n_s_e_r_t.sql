@@ -1,0 +1,1 @@
+ GRANT INSERT ON plans TO PUBLIC;

@@ -1,0 +1,1 @@
+ GRANT UPDATE ON plans TO PUBLIC;

@@ -1,0 +1,1 @@
+insert into NORVADON.nvd2000_tmp_abe2(select 'PC 9','GALVESTON','12A','GALVESTON','13','N' from dual)  union (select 'PC 9','GALVESTON','12A','GALVESTON','2','N' from dual)  union (select 'PC 9','GALVESTON','12A','GALVESTON','','N' from dual)  union (select 'PC 9','GALVESTON','12A','GALVESTON','13','N' from dual) 

@@ -1,0 +1,1 @@
+insert into NORVADON.nvd2000_area_order values ('EAST BREAKS', 4,7)

@@ -1,0 +1,1 @@
+select count(*), t.* from t left outer join u on t.a = u.b, dual d where a like '%' escape '!' group by a having max(b) > - -1e5/.5

@@ -1,0 +1,1 @@
+(select distinct lease from NORVADON.gulf_mexico_lease where lease like 'SL%' and lplana in ('L', 'T') ) order by lesort(lease) 

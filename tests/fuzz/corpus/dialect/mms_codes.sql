@@ -1,0 +1,1 @@
+select ' -AREA NAME-' from dual union select ' -AREA CODE-' from dual union select distinct area_abbr from NORVADON.gulf_mexico_connam2 where area_abbr is not null

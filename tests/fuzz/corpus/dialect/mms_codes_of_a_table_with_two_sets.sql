@@ -1,0 +1,1 @@
+select distinct area_abbr from NORVADON.gulf_mexico_connam2 c, NORVADON.plans abe where (stcode = abe.area1 or stcode =abe.area2) and c.area_abbr like 'G%%'

@@ -1,0 +1,1 @@
+SELECT DISTINCT operator FROM NORVADON.gulf_mexico_lease WHERE lplana in ('C','W') AND operator LIKE 'SH%' ORDER BY operator

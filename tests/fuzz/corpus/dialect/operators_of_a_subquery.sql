@@ -1,0 +1,1 @@
+SELECT DISTINCT operator FROM NORVADON.gulf_mexico_lease WHERE lease in (select lease from NORVADON.onshore_lease) AND operator LIKE '%' ORDER BY operator

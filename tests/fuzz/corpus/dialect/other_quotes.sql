@@ -1,0 +1,1 @@
+select q'[it's]' from dual

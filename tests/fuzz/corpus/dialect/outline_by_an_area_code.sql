@@ -1,0 +1,1 @@
+select lat, lon from NORVADON.gulf_mexico_lbi i, NORVADON.gulf_mexico_lbv v where i.refnum = v.refnum  and areacode = '426A' and lbnum||lbext = '12A' order by ptnum

@@ -1,0 +1,1 @@
+select lat, lon from NORVADON.gulf_mexico_lbi i, NORVADON.gulf_mexico_lbv v , NORVADON.gulf_mexico_connam2 c where i.refnum = v.refnum  and c.stcode = i.areacode  and areaname = 'GALVESTON' and lbnum||lbext = '12A' order by ptnum

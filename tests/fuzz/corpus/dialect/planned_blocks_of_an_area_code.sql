@@ -1,0 +1,1 @@
+select decode(substr(area1, 1, 3), '426', blk1||ext1|| '-S','427', blk1||ext1 || '-L','420', blk1||ext1 || '-BAY','421', blk1||ext1 || '-BAY','422', blk1||ext1 || '-BAY','423', blk1||ext1 || '-BAY','424', blk1||ext1 || '-BAY','425', blk1||ext1 || '-BAY','428', blk1||ext1 || '-BAY','429', blk1||ext1 || '-BAY',blk1||ext1),blk1 from NORVADON.plans where area1 = '426A' order by 2

@@ -1,0 +1,1 @@
+create or replace trigger r before insert on t begin p; end;

@@ -1,0 +1,1 @@
+select distinct lplana from NORVADON.gulf_mexico_lease where lplana like '%%'

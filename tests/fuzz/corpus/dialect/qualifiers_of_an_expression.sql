@@ -1,0 +1,1 @@
+select distinct lplana||lease from NORVADON.gulf_mexico_lease where lplana||lease like 'CO%'

@@ -1,0 +1,1 @@
+((SELECT DISTINCT lessee FROM NORVADON.gulf_mexico_lease WHERE lessee LIKE '%SH%') UNION (SELECT DISTINCT operator FROM NORVADON.gulf_mexico_lease WHERE operator LIKE '%SH%')) ORDER BY lessee

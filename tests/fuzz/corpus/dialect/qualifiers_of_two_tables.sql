@@ -1,0 +1,1 @@
+ select distinct lease from NORVADON.gulf_mexico_lease where lease like '%1%' UNION select distinct lease from NORVADON.onshore_lease where lease like '%1%'

@@ -1,0 +1,1 @@
+revoke all privileges, index on o.t from x, public;

@@ -1,0 +1,1 @@
+((select 1 from dual) minus (select 2 from dual union (select 3 from dual intersect select 4 from dual order by 1))) order by 1

@@ -1,0 +1,1 @@
+select description,zone_code from NORVADON.gulf_mexico_zone_code where category='utm_spheroids' order by zone_code

@@ -1,0 +1,1 @@
+select 'Zone: ' || to_char(-1*state_plane_code) || ': ' || description, state_plane_code from NORVADON.gulf_mexico_zone_code where state_plane_code is not null order by description

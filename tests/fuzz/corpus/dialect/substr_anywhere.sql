@@ -1,0 +1,1 @@
+select substr(a, b, c), substr(a, -3), substr(a, 0, 0) from t

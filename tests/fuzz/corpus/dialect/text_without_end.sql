@@ -1,0 +1,1 @@
+insert into t values ('O'BRIEN', 3,1)

@@ -1,0 +1,1 @@
+create table o.t (a char(3 byte) default 'x' unique enable, b number(9,2), c double precision, constraint u unique (a))

@@ -1,0 +1,1 @@
+update o.t x set a = '', (b, c) = (select 1, 2 from dual) where exists (select 1 from t) and not a between 1 and 2

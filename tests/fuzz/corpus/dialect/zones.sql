@@ -1,0 +1,1 @@
+select zone_code, description, category from NORVADON.gulf_mexico_zone_code order by zone_code

@@ -1,0 +1,1 @@
+select 'Zone: ' || to_char(zone_code) || ': ' || description,zone_code from NORVADON.gulf_mexico_zone_code where category in ('misc_boone','misc_cassini', 'misc_other') order by zone_code

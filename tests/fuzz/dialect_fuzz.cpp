@@ -1,0 +1,44 @@
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <string_view>
+
+#include "services/kvdbkvn/dialect.h"
+
+using kv::dialect::Context;
+using kv::dialect::Kind;
+using kv::dialect::Target;
+using kv::dialect::Translation;
+
+namespace {
+
+void Check(bool holds) {
+    if (!holds) std::abort();
+}
+
+void TranslateFor(std::string_view sql, Target target, bool known) {
+    Context context;
+    context.target = target;
+    context.hasLeaseSort = known;
+    context.hasSchema = [known](const std::string&) { return known; };
+    const Translation translation = kv::dialect::Translate(sql, context);
+    if (!translation.refusal.empty()) {
+        Check(translation.kind == Kind::kUnknown && translation.text.empty());
+        return;
+    }
+    if (translation.kind == Kind::kUnknown) Check(!translation.notes.empty());
+    if (translation.kind == Kind::kRead) Check(!translation.text.empty());
+    if (target == Target::kOracle) Check(sql.starts_with(translation.text));
+    if (translation.kind == Kind::kCommit && target != Target::kOracle)
+        Check(translation.text == "commit");
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const std::string_view sql(reinterpret_cast<const char*>(data), size);
+    for (const Target target : {Target::kSqlite, Target::kPostgres, Target::kOracle})
+        for (const bool known : {false, true})
+            TranslateFor(sql, target, known);
+    return 0;
+}

@@ -1,0 +1,203 @@
+#include <gmock/gmock.h>
+
+#include "pickers/picker_fixture.h"
+
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::Not;
+using namespace kv::abe_bar;
+
+class AbeBar : public PickerTest {
+protected:
+    void SetUp() override { CreateBar(); }
+
+    void CompleteThePick() {
+        user->Select(kArea, "GI");
+        user->Select(kBlock, "9A");
+    }
+};
+
+TEST_F(AbeBar, ComesUpWithMapCheckedLayerWellsAndNothingToRun) {
+    EXPECT_TRUE(user->Checked(kMap));
+    EXPECT_FALSE(user->Checked(kReport));
+    EXPECT_TRUE(bar.IsMapSelected());
+    EXPECT_EQ(user->Text(kLayer), "Wells");
+    EXPECT_EQ(user->Text(kArea), "");
+    for (const int id : {kRun, kMap, kReport, kLayer, kBlock}) EXPECT_FALSE(user->Enabled(id)) << id;
+    EXPECT_TRUE(user->Enabled(kArea));
+}
+
+TEST_F(AbeBar, CreationMovesTheFocusAndTouchesNoDatabase) {
+    EXPECT_EQ(CWnd::GetFocus()->GetParent(), bar.GetDlgItem(kArea));
+    EXPECT_THAT(statements, IsEmpty());
+    EXPECT_THAT(user->Rows(kArea), IsEmpty());
+}
+
+TEST_F(AbeBar, OffersNineLayersInTheirOrder) {
+    EXPECT_THAT(user->Rows(kLayer),
+                ElementsAre("Wells", "Leases", "APDs", "Platforms", "Plans", "Pipelines",
+                            "Prospects", "Fields", "2D Shotpoints"));
+}
+
+TEST_F(AbeBar, RunCarriesItsIcon) {
+    EXPECT_NE(bar.GetDlgItem(kRun)->SendMessage(BM_GETIMAGE, 1), 0);
+    EXPECT_NE(kv::FindImage(kRunIcon), nullptr);
+}
+
+TEST_F(AbeBar, FillsTheAreasWhenTheListIsFirstDropped) {
+    user->Drop(kArea);
+    ASSERT_EQ(statements.size(), 1u);
+    EXPECT_THAT(statements[0], HasSubstr("area_abbr is not null"));
+    user->Drop(kArea);
+    user->Drop(kArea);
+    EXPECT_EQ(statements.size(), 1u);
+}
+
+TEST_F(AbeBar, FillsTheAreasWhenTheBoxGetsTheFocus) {
+    kv::WindowSystem::Get().SetFocusQuietly(bar.GetDlgItem(kArea)->m_hWnd->Parent());
+    user->Focus(kArea);
+    EXPECT_EQ(statements.size(), 1u);
+    EXPECT_THAT(user->Rows(kArea), Not(IsEmpty()));
+}
+
+TEST_F(AbeBar, FillsTheAreasAtTheFirstKey) {
+    user->Key(kArea, "G");
+    ASSERT_THAT(statements, Not(IsEmpty()));
+    EXPECT_THAT(statements[0], HasSubstr("area_abbr is not null"));
+}
+
+TEST_F(AbeBar, SetAreaFillsTheListFirst) {
+    bar.SetArea("018");
+    EXPECT_EQ(bar.GetArea(), "GI");
+    EXPECT_EQ(bar.GetAreaMode(), 0);
+    EXPECT_THAT(user->Rows(kBlock), ElementsAre("ALL", "10", "100", "45", "46B", "9", "9A"));
+}
+
+TEST_F(AbeBar, ACompletePickEnablesRunAndTheRadios) {
+    CompleteThePick();
+    for (const int id : {kRun, kMap, kReport, kBlock}) EXPECT_TRUE(user->Enabled(id)) << id;
+    EXPECT_FALSE(user->Enabled(kLayer));
+    user->Click(kReport);
+    EXPECT_TRUE(user->Enabled(kLayer));
+    EXPECT_FALSE(bar.IsMapSelected());
+    EXPECT_EQ(bar.GetAreacode(true), "'017'");
+    EXPECT_EQ(bar.GetBlk(true), "9A");
+}
+
+TEST_F(AbeBar, AnAreaAloneEnablesTheBlockBoxAndNoMore) {
+    user->Select(kArea, "GI");
+    EXPECT_TRUE(user->Enabled(kBlock));
+    EXPECT_FALSE(user->Enabled(kRun));
+}
+
+TEST_F(AbeBar, ShotpointsHaveNoReport) {
+    CompleteThePick();
+    user->Click(kReport);
+    user->Select(kLayer, "2D Shotpoints");
+    EXPECT_FALSE(user->Enabled(kReport));
+    EXPECT_TRUE(user->Enabled(kMap));
+    user->Select(kLayer, "Leases");
+    EXPECT_TRUE(user->Enabled(kReport));
+}
+
+TEST_F(AbeBar, RunTellsTheMainWindow) {
+    struct Host : CFrameWnd {
+        static const kv::MessageMap& Messages() {
+            static const kv::MessageEntry kEntries[] = {
+                kv::OnMessage<&Host::OnRun>(CKvABEBar::kRunMessage)};
+            static const kv::MessageMap kHostMap{&CFrameWnd::Messages(), kEntries};
+            return kHostMap;
+        }
+        const kv::MessageMap& GetMessageMap() const override { return Messages(); }
+        LRESULT OnRun(WPARAM wParam, LPARAM lParam) {
+            ++runs;
+            parametersAreZero = wParam == 0 && lParam == 0;
+            return 0;
+        }
+        int runs = 0;
+        bool parametersAreZero = false;
+    } host;
+    host.Create("Main");
+    app.m_pMainWnd = &host;
+    CompleteThePick();
+    user->Click(kRun);
+    EXPECT_EQ(host.runs, 1);
+    EXPECT_TRUE(host.parametersAreZero);
+}
+
+TEST_F(AbeBar, DisablingThePickersEmptiesAndLocksThem) {
+    CompleteThePick();
+    bar.SetEnableABE(false);
+    kv::WindowSystem::Get().Settle();
+    EXPECT_FALSE(bar.GetEnableABE());
+    EXPECT_FALSE(user->Enabled(kArea));
+    EXPECT_FALSE(user->Enabled(kBlock));
+    EXPECT_EQ(user->Text(kArea), "");
+    EXPECT_EQ(user->Text(kBlock), "");
+    EXPECT_FALSE(user->Enabled(kRun));
+    bar.SetEnableABE(true);
+    kv::WindowSystem::Get().Settle();
+    EXPECT_TRUE(user->Enabled(kArea));
+}
+
+TEST_F(AbeBar, TurnsLayerTitlesIntoNumbers) {
+    CompleteThePick();
+    user->Click(kReport);
+    const std::vector<std::pair<const char*, int>> layers{
+        {"Wells", 25}, {"Leases", 13},    {"APDs", 67},      {"Platforms", 66},
+        {"Plans", 68}, {"Pipelines", 15}, {"Prospects", 54}, {"Fields", 28}};
+    for (const auto& [title, number] : layers) {
+        user->Select(kLayer, title);
+        EXPECT_EQ(bar.GetLayer(), number) << title;
+    }
+    const auto& layerBox = bar.GetDlgItem(kLayer);
+    EXPECT_EQ(layerBox->WindowText(), "Fields");
+}
+
+TEST_F(AbeBar, SetsTheRadiosTogether) {
+    bar.SetRadioState(true);
+    EXPECT_TRUE(user->Checked(kReport));
+    EXPECT_FALSE(user->Checked(kMap));
+    bar.SetRadioState(false);
+    EXPECT_FALSE(user->Checked(kReport));
+    EXPECT_TRUE(user->Checked(kMap));
+}
+
+TEST_F(AbeBar, SetsTheTextOfTheBlockBox) {
+    bar.SetBlkExt("123A");
+    EXPECT_EQ(bar.GetBlk(false), "123A");
+}
+
+TEST_F(AbeBar, LeavesTheRowForAllOutOnRequest) {
+    bar.SetIncludeAll(false);
+    user->Select(kArea, "SL");
+    EXPECT_THAT(user->Rows(kBlock), ElementsAre("123A-S"));
+}
+
+TEST_F(AbeBar, TypingAWholeAreaAndLeavingTheBoxFillsTheBlocks) {
+    user->Type(kArea, "HB");
+    EXPECT_EQ(user->Text(kArea), "HB");
+    EXPECT_THAT(user->Rows(kBlock), ElementsAre("ALL", "8-BAY"));
+    user->Key(kArea, "Tab");
+    EXPECT_TRUE(user->Enabled(kBlock));
+}
+
+TEST_F(AbeBar, AFrameWithoutADatabaseStillComesUp) {
+    UseDatabase("sqlite:" + folder.Native("missing.db"));
+    user->Drop(kArea);
+    EXPECT_THAT(user->Rows(kArea), IsEmpty());
+    EXPECT_THAT(desktop.Messages(), IsEmpty());
+}
+
+TEST(AbeBarBeforeTheLibraryWasInitialised, IsNotCreated) {
+    CFrameWnd frame;
+    frame.Create("Host");
+    CVZABEBar bar;
+    EXPECT_EQ(bar.Create(&frame, kTemplate, CBRS_TOP, kTemplate), 0);
+    EXPECT_EQ(bar.m_hWnd, nullptr);
+}
+
+}  // namespace

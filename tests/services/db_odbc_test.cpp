@@ -1,0 +1,110 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "support/database_helpers.h"
+#include "support/sqlite_file.h"
+#include "support/temp_folder.h"
+
+namespace test {
+namespace {
+
+using testing::HasSubstr;
+
+class OdbcEngine : public testing::Test {
+protected:
+    OdbcEngine() {
+        RunOnSqliteFile(path_, "create table kvt (a text, b integer primary key)");
+        Use("Driver=SQLite3;Database=" + path_);
+    }
+
+    static void Use(const std::string& connection) {
+        ConnectTo(CKvDbInfo("", "", ("odbc:" + connection).c_str()));
+    }
+
+    TempFolder folder_;
+    std::string path_ = folder_.Native("kv.db");
+    CKvDbAbsDataMgr manager_{1};
+};
+
+TEST_F(OdbcEngine, ADataSourceIsFoundByItsName) {
+    folder_.Write("odbc.ini", "[KVSample]\nDriver=SQLite3\nDatabase=" + path_ + "\n");
+    folder_.Set("ODBCINI", folder_.Native("odbc.ini"));
+    RunOnSqliteFile(path_, "insert into kvt values ('one', 1)");
+    Use("KVSample");
+    manager_.Connect();
+    manager_.Select("select a from kvt");
+    EXPECT_EQ(RowsOf(manager_, 1), "one");
+}
+
+TEST_F(OdbcEngine, AnUnknownDataSourceIsAFailure) {
+    Use("KVNoSuchSource");
+    EXPECT_THAT(FailureOf([&] { manager_.Connect(); }),
+                HasSubstr("Cannot connect through ODBC: Data source name not found"));
+    EXPECT_FALSE(manager_.IsConnected());
+}
+
+TEST_F(OdbcEngine, AnUnknownDriverIsAFailureWithoutThePassword) {
+    ConnectTo(CKvDbInfo("scott", "tig;er", "odbc:Driver=KVNoSuchDriver;PWD=li0n"));
+    const std::string failure = FailureOf([&] { manager_.Connect(); });
+    EXPECT_THAT(failure, HasSubstr("Cannot connect through ODBC"));
+    EXPECT_THAT(failure, Not(HasSubstr("tig")));
+    EXPECT_THAT(failure, Not(HasSubstr("li0n")));
+}
+
+TEST_F(OdbcEngine, ADatabaseFileThatDoesNotExistIsAFailureAndNoneIsMade) {
+    Use("Driver=SQLite3;Database=" + folder_.Native("missing.db"));
+    EXPECT_NE(FailureOf([&] {
+                  manager_.Connect();
+                  manager_.Select("select a from kvt");
+              }),
+              "");
+    EXPECT_FALSE(folder_.Has("missing.db"));
+}
+
+TEST_F(OdbcEngine, TextThatIsNotUtf8ComesAsItsBytes) {
+    RunOnSqliteFile(path_, "insert into kvt values (cast(x'41FF42B0' as text), 1)");
+    manager_.Connect();
+    ASSERT_EQ(manager_.Select("select a from kvt"), 1);
+    EXPECT_STREQ(manager_.GetItem(0, 0),
+                 "A\xFF"
+                 "B\xB0");
+}
+
+TEST_F(OdbcEngine, LikeTellsUpperFromLowerCaseOnSqlite) {
+    RunOnSqliteFile(path_, "insert into kvt values ('Shell', 1), ('SHELL', 2)");
+    manager_.Connect();
+    ASSERT_EQ(manager_.Select("select a from kvt where a like 'SH%'"), 1);
+    EXPECT_STREQ(manager_.GetItem(0, 0), "SHELL");
+}
+
+TEST_F(OdbcEngine, LesortSortsAsTheFunctionDoesOnSqlite) {
+    RunOnSqliteFile(path_,
+                    "insert into kvt values ('G12', 1), ('G2', 2), ('00934', 3), "
+                    "('G 0100', 4), (null, 5)");
+    const std::string sql = "select a from kvt order by lesort(a), b";
+    manager_.Connect();
+    manager_.Select(sql);
+    const std::string overOdbc = RowsOf(manager_, 1);
+    ConnectTo(CKvDbInfo("", "", ("sqlite:" + path_).c_str()));
+    CKvDbAbsDataMgr direct(1);
+    direct.Connect();
+    ASSERT_EQ(direct.Select(sql), 5);
+    EXPECT_EQ(overOdbc, RowsOf(direct, 1));
+}
+
+TEST_F(OdbcEngine, ACellIsHeldWholeAtAnyLength) {
+    for (const std::size_t length : {1u, 4094u, 4095u, 4096u, 8190u, 8191u, 100000u}) {
+        const std::string text(length, 'x');
+        RunOnSqliteFile(path_, "delete from kvt; insert into kvt values ('" + text + "', 1)");
+        CKvDbAbsDataMgr manager(1);
+        manager.Connect();
+        ASSERT_EQ(manager.Select("select a, b from kvt"), 1);
+        EXPECT_EQ(manager.GetItem(0, 0), text);
+        EXPECT_STREQ(manager.GetItem(0, 1), "1");
+    }
+}
+
+}  // namespace
+}  // namespace test
