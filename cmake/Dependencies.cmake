@@ -6,3 +6,11 @@ find_package(PkgConfig REQUIRED)
 pkg_check_modules(GEOS REQUIRED IMPORTED_TARGET geos)
 pkg_check_modules(LIBPQ REQUIRED IMPORTED_TARGET libpq>=14)
 pkg_check_modules(ODBC REQUIRED IMPORTED_TARGET odbc)
+
+if(KVGUICTL_QT)
+    find_package(Qt6 6.4 QUIET COMPONENTS Widgets PrintSupport)
+    if(NOT Qt6_FOUND)
+        message(FATAL_ERROR "Qt 6.4 with Widgets and PrintSupport was not found (on Debian: "
+                            "qt6-base-dev). Without real windows: -DKVGUICTL_QT=OFF")
+    endif()
+endif()

@@ -30,3 +30,16 @@ file(RELATIVE_PATH KVGUICTL_PREFIX_FROM_PC /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
 string(REGEX REPLACE "/$" "" KVGUICTL_PREFIX_FROM_PC ${KVGUICTL_PREFIX_FROM_PC})
 configure_file(cmake/KVGuiCtl.pc.in ${PROJECT_BINARY_DIR}/KVGuiCtl.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/KVGuiCtl.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+
+# The component Qt: a library of its own, and a file that finds Qt ahead of its targets.
+if(TARGET KVGuiCtlQt)
+    set(qt_headers application.h binding.h export.h qt_desktop.h)
+    list(TRANSFORM qt_headers PREPEND ${PROJECT_SOURCE_DIR}/src/qt/)
+    target_sources(KVGuiCtlQt PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR}/src
+                                                      FILES ${qt_headers})
+    install(TARGETS KVGuiCtlQt EXPORT KVGuiCtlQtExports
+            LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+            FILE_SET HEADERS DESTINATION ${KVGUICTL_INCLUDEDIR})
+    install(EXPORT KVGuiCtlQtExports NAMESPACE KVGuiCtl:: DESTINATION ${package_folder})
+    install(FILES cmake/KVGuiCtlQtTargets.cmake DESTINATION ${package_folder})
+endif()

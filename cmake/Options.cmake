@@ -1,6 +1,7 @@
 # What every target of the project is compiled with, and the switches a builder may set.
 
 option(KVGUICTL_TESTS "Build the tests" ON)
+option(KVGUICTL_QT "Build KVGuiCtlQt, which shows real windows" ON)
 option(KVGUICTL_BENCH "Build the benchmarks" OFF)
 option(KVGUICTL_WERROR "Treat warnings as errors" OFF)
 option(KVGUICTL_FUZZ "Build the libFuzzer targets (clang only)" OFF)

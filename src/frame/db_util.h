@@ -31,8 +31,8 @@ public:
     /// code or an area name, tried in this order; a blank `ext` means none; the suffix of the
     /// water may stand behind it, and without one the block may lie in any water; `dataset` is the
     /// table stem, with or without its owner ahead, the current one where it is empty. False, with
-    /// `out` untouched, when nothing is found. Latitude stands in the X place of `out`, longitude in
-    /// the Y place, in degrees on the tables' own datum.
+    /// `out` untouched, when nothing is found. Latitude stands in the X place of `out`, longitude
+    /// in the Y place, in degrees on the tables' own datum.
     static bool S_GetLLBounds(std::string area, std::string block, std::string ext,
                               CMinMax2Dd_t& out, std::string dataset);
 

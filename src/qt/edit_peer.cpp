@@ -267,6 +267,12 @@ void EditPeer::Changed(Change change) {
     }
 }
 
+/// Within a combo box it lies where that has it.
+void EditPeer::ShowRect() {
+    const Node* parent = GetNode().Parent();
+    if (!parent || parent->Class() != NodeClass::kComboBox) Peer::ShowRect();
+}
+
 void EditPeer::ShowText() {
     if (auto* line = dynamic_cast<LineView*>(Widget())) {
         line->Mirror();
@@ -291,16 +297,13 @@ void EditPeer::ShowStyle() {
     line->setEchoMode(edit.HasStyle(ES_PASSWORD) ? QLineEdit::Password : QLineEdit::Normal);
 }
 
-void EditPeer::ShowColors() {
-    Peer::ShowColors();
-    const auto& edit = static_cast<const EditNode&>(GetNode());
-    const bool faceSet = Widget()->property("face").toBool();
-    if (edit.ReadOnly() == faceSet) return;
-    // What cannot be typed into has the dialog's colour.
-    QPalette palette = edit.ReadOnly() ? Widget()->palette() : QPalette();
-    if (edit.ReadOnly()) palette.setBrush(QPalette::Base, QApplication::palette().window());
-    Widget()->setPalette(palette);
-    Widget()->setProperty("face", edit.ReadOnly());
+/// What cannot be typed into has the dialog's colour.
+QPalette EditPeer::OwnPalette() const {
+    QPalette palette;
+    if (static_cast<const EditNode&>(GetNode()).ReadOnly()) {
+        palette.setBrush(QPalette::Base, QApplication::palette().window());
+    }
+    return palette;
 }
 
 }  // namespace kv::qt

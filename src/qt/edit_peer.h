@@ -13,12 +13,13 @@ public:
 
     void ShowAll() override;
     void Changed(Change change) override;
-    void ShowColors() override;
+    void ShowRect() override;
 
 protected:
     void ShowText() override;
     void ShowFocus() override;
     void ShowStyle() override;
+    QPalette OwnPalette() const override;
 };
 
 }  // namespace kv::qt

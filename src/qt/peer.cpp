@@ -42,9 +42,8 @@ Peer::Peer(Node& node, QWidget* widget) : node_(node), widget_(widget) {
 
 Peer::~Peer() {
     Peers().removeIf([this](const auto& each) { return each.value() == this; });
-    if (!widget_) return;
-    widget_->hide();
-    widget_->deleteLater();
+    if (widget_) LetGo(widget_);
+    if (!node_.Parent()) WindowGone();
 }
 
 Peer* PeerOf(const QWidget* widget) {
@@ -158,20 +157,16 @@ void Peer::ShowColors() {
         return std::any_of(own.begin(), own.end(),
                            [color](SystemColor each) { return PaletteColor(each) == color; });
     };
-    QPalette palette;
-    bool changed = widget_->testAttribute(Qt::WA_SetPalette);
+    QPalette palette = OwnPalette();
     if (!isPlatform(colors.text, texts)) {
         palette.setColor(field ? QPalette::Text : QPalette::WindowText, ToQColor(colors.text));
         palette.setColor(QPalette::ButtonText, ToQColor(colors.text));
-        changed = true;
     }
-    const bool ownBackground =
-        colors.background && !isPlatform(*colors.background, backgrounds);
+    const bool ownBackground = colors.background && !isPlatform(*colors.background, backgrounds);
     if (ownBackground) {
         palette.setColor(field ? QPalette::Base : QPalette::Window, ToQColor(*colors.background));
-        changed = true;
     }
-    if (!changed) return;
+    if (palette.resolveMask() == 0 && !widget_->testAttribute(Qt::WA_SetPalette)) return;
     widget_->setPalette(palette);
     widget_->setAutoFillBackground(ownBackground && !field);
 }

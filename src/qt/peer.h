@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPalette>
 #include <QPointer>
 #include <QWidget>
 #include <functional>
@@ -29,7 +30,7 @@ public:
     void RowsRemoved(int, int) override {}
 
     virtual void ShowRect();
-    virtual void ShowColors();
+    void ShowColors();
     void ShowName();
 
 protected:
@@ -38,6 +39,9 @@ protected:
     virtual void ShowVisible();
     virtual void ShowFocus();
     virtual void ShowStyle() {}
+
+    /// The palette where nobody asks for other colours.
+    virtual QPalette OwnPalette() const { return {}; }
 
     /// Where the widgets of the node's children lie; null for a control that shows them itself.
     virtual QWidget* ChildHost() { return nullptr; }
@@ -65,6 +69,10 @@ void MakePeer(Node& node, QWidget* host);
 void Act(const std::weak_ptr<Node>& node, const std::function<void(Node&)>& action);
 /// What every action ends with.
 void Settle();
+/// Hides a widget and deletes it when no action is under way, which may be one of its own.
+void LetGo(QWidget* widget);
+/// A window's peer has gone.
+void WindowGone();
 
 /// The text of a control that has none of its own: of the label ahead of it.
 QString AccessibleName(const Node& node);

@@ -58,7 +58,8 @@ void CheckListDialog::OnBox(UINT id) {
 }
 
 void CheckListDialog::CheckMembers(const CheckGroup& group, bool checked) {
-    for (const CheckMember& member : group.members) CheckDlgButton(member.id, checked);
+    for (const CheckMember& member : group.members)
+        CheckDlgButton(member.id, checked);
 }
 
 bool CheckListDialog::AllChecked(const CheckGroup& group) const {
@@ -91,7 +92,8 @@ void CheckListDialog::SaveGroup(int index) {
 void CheckListDialog::OnOK() {
     if (m_pValues) {
         m_pValues->clear();
-        for (const int group : m_saveOrder) SaveGroup(group);
+        for (const int group : m_saveOrder)
+            SaveGroup(group);
         const std::string text = m_pValues->size() > 1    ? catalogue::kListMarker
                                  : m_pValues->size() == 1 ? m_pValues->front()
                                                           : std::string();

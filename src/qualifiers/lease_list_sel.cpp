@@ -27,7 +27,8 @@ CKvGuiLeaseListSel::CKvGuiLeaseListSel(const std::string& column, const std::str
     : CKvGuiListSel(column, table, combo, values, templateId, parent) {}
 
 BOOL CKvGuiLeaseListSel::OnInitDialog() {
-    for (const LeaseDataset& each : kDatasets) CheckDlgButton(each.id, BST_CHECKED);
+    for (const LeaseDataset& each : kDatasets)
+        CheckDlgButton(each.id, BST_CHECKED);
     return CKvGuiListSel::OnInitDialog();
 }
 
@@ -51,7 +52,19 @@ std::string CKvGuiLeaseListSel::V_SqlQuery() {
     return m_bSpecialOrderBy ? "(" + query + ") order by lesort(" + m_sColumn + ") " : query;
 }
 
+void CKvGuiLeaseListSel::OnButtonListFile() {
+    CKvGuiListSel::OnButtonListFile();
+}
+
+void CKvGuiLeaseListSel::OnCheckListFile() {
+    CKvGuiListSel::OnCheckListFile();
+}
+
 const kv::MessageMap& CKvGuiLeaseListSel::Messages() {
-    static const kv::MessageMap kMap{&CKvGuiListSel::Messages(), {}};
+    static const kv::MessageEntry kEntries[] = {
+        kv::OnClicked<&CKvGuiLeaseListSel::OnButtonListFile>(kListFileButton),
+        kv::OnClicked<&CKvGuiLeaseListSel::OnCheckListFile>(kListFileCheck),
+    };
+    static const kv::MessageMap kMap{&CKvGuiListSel::Messages(), kEntries};
     return kMap;
 }

@@ -14,4 +14,8 @@ public:
 
     static const kv::MessageMap& Messages();
     const kv::MessageMap& GetMessageMap() const override { return Messages(); }
+
+protected:
+    void OnButtonListFile();
+    void OnCheckListFile();
 };

@@ -28,11 +28,8 @@ constexpr kv::CheckMember kSpecial[] = {{12033, "NBL"}, {12034, "NO INFO"}, {120
 enum Group : int { kActiveGroup, kInactiveGroup, kStateGroup, kHeldGroup, kSpecialGroup };
 
 constexpr kv::CheckGroup kGroups[] = {
-    {kAllActive, kActive},
-    {kAllInactive, kInactive},
-    {kAllState, kState, kStateAsAWhole},
-    {kAllHeld, kHeld},
-    {kAllSpecial, kSpecial},
+    {kAllActive, kActive}, {kAllInactive, kInactive}, {kAllState, kState, kStateAsAWhole},
+    {kAllHeld, kHeld},     {kAllSpecial, kSpecial},
 };
 constexpr int kSaveOrder[] = {kInactiveGroup, kActiveGroup, kStateGroup, kHeldGroup, kSpecialGroup};
 
@@ -45,11 +42,21 @@ CKvGuiLeaseStatusDlg::CKvGuiLeaseStatusDlg(CComboBox* combo, std::vector<std::st
                                            bool readOnly, CWnd* parent)
     : CheckListDialog(kTemplate, parent, kGroups, kSaveOrder, combo, values, readOnly) {}
 
-void CKvGuiLeaseStatusDlg::SaveActives() { SaveGroup(kActiveGroup); }
-void CKvGuiLeaseStatusDlg::SaveInactives() { SaveGroup(kInactiveGroup); }
-void CKvGuiLeaseStatusDlg::SaveStates() { SaveGroup(kStateGroup); }
-void CKvGuiLeaseStatusDlg::SaveHelds() { SaveGroup(kHeldGroup); }
-void CKvGuiLeaseStatusDlg::SaveSpecials() { SaveGroup(kSpecialGroup); }
+void CKvGuiLeaseStatusDlg::SaveActives() {
+    SaveGroup(kActiveGroup);
+}
+void CKvGuiLeaseStatusDlg::SaveInactives() {
+    SaveGroup(kInactiveGroup);
+}
+void CKvGuiLeaseStatusDlg::SaveStates() {
+    SaveGroup(kStateGroup);
+}
+void CKvGuiLeaseStatusDlg::SaveHelds() {
+    SaveGroup(kHeldGroup);
+}
+void CKvGuiLeaseStatusDlg::SaveSpecials() {
+    SaveGroup(kSpecialGroup);
+}
 
 const kv::MessageMap& CKvGuiLeaseStatusDlg::Messages() {
     static const kv::MessageEntry kEntries[] = {

@@ -47,7 +47,8 @@ BOOL CKvGuiLesseeListSel::OnInitDialog() {
     ConvertToMap();
     CKvGuiListSel::OnInitDialog();
     for (const int id : {kMin, kMax}) {
-        for (const char* percent : kPercents) Control<CComboBox>(id).AddString(percent);
+        for (const char* percent : kPercents)
+            Control<CComboBox>(id).AddString(percent);
     }
     Control<CComboBox>(kMin).SetCurSel(0);
     Control<CComboBox>(kMax).SetCurSel(static_cast<int>(std::size(kPercents)) - 1);
@@ -68,13 +69,21 @@ void CKvGuiLesseeListSel::Choose(bool* on, bool* off) {
     UpdateControls();
 }
 
-void CKvGuiLesseeListSel::OnRadioAny() { Choose(m_pAny, m_pHigh); }
+void CKvGuiLesseeListSel::OnRadioAny() {
+    Choose(m_pAny, m_pHigh);
+}
 
-void CKvGuiLesseeListSel::OnRadioHigh() { Choose(m_pHigh, m_pAny); }
+void CKvGuiLesseeListSel::OnRadioHigh() {
+    Choose(m_pHigh, m_pAny);
+}
 
-void CKvGuiLesseeListSel::OnRadioAnd() { Choose(m_pAnd, m_pOr); }
+void CKvGuiLesseeListSel::OnRadioAnd() {
+    Choose(m_pAnd, m_pOr);
+}
 
-void CKvGuiLesseeListSel::OnRadioOr() { Choose(m_pOr, m_pAnd); }
+void CKvGuiLesseeListSel::OnRadioOr() {
+    Choose(m_pOr, m_pAnd);
+}
 
 void CKvGuiLesseeListSel::OnCheckSpecPer() {
     *m_pSpecPercent = IsDlgButtonChecked(kSpecifyPercent) != 0;
@@ -97,14 +106,16 @@ void CKvGuiLesseeListSel::ShowRange(const std::string& company) {
 
 void CKvGuiLesseeListSel::UpdateControls() {
     const auto enable = [this](const auto& ids, bool on) {
-        for (const int id : ids) Control<CWnd>(id).EnableWindow(on);
+        for (const int id : ids)
+            Control<CWnd>(id).EnableWindow(on);
     };
     ShowPercent(kMin, std::to_string(kLeastPercent));
     ShowPercent(kMax, std::to_string(kMostPercent));
     const bool hasRows = Selected().GetCount() > 0;
     const bool any = hasRows && !*m_pHigh;
     const bool ranges = any && *m_pSpecPercent && IsCaretRowSelected();
-    for (const int id : {kHighest, kAny}) Control<CWnd>(id).EnableWindow(hasRows);
+    for (const int id : {kHighest, kAny})
+        Control<CWnd>(id).EnableWindow(hasRows);
     enable(kAnyOptions, any);
     enable(kRangeControls, ranges);
     if (!hasRows) return;
@@ -157,15 +168,21 @@ std::string CKvGuiLesseeListSel::PickedText(int id) const {
     return text.str();
 }
 
-void CKvGuiLesseeListSel::OnEditchangeComboMin() { TakePercent(&Range::first, DlgItemText(kMin)); }
+void CKvGuiLesseeListSel::OnEditchangeComboMin() {
+    TakePercent(&Range::first, DlgItemText(kMin));
+}
 
-void CKvGuiLesseeListSel::OnSelchangeComboMin() { TakePercent(&Range::first, PickedText(kMin)); }
+void CKvGuiLesseeListSel::OnSelchangeComboMin() {
+    TakePercent(&Range::first, PickedText(kMin));
+}
 
 void CKvGuiLesseeListSel::OnEditchangeComboMax() {
     TakePercent(&Range::second, DlgItemText(kMax));
 }
 
-void CKvGuiLesseeListSel::OnSelchangeComboMax() { TakePercent(&Range::second, PickedText(kMax)); }
+void CKvGuiLesseeListSel::OnSelchangeComboMax() {
+    TakePercent(&Range::second, PickedText(kMax));
+}
 
 void CKvGuiLesseeListSel::OnClearButton() {
     RemoveAll();

@@ -1,5 +1,7 @@
 #include "qualifiers/list_sel.h"
 
+#include <algorithm>
+
 #include "frame/catalogue.h"
 #include "frame/db_abs_data_mgr.h"
 #include "qualifiers/list_sel_ids.h"
@@ -64,11 +66,17 @@ void CKvGuiListSel::MakeEditType(CEdit* edit, std::vector<std::string>& values) 
     m_pValues = &values;
 }
 
-CListBox& CKvGuiListSel::Available() const { return Control<CListBox>(kAvailable); }
+CListBox& CKvGuiListSel::Available() const {
+    return Control<CListBox>(kAvailable);
+}
 
-CListBox& CKvGuiListSel::Selected() const { return Control<CListBox>(kSelected); }
+CListBox& CKvGuiListSel::Selected() const {
+    return Control<CListBox>(kSelected);
+}
 
-std::string CKvGuiListSel::FindText() const { return kv::ToUpper(DlgItemText(kFind)); }
+std::string CKvGuiListSel::FindText() const {
+    return kv::ToUpper(DlgItemText(kFind));
+}
 
 CWnd* CKvGuiListSel::CallersControl() const {
     return m_pCombo ? static_cast<CWnd*>(m_pCombo) : static_cast<CWnd*>(m_pEdit);
@@ -103,7 +111,8 @@ BOOL CKvGuiListSel::OnInitDialog() {
 }
 
 void CKvGuiListSel::ParseSelectedItems() {
-    for (const std::string& value : *m_pValues) Selected().AddString(value.c_str());
+    for (const std::string& value : *m_pValues)
+        Selected().AddString(value.c_str());
 }
 
 void CKvGuiListSel::UpdateActionButtons() {
@@ -131,9 +140,13 @@ void CKvGuiListSel::OnRadioInsert() {
     SetDlgItemText(kFindLabel, "Insert");
 }
 
-void CKvGuiListSel::OnSelchangeAvailList() { UpdateActionButtons(); }
+void CKvGuiListSel::OnSelchangeAvailList() {
+    UpdateActionButtons();
+}
 
-void CKvGuiListSel::OnSelchangeSelectList() { UpdateActionButtons(); }
+void CKvGuiListSel::OnSelchangeSelectList() {
+    UpdateActionButtons();
+}
 
 void CKvGuiListSel::OnChangeFindEdit() {
     m_bFindMatch = Available().FindString(-1, DlgItemText(kFind).c_str()) != LB_ERR;
@@ -188,6 +201,7 @@ void CKvGuiListSel::Insert() {
         AfxMessageBox("The string has already been added!!", 0, 0);
     } else {
         Selected().AddString(text.c_str());
+        UpdateActionButtons();
     }
     Control<CEdit>(kFind).SetSel(0, -1);
 }
@@ -208,7 +222,8 @@ void CKvGuiListSel::MoveSelectedRows(CListBox& from, CListBox& to, bool skipEmpt
     int last = LB_ERR;
     for (const std::string& text : moved) {
         // By the text's beginning; an empty one begins no search.
-        const int row = text.empty() ? from.FindStringExact(-1, "") : from.FindString(-1, text.c_str());
+        const int row =
+            text.empty() ? from.FindStringExact(-1, "") : from.FindString(-1, text.c_str());
         if (row == LB_ERR) continue;
         from.DeleteString(static_cast<UINT>(row));
         last = row;
@@ -239,7 +254,9 @@ void CKvGuiListSel::RemoveAll() {
     }
 }
 
-void CKvGuiListSel::OnClearButton() { RemoveAll(); }
+void CKvGuiListSel::OnClearButton() {
+    RemoveAll();
+}
 
 std::string CKvGuiListSel::CallersText() const {
     if (m_bListFile || m_pValues->size() > 1) return kv::catalogue::kListMarker;

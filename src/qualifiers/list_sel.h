@@ -12,11 +12,11 @@ class CListBox;
 /// Lets the user build a list of values, a qualifier, for one database column: a search fills the
 /// Available list, rows go over to the Selected list, or values are typed in directly.
 ///
-/// The caller hands in a control of its own, an edit or a combo box, and a vector; neither is owned.
-/// On IDOK the vector holds the Selected list in its order, and the control shows "<LIST>" for more
-/// than one value or where a list file is in use, else the one value, or nothing. On IDCANCEL both
-/// are as they were, unless opening has emptied the vector: a value that the control shows wins over
-/// an old vector.
+/// The caller hands in a control of its own, an edit or a combo box, and a vector; neither is
+/// owned. On IDOK the vector holds the Selected list in its order, and the control shows "<LIST>"
+/// for more than one value or where a list file is in use, else the one value, or nothing. On
+/// IDCANCEL both are as they were, unless opening has emptied the vector: a value that the control
+/// shows wins over an old vector.
 class KVGUICTL_API CKvGuiListSel : public CDialog {
 public:
     explicit CKvGuiListSel(CWnd* parent = nullptr);
@@ -90,7 +90,7 @@ protected:
     std::string m_sColumn2;
     std::string m_sTable;
     bool m_bTwoColumns = false;
-    std::vector<std::string>* m_pValues = nullptr;
+    std::vector<std::string>* m_pValues = &m_noValues;
     CEdit* m_pEdit = nullptr;
     bool m_bSpecialOrderBy = false;
     CComboBox* m_pCombo = nullptr;
@@ -107,4 +107,7 @@ private:
     void MoveSelectedRows(CListBox& from, CListBox& to, bool skipEmpty);
     bool WriteQualifiers(const std::string& path) const;
     std::string CallersText() const;
+
+    /// What stands in for the caller's vector in a dialog that was made without one.
+    std::vector<std::string> m_noValues;
 };

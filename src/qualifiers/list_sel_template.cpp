@@ -1,5 +1,7 @@
 // The multiple-selection dialog, and the three that share its controls.
 
+#include <array>
+
 #include "qualifiers/list_sel_ids.h"
 #include "window/resources.h"
 
@@ -9,130 +11,179 @@ namespace {
 
 using enum ControlKind;
 
-constexpr ControlRow kGeneral[] = {
-    {kFindLabel, kLabel, "Find:", {7, 9, 24, 8}},
-    {kFind, kEdit, "", {33, 7, 137, 12}},
-    {kSearch, kDefaultButton, "Search...", {174, 6, 50, 14}},
-    {kSearchMode, kRadio, "Search...", {236, 8, 50, 10}, kFirstOfGroup},
-    {kInsertMode, kRadio, "Insert...", {290, 8, 46, 10}},
-    {IDC_STATIC, kLabel, "Search records that", {7, 27, 76, 8}},
-    {kContain, kRadio, "Contain", {87, 26, 42, 10}, kFirstOfGroup},
-    {kStartWith, kRadio, "Start with", {133, 26, 48, 10}},
-    {kEndWith, kRadio, "End with", {185, 26, 46, 10}},
-    {IDC_STATIC, kLabel, "Available", {7, 44, 60, 8}},
-    {kAvailable, kMultiList, "", {7, 54, 140, 150}, kFirstOfGroup},
-    {kAdd, kPushButton, "Add ->", {151, 74, 50, 14}},
-    {kRemove, kPushButton, "<- Remove", {151, 92, 50, 14}},
-    {kImport, kPushButton, "Import...", {151, 118, 50, 14}},
-    {kExport, kPushButton, "Export...", {151, 136, 50, 14}},
-    {kListFileCheck, kCheckBox, "", {151, 163, 10, 10}},
-    {kListFileButton, kPushButton, "File...", {163, 161, 38, 14}},
-    {IDC_STATIC, kLabel, "Selected", {205, 44, 60, 8}},
-    {kSelected, kMultiList, "", {205, 54, 140, 150}},
-    {IDOK, kPushButton, "OK", {187, 211, 50, 14}},
-    {kClear, kPushButton, "Clear", {241, 211, 50, 14}},
-    {IDCANCEL, kPushButton, "Cancel", {295, 211, 50, 14}},
+// What all four share, in dialog units. Their heads are the same; the lists begin at a top of their
+// own, below what a dialog has between.
+constexpr int kWidth = 402;
+constexpr int kMargin = 7;
+constexpr int kListWidth = 165;
+constexpr int kListHeight = 160;
+constexpr int kButtonWidth = 50;
+constexpr int kButtonHeight = 14;
+constexpr int kGap = 4;
+constexpr int kMiddle = kMargin + kListWidth + kGap;
+constexpr int kRight = kMiddle + kButtonWidth + kGap;
+/// From the top of the headings of the lists to their end.
+constexpr int kListsHeight = 10 + kListHeight;
+
+template <std::size_t... counts>
+constexpr auto Join(const std::array<ControlRow, counts>&... parts) {
+    std::array<ControlRow, (counts + ...)> all{};
+    std::size_t at = 0;
+    const auto append = [&](const auto& part) {
+        for (const ControlRow& row : part)
+            all[at++] = row;
+    };
+    (append(parts), ...);
+    return all;
+}
+
+constexpr std::array kSearchRows{
+    ControlRow{kFindLabel, kLabel, "Find:", {7, 9, 28, 8}},
+    ControlRow{kFind, kEdit, "", {39, 7, 180, 12}},
+    ControlRow{kSearch, kDefaultButton, "Search...", {223, 6, 50, 14}},
+    ControlRow{kSearchMode, kRadio, "Search...", {285, 8, 50, 10}, kFirstOfGroup},
+    ControlRow{kInsertMode, kRadio, "Insert...", {345, 8, 50, 10}},
+    ControlRow{IDC_STATIC, kLabel, "Search records that", {7, 27, 80, 8}},
+    ControlRow{kContain, kRadio, "Contain", {91, 26, 46, 10}, kFirstOfGroup},
+    ControlRow{kStartWith, kRadio, "Start with", {141, 26, 54, 10}},
+    ControlRow{kEndWith, kRadio, "End with", {199, 26, 50, 10}},
 };
 
-constexpr ControlRow kLease[] = {
-    {kFindLabel, kLabel, "Find:", {7, 9, 24, 8}},
-    {kFind, kEdit, "", {33, 7, 137, 12}},
-    {kSearch, kDefaultButton, "Search...", {174, 6, 50, 14}},
-    {kSearchMode, kRadio, "Search...", {236, 8, 50, 10}, kFirstOfGroup},
-    {kInsertMode, kRadio, "Insert...", {290, 8, 46, 10}},
-    {IDC_STATIC, kLabel, "Search records that", {7, 27, 76, 8}},
-    {kContain, kRadio, "Contain", {87, 26, 42, 10}, kFirstOfGroup},
-    {kStartWith, kRadio, "Start with", {133, 26, 48, 10}},
-    {kEndWith, kRadio, "End with", {185, 26, 46, 10}},
-    {IDC_STATIC, kLabel, "Lease Dataset", {7, 43, 76, 8}},
-    {kFederal, kCheckBox, "Federal", {87, 42, 42, 10}, kFirstOfGroup},
-    {kLouisiana, kCheckBox, "Louisiana State", {133, 42, 70, 10}},
-    {kTexas, kCheckBox, "Texas State", {207, 42, 60, 10}},
-    {IDC_STATIC, kLabel, "Available", {7, 60, 60, 8}},
-    {kAvailable, kMultiList, "", {7, 70, 140, 150}, kFirstOfGroup},
-    {kAdd, kPushButton, "Add ->", {151, 90, 50, 14}},
-    {kRemove, kPushButton, "<- Remove", {151, 108, 50, 14}},
-    {kImport, kPushButton, "Import...", {151, 134, 50, 14}},
-    {kExport, kPushButton, "Export...", {151, 152, 50, 14}},
-    {kListFileCheck, kCheckBox, "", {151, 179, 10, 10}},
-    {kListFileButton, kPushButton, "File...", {163, 177, 38, 14}},
-    {IDC_STATIC, kLabel, "Selected", {205, 60, 60, 8}},
-    {kSelected, kMultiList, "", {205, 70, 140, 150}},
-    {IDOK, kPushButton, "OK", {187, 227, 50, 14}},
-    {kClear, kPushButton, "Clear", {241, 227, 50, 14}},
-    {IDCANCEL, kPushButton, "Cancel", {295, 227, 50, 14}},
+constexpr std::array kDatasetRows{
+    ControlRow{IDC_STATIC, kLabel, "Lease Dataset", {7, 44, 80, 8}},
+    ControlRow{kFederal, kCheckBox, "Federal", {91, 43, 46, 10}, kFirstOfGroup},
+    ControlRow{kLouisiana, kCheckBox, "Louisiana State", {141, 43, 76, 10}},
+    ControlRow{kTexas, kCheckBox, "Texas State", {221, 43, 60, 10}},
 };
 
-constexpr ControlRow kLesseeMatch[] = {
-    {kFindLabel, kLabel, "Find:", {7, 9, 24, 8}},
-    {kFind, kEdit, "", {33, 7, 137, 12}},
-    {kSearch, kDefaultButton, "Search...", {174, 6, 50, 14}},
-    {kSearchMode, kRadio, "Search...", {236, 8, 50, 10}, kFirstOfGroup},
-    {kInsertMode, kRadio, "Insert...", {290, 8, 46, 10}},
-    {IDC_STATIC, kLabel, "Search records that", {7, 27, 76, 8}},
-    {kContain, kRadio, "Contain", {87, 26, 42, 10}, kFirstOfGroup},
-    {kStartWith, kRadio, "Start with", {133, 26, 48, 10}},
-    {kEndWith, kRadio, "End with", {185, 26, 46, 10}},
-    {IDC_STATIC, kLabel, "Available", {7, 44, 60, 8}},
-    {kAvailable, kMultiList, "", {7, 54, 140, 150}, kFirstOfGroup | kSortedList},
-    {kAdd, kPushButton, "Add ->", {151, 74, 50, 14}},
-    {kRemove, kPushButton, "<- Remove", {151, 92, 50, 14}},
-    {kImport, kPushButton, "Import...", {151, 118, 50, 14}},
-    {kExport, kPushButton, "Export...", {151, 136, 50, 14}},
-    {IDC_STATIC, kLabel, "Selected", {205, 44, 60, 8}},
-    {kSelected, kMultiList, "", {205, 54, 140, 150}, kSortedList},
-    {kLesseeOptions, kGroupBox, "Lessee Options", {7, 208, 338, 48}, kFirstOfGroup},
-    {kHighest, kRadio, "Highest Percentage Lessee", {15, 221, 116, 10}, kFirstOfGroup},
-    {kAny, kRadio, "Any Percent Lessee", {15, 237, 88, 10}},
-    {kOr, kRadio, "OR", {107, 237, 24, 10}, kFirstOfGroup | kDisabled},
-    {kAnd, kRadio, "AND", {137, 237, 28, 10}, kDisabled},
-    {kSpecifyPercent, kCheckBox, "Specify Percentage", {177, 237, 82, 10}, kFirstOfGroup | kDisabled},
-    {kMinLabel, kLabel, "Min", {263, 223, 14, 8}, kDisabled},
-    {kMin, kDropDown, "", {263, 235, 34, 12}, kDisabled},
-    {kMaxLabel, kLabel, "Max", {303, 223, 16, 8}, kDisabled},
-    {kMax, kDropDown, "", {303, 235, 34, 12}, kDisabled},
-    {IDOK, kPushButton, "OK", {187, 263, 50, 14}, kFirstOfGroup},
-    {kClear, kPushButton, "Clear", {241, 263, 50, 14}},
-    {IDCANCEL, kPushButton, "Cancel", {295, 263, 50, 14}},
+constexpr DialogUnits ButtonInTheMiddle(int y) {
+    return {kMiddle, y, kButtonWidth, kButtonHeight};
+}
+
+/// The Available list, and what stands between the lists.
+constexpr auto AvailableRows(int top, RowStyle order) {
+    return std::array{
+        ControlRow{IDC_STATIC, kLabel, "Available", {kMargin, top, 60, 8}},
+        ControlRow{kAvailable,
+                   kMultiList,
+                   "",
+                   {kMargin, top + 10, kListWidth, kListHeight},
+                   kFirstOfGroup | order},
+        ControlRow{kAdd, kPushButton, "Add ->", ButtonInTheMiddle(top + 40)},
+        ControlRow{kRemove, kPushButton, "<- Remove", ButtonInTheMiddle(top + 58)},
+        ControlRow{kImport, kPushButton, "Import...", ButtonInTheMiddle(top + 84)},
+        ControlRow{kExport, kPushButton, "Export...", ButtonInTheMiddle(top + 102)},
+    };
+}
+
+constexpr auto ListFileRows(int top) {
+    return std::array{
+        ControlRow{kListFileCheck, kCheckBox, "", {kMiddle, top + 130, 10, 10}},
+        ControlRow{
+            kListFileButton, kPushButton, "File...", {kMiddle + 12, top + 128, 38, kButtonHeight}},
+    };
+}
+
+constexpr auto SelectedRows(int top, RowStyle order) {
+    return std::array{
+        ControlRow{IDC_STATIC, kLabel, "Selected", {kRight, top, 60, 8}},
+        ControlRow{kSelected, kMultiList, "", {kRight, top + 10, kListWidth, kListHeight}, order},
+    };
+}
+
+constexpr auto ClosingRows(int y) {
+    constexpr int kStep = kButtonWidth + kGap;
+    constexpr int kLast = kWidth - kMargin - kButtonWidth;
+    return std::array{
+        ControlRow{IDOK,
+                   kPushButton,
+                   "OK",
+                   {kLast - 2 * kStep, y, kButtonWidth, kButtonHeight},
+                   kFirstOfGroup},
+        ControlRow{kClear, kPushButton, "Clear", {kLast - kStep, y, kButtonWidth, kButtonHeight}},
+        ControlRow{IDCANCEL, kPushButton, "Cancel", {kLast, y, kButtonWidth, kButtonHeight}},
+    };
+}
+
+constexpr int kListsTop = 44;
+constexpr int kListsTopBelowDatasets = 61;
+/// Below the lists: where options, or the closing buttons, begin.
+constexpr int kBelowLists = kListsTop + kListsHeight + 7;
+
+constexpr std::array kLesseeOptionRows{
+    ControlRow{kLesseeOptions,
+               kGroupBox,
+               "Lessee Options",
+               {kMargin, kBelowLists, kWidth - 2 * kMargin, 48},
+               kFirstOfGroup},
+    ControlRow{kHighest,
+               kRadio,
+               "Highest Percentage Lessee",
+               {15, kBelowLists + 13, 116, 10},
+               kFirstOfGroup},
+    ControlRow{kAny, kRadio, "Any Percent Lessee", {15, kBelowLists + 30, 92, 10}},
+    ControlRow{kOr, kRadio, "OR", {121, kBelowLists + 30, 28, 10}, kFirstOfGroup | kDisabled},
+    ControlRow{kAnd, kRadio, "AND", {155, kBelowLists + 30, 32, 10}, kDisabled},
+    ControlRow{kSpecifyPercent,
+               kCheckBox,
+               "Specify Percentage",
+               {201, kBelowLists + 30, 92, 10},
+               kFirstOfGroup | kDisabled},
+    ControlRow{kMinLabel, kLabel, "Min", {303, kBelowLists + 15, 40, 8}, kDisabled},
+    ControlRow{kMin, kDropDown, "", {303, kBelowLists + 29, 40, 12}, kDisabled},
+    ControlRow{kMaxLabel, kLabel, "Max", {347, kBelowLists + 15, 40, 8}, kDisabled},
+    ControlRow{kMax, kDropDown, "", {347, kBelowLists + 29, 40, 12}, kDisabled},
 };
 
-constexpr ControlRow kCompanyMatch[] = {
-    {kFindLabel, kLabel, "Find:", {7, 9, 24, 8}},
-    {kFind, kEdit, "", {33, 7, 137, 12}},
-    {kSearch, kDefaultButton, "Search...", {174, 6, 50, 14}},
-    {kSearchMode, kRadio, "Search...", {236, 8, 50, 10}, kFirstOfGroup},
-    {kInsertMode, kRadio, "Insert...", {290, 8, 46, 10}},
-    {IDC_STATIC, kLabel, "Search records that", {7, 27, 76, 8}},
-    {kContain, kRadio, "Contain", {87, 26, 42, 10}, kFirstOfGroup},
-    {kStartWith, kRadio, "Start with", {133, 26, 48, 10}},
-    {kEndWith, kRadio, "End with", {185, 26, 46, 10}},
-    {IDC_STATIC, kLabel, "Available", {7, 44, 60, 8}},
-    {kAvailable, kMultiList, "", {7, 54, 140, 150}, kFirstOfGroup | kSortedList},
-    {kAdd, kPushButton, "Add ->", {151, 74, 50, 14}},
-    {kRemove, kPushButton, "<- Remove", {151, 92, 50, 14}},
-    {kImport, kPushButton, "Import...", {151, 118, 50, 14}},
-    {kExport, kPushButton, "Export...", {151, 136, 50, 14}},
-    {IDC_STATIC, kLabel, "Selected", {205, 44, 60, 8}},
-    {kSelected, kMultiList, "", {205, 54, 140, 150}, kSortedList},
-    {kCompanyTypes, kGroupBox, "Company Types", {7, 208, 338, 32}, kFirstOfGroup},
-    {kOperator, kCheckBox, "Operator", {15, 222, 48, 10}, kFirstOfGroup},
-    {kLessee, kCheckBox, "Lessee", {69, 222, 42, 10}},
-    {kBid, kCheckBox, "Bid", {117, 222, 28, 10}},
-    {kOperatingRights, kCheckBox, "Operating Rights", {151, 222, 74, 10}},
-    {kDesignatedOperator, kCheckBox, "Designated Operator", {231, 222, 90, 10}},
-    {IDOK, kPushButton, "OK", {187, 247, 50, 14}, kFirstOfGroup},
-    {kClear, kPushButton, "Clear", {241, 247, 50, 14}},
-    {IDCANCEL, kPushButton, "Cancel", {295, 247, 50, 14}},
+constexpr std::array kCompanyTypeRows{
+    ControlRow{kCompanyTypes,
+               kGroupBox,
+               "Company Types",
+               {kMargin, kBelowLists, kWidth - 2 * kMargin, 31},
+               kFirstOfGroup},
+    ControlRow{kOperator, kCheckBox, "Operator", {15, kBelowLists + 13, 54, 10}, kFirstOfGroup},
+    ControlRow{kLessee, kCheckBox, "Lessee", {77, kBelowLists + 13, 46, 10}},
+    ControlRow{kBid, kCheckBox, "Bid", {131, kBelowLists + 13, 34, 10}},
+    ControlRow{kOperatingRights, kCheckBox, "Operating Rights", {173, kBelowLists + 13, 84, 10}},
+    ControlRow{
+        kDesignatedOperator, kCheckBox, "Designated Operator", {265, kBelowLists + 13, 98, 10}},
 };
 
-constexpr DialogTemplate kGeneralDialog{kTemplate, "Multiple Selections Dialog", 352, 232, kGeneral};
-constexpr DialogTemplate kLeaseDialog{kLeaseTemplate, "Lease Match", 352, 248, kLease};
-constexpr DialogTemplate kLesseeDialog{kLesseeTemplate, "Lessee Match", 352, 284, kLesseeMatch};
-constexpr DialogTemplate kCompanyDialog{kCompanyTemplate, "Company Match Dialog", 352, 268,
-                                        kCompanyMatch};
+constexpr int kEndOfPlain = kBelowLists;
+constexpr int kEndOfLease = kListsTopBelowDatasets + kListsHeight + 7;
+constexpr int kEndOfLessee = kBelowLists + 48 + 7;
+constexpr int kEndOfCompany = kBelowLists + 31 + 7;
+
+constexpr auto kPlainRows = Join(kSearchRows, AvailableRows(kListsTop, {}), ListFileRows(kListsTop),
+                                 SelectedRows(kListsTop, {}), ClosingRows(kEndOfPlain));
+
+constexpr auto kLeaseRows =
+    Join(kSearchRows, kDatasetRows, AvailableRows(kListsTopBelowDatasets, {}),
+         ListFileRows(kListsTopBelowDatasets), SelectedRows(kListsTopBelowDatasets, {}),
+         ClosingRows(kEndOfLease));
+
+constexpr auto kLesseeRows =
+    Join(kSearchRows, AvailableRows(kListsTop, kSortedList), SelectedRows(kListsTop, kSortedList),
+         kLesseeOptionRows, ClosingRows(kEndOfLessee));
+
+constexpr auto kCompanyRows =
+    Join(kSearchRows, AvailableRows(kListsTop, kSortedList), SelectedRows(kListsTop, kSortedList),
+         kCompanyTypeRows, ClosingRows(kEndOfCompany));
+
+/// What the closing buttons and the margin below them take.
+constexpr int kFoot = kButtonHeight + kMargin;
+
+constexpr DialogTemplate kPlainDialog{kTemplate, "Multiple Selections Dialog", kWidth,
+                                      kEndOfPlain + kFoot, kPlainRows};
+constexpr DialogTemplate kLeaseDialog{kLeaseTemplate, "Lease Match", kWidth, kEndOfLease + kFoot,
+                                      kLeaseRows};
+constexpr DialogTemplate kLesseeDialog{kLesseeTemplate, "Lessee Match", kWidth,
+                                       kEndOfLessee + kFoot, kLesseeRows};
+constexpr DialogTemplate kCompanyDialog{kCompanyTemplate, "Company Match Dialog", kWidth,
+                                        kEndOfCompany + kFoot, kCompanyRows};
 
 const RegisterTemplate kRegistered[] = {
-    RegisterTemplate(kGeneralDialog),
+    RegisterTemplate(kPlainDialog),
     RegisterTemplate(kLeaseDialog),
     RegisterTemplate(kLesseeDialog),
     RegisterTemplate(kCompanyDialog),

@@ -18,9 +18,9 @@ CKvGuiOptrListSel::CKvGuiOptrListSel(const std::string& column, const std::strin
       m_sOptrCondition(condition) {}
 
 std::string CKvGuiOptrListSel::V_SqlQuery() {
-    return "SELECT DISTINCT " + m_sColumn + " FROM " + m_sOptrTable + " WHERE " +
-           m_sOptrKeyColumn + " in " + m_sOptrCondition + " AND " + m_sColumn + " LIKE '" +
-           FindText() + "%' ORDER BY " + m_sColumn;
+    return "SELECT DISTINCT " + m_sColumn + " FROM " + m_sOptrTable + " WHERE " + m_sOptrKeyColumn +
+           " in " + m_sOptrCondition + " AND " + m_sColumn + " LIKE '" + FindText() +
+           "%' ORDER BY " + m_sColumn;
 }
 
 const kv::MessageMap& CKvGuiOptrListSel::Messages() {

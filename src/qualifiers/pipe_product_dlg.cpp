@@ -44,10 +44,18 @@ CKvGuiPipeProductDlg::CKvGuiPipeProductDlg(CComboBox* combo, std::vector<std::st
                                            bool readOnly, CWnd* parent)
     : CheckListDialog(kTemplate, parent, kGroups, kSaveOrder, combo, values, readOnly) {}
 
-void CKvGuiPipeProductDlg::SaveCombServ() { SaveGroup(kCombinedGroup); }
-void CKvGuiPipeProductDlg::SaveGasRel() { SaveGroup(kGasGroup); }
-void CKvGuiPipeProductDlg::SaveOilRel() { SaveGroup(kOilGroup); }
-void CKvGuiPipeProductDlg::SaveOtherServ() { SaveGroup(kOtherGroup); }
+void CKvGuiPipeProductDlg::SaveCombServ() {
+    SaveGroup(kCombinedGroup);
+}
+void CKvGuiPipeProductDlg::SaveGasRel() {
+    SaveGroup(kGasGroup);
+}
+void CKvGuiPipeProductDlg::SaveOilRel() {
+    SaveGroup(kOilGroup);
+}
+void CKvGuiPipeProductDlg::SaveOtherServ() {
+    SaveGroup(kOtherGroup);
+}
 
 const kv::MessageMap& CKvGuiPipeProductDlg::Messages() {
     using Self = CKvGuiPipeProductDlg;

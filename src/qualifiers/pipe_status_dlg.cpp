@@ -28,8 +28,12 @@ CKvGuiPipeStatusDlg::CKvGuiPipeStatusDlg(CComboBox* combo, std::vector<std::stri
                                          bool readOnly, CWnd* parent)
     : CheckListDialog(kTemplate, parent, kGroups, kSaveOrder, combo, values, readOnly) {}
 
-void CKvGuiPipeStatusDlg::SaveActives() { SaveGroup(kActiveGroup); }
-void CKvGuiPipeStatusDlg::SaveInactives() { SaveGroup(kInactiveGroup); }
+void CKvGuiPipeStatusDlg::SaveActives() {
+    SaveGroup(kActiveGroup);
+}
+void CKvGuiPipeStatusDlg::SaveInactives() {
+    SaveGroup(kInactiveGroup);
+}
 
 const kv::MessageMap& CKvGuiPipeStatusDlg::Messages() {
     static const kv::MessageEntry kEntries[] = {

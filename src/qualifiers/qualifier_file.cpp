@@ -1,5 +1,7 @@
 #include "qualifiers/qualifier_file.h"
 
+#include <algorithm>
+
 #include "window/text.h"
 
 namespace kv {
@@ -7,10 +9,12 @@ namespace kv {
 std::vector<std::string> ParseQualifiers(std::string_view text, int* cut) {
     if (cut) *cut = 0;
     std::vector<std::string> values;
-    for (const std::string& line : SplitLines(text)) {
+    for (std::string& line : SplitLines(text)) {
+        // In what is not text a zero byte ends the value, as it ends the text of any row.
+        line.erase(std::min(line.find('\0'), line.size()));
         if (line.empty() || line.front() == '#') continue;
         if (cut && line.size() > kLongestQualifier) ++*cut;
-        const std::string value = ToUpper(Trim(line.substr(0, kLongestQualifier)));
+        const std::string value = ToUpper(TrimSpace(line.substr(0, kLongestQualifier)));
         if (!value.empty()) values.push_back(value);
     }
     return values;

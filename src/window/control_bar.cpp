@@ -17,6 +17,10 @@ BOOL CControlBar::CreateBarWindow(CWnd* parent, kv::NodeClass nodeClass, DWORD s
     return TRUE;
 }
 
+int CControlBar::GetHeightAt(int) const {
+    return m_hWnd ? m_hWnd->Rect().Height() : 0;
+}
+
 void CControlBar::OnUpdateCmdUI(CCmdTarget* target, BOOL disableIfNoHandler) {
     UpdateDialogControls(target, disableIfNoHandler);
 }

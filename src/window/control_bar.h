@@ -27,6 +27,9 @@ public:
     void SetBarStyle(DWORD style) { m_dwStyle = style; }
     bool IsVisible() const { return m_hWnd && m_hWnd->Visible(); }
 
+    /// The height that the bar takes at that width.
+    virtual int GetHeightAt(int width) const;
+
     /// The idle update of the bar's controls. `target` is the frame.
     virtual void OnUpdateCmdUI(CCmdTarget* target, BOOL disableIfNoHandler);
 

@@ -82,7 +82,9 @@ HWND CDataExchange::PrepareEditCtrl(int id) {
     return control;
 }
 
-bool CDataExchange::LastIsAbsent() const { return m_pLast.expired(); }
+bool CDataExchange::LastIsAbsent() const {
+    return m_pLast.expired();
+}
 
 void CDataExchange::LimitLast(int characters) {
     const auto last = m_pLast.lock();

@@ -7,8 +7,8 @@
 #include "window/export.h"
 #include "window/wnd.h"
 
-/// One run of data exchange between the members of a window and its controls. An exchange with an id
-/// that the window lacks does nothing and leaves the member as it is.
+/// One run of data exchange between the members of a window and its controls. An exchange with an
+/// id that the window lacks does nothing and leaves the member as it is.
 class KVGUICTL_API CDataExchange {
 public:
     /// True: controls to members; false: members to controls.

@@ -46,7 +46,8 @@ private:
     std::weak_ptr<kv::Node> owner_;
 };
 
-/// A modal dialog is on the list of modal windows until it is destroyed, whichever way its run ends.
+/// A modal dialog is on the list of modal windows until it is destroyed, whichever way its run
+/// ends.
 class ModalRun {
 public:
     explicit ModalRun(DialogNode& dialog) : dialog_(dialog), disabled_(dialog.Owner()) {
@@ -76,7 +77,9 @@ void ShowFirst(kv::Node& dialog) {
 constexpr UINT kFirstCommand = 0x8000;
 constexpr UINT kEndOfCommands = 0xF000;
 
-DialogNode* DialogOf(HWND window) { return dynamic_cast<DialogNode*>(window); }
+DialogNode* DialogOf(HWND window) {
+    return dynamic_cast<DialogNode*>(window);
+}
 
 }  // namespace
 
@@ -181,9 +184,13 @@ void CDialog::OnOK() {
     if (UpdateData(TRUE)) EndDialog(IDOK);
 }
 
-void CDialog::OnCancel() { EndDialog(IDCANCEL); }
+void CDialog::OnCancel() {
+    EndDialog(IDCANCEL);
+}
 
-LRESULT CDialog::OnInitDialogMessage(WPARAM, LPARAM) { return OnInitDialog(); }
+LRESULT CDialog::OnInitDialogMessage(WPARAM, LPARAM) {
+    return OnInitDialog();
+}
 
 void CDialog::SetDefID(UINT id) {
     if (!m_hWnd) return;

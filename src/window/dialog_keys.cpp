@@ -22,17 +22,24 @@ bool IsPushButton(const Node& node) {
            IsButtonOfKind(node, BS_OWNERDRAW);
 }
 
-bool IsRadio(const Node& node) { return IsButtonOfKind(node, BS_AUTORADIOBUTTON); }
+bool IsRadio(const Node& node) {
+    return IsButtonOfKind(node, BS_AUTORADIOBUTTON);
+}
 
-bool CanHoldFocus(const Node& node) { return node.Visible() && node.Enabled(); }
+bool CanHoldFocus(const Node& node) {
+    return node.Visible() && node.Enabled();
+}
 
 /// The child of `host` that `node` is or lies in: of a combo box's edit, the combo box.
 Node* ControlOf(Node& host, Node* node) {
-    while (node && node->Parent() && node->Parent() != &host) node = node->Parent();
+    while (node && node->Parent() && node->Parent() != &host)
+        node = node->Parent();
     return node && node->Parent() == &host ? node : nullptr;
 }
 
-bool IsChecked(Node& button) { return Send(button, BM_GETCHECK) == BST_CHECKED; }
+bool IsChecked(Node& button) {
+    return Send(button, BM_GETCHECK) == BST_CHECKED;
+}
 
 /// Of a radio group only one button is a stop: the checked one, or the first that can be reached.
 bool IsStop(Node& node) {
@@ -133,7 +140,8 @@ std::vector<Node*> GroupOf(Node& member) {
     const auto at = std::find_if(siblings.begin(), siblings.end(),
                                  [&](const auto& each) { return each.get() == &member; });
     auto first = at;
-    while (first != siblings.begin() && !(*first)->HasStyle(WS_GROUP)) --first;
+    while (first != siblings.begin() && !(*first)->HasStyle(WS_GROUP))
+        --first;
     for (auto each = first; each != siblings.end(); ++each) {
         if (each != first && (*each)->HasStyle(WS_GROUP)) break;
         group.push_back(each->get());
@@ -147,8 +155,8 @@ Node* NextTabStop(Node& host, Node* from, bool forward) {
     Node* control = from ? ControlOf(host, from) : nullptr;
     const auto at = std::find_if(children.begin(), children.end(),
                                  [&](const auto& each) { return each.get() == control; });
-    int index = at != children.end() ? static_cast<int>(at - children.begin())
-                                     : (forward ? -1 : count);
+    int index =
+        at != children.end() ? static_cast<int>(at - children.begin()) : (forward ? -1 : count);
     const int step = forward ? 1 : -1;
     for (int tried = 0; tried < count; ++tried) {
         index = (index + step + count) % count;
@@ -281,12 +289,16 @@ bool HandleDialogKey(const MSG& message) {
     }
 }
 
-Modifiers CurrentModifiers() { return g_modifiers; }
+Modifiers CurrentModifiers() {
+    return g_modifiers;
+}
 
 ModifierScope::ModifierScope(Modifiers modifiers) : former_(g_modifiers) {
     g_modifiers = modifiers;
 }
 
-ModifierScope::~ModifierScope() { g_modifiers = former_; }
+ModifierScope::~ModifierScope() {
+    g_modifiers = former_;
+}
 
 }  // namespace kv

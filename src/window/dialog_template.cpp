@@ -46,7 +46,9 @@ const KindRow& RowOf(ControlKind kind) {
 }
 
 /// Rounded to the nearest, as the platform rounds.
-int Scale(int units, int base, int divisor) { return (units * base + divisor / 2) / divisor; }
+int Scale(int units, int base, int divisor) {
+    return (units * base + divisor / 2) / divisor;
+}
 
 }  // namespace
 
@@ -56,7 +58,9 @@ CRect ToPixels(const DialogUnits& place) {
             Scale(place.y + place.height, kBaseUnitY, 8)};
 }
 
-NodeClass ClassOf(ControlKind kind) { return RowOf(kind).nodeClass; }
+NodeClass ClassOf(ControlKind kind) {
+    return RowOf(kind).nodeClass;
+}
 
 DWORD StyleOf(const ControlRow& row) {
     const DWORD own = RowOf(row.kind).style | WS_CHILD | WS_VISIBLE;

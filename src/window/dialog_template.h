@@ -68,7 +68,9 @@ inline constexpr RowStyle kUpperCase{ES_UPPERCASE, 0};
 inline constexpr RowStyle kDigitsOnly{ES_NUMBER, 0};
 inline constexpr RowStyle kMultiLine{ES_MULTILINE, 0};
 inline constexpr RowStyle kWithIcon{BS_ICON, 0};
-constexpr RowStyle Alternate(int number) { return {0, 0, number}; }
+constexpr RowStyle Alternate(int number) {
+    return {0, 0, number};
+}
 
 struct ControlRow {
     int id;

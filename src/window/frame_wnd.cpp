@@ -9,15 +9,21 @@ CWinApp* g_app = nullptr;
 
 }  // namespace
 
-CWinApp::CWinApp() { g_app = this; }
+CWinApp::CWinApp() {
+    g_app = this;
+}
 
 CWinApp::~CWinApp() {
     if (g_app == this) g_app = nullptr;
 }
 
-CWinApp* AfxGetApp() { return g_app; }
+CWinApp* AfxGetApp() {
+    return g_app;
+}
 
-CWnd* AfxGetMainWnd() { return g_app ? g_app->m_pMainWnd : nullptr; }
+CWnd* AfxGetMainWnd() {
+    return g_app ? g_app->m_pMainWnd : nullptr;
+}
 
 BOOL CFrameWnd::Create(const char* title, const CRect& rect) {
     m_rcFree = {0, 0, rect.Width(), rect.Height()};
@@ -41,7 +47,7 @@ void CFrameWnd::RecalcLayout(BOOL) {
     for (const auto& child : children) {
         const auto* bar = dynamic_cast<CControlBar*>(child->Handle());
         if (!bar || !child->Visible()) continue;
-        const int height = child->Rect().Height();
+        const int height = bar->GetHeightAt(free.Width());
         if (bar->GetBarStyle() & CBRS_ALIGN_BOTTOM) {
             child->SetRect({free.left, free.bottom - height, free.right, free.bottom});
             free.bottom -= height;

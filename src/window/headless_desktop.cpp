@@ -1,5 +1,6 @@
 #include "window/headless_desktop.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 
@@ -13,7 +14,9 @@ namespace {
 
 constexpr int kDefaultTextHeight = 13;
 
-std::string Quoted(const std::string& text) { return "\"" + text + "\""; }
+std::string Quoted(const std::string& text) {
+    return "\"" + text + "\"";
+}
 
 bool Matches(Node& window, const std::string& name) {
     if (name.empty() || window.Text() == name) return true;
@@ -39,7 +42,9 @@ HeadlessDesktop::HeadlessDesktop() {
     };
 }
 
-HeadlessDesktop::~HeadlessDesktop() { WindowSystem::Get().ForgetDesktop(*this); }
+HeadlessDesktop::~HeadlessDesktop() {
+    WindowSystem::Get().ForgetDesktop(*this);
+}
 
 void HeadlessDesktop::ExpectWindow(std::string name, std::function<void(User&)> act) {
     scenes_.push_back({SceneKind::kWindow, std::move(name), std::move(act), IDOK, {}, {}});
@@ -133,8 +138,7 @@ void HeadlessDesktop::RunModal(Node& dialog) {
     const auto keep = dialog.shared_from_this();
     PlayWindowScene(dialog);
     if (!static_cast<DialogNode&>(dialog).Ended()) {
-        Fail("the scene of the window " + kv::Describe(dialog) +
-             " is over, and it is still open");
+        Fail("the scene of the window " + kv::Describe(dialog) + " is over, and it is still open");
     }
     if (closed_ && !dialog.Destroyed()) closed_(dialog);
 }
@@ -179,9 +183,13 @@ CSize HeadlessDesktop::TextExtent(const std::string& text, const Font& font) {
     return MeasureText(text, font);
 }
 
-COLORREF HeadlessDesktop::Color(SystemColor which) { return colors_[which]; }
+COLORREF HeadlessDesktop::Color(SystemColor which) {
+    return colors_[which];
+}
 
-Font HeadlessDesktop::DefaultFont() { return {"", kDefaultTextHeight, false, false}; }
+Font HeadlessDesktop::DefaultFont() {
+    return {"", kDefaultTextHeight, false, false};
+}
 
 std::chrono::system_clock::time_point HeadlessDesktop::Now() {
     return nowSet_ ? now_ : std::chrono::system_clock::now();
@@ -192,11 +200,13 @@ void HeadlessDesktop::Pump() {
     if (pumpScenes_.front().skip-- > 0) return;
     const PumpScene scene = std::move(pumpScenes_.front());
     pumpScenes_.pop_front();
-    Node* front = WindowSystem::Get().TopLevels().empty()
-                      ? nullptr
-                      : WindowSystem::Get().TopLevels().back().get();
-    if (!front) Fail("the queue was pumped with a scene waiting, and no window is open");
-    User user(*front, [this](const std::string& words) { Fail(words); });
+    const auto& windows = WindowSystem::Get().TopLevels();
+    const auto front = std::find_if(windows.rbegin(), windows.rend(), [](const auto& window) {
+        return window->ReallyVisible() && window->ReallyEnabled();
+    });
+    if (front == windows.rend())
+        Fail("the queue was pumped with a scene waiting, and no window is open");
+    User user(**front, [this](const std::string& words) { Fail(words); });
     scene.act(user);
 }
 

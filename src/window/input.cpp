@@ -374,7 +374,7 @@ bool Activate(Node& window) {
 }
 
 bool CloseWindow(Node& window) {
-    if (window.Destroyed() || !window.ReallyEnabled()) return false;
+    if (!CanAct(window)) return false;
     const ActionScope action;
     Send(window, WM_CLOSE);
     return true;

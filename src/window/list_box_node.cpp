@@ -279,7 +279,7 @@ void ListBoxNode::MoveByKey(int row, bool shift, bool ctrl) {
 
 void ListBoxNode::HandleChar(char ch) {
     if (static_cast<unsigned char>(ch) <= ' ' && !(ch == ' ' && search_.Running())) return;
-    const int row = search_.Type(ch, rows_, CurrentRow());
+    const int row = search_.Type(ch, rows_, Multiple() ? caret_ : current_);
     if (row < 0) return;
     if (!Multiple()) {
         if (row == current_) return;

@@ -1,26 +1,16 @@
 #include "window/list_view_node.h"
 
 #include <algorithm>
+#include <cstring>
 #include <numeric>
 
-#include "window/dialog_keys.h"
 #include "window/text.h"
+#include "window/window_system.h"
 
 namespace kv {
 
 namespace {
 
-constexpr UINT kChecked = 0x2000;
-constexpr UINT kUnchecked = 0x1000;
-constexpr int kPageRows = 10;
-
-ListCell& CellOf(ListRow& row, int column) {
-    const auto wanted = static_cast<std::size_t>(column);
-    if (row.cells.size() <= wanted) row.cells.resize(wanted + 1);
-    return row.cells[wanted];
-}
-
-/// Moves an index along when a row comes or goes ahead of it.
 void MoveForInsert(int& index, int row) {
     if (index >= row) ++index;
 }
@@ -33,23 +23,291 @@ void MoveForDelete(int& index, int row) {
     }
 }
 
-}  // namespace
-
-std::string ListViewNode::CellText(int row, int column) const {
-    if (row < 0 || row >= Count() || column < 0) return {};
-    const auto& cells = rows_.At(row).cells;
-    const auto index = static_cast<std::size_t>(column);
-    return index < cells.size() ? cells[index].text : std::string();
+ListCell& CellOf(ListRow& row, int column) {
+    const auto wanted = static_cast<std::size_t>(column);
+    if (row.cells.size() <= wanted) row.cells.resize(wanted + 1);
+    return row.cells[wanted];
 }
 
-void ListViewNode::SetSelectionMark(int row) { mark_ = row; }
+const ListCell* FindCell(const ListRow& row, int column) {
+    const auto index = static_cast<std::size_t>(column);
+    return column >= 0 && index < row.cells.size() ? &row.cells[index] : nullptr;
+}
+
+ListColumn ColumnFrom(ListColumn column, const LVCOLUMN& record) {
+    if (record.mask & LVCF_TEXT) column.text = record.pszText ? record.pszText : "";
+    if (record.mask & LVCF_WIDTH) column.width = record.cx;
+    if (record.mask & LVCF_FMT) column.format = record.fmt;
+    if (record.mask & LVCF_SUBITEM) column.subItem = record.iSubItem;
+    if (record.mask & LVCF_IMAGE) column.image = record.iImage;
+    return column;
+}
+
+}  // namespace
+
+int CopyCellText(const std::string& text, char* buffer, int size) {
+    if (!buffer || size <= 0) return 0;
+    const std::size_t length = std::min(text.size(), static_cast<std::size_t>(size) - 1);
+    std::memcpy(buffer, text.data(), length);
+    buffer[length] = '\0';
+    return static_cast<int>(length);
+}
+
+// Cells.
+
+std::string ListViewNode::CellText(int row, int column) const {
+    const ListCell* cell = Has(row) ? FindCell(Row(row), column) : nullptr;
+    return cell ? cell->text : std::string();
+}
+
+int ListViewNode::CellImage(int row, int column) const {
+    const ListCell* cell = Has(row) ? FindCell(Row(row), column) : nullptr;
+    return cell ? cell->image : -1;
+}
+
+bool ListViewNode::Checked(int row) const {
+    return Has(row) && (Row(row).state & LVIS_STATEIMAGEMASK) == kChecked;
+}
+
+bool ListViewNode::GetItem(LVITEM& item) const {
+    if (!Has(item.iItem) || item.iSubItem < 0) return false;
+    const ListRow& row = Row(item.iItem);
+    if (item.mask & LVIF_TEXT) {
+        CopyCellText(CellText(item.iItem, item.iSubItem), item.pszText, item.cchTextMax);
+    }
+    if (item.mask & LVIF_IMAGE) item.iImage = CellImage(item.iItem, item.iSubItem);
+    if (item.mask & LVIF_PARAM) item.lParam = row.data;
+    if (item.mask & LVIF_INDENT) item.iIndent = row.indent;
+    if (item.mask & LVIF_STATE) item.state = row.state & item.stateMask;
+    return true;
+}
+
+/// Takes from the item what its mask names, states aside. Returns which of it is new.
+UINT ListViewNode::Store(ListRow& row, const LVITEM& item) {
+    ListCell& cell = CellOf(row, item.iSubItem);
+    UINT changed = 0;
+    const auto put = [&](UINT field, auto& present, const auto& value) {
+        if (!(item.mask & field) || present == value) return;
+        present = value;
+        changed |= field;
+    };
+    put(LVIF_TEXT, cell.text, std::string(item.pszText ? item.pszText : ""));
+    put(LVIF_IMAGE, cell.image, item.iImage);
+    put(LVIF_PARAM, row.data, item.lParam);
+    put(LVIF_INDENT, row.indent, item.iIndent);
+    return changed;
+}
+
+bool ListViewNode::SetItem(const LVITEM& item) {
+    if (!Has(item.iItem) || item.iSubItem < 0) return false;
+    ListRow& row = RowAt(item.iItem);
+    const UINT changed = Store(row, item);
+    if (changed) {
+        Tell(Change::kPaint);
+        const UINT state = row.state;
+        TellParent(LVN_ITEMCHANGED, item.iItem, item.iSubItem, state, state, changed);
+    }
+    if (item.mask & LVIF_STATE) SetItemState(item.iItem, item.state, item.stateMask);
+    return true;
+}
+
+// Rows.
+
+void ListViewNode::TellInserted(int row) {
+    WindowSystem::Get().NoteChange();
+    if (View* view = ViewForRows()) view->RowsInserted(row, 1);
+}
+
+void ListViewNode::TellRemoved(int row) {
+    WindowSystem::Get().NoteChange();
+    if (View* view = ViewForRows()) view->RowsRemoved(row, 1);
+}
+
+RowId ListViewNode::NewRow() {
+    if (!free_.empty()) {
+        const RowId id = free_.back();
+        free_.pop_back();
+        return id;
+    }
+    rows_.emplace_back();
+    return static_cast<RowId>(rows_.size() - 1);
+}
+
+int ListViewNode::PlaceFor(const LVITEM& item) const {
+    const bool descending = HasStyle(LVS_SORTDESCENDING);
+    if (!descending && !HasStyle(LVS_SORTASCENDING)) return std::min(item.iItem, Count());
+    const std::string text = item.mask & LVIF_TEXT && item.pszText ? item.pszText : "";
+    return order_.PartitionPoint([&](RowId id) {
+        const ListCell* cell = FindCell(rows_[id], 0);
+        const int compared = CompareNoCase(cell ? cell->text : std::string(), text);
+        return descending ? compared >= 0 : compared <= 0;
+    });
+}
+
+int ListViewNode::InsertItem(const LVITEM& item) {
+    if (item.iSubItem != 0 || item.iItem < 0) return -1;
+    const int row = PlaceFor(item);
+    const RowId id = NewRow();
+    Store(rows_[id], item);
+    if (HasCheckBoxes()) rows_[id].state = kUnchecked;
+    order_.Insert(row, id);
+    for (int* each : {&focused_, &mark_, &wanted_, &hotItem_}) MoveForInsert(*each, row);
+    TellInserted(row);
+    if (item.mask & LVIF_STATE) SetItemState(row, item.state, item.stateMask);
+    return row;
+}
+
+bool ListViewNode::DeleteItem(int row) {
+    if (!Has(row)) return false;
+    const auto keep = shared_from_this();
+    const RowId id = order_.At(row);
+    const bool hadFocus = focused_ == row;
+    selected_.erase(id);
+    order_.Erase(row);
+    rows_[id] = {};
+    free_.push_back(id);
+    for (int* each : {&focused_, &mark_, &wanted_, &hotItem_}) MoveForDelete(*each, row);
+    top_ = std::min(top_, std::max(0, Count() - 1));
+    TellRemoved(row);
+    if (hadFocus && Count() > 0) {
+        SetItemState(std::min(row, Count() - 1), LVIS_FOCUSED, LVIS_FOCUSED);
+    }
+    return true;
+}
+
+void ListViewNode::DeleteAllItems() {
+    selected_.clear();
+    order_.Clear();
+    rows_.clear();
+    free_.clear();
+    focused_ = mark_ = wanted_ = hotItem_ = -1;
+    top_ = 0;
+    search_.Stop();
+    Tell(Change::kRows);
+}
+
+// States.
+
+DWORD ListViewNode::SetExtendedStyle(DWORD mask, DWORD style) {
+    const DWORD former = extendedStyle_;
+    extendedStyle_ = mask ? (former & ~mask) | (style & mask) : style;
+    const DWORD changed = former ^ extendedStyle_;
+    if (changed & LVS_EX_CHECKBOXES) {
+        const UINT image = HasCheckBoxes() ? kUnchecked : 0;
+        order_.ForEach([&](RowId id) {
+            rows_[id].state = (rows_[id].state & ~LVIS_STATEIMAGEMASK) | image;
+        });
+    }
+    if (changed) Tell(Change::kStyle);
+    return former;
+}
+
+bool ListViewNode::SetItemState(int row, UINT state, UINT mask) {
+    const auto keep = shared_from_this();
+    if (row == -1) {
+        for (int each = 0; each < Count(); ++each) SetItemState(each, state, mask);
+        return true;
+    }
+    if (!Has(row)) return false;
+    const bool selects = (mask & state & LVIS_SELECTED) != 0;
+    if (selects && SingleSelection()) {
+        const int other = NextSelected(-1);
+        if (other >= 0 && other != row) SetItemState(other, 0, LVIS_SELECTED);
+    }
+    if ((mask & state & LVIS_FOCUSED) && focused_ >= 0 && focused_ != row) {
+        SetItemState(focused_, 0, LVIS_FOCUSED);
+    }
+    // Who was told of the others may have taken rows away.
+    if (!Has(row)) return false;
+    const RowId id = order_.At(row);
+    const UINT former = rows_[id].state;
+    const UINT next = (former & ~mask) | (state & mask);
+    if (next == former) return true;
+    rows_[id].state = next;
+    if (next & LVIS_SELECTED) {
+        selected_.insert(selected_.end(), id);
+    } else {
+        selected_.erase(id);
+    }
+    if (next & LVIS_FOCUSED) {
+        focused_ = row;
+    } else if (former & LVIS_FOCUSED) {
+        focused_ = -1;
+    }
+    Tell(Change::kSelection);
+    TellParent(LVN_ITEMCHANGED, row, 0, next, former, LVIF_STATE);
+    return true;
+}
+
+int ListViewNode::NextSelected(int start) const {
+    const auto next = selected_.upper_bound(ByPlace::Place{start});
+    return next == selected_.end() ? -1 : order_.PlaceOf(*next);
+}
+
+int ListViewNode::NextItem(int start, UINT flags) const {
+    start = std::max(start, -1);
+    switch (flags & (LVNI_FOCUSED | LVNI_SELECTED)) {
+        case LVNI_FOCUSED:
+            return focused_ > start ? focused_ : -1;
+        case LVNI_SELECTED:
+            return NextSelected(start);
+        case LVNI_FOCUSED | LVNI_SELECTED:
+            return focused_ > start && Selected(focused_) ? focused_ : -1;
+        default:
+            return start + 1 < Count() ? start + 1 : -1;
+    }
+}
+
+bool ListViewNode::Fits(int row, const LVFINDINFO& what) const {
+    const ListRow& candidate = Row(row);
+    if (what.flags & LVFI_PARAM) return candidate.data == what.lParam;
+    const ListCell* cell = FindCell(candidate, 0);
+    const std::string_view text = cell ? std::string_view(cell->text) : std::string_view();
+    return what.flags & LVFI_PARTIAL ? StartsWithNoCase(text, what.psz)
+                                     : EqualsNoCase(text, what.psz);
+}
+
+int ListViewNode::FindItem(int start, const LVFINDINFO& what) const {
+    const int count = Count();
+    const bool byData = (what.flags & LVFI_PARAM) != 0;
+    const bool byText = (what.flags & (LVFI_STRING | LVFI_PARTIAL | LVFI_WRAP)) != 0 && what.psz;
+    if (!byData && !byText) return -1;
+    start = std::clamp(start, -1, count - 1);
+    for (int row = start + 1; row < count; ++row) {
+        if (Fits(row, what)) return row;
+    }
+    if (byData || !(what.flags & LVFI_WRAP)) return -1;
+    for (int row = 0; row <= start; ++row) {
+        if (Fits(row, what)) return row;
+    }
+    return -1;
+}
+
+// Columns.
 
 int ListViewNode::InsertColumn(int index, ListColumn column) {
-    const int place = std::clamp(index, 0, static_cast<int>(columns_.size()));
+    if (index < 0) return -1;
+    const int place = std::min(index, static_cast<int>(columns_.size()));
     columns_.insert(columns_.begin() + place, std::move(column));
-    order_.resize(columns_.size());
-    std::iota(order_.begin(), order_.end(), 0);
+    for (int& each : columnOrder_) MoveForInsert(each, place);
+    columnOrder_.insert(columnOrder_.begin() + place, place);
+    order_.ForEach([&](RowId id) {
+        auto& cells = rows_[id].cells;
+        if (place < static_cast<int>(cells.size())) cells.insert(cells.begin() + place, ListCell());
+    });
     Tell(Change::kColumns);
+    return place;
+}
+
+int ListViewNode::InsertColumnRecord(int index, const LVCOLUMN& record) {
+    const int place = InsertColumn(index, ColumnFrom({}, record));
+    const bool ordered = (record.mask & LVCF_ORDER) && record.iOrder >= 0 &&
+                         record.iOrder < static_cast<int>(columnOrder_.size());
+    if (place < 0 || !ordered) return place;
+    std::vector<int> order = columnOrder_;
+    std::erase(order, place);
+    order.insert(order.begin() + record.iOrder, place);
+    SetColumnOrder(std::move(order));
     return place;
 }
 
@@ -60,22 +318,39 @@ bool ListViewNode::SetColumn(int index, ListColumn column) {
     return true;
 }
 
+bool ListViewNode::GetColumn(int index, LVCOLUMN& column) const {
+    if (index < 0 || index >= static_cast<int>(columns_.size())) return false;
+    const ListColumn& stored = columns_[static_cast<std::size_t>(index)];
+    if (column.mask & LVCF_TEXT) CopyCellText(stored.text, column.pszText, column.cchTextMax);
+    if (column.mask & LVCF_WIDTH) column.cx = stored.width;
+    if (column.mask & LVCF_FMT) column.fmt = stored.format;
+    if (column.mask & LVCF_SUBITEM) column.iSubItem = stored.subItem;
+    if (column.mask & LVCF_IMAGE) column.iImage = stored.image;
+    if (column.mask & LVCF_ORDER) {
+        const auto at = std::find(columnOrder_.begin(), columnOrder_.end(), index);
+        column.iOrder = static_cast<int>(at - columnOrder_.begin());
+    }
+    return true;
+}
+
 bool ListViewNode::DeleteColumn(int index) {
     if (index < 0 || index >= static_cast<int>(columns_.size())) return false;
     columns_.erase(columns_.begin() + index);
-    order_.resize(columns_.size());
-    std::iota(order_.begin(), order_.end(), 0);
-    rows_.ForEach([index](ListRow& row) {
-        if (index < static_cast<int>(row.cells.size())) row.cells.erase(row.cells.begin() + index);
+    std::erase(columnOrder_, index);
+    for (int& each : columnOrder_) MoveForDelete(each, index);
+    order_.ForEach([&](RowId id) {
+        auto& cells = rows_[id].cells;
+        if (index < static_cast<int>(cells.size())) cells.erase(cells.begin() + index);
     });
     Tell(Change::kColumns);
     return true;
 }
 
-void ListViewNode::SetColumnWidth(int index, int width) {
-    if (index < 0 || index >= static_cast<int>(columns_.size())) return;
+bool ListViewNode::SetColumnWidth(int index, int width) {
+    if (index < 0 || index >= static_cast<int>(columns_.size()) || width < 0) return false;
     columns_[static_cast<std::size_t>(index)].width = width;
     Tell(Change::kColumns);
+    return true;
 }
 
 bool ListViewNode::SetColumnOrder(std::vector<int> order) {
@@ -84,282 +359,131 @@ bool ListViewNode::SetColumnOrder(std::vector<int> order) {
     std::vector<int> all(columns_.size());
     std::iota(all.begin(), all.end(), 0);
     if (sorted != all) return false;
-    order_ = std::move(order);
+    columnOrder_ = std::move(order);
     Tell(Change::kColumns);
     return true;
 }
 
-DWORD ListViewNode::SetExtendedStyle(DWORD mask, DWORD style) {
-    const DWORD former = extendedStyle_;
-    extendedStyle_ = mask ? (former & ~mask) | (style & mask) : style;
-    const DWORD changed = former ^ extendedStyle_;
-    if (changed & LVS_EX_CHECKBOXES) {
-        const UINT image = extendedStyle_ & LVS_EX_CHECKBOXES ? kUnchecked : 0;
-        rows_.ForEach([image](ListRow& row) {
-            row.state = (row.state & ~LVIS_STATEIMAGEMASK) | image;
-        });
-    }
-    if (changed) Tell(Change::kStyle);
-    return former;
-}
-
-int ListViewNode::InsertItem(const LVITEM& item) {
-    if (item.iSubItem != 0 || item.iItem < 0) return -1;
-    const int row = std::min(item.iItem, Count());
-    ListRow inserted;
-    if (extendedStyle_ & LVS_EX_CHECKBOXES) inserted.state = kUnchecked;
-    rows_.Insert(row, std::move(inserted));
-    MoveForInsert(focused_, row);
-    MoveForInsert(mark_, row);
-    LVITEM own = item;
-    own.iItem = row;
-    ListRow& stored = rows_.At(row);
-    ListCell& cell = CellOf(stored, 0);
-    if (own.mask & LVIF_TEXT) cell.text = own.pszText ? own.pszText : "";
-    if (own.mask & LVIF_IMAGE) cell.image = own.iImage;
-    if (own.mask & LVIF_PARAM) stored.data = own.lParam;
-    if (own.mask & LVIF_INDENT) stored.indent = own.iIndent;
-    if (View* view = GetView()) view->RowsInserted(row, 1);
-    Tell(Change::kPaint);
-    if (own.mask & LVIF_STATE) SetItemState(row, own.state, own.stateMask);
-    return row;
-}
-
-bool ListViewNode::SetItem(const LVITEM& item) {
-    if (item.iItem < 0 || item.iItem >= Count() || item.iSubItem < 0) return false;
-    ListRow& row = rows_.At(item.iItem);
-    ListCell& cell = CellOf(row, item.iSubItem);
-    if (item.mask & LVIF_TEXT) cell.text = item.pszText ? item.pszText : "";
-    if (item.mask & LVIF_IMAGE) cell.image = item.iImage;
-    if (item.mask & LVIF_PARAM) row.data = item.lParam;
-    if (item.mask & LVIF_INDENT) row.indent = item.iIndent;
-    Tell(Change::kPaint);
-    if (item.mask & LVIF_STATE) SetItemState(item.iItem, item.state, item.stateMask);
+bool ListViewNode::GetColumnOrder(int count, int* order) const {
+    if (!order || count != static_cast<int>(columnOrder_.size())) return false;
+    std::copy(columnOrder_.begin(), columnOrder_.end(), order);
     return true;
 }
 
-bool ListViewNode::DeleteItem(int row) {
-    if (row < 0 || row >= Count()) return false;
-    if (rows_.At(row).state & LVIS_SELECTED) --selected_;
-    rows_.Erase(row);
-    MoveForDelete(focused_, row);
-    MoveForDelete(mark_, row);
-    if (View* view = GetView()) view->RowsRemoved(row, 1);
-    Tell(Change::kPaint);
-    return true;
-}
+// Messages.
 
-void ListViewNode::DeleteAllItems() {
-    rows_.Clear();
-    focused_ = mark_ = wanted_ = -1;
-    selected_ = 0;
-    Tell(Change::kRows);
-}
-
-bool ListViewNode::SetItemState(int row, UINT state, UINT mask) {
-    if (row == -1) {
-        for (int each = 0; each < Count(); ++each) SetItemState(each, state, mask);
-        return true;
-    }
-    if (row < 0 || row >= Count()) return false;
-    const bool selects = (mask & state & LVIS_SELECTED) != 0;
-    if (selects && HasStyle(LVS_SINGLESEL) && selected_ > 0) {
-        const int other = NextItem(-1, LVNI_SELECTED);
-        if (other != row) SetItemState(other, 0, LVIS_SELECTED);
-    }
-    if ((mask & state & LVIS_FOCUSED) && focused_ != row && focused_ >= 0) {
-        SetItemState(focused_, 0, LVIS_FOCUSED);
-    }
-    ListRow& stored = rows_.At(row);
-    const UINT before = stored.state;
-    stored.state = (before & ~mask) | (state & mask);
-    const UINT after = stored.state;
-    if (after == before) return true;
-    selected_ += static_cast<int>((after & LVIS_SELECTED) != 0) -
-                 static_cast<int>((before & LVIS_SELECTED) != 0);
-    if (after & LVIS_FOCUSED) {
-        focused_ = row;
-    } else if (before & LVIS_FOCUSED) {
-        focused_ = -1;
-    }
-    Tell(Change::kSelection);
-    TellParent(LVN_ITEMCHANGED, row, 0, after, before, LVIF_STATE);
-    return true;
-}
-
-int ListViewNode::NextItem(int start, UINT flags) const {
-    const UINT wanted = flags & (LVNI_FOCUSED | LVNI_SELECTED);
-    if (wanted == LVNI_FOCUSED) return focused_ > start ? focused_ : -1;
-    for (int row = start + 1; row < Count(); ++row) {
-        if ((rows_.At(row).state & wanted) == wanted) return row;
-    }
-    return -1;
-}
-
-int ListViewNode::FindItem(int start, UINT flags, const std::string& text, LPARAM data) const {
-    const int count = Count();
-    const int tries = flags & LVFI_WRAP ? count : count - (start + 1);
-    for (int step = 1; step <= tries; ++step) {
-        const int row = (start + step) % count;
-        const std::string own = CellText(row, 0);
-        const bool fits = flags & LVFI_PARAM     ? rows_.At(row).data == data
-                          : flags & LVFI_PARTIAL ? StartsWithNoCase(own, text)
-                                                 : EqualsNoCase(own, text);
-        if (fits) return row;
-    }
-    return -1;
-}
-
-void ListViewNode::EnsureVisible(int row) {
-    wanted_ = row;
-    Tell(Change::kPosition);
-}
-
-LRESULT ListViewNode::TellParent(int code, int row, int column, UINT newState, UINT oldState,
-                                 UINT changed) {
-    if (!Parent() || Destroyed()) return 0;
-    const LPARAM data = row >= 0 && row < Count() ? rows_.At(row).data : 0;
-    NMLISTVIEW notice{{this, Id(), code}, row, column, newState, oldState, changed, {}, data};
-    return Send(*Parent(), WM_NOTIFY, static_cast<WPARAM>(Id()), reinterpret_cast<LPARAM>(&notice));
-}
-
-void ListViewNode::SelectOnly(int row) {
-    for (int each = NextItem(-1, LVNI_SELECTED); each >= 0; each = NextItem(each, LVNI_SELECTED)) {
-        if (each != row) SetItemState(each, 0, LVIS_SELECTED);
-    }
-    SetItemState(row, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
-}
-
-void ListViewNode::SelectRange(int from, int to) {
-    const int first = std::min(from, to);
-    const int last = std::max(from, to);
-    for (int row = 0; row < Count(); ++row) {
-        SetItemState(row, row >= first && row <= last ? LVIS_SELECTED : 0, LVIS_SELECTED);
-    }
-    SetItemState(to, LVIS_FOCUSED, LVIS_FOCUSED);
-}
-
-void ListViewNode::UserClick(int row, bool shift, bool ctrl) {
-    const auto keep = shared_from_this();
-    if (row < 0 || row >= Count()) {
-        SelectRange(1, 0);
-    } else if (shift && mark_ >= 0 && !HasStyle(LVS_SINGLESEL)) {
-        SelectRange(mark_, row);
-    } else if (ctrl && !HasStyle(LVS_SINGLESEL)) {
-        const UINT toggled = rows_.At(row).state & LVIS_SELECTED ? 0 : LVIS_SELECTED;
-        SetItemState(row, toggled | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
-        mark_ = row;
-    } else {
-        SelectOnly(row);
-        mark_ = row;
-    }
-    TellParent(NM_CLICK, row, 0, 0, 0, 0);
-}
-
-void ListViewNode::UserSelectRows(const std::vector<int>& rows) {
-    if (rows.empty()) {
-        UserClick(-1, false, false);
-        return;
-    }
-    UserClick(rows.front(), false, false);
-    for (std::size_t index = 1; index < rows.size(); ++index) UserClick(rows[index], false, true);
-}
-
-void ListViewNode::UserDoubleClick(int row) {
-    const auto keep = shared_from_this();
-    UserClick(row, false, false);
-    if (!Destroyed()) TellParent(NM_DBLCLK, row, 0, 0, 0, 0);
-}
-
-void ListViewNode::UserToggleCheck(int row) {
-    if (!(extendedStyle_ & LVS_EX_CHECKBOXES) || row < 0 || row >= Count()) return;
-    const bool checked = (rows_.At(row).state & LVIS_STATEIMAGEMASK) == kChecked;
-    SetItemState(row, checked ? kUnchecked : kChecked, LVIS_STATEIMAGEMASK);
-}
-
-void ListViewNode::UserClickColumn(int column) {
-    TellParent(LVN_COLUMNCLICK, -1, column, 0, 0, 0);
-}
-
-void ListViewNode::MoveBy(int key) {
-    if (Count() == 0) return;
-    const int last = Count() - 1;
-    int row = std::max(focused_, 0);
-    switch (key) {
-        case VK_UP:
-            row -= 1;
-            break;
-        case VK_DOWN:
-            row += focused_ < 0 ? 0 : 1;
-            break;
-        case VK_PRIOR:
-            row -= kPageRows;
-            break;
-        case VK_NEXT:
-            row += kPageRows;
-            break;
-        case VK_HOME:
-            row = 0;
-            break;
+LRESULT ListViewNode::ProcessRows(UINT message, WPARAM wParam, LPARAM lParam, bool& handled) {
+    const int row = static_cast<int>(wParam);
+    auto* item = reinterpret_cast<LVITEM*>(lParam);
+    switch (message) {
+        case LVM_GETITEMCOUNT:
+            return Count();
+        case LVM_GETITEM:
+            return item && GetItem(*item);
+        case LVM_SETITEM:
+            return item && SetItem(*item);
+        case LVM_INSERTITEM:
+            return item ? InsertItem(*item) : -1;
+        case LVM_DELETEITEM:
+            return DeleteItem(row);
+        case LVM_DELETEALLITEMS:
+            DeleteAllItems();
+            return TRUE;
+        case LVM_GETITEMTEXT:
+            if (!item) return 0;
+            return CopyCellText(CellText(row, item->iSubItem), item->pszText, item->cchTextMax);
+        case LVM_SETITEMTEXT: {
+            if (!item) return FALSE;
+            LVITEM text = *item;
+            text.mask = LVIF_TEXT;
+            text.iItem = row;
+            return SetItem(text);
+        }
+        case LVM_SETITEMCOUNT:
+            if (row > 0) rows_.reserve(static_cast<std::size_t>(row));
+            return TRUE;
+        case LVM_GETNEXTITEM:
+            return NextItem(row, static_cast<UINT>(LOWORD(static_cast<std::uintptr_t>(lParam))));
+        case LVM_FINDITEM:
+            return lParam ? FindItem(row, *reinterpret_cast<const LVFINDINFO*>(lParam)) : -1;
         default:
-            row = last;
-            break;
+            handled = false;
+            return 0;
     }
-    row = std::clamp(row, 0, last);
-    const Modifiers modifiers = CurrentModifiers();
-    if (modifiers.shift && !HasStyle(LVS_SINGLESEL)) {
-        if (mark_ < 0) mark_ = std::max(focused_, 0);
-        SelectRange(mark_, row);
-    } else if (modifiers.ctrl) {
-        SetItemState(row, LVIS_FOCUSED, LVIS_FOCUSED);
-    } else {
-        SelectOnly(row);
-        mark_ = row;
-    }
-    EnsureVisible(row);
 }
 
-void ListViewNode::JumpTo(char ch) {
-    const int row = FindItem(focused_, LVFI_PARTIAL | LVFI_WRAP, std::string(1, ch), 0);
-    if (row < 0) return;
-    SelectOnly(row);
-    mark_ = row;
-    EnsureVisible(row);
+LRESULT ListViewNode::ProcessStates(UINT message, WPARAM wParam, LPARAM lParam, bool& handled) {
+    const int row = static_cast<int>(wParam);
+    switch (message) {
+        case LVM_SETITEMSTATE: {
+            const auto* item = reinterpret_cast<const LVITEM*>(lParam);
+            return item && SetItemState(row, item->state, item->stateMask);
+        }
+        case LVM_GETITEMSTATE:
+            return Has(row) ? static_cast<LRESULT>(Row(row).state & static_cast<UINT>(lParam)) : 0;
+        case LVM_GETSELECTEDCOUNT:
+            return SelectedCount();
+        case LVM_GETSELECTIONMARK:
+            return mark_;
+        case LVM_SETSELECTIONMARK: {
+            const int former = mark_;
+            const int next = static_cast<int>(lParam);
+            if (next == -1 || Has(next)) mark_ = next;
+            return former;
+        }
+        case LVM_SETEXTENDEDLISTVIEWSTYLE:
+            return SetExtendedStyle(static_cast<DWORD>(wParam), static_cast<DWORD>(lParam));
+        case LVM_GETEXTENDEDLISTVIEWSTYLE:
+            return extendedStyle_;
+        default:
+            handled = false;
+            return 0;
+    }
+}
+
+LRESULT ListViewNode::ProcessColumns(UINT message, WPARAM wParam, LPARAM lParam, bool& handled) {
+    const int index = static_cast<int>(wParam);
+    auto* record = reinterpret_cast<LVCOLUMN*>(lParam);
+    const bool present = index >= 0 && index < static_cast<int>(columns_.size());
+    switch (message) {
+        case LVM_GETCOLUMN:
+            return record && GetColumn(index, *record);
+        case LVM_SETCOLUMN:
+            if (!record || !present) return FALSE;
+            return SetColumn(index, ColumnFrom(columns_[static_cast<std::size_t>(index)], *record));
+        case LVM_INSERTCOLUMN:
+            return record ? InsertColumnRecord(index, *record) : -1;
+        case LVM_DELETECOLUMN:
+            return DeleteColumn(index);
+        case LVM_GETCOLUMNWIDTH:
+            return present ? columns_[static_cast<std::size_t>(index)].width : 0;
+        case LVM_SETCOLUMNWIDTH:
+            return SetColumnWidth(index, static_cast<int>(lParam));
+        case LVM_SETCOLUMNORDERARRAY: {
+            const auto* order = reinterpret_cast<const int*>(lParam);
+            return order && index >= 0 && SetColumnOrder(std::vector<int>(order, order + index));
+        }
+        case LVM_GETCOLUMNORDERARRAY:
+            return GetColumnOrder(index, reinterpret_cast<int*>(lParam));
+        case LVM_GETHEADER:
+            return reinterpret_cast<LRESULT>(Header());
+        default:
+            handled = false;
+            return 0;
+    }
 }
 
 LRESULT ListViewNode::Process(UINT message, WPARAM wParam, LPARAM lParam) {
-    switch (message) {
-        case WM_SETFOCUS:
-            return TellParent(NM_SETFOCUS, -1, 0, 0, 0, 0);
-        case WM_KILLFOCUS:
-            return TellParent(NM_KILLFOCUS, -1, 0, 0, 0, 0);
-        case WM_KEYDOWN:
-            switch (static_cast<int>(wParam)) {
-                case VK_UP:
-                case VK_DOWN:
-                case VK_PRIOR:
-                case VK_NEXT:
-                case VK_HOME:
-                case VK_END:
-                    MoveBy(static_cast<int>(wParam));
-                    return 0;
-                default:
-                    return 0;
-            }
-        case WM_CHAR:
-            if (wParam == ' ') {
-                if (extendedStyle_ & LVS_EX_CHECKBOXES) {
-                    UserToggleCheck(focused_);
-                } else if (focused_ >= 0) {
-                    UserClick(focused_, false, CurrentModifiers().ctrl);
-                }
-            } else if (wParam > ' ') {
-                JumpTo(static_cast<char>(wParam));
-            }
-            return 0;
-        default:
-            return Node::Process(message, wParam, lParam);
+    using Part = LRESULT (ListViewNode::*)(UINT, WPARAM, LPARAM, bool&);
+    constexpr Part kParts[] = {&ListViewNode::ProcessRows,   &ListViewNode::ProcessStates,
+                               &ListViewNode::ProcessColumns, &ListViewNode::ProcessPlaces,
+                               &ListViewNode::ProcessLook,   &ListViewNode::ProcessUser};
+    for (const Part part : kParts) {
+        bool handled = true;
+        const LRESULT result = (this->*part)(message, wParam, lParam, handled);
+        if (handled) return result;
     }
+    return Node::Process(message, wParam, lParam);
 }
 
 }  // namespace kv

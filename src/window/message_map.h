@@ -162,11 +162,22 @@ struct Cracker<CDC*, CWnd*, UINT> {
     }
 };
 
+/// A member function with the object that it is called on.
+template <typename Class, auto Member>
+struct Bound {
+    Class& self;
+
+    template <typename... Args>
+    auto operator()(Args... args) const {
+        return (self.*Member)(args...);
+    }
+};
+
 template <auto Member>
 Handled Call(CWnd& window, const Event& event) {
     using Traits = MemberTraits<decltype(Member)>;
-    auto& self = static_cast<typename Traits::Class&>(window);
-    const auto invoke = [&self](auto... args) { return (self.*Member)(args...); };
+    using Class = typename Traits::Class;
+    const Bound<Class, Member> invoke{static_cast<Class&>(window)};
     using Crack = typename Traits::template Args<Cracker>;
     using Result = typename Traits::Result;
     if constexpr (std::is_void_v<Result>) {

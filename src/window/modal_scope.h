@@ -9,8 +9,8 @@
 namespace kv {
 
 /// The time that a modal thing is open: it takes the focus, whose holder is told that it lost it,
-/// and gives it back: to the holder, or, where that cannot hold it any more, quietly to the next tab
-/// stop.
+/// and gives it back: to the holder, or, where that cannot hold it any more, quietly to the next
+/// tab stop.
 class KVGUICTL_API ModalScope {
 public:
     ModalScope();

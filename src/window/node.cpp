@@ -15,7 +15,8 @@ Node::~Node() {
     if (!destroyed_) WindowSystem::Get().Forget(*this);
     if (handle_) handle_->m_hWnd = nullptr;
     if (lookupHandle_) lookupHandle_->m_hWnd = nullptr;
-    for (const auto& child : children_) child->parent_ = nullptr;
+    for (const auto& child : children_)
+        child->parent_ = nullptr;
 }
 
 void Node::AddChild(std::shared_ptr<Node> child) {
@@ -58,7 +59,8 @@ Node* Node::Host() {
 
 Node* Node::Root() {
     Node* node = this;
-    while (node->parent_) node = node->parent_;
+    while (node->parent_)
+        node = node->parent_;
     return node;
 }
 
@@ -143,7 +145,9 @@ Node* Node::LastFocus() const {
     return last.get();
 }
 
-CWnd* Node::AnyHandle() { return handle_ ? handle_ : CWnd::LookupHandle(this); }
+CWnd* Node::AnyHandle() {
+    return handle_ ? handle_ : CWnd::LookupHandle(this);
+}
 
 LRESULT Node::Process(UINT message, WPARAM, LPARAM lParam) {
     switch (message) {

@@ -122,8 +122,8 @@ public:
 
     bool Destroyed() const { return destroyed_; }
 
-    /// Of a top-level window: the control in it that has the focus, or had it when the focus went to
-    /// another window; null where there is none that can hold it now.
+    /// Of a top-level window: the control in it that has the focus, or had it when the focus went
+    /// to another window; null where there is none that can hold it now.
     Node* LastFocus() const;
 
     /// The handle that the node's messages go through, or null.

@@ -149,9 +149,7 @@ bool ReflectDrawItem(LPARAM lParam) {
     auto* drawn = dynamic_cast<OwnerDrawn*>(item->hwndItem->Handle());
     if (!drawn) return false;
     if (Painting* painting = PaintingOf(item->hwndItem)) painting->painted = true;
-    const int saved = item->hDC ? item->hDC->SaveDC() : 0;
     WindowSystem::Get().Guarded([&] { drawn->DrawItem(item); });
-    if (saved) item->hDC->RestoreDC(saved);
     return true;
 }
 

@@ -1,14 +1,23 @@
 #include "window/progress_node.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace kv {
 
+void ProgressNode::SetRange(int lower, int upper) {
+    if (lower == lower_ && upper == upper_) return;
+    lower_ = lower;
+    upper_ = upper;
+    Tell(Change::kRange);
+    SetPosition(position_);
+}
+
 int ProgressNode::SetPosition(long long position) {
-    const int former = position_;
-    position_ = static_cast<int>(std::clamp<long long>(position, std::min(lower_, upper_),
-                                                       std::max(lower_, upper_)));
-    if (position_ != former) Tell(Change::kPosition);
+    const auto [least, most] = std::minmax(lower_, upper_);
+    const int next = static_cast<int>(std::clamp<long long>(position, least, most));
+    const int former = std::exchange(position_, next);
+    if (next != former) Tell(Change::kPosition);
     return former;
 }
 
@@ -19,22 +28,22 @@ int ProgressNode::StepIt() {
 }
 
 LRESULT ProgressNode::Process(UINT message, WPARAM wParam, LPARAM lParam) {
+    const int value = static_cast<int>(wParam);
     switch (message) {
-        case PBM_SETRANGE32:
-            lower_ = static_cast<int>(wParam);
-            upper_ = static_cast<int>(lParam);
-            Tell(Change::kRange);
-            SetPosition(position_);
-            return 0;
-        case PBM_SETPOS:
-            return SetPosition(static_cast<int>(wParam));
-        case PBM_DELTAPOS:
-            return SetPosition(static_cast<long long>(position_) + static_cast<int>(wParam));
-        case PBM_SETSTEP: {
-            const int former = step_;
-            step_ = static_cast<int>(wParam);
+        case PBM_SETRANGE32: {
+            const LRESULT former = MAKELPARAM(lower_, upper_);
+            SetRange(value, static_cast<int>(lParam));
             return former;
         }
+        case PBM_GETRANGE:
+            if (auto* range = reinterpret_cast<PBRANGE*>(lParam)) *range = {lower_, upper_};
+            return wParam ? lower_ : upper_;
+        case PBM_SETPOS:
+            return SetPosition(value);
+        case PBM_DELTAPOS:
+            return SetPosition(static_cast<long long>(position_) + value);
+        case PBM_SETSTEP:
+            return std::exchange(step_, value);
         case PBM_STEPIT:
             return StepIt();
         case PBM_GETPOS:

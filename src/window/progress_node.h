@@ -8,7 +8,14 @@ inline constexpr UINT PBM_DELTAPOS = WM_USER + 3;
 inline constexpr UINT PBM_SETSTEP = WM_USER + 4;
 inline constexpr UINT PBM_STEPIT = WM_USER + 5;
 inline constexpr UINT PBM_SETRANGE32 = WM_USER + 6;
+inline constexpr UINT PBM_GETRANGE = WM_USER + 7;
 inline constexpr UINT PBM_GETPOS = WM_USER + 8;
+
+/// What PBM_GETRANGE fills.
+struct PBRANGE {
+    int iLow = 0;
+    int iHigh = 0;
+};
 
 namespace kv {
 
@@ -24,7 +31,8 @@ public:
     LRESULT Process(UINT message, WPARAM wParam, LPARAM lParam) override;
 
 private:
-    /// Each returns what was in force before.
+    void SetRange(int lower, int upper);
+    /// Brings the position into the range, and returns the one that was.
     int SetPosition(long long position);
     int StepIt();
 

@@ -11,26 +11,26 @@ namespace kv {
 
 namespace {
 
+long long FloorDivide(long long a, long long b) {
+    const long long quotient = a / b;
+    return quotient * b > a ? quotient - 1 : quotient;
+}
+
+/// `step` of `steps` equal parts of a length, in whole pixels; a half goes up or left, so that a
+/// line takes the same pixels either way.
+int PartOf(int length, int step, int steps) {
+    const long long twice = 2LL * length * step;
+    return -static_cast<int>(FloorDivide(steps - twice, 2LL * steps));
+}
+
 /// Calls `plot` with each pixel of a line and its number, without the last one.
 template <typename Plot>
 void WalkLine(CPoint from, CPoint to, Plot&& plot) {
-    const int dx = std::abs(to.x - from.x);
-    const int dy = std::abs(to.y - from.y);
-    const int stepX = from.x < to.x ? 1 : -1;
-    const int stepY = from.y < to.y ? 1 : -1;
-    int error = dx - dy;
-    CPoint at = from;
-    for (int count = 0; at != to; ++count) {
-        plot(at, count);
-        const int twice = 2 * error;
-        if (twice > -dy) {
-            error -= dy;
-            at.x += stepX;
-        }
-        if (twice < dx) {
-            error += dx;
-            at.y += stepY;
-        }
+    const int dx = to.x - from.x;
+    const int dy = to.y - from.y;
+    const int steps = std::max(std::abs(dx), std::abs(dy));
+    for (int step = 0; step < steps; ++step) {
+        plot(CPoint{from.x + PartOf(dx, step, steps), from.y + PartOf(dy, step, steps)}, step);
     }
 }
 
@@ -48,11 +48,6 @@ bool IsDrawn(const Stroke& stroke, int distance) {
         drawn = !drawn;
     }
     return drawn;
-}
-
-long long FloorDivide(long long a, long long b) {
-    const long long quotient = a / b;
-    return quotient * b > a ? quotient - 1 : quotient;
 }
 
 /// First pixel whose place is at or right of the edge a-b on row `y`, which lies within it.

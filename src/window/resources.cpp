@@ -52,7 +52,9 @@ RegisterImage::RegisterImage(const ImageResource& image, ResourceModule& module)
     module.images.push_back(&image);
 }
 
-void AddToResourceChain(const ResourceModule& module) { Chain().push_back(&module); }
+void AddToResourceChain(const ResourceModule& module) {
+    Chain().push_back(&module);
+}
 
 void RemoveFromResourceChain(const ResourceModule& module) {
     auto& chain = Chain();
@@ -60,9 +62,13 @@ void RemoveFromResourceChain(const ResourceModule& module) {
     if (last != chain.rend()) chain.erase(std::next(last).base());
 }
 
-const DialogTemplate* FindTemplate(int id) { return FindInChain(&ResourceModule::templates, id); }
+const DialogTemplate* FindTemplate(int id) {
+    return FindInChain(&ResourceModule::templates, id);
+}
 
-const ImageResource* FindImage(int id) { return FindInChain(&ResourceModule::images, id); }
+const ImageResource* FindImage(int id) {
+    return FindInChain(&ResourceModule::images, id);
+}
 
 }  // namespace kv
 

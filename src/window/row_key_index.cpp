@@ -51,11 +51,14 @@ public:
         }
     }
     void OfferBlock(Block& block) {
-        if (!block.known) block.Learn();
-        Offer(block.least, block.leastId);
-        if (block.least <= after_ && block.greatest > after_) {
-            OfferPart(block, 0, block.entries.size());
-        }
+        if (block.byLabel.empty()) block.SortByLabel();
+        const std::vector<Labelled>& rows = block.byLabel;
+        Offer(rows.front().label, rows.front().id);
+        if (rows.front().label > after_ || rows.back().label <= after_) return;
+        const auto next =
+            std::upper_bound(rows.begin(), rows.end(), after_,
+                             [](Label label, const Labelled& row) { return label < row.label; });
+        Offer(next->label, next->id);
     }
     void OfferPart(const Block& block, std::size_t from, std::size_t to) {
         for (std::size_t i = from; i < to; ++i)
@@ -74,14 +77,39 @@ private:
     std::optional<RowId> leastId_;
 };
 
-void RowKeyIndex::Block::Learn() {
-    const auto [low, high] =
-        std::minmax_element(entries.begin(), entries.end(),
-                            [](const Entry& a, const Entry& b) { return a.label < b.label; });
-    least = low->label;
-    leastId = low->id;
-    greatest = high->label;
-    known = true;
+void RowKeyIndex::Block::SortByLabel() {
+    byLabel.clear();
+    byLabel.reserve(kBlockSize);
+    for (const Entry& entry : entries)
+        byLabel.push_back({entry.label, entry.id});
+    std::sort(byLabel.begin(), byLabel.end(),
+              [](const Labelled& a, const Labelled& b) { return a.label < b.label; });
+}
+
+std::vector<RowKeyIndex::Labelled>::iterator RowKeyIndex::Block::PlaceByLabel(Label label) {
+    return std::lower_bound(byLabel.begin(), byLabel.end(), label,
+                            [](const Labelled& row, Label value) { return row.label < value; });
+}
+
+void RowKeyIndex::Block::Insert(std::size_t offset, const Entry& entry) {
+    if (!byLabel.empty()) byLabel.insert(PlaceByLabel(entry.label), {entry.label, entry.id});
+    entries.insert(entries.begin() + static_cast<std::ptrdiff_t>(offset), entry);
+}
+
+void RowKeyIndex::Block::Erase(std::size_t offset) {
+    if (!byLabel.empty()) byLabel.erase(PlaceByLabel(entries[offset].label));
+    entries.erase(entries.begin() + static_cast<std::ptrdiff_t>(offset));
+}
+
+/// Takes away the upper half.
+std::unique_ptr<RowKeyIndex::Block> RowKeyIndex::Block::SplitOff() {
+    auto upper = std::make_unique<Block>();
+    const auto middle = entries.begin() + static_cast<std::ptrdiff_t>(entries.size() / 2);
+    upper->entries.reserve(kBlockSize);
+    upper->entries.assign(middle, entries.end());
+    entries.erase(middle, entries.end());
+    byLabel.clear();
+    return upper;
 }
 
 RowKeyIndex::RowKeyIndex(const RowStore& store, const RowOrder& order)
@@ -225,7 +253,7 @@ void RowKeyIndex::Relabel() {
     for (const auto& block : blocks_) {
         for (Entry& entry : block->entries)
             entry.label = labels_[entry.id];
-        block->known = false;
+        block->byLabel.clear();
     }
 }
 
@@ -233,38 +261,21 @@ void RowKeyIndex::InsertEntry(const Entry& entry) {
     if (blocks_.empty()) blocks_.push_back(std::make_unique<Block>());
     Spot spot = LowerBound({store_.Text(entry.id), entry.head, entry.label});
     if (blocks_[spot.block]->entries.size() >= kBlockSize) {
-        auto upper = std::make_unique<Block>();
-        std::vector<Entry>& lower = blocks_[spot.block]->entries;
-        const auto middle = lower.begin() + kBlockSize / 2;
-        upper->entries.reserve(kBlockSize);
-        upper->entries.assign(middle, lower.end());
-        lower.erase(middle, lower.end());
-        blocks_[spot.block]->known = false;
-        const bool goesUp = spot.offset > lower.size();
-        const std::size_t half = lower.size();
+        auto upper = blocks_[spot.block]->SplitOff();
+        const std::size_t half = blocks_[spot.block]->entries.size();
         blocks_.insert(blocks_.begin() + static_cast<std::ptrdiff_t>(spot.block) + 1,
                        std::move(upper));
-        if (goesUp) spot = {spot.block + 1, spot.offset - half};
+        if (spot.offset > half) spot = {spot.block + 1, spot.offset - half};
     }
-    Block& block = *blocks_[spot.block];
-    block.entries.insert(block.entries.begin() + static_cast<std::ptrdiff_t>(spot.offset), entry);
-    if (!block.known) return;
-    if (entry.label < block.least) {
-        block.least = entry.label;
-        block.leastId = entry.id;
-    }
-    block.greatest = std::max(block.greatest, entry.label);
+    blocks_[spot.block]->Insert(spot.offset, entry);
 }
 
 void RowKeyIndex::Removed(RowId id) {
     const std::string_view text = store_.Text(id);
     Spot spot = LowerBound({text, HeadOf(text), labels_[id]});
     if (spot.offset == blocks_[spot.block]->entries.size()) spot = {spot.block + 1, 0};
-    Block& block = *blocks_[spot.block];
-    const Label label = labels_[id];
-    if (label == block.least || label == block.greatest) block.known = false;
-    block.entries.erase(block.entries.begin() + static_cast<std::ptrdiff_t>(spot.offset));
-    if (block.entries.empty()) {
+    blocks_[spot.block]->Erase(spot.offset);
+    if (blocks_[spot.block]->entries.empty()) {
         blocks_.erase(blocks_.begin() + static_cast<std::ptrdiff_t>(spot.block));
     }
     if (lastInserted_ == id) lastInserted_.reset();

@@ -15,8 +15,8 @@ namespace kv {
 /// one, and of those the first behind a given row.
 ///
 /// Each row has a label, which grows with its place and stays while other rows come and go. The
-/// entries lie in blocks in the order of texts, rows of one text in the order of labels; a block
-/// knows its least and greatest label, so that a search over many rows passes most blocks by.
+/// entries lie in blocks in the order of texts, rows of one text in the order of labels. Of a block
+/// that a search takes in as a whole it needs only the labels in their own order.
 class RowKeyIndex {
 public:
     /// Indexes all rows. Both must outlive the index.
@@ -41,15 +41,22 @@ private:
         Label label;
         RowId id;
     };
+    struct Labelled {
+        Label label;
+        RowId id;
+    };
     struct Block {
         std::vector<Entry> entries;
-        // Good while `known`.
-        Label least = 0;
-        Label greatest = 0;
-        RowId leastId = 0;
-        bool known = false;
+        /// The same rows in the order of labels, once a search has asked for it.
+        std::vector<Labelled> byLabel;
 
-        void Learn();
+        void SortByLabel();
+        void Insert(std::size_t offset, const Entry& entry);
+        void Erase(std::size_t offset);
+        std::unique_ptr<Block> SplitOff();
+
+    private:
+        std::vector<Labelled>::iterator PlaceByLabel(Label label);
     };
     struct Spot {
         std::size_t block = 0;

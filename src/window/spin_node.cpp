@@ -2,12 +2,36 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
+
+#include "window/numbers.h"
+#include "window/text.h"
 
 namespace kv {
 
+namespace {
+
+// Kinds of scrolling that a step is told as.
+constexpr int kThumbPosition = 4;
+constexpr int kEndScroll = 8;
+
+/// The number as a person reads it, with a comma between each three digits.
+std::string WithCommas(int number) {
+    std::string text = std::to_string(number);
+    const int first = number < 0 ? 1 : 0;
+    for (int at = static_cast<int>(text.size()) - 3; at > first; at -= 3) {
+        text.insert(static_cast<std::size_t>(at), 1, ',');
+    }
+    return text;
+}
+
+}  // namespace
+
 Node* SpinNode::Buddy() const {
-    const auto buddy = buddy_.lock();
-    if (buddy && !buddy->Destroyed()) return buddy.get();
+    if (buddy_) {
+        const auto buddy = buddy_->lock();
+        return buddy && !buddy->Destroyed() ? buddy.get() : nullptr;
+    }
     if (!HasStyle(UDS_AUTOBUDDY) || !Parent()) return nullptr;
     const auto& siblings = Parent()->Children();
     const auto at = std::find_if(siblings.begin(), siblings.end(),
@@ -15,38 +39,59 @@ Node* SpinNode::Buddy() const {
     return at == siblings.begin() || at == siblings.end() ? nullptr : std::prev(at)->get();
 }
 
+LRESULT SpinNode::SetBuddy(Node* buddy) {
+    Node* former = Buddy();
+    buddy_ = buddy ? buddy->weak_from_this() : std::weak_ptr<Node>();
+    return reinterpret_cast<LRESULT>(former);
+}
+
 void SpinNode::SetPosition(int position) {
-    position_ = std::clamp(position, std::min(lower_, upper_), std::max(lower_, upper_));
+    const auto [least, most] = std::minmax(lower_, upper_);
+    position_ = std::clamp(position, least, most);
     Tell(Change::kPosition);
-    Node* buddy = Buddy();
-    if (buddy && HasStyle(UDS_SETBUDDYINT)) {
-        Send(*buddy, WM_SETTEXT, 0, AsParam(std::to_string(position_).c_str()));
-    }
+    Node* buddy = HasStyle(UDS_SETBUDDYINT) ? Buddy() : nullptr;
+    if (!buddy) return;
+    const std::string text =
+        HasStyle(UDS_NOTHOUSANDS) ? std::to_string(position_) : WithCommas(position_);
+    if (text != buddy->Text()) Send(*buddy, WM_SETTEXT, 0, AsParam(text.c_str()));
+}
+
+bool SpinNode::ReadBuddy() {
+    Node* buddy = HasStyle(UDS_SETBUDDYINT) ? Buddy() : nullptr;
+    if (!buddy) return true;
+    const std::string text = TrimSpace(ReplaceAll(buddy->Text(), ",", ""));
+    std::size_t end = 0;
+    const auto number = ScanInteger(text, &end);
+    const auto [least, most] = std::minmax(lower_, upper_);
+    if (!number || end != text.size() || *number < least || *number > most) return false;
+    position_ = *number;
+    return true;
 }
 
 int SpinNode::Stepped(int delta) const {
-    const int least = std::min(lower_, upper_);
-    const int most = std::max(lower_, upper_);
+    const auto [least, most] = std::minmax(lower_, upper_);
     const long long next = static_cast<long long>(position_) + delta;
     if (next >= least && next <= most) return static_cast<int>(next);
-    if (HasStyle(UDS_WRAP)) return next > most ? least : most;
-    return next > most ? most : least;
+    const bool above = next > most;
+    return above == HasStyle(UDS_WRAP) ? least : most;
 }
 
 void SpinNode::UserStep(bool up) {
     const auto keep = shared_from_this();
-    // The upper end may be the smaller number, and then up counts down.
+    ReadBuddy();
     const int delta = (up ? 1 : -1) * (upper_ >= lower_ ? 1 : -1);
     NMUPDOWN notice{{this, Id(), UDN_DELTAPOS}, position_, delta};
-    LRESULT refused = 0;
     if (Parent()) {
-        refused = Send(*Parent(), WM_NOTIFY, static_cast<WPARAM>(Id()),
-                       reinterpret_cast<LPARAM>(&notice));
+        const LRESULT refused = Send(*Parent(), WM_NOTIFY, static_cast<WPARAM>(Id()),
+                                     reinterpret_cast<LPARAM>(&notice));
+        if (refused || Destroyed()) return;
     }
-    if (refused || Destroyed()) return;
     SetPosition(Stepped(notice.iDelta));
-    if (!Parent()) return;
-    Send(*Parent(), WM_VSCROLL, MAKEWPARAM(4, position_), reinterpret_cast<LPARAM>(this));
+    const UINT message = HasStyle(UDS_HORZ) ? WM_HSCROLL : WM_VSCROLL;
+    for (const int code : {kThumbPosition, kEndScroll}) {
+        if (!Parent() || Destroyed()) return;
+        Send(*Parent(), message, MAKEWPARAM(code, position_), reinterpret_cast<LPARAM>(this));
+    }
 }
 
 LRESULT SpinNode::Process(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -57,22 +102,21 @@ LRESULT SpinNode::Process(UINT message, WPARAM wParam, LPARAM lParam) {
             Tell(Change::kRange);
             return 0;
         case UDM_GETRANGE32:
-            *reinterpret_cast<int*>(wParam) = lower_;
-            *reinterpret_cast<int*>(lParam) = upper_;
+            if (wParam) *reinterpret_cast<int*>(wParam) = lower_;
+            if (lParam) *reinterpret_cast<int*>(lParam) = upper_;
             return 0;
         case UDM_SETPOS32: {
             const int former = position_;
             SetPosition(static_cast<int>(lParam));
             return former;
         }
-        case UDM_GETPOS32:
+        case UDM_GETPOS32: {
+            const bool read = ReadBuddy();
+            if (lParam) *reinterpret_cast<BOOL*>(lParam) = !read;
             return position_;
-        case UDM_SETBUDDY: {
-            Node* former = Buddy();
-            auto* buddy = reinterpret_cast<Node*>(wParam);
-            buddy_ = buddy ? buddy->weak_from_this() : std::weak_ptr<Node>();
-            return reinterpret_cast<LRESULT>(former);
         }
+        case UDM_SETBUDDY:
+            return SetBuddy(reinterpret_cast<Node*>(wParam));
         case UDM_GETBUDDY:
             return reinterpret_cast<LRESULT>(Buddy());
         default:

@@ -1,5 +1,6 @@
 #include "window/tool_bar.h"
 
+#include <memory>
 #include <vector>
 
 #include "window/resources.h"
@@ -9,17 +10,33 @@ namespace {
 /// The state of one button's command.
 class ToolCmdUI : public CCmdUI {
 public:
-    explicit ToolCmdUI(const kv::ToolButton& button) : m_button(button) {
-        m_nID = static_cast<UINT>(button.id);
+    ToolCmdUI(kv::ToolBarNode& bar, int index) : bar_(bar), index_(index) {
+        m_nID = static_cast<UINT>(Button().id);
     }
     void Enable(BOOL on) override {
         m_bEnableChanged = true;
-        m_button.enabled = on;
+        kv::ToolButton button = Button();
+        button.enabled = on != FALSE;
+        bar_.SetButton(index_, std::move(button));
     }
-    void SetCheck(int check) override { m_button.checked = check != 0; }
-    void SetText(const char*) override {}
+    void SetCheck(int check) override {
+        kv::ToolButton button = Button();
+        button.checked = check != 0;
+        bar_.SetButton(index_, std::move(button));
+    }
+    void SetText(const char*) override {
+        // A button's text is its label and not its command's.
+    }
 
-    kv::ToolButton m_button;
+private:
+    /// A handler may have taken the buttons away.
+    kv::ToolButton Button() const {
+        return bar_.Has(index_) ? bar_.Buttons()[static_cast<std::size_t>(index_)]
+                                : kv::ToolButton();
+    }
+
+    kv::ToolBarNode& bar_;
+    int index_;
 };
 
 }  // namespace
@@ -29,7 +46,9 @@ BOOL CToolBar::Create(CWnd* parent, DWORD style, UINT id) {
 }
 
 BOOL CToolBar::CreateEx(CWnd* parent, DWORD toolStyle, DWORD style, UINT id) {
-    return CreateBarWindow(parent, kv::NodeClass::kToolBar, style | toolStyle, id);
+    if (!CreateBarWindow(parent, kv::NodeClass::kToolBar, style, id)) return FALSE;
+    ModifyStyle(0, toolStyle);
+    return TRUE;
 }
 
 kv::ToolBarNode* CToolBar::Bar() const { return dynamic_cast<kv::ToolBarNode*>(m_hWnd); }
@@ -40,8 +59,15 @@ BOOL CToolBar::LoadBitmap(UINT bitmapId) {
     return TRUE;
 }
 
+BOOL CToolBar::LoadToolBar(UINT resourceId) {
+    if (!LoadBitmap(resourceId)) return FALSE;
+    const int height = kv::FindImage(static_cast<int>(resourceId))->height;
+    Bar()->SetSizes(Bar()->ButtonSize(), {Bar()->ImageSize().cx, height});
+    return TRUE;
+}
+
 BOOL CToolBar::SetButtons(const UINT* ids, int count) {
-    if (!Bar()) return FALSE;
+    if (!Bar() || count < 0) return FALSE;
     std::vector<kv::ToolButton> buttons(static_cast<std::size_t>(count));
     int image = 0;
     for (int index = 0; ids && index < count; ++index) {
@@ -56,7 +82,7 @@ BOOL CToolBar::SetButtons(const UINT* ids, int count) {
 int CToolBar::GetCount() const { return Bar() ? static_cast<int>(Bar()->Buttons().size()) : 0; }
 
 UINT CToolBar::GetItemID(int index) const {
-    if (index < 0 || index >= GetCount()) return 0;
+    if (!Bar() || !Bar()->Has(index)) return 0;
     return static_cast<UINT>(Bar()->Buttons()[static_cast<std::size_t>(index)].id);
 }
 
@@ -65,43 +91,53 @@ int CToolBar::CommandToIndex(UINT id) const {
 }
 
 BOOL CToolBar::SetButtonText(int index, const char* text) {
-    if (index < 0 || index >= GetCount()) return FALSE;
+    if (!Bar() || !Bar()->Has(index)) return FALSE;
     kv::ToolButton button = Bar()->Buttons()[static_cast<std::size_t>(index)];
-    button.text = text;
-    Bar()->SetButton(index, std::move(button));
-    return TRUE;
+    button.text = text ? text : "";
+    return Bar()->SetButton(index, std::move(button));
 }
 
 std::string CToolBar::GetButtonText(int index) const {
-    if (index < 0 || index >= GetCount()) return {};
+    if (!Bar() || !Bar()->Has(index)) return {};
     return Bar()->Buttons()[static_cast<std::size_t>(index)].text;
 }
 
 void CToolBar::GetItemRect(int index, CRect* rect) const {
-    *rect = index >= 0 && index < GetCount() ? Bar()->ButtonRect(index) : CRect{};
+    *rect = Bar() ? Bar()->ButtonRect(index) : CRect{};
 }
 
 void CToolBar::SetSizes(CSize button, CSize image) {
     if (Bar()) Bar()->SetSizes(button, image);
 }
 
+CSize CToolBar::GetNaturalSize(int index) const {
+    return Bar() ? Bar()->NaturalSize(index) : CSize{};
+}
+
+CSize CToolBar::GetMaxSize() const { return Bar() ? Bar()->MaxSize() : CSize{}; }
+
+int CToolBar::GetRows() const { return Bar() ? Bar()->Rows() : 0; }
+
+void CToolBar::SetRows(int rows) {
+    if (Bar()) Bar()->SetRows(rows);
+}
+
+int CToolBar::GetHeightAt(int width) const {
+    return Bar() ? Bar()->RowsAt(width) * Bar()->ButtonSize().cy : 0;
+}
+
 void CToolBar::OnUpdateCmdUI(CCmdTarget* target, BOOL disableIfNoHandler) {
-    for (int index = 0; index < GetCount(); ++index) {
-        const kv::ToolButton& present = Bar()->Buttons()[static_cast<std::size_t>(index)];
-        if (present.id == 0) continue;
-        ToolCmdUI state(present);
-        const bool handled =
-            OnCmdMsg(state.m_nID, CN_UPDATE_COMMAND_UI, &state, nullptr) ||
-            (target && target->OnCmdMsg(state.m_nID, CN_UPDATE_COMMAND_UI, &state, nullptr));
-        if (!handled && disableIfNoHandler) {
-            // A command that somebody carries out is on; one that nobody knows is off.
-            auto* window = dynamic_cast<CWnd*>(target);
-            const bool known =
-                window && window->GetMessageMap().Find(kv::MessageEntry::Kind::kCommand, CN_COMMAND,
-                                                       static_cast<int>(state.m_nID));
-            state.Enable(known);
-        }
-        Bar()->SetButton(index, state.m_button);
+    if (!Bar()) return;
+    const auto bar = std::static_pointer_cast<kv::ToolBarNode>(Bar()->shared_from_this());
+    for (int index = 0; bar->Handle() == this && bar->Has(index); ++index) {
+        if (bar->Buttons()[static_cast<std::size_t>(index)].id == 0) continue;
+        ToolCmdUI state(*bar, index);
+        const auto updates = [&state](CCmdTarget* each) {
+            return each && each->OnCmdMsg(state.m_nID, CN_UPDATE_COMMAND_UI, &state, nullptr);
+        };
+        if (updates(this) || updates(target) || !disableIfNoHandler) continue;
+        // A command that somebody carries out is on; one that nobody knows is off.
+        state.Enable(target && target->OnCmdMsg(state.m_nID, CN_COMMAND, nullptr, &state));
     }
 }
 

@@ -20,17 +20,24 @@ bool TypeSearch::Running() const {
     return !typed_.empty() && now >= last_ && now - last_ < kPause;
 }
 
-int TypeSearch::Type(char ch, const RowList& rows, int current) {
+int TypeSearch::Type(char ch, const Find& find, int current) {
     if (!Running()) typed_.clear();
     last_ = Now();
     typed_ += ch;
     const bool oneCharacter = typed_.find_first_not_of(ch) == std::string::npos;
     if (typed_.size() > 1) {
         // The row that fits what was typed so far may go on to fit.
-        const int found = rows.FindPrefix(typed_, current - 1);
+        const int found = find(typed_, current - 1);
         if (found >= 0 || !oneCharacter) return found;
     }
-    return rows.FindPrefix(std::string(1, ch), current);
+    return find(std::string(1, ch), current);
+}
+
+int TypeSearch::Type(char ch, const RowList& rows, int current) {
+    const auto find = [&rows](const std::string& text, int behind) {
+        return rows.FindPrefix(text, behind);
+    };
+    return Type(ch, find, current);
 }
 
 }  // namespace kv

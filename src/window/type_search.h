@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
 #include <string>
 
 #include "window/row_list.h"
@@ -11,7 +12,11 @@ namespace kv {
 /// up one text; a single one, or one that is repeated, goes on to the next row that begins with it.
 class TypeSearch {
 public:
+    /// First row behind a row that begins with a text, going round; -1 for none.
+    using Find = std::function<int(const std::string& text, int behind)>;
+
     /// The row to go to, or -1. `current` is the row to start from, or -1.
+    int Type(char ch, const Find& find, int current);
     int Type(char ch, const RowList& rows, int current);
     /// Whether a next character would be added to a text.
     bool Running() const;

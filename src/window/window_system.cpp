@@ -32,7 +32,9 @@ Desktop& WindowSystem::GetDesktop() {
     return *fallbackDesktop_;
 }
 
-void WindowSystem::SetDesktop(Desktop* desktop) { desktop_ = desktop; }
+void WindowSystem::SetDesktop(Desktop* desktop) {
+    desktop_ = desktop;
+}
 
 void WindowSystem::ForgetDesktop(const Desktop& desktop) {
     if (desktop_ == &desktop) desktop_ = nullptr;
@@ -57,13 +59,15 @@ void WindowSystem::SendDestroy(Node& node) {
     node.destroying_ = true;
     Send(node, WM_DESTROY);
     const auto children = node.children_;
-    for (const auto& child : children) SendDestroy(*child);
+    for (const auto& child : children)
+        SendDestroy(*child);
 }
 
 void WindowSystem::Release(Node& node) {
     if (node.destroyed_) return;
     const auto children = node.children_;
-    for (const auto& child : children) Release(*child);
+    for (const auto& child : children)
+        Release(*child);
     node.destroyed_ = true;
     Forget(node);
     node.view_.reset();
@@ -189,7 +193,9 @@ Node* WindowSystem::ActiveWindow() const {
     return topLevels_.empty() ? nullptr : topLevels_.front().get();
 }
 
-void WindowSystem::PopModal(Node& node) { std::erase(modals_, &node); }
+void WindowSystem::PopModal(Node& node) {
+    std::erase(modals_, &node);
+}
 
 void WindowSystem::Post(Node& node, UINT message, WPARAM wParam, LPARAM lParam) {
     if (node.Destroyed()) return;
@@ -253,7 +259,8 @@ bool WindowSystem::Dispatch(MSG& message) {
 
 void WindowSystem::DispatchAll() {
     MSG message;
-    while (Take(message)) Dispatch(message);
+    while (Take(message))
+        Dispatch(message);
 }
 
 void WindowSystem::Pump() {
@@ -268,10 +275,12 @@ void WindowSystem::ShowWaiting() {
         const bool host = node.Host() == &node;
         if (host && node.Class() == NodeClass::kBar && !node.shown_) node.SetShown(true);
         const auto children = node.children_;
-        for (const auto& child : children) self(self, *child);
+        for (const auto& child : children)
+            self(self, *child);
     };
     const auto windows = topLevels_;
-    for (const auto& window : windows) show(show, *window);
+    for (const auto& window : windows)
+        show(show, *window);
 }
 
 bool WindowSystem::RunIdleUpdates() {

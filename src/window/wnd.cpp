@@ -29,7 +29,9 @@ void CCmdUI::SetText(const char* text) {
     if (m_pOther && m_pOther->WindowText() != text) m_pOther->SetWindowText(text);
 }
 
-BOOL CCmdTarget::OnCmdMsg(UINT, int, void*, void*) { return FALSE; }
+BOOL CCmdTarget::OnCmdMsg(UINT, int, void*, void*) {
+    return FALSE;
+}
 
 namespace {
 
@@ -57,7 +59,9 @@ CWnd::~CWnd() {
     if (m_hWnd) Detach();
 }
 
-CWnd* CWnd::FromHandle(HWND window) { return window ? window->AnyHandle() : nullptr; }
+CWnd* CWnd::FromHandle(HWND window) {
+    return window ? window->AnyHandle() : nullptr;
+}
 
 CWnd* CWnd::LookupHandle(HWND window) {
     if (!window) return nullptr;
@@ -83,7 +87,9 @@ HWND CWnd::Detach() {
     return window;
 }
 
-BOOL CWnd::SubclassWindow(HWND window) { return Attach(window); }
+BOOL CWnd::SubclassWindow(HWND window) {
+    return Attach(window);
+}
 
 BOOL CWnd::SubclassDlgItem(UINT id, CWnd* parent) {
     if (!parent || !parent->m_hWnd) return FALSE;
@@ -94,16 +100,22 @@ CWnd* CWnd::GetDlgItem(int id) const {
     return FromHandle(m_hWnd ? m_hWnd->FindChild(id) : nullptr);
 }
 
-bool CWnd::HasDlgItem(int id) const { return m_hWnd && m_hWnd->FindChild(id); }
+bool CWnd::HasDlgItem(int id) const {
+    return m_hWnd && m_hWnd->FindChild(id);
+}
 
 CWnd* CWnd::GetParent() const {
     if (!m_hWnd) return nullptr;
     return FromHandle(m_hWnd->Parent() ? m_hWnd->Parent() : m_hWnd->Owner());
 }
 
-CWnd* CWnd::GetTopLevelParent() const { return FromHandle(m_hWnd ? m_hWnd->Root() : nullptr); }
+CWnd* CWnd::GetTopLevelParent() const {
+    return FromHandle(m_hWnd ? m_hWnd->Root() : nullptr);
+}
 
-int CWnd::GetDlgCtrlID() const { return m_hWnd ? m_hWnd->Id() : 0; }
+int CWnd::GetDlgCtrlID() const {
+    return m_hWnd ? m_hWnd->Id() : 0;
+}
 
 int CWnd::SetDlgCtrlID(int id) {
     const int former = GetDlgCtrlID();
@@ -111,13 +123,21 @@ int CWnd::SetDlgCtrlID(int id) {
     return former;
 }
 
-void CWnd::SetWindowText(const char* text) { SendMessage(WM_SETTEXT, 0, kv::AsParam(text)); }
+void CWnd::SetWindowText(const char* text) {
+    SendMessage(WM_SETTEXT, 0, kv::AsParam(text));
+}
 
-void CWnd::GetWindowText(CString& text) const { text = WindowText().c_str(); }
+void CWnd::GetWindowText(CString& text) const {
+    text = WindowText().c_str();
+}
 
-std::string CWnd::WindowText() const { return m_hWnd ? m_hWnd->Text() : std::string(); }
+std::string CWnd::WindowText() const {
+    return m_hWnd ? m_hWnd->Text() : std::string();
+}
 
-int CWnd::GetWindowTextLength() const { return static_cast<int>(SendMessage(WM_GETTEXTLENGTH)); }
+int CWnd::GetWindowTextLength() const {
+    return static_cast<int>(SendMessage(WM_GETTEXTLENGTH));
+}
 
 BOOL CWnd::EnableWindow(BOOL enable) {
     if (!m_hWnd) return FALSE;
@@ -126,7 +146,9 @@ BOOL CWnd::EnableWindow(BOOL enable) {
     return wasDisabled;
 }
 
-BOOL CWnd::IsWindowEnabled() const { return m_hWnd && m_hWnd->Enabled(); }
+BOOL CWnd::IsWindowEnabled() const {
+    return m_hWnd && m_hWnd->Enabled();
+}
 
 BOOL CWnd::ShowWindow(int show) {
     if (!m_hWnd) return FALSE;
@@ -142,9 +164,13 @@ BOOL CWnd::ShowWindow(int show) {
     return wasVisible;
 }
 
-BOOL CWnd::IsWindowVisible() const { return m_hWnd && m_hWnd->ReallyVisible(); }
+BOOL CWnd::IsWindowVisible() const {
+    return m_hWnd && m_hWnd->ReallyVisible();
+}
 
-DWORD CWnd::GetStyle() const { return m_hWnd ? m_hWnd->Style() : 0; }
+DWORD CWnd::GetStyle() const {
+    return m_hWnd ? m_hWnd->Style() : 0;
+}
 
 BOOL CWnd::ModifyStyle(DWORD remove, DWORD add, UINT) {
     if (!m_hWnd) return FALSE;
@@ -187,7 +213,9 @@ BOOL CWnd::SetWindowPos(const CWnd* after, int x, int y, int width, int height, 
     return TRUE;
 }
 
-void CWnd::GetWindowRect(CRect* rect) const { *rect = m_hWnd ? m_hWnd->ScreenRect() : CRect{}; }
+void CWnd::GetWindowRect(CRect* rect) const {
+    *rect = m_hWnd ? m_hWnd->ScreenRect() : CRect{};
+}
 
 void CWnd::GetClientRect(CRect* rect) const {
     *rect = m_hWnd ? CRect{0, 0, m_hWnd->Rect().Width(), m_hWnd->Rect().Height()} : CRect{};
@@ -229,9 +257,13 @@ CWnd* CWnd::SetFocus() {
     return former;
 }
 
-CWnd* CWnd::GetFocus() { return FromHandle(WindowSystem::Get().Focus()); }
+CWnd* CWnd::GetFocus() {
+    return FromHandle(WindowSystem::Get().Focus());
+}
 
-CWnd* CWnd::GetActiveWindow() { return FromHandle(WindowSystem::Get().ActiveWindow()); }
+CWnd* CWnd::GetActiveWindow() {
+    return FromHandle(WindowSystem::Get().ActiveWindow());
+}
 
 void CWnd::SetDlgItemText(int id, const char* text) {
     SendDlgItemMessage(id, WM_SETTEXT, 0, kv::AsParam(text));
@@ -260,22 +292,25 @@ UINT CWnd::GetDlgItemInt(int id, BOOL* translated, BOOL isSigned) const {
     const char* last = text.data() + text.size();
     int value = 0;
     UINT plain = 0;
-    const std::errc error = isSigned ? std::from_chars(first, last, value).ec
-                                     : std::from_chars(first, last, plain).ec;
+    const std::errc error =
+        isSigned ? std::from_chars(first, last, value).ec : std::from_chars(first, last, plain).ec;
     const bool read = error == std::errc();
     if (translated) *translated = read;
     if (!read) return 0;
     return isSigned ? static_cast<UINT>(value) : plain;
 }
 
-void CWnd::CheckDlgButton(int id, UINT check) { SendDlgItemMessage(id, BM_SETCHECK, check); }
+void CWnd::CheckDlgButton(int id, UINT check) {
+    SendDlgItemMessage(id, BM_SETCHECK, check);
+}
 
 UINT CWnd::IsDlgButtonChecked(int id) const {
     return static_cast<UINT>(SendDlgItemMessage(id, BM_GETCHECK));
 }
 
 void CWnd::CheckRadioButton(int first, int last, int checked) {
-    for (int id = first; id <= last; ++id) CheckDlgButton(id, id == checked);
+    for (int id = first; id <= last; ++id)
+        CheckDlgButton(id, id == checked);
 }
 
 LRESULT CWnd::SendMessage(UINT message, WPARAM wParam, LPARAM lParam) const {
@@ -320,7 +355,9 @@ BOOL CWnd::DestroyWindow() {
     return TRUE;
 }
 
-BOOL CWnd::PreTranslateMessage(MSG*) { return FALSE; }
+BOOL CWnd::PreTranslateMessage(MSG*) {
+    return FALSE;
+}
 
 LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     const HWND window = m_hWnd;

@@ -4,11 +4,8 @@
 #include <gtest/gtest.h>
 #include <sqlite3.h>
 
-#include <algorithm>
-#include <chrono>
 #include <map>
 #include <memory>
-#include <ostream>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -147,6 +144,7 @@ class DialectChange : public testing::TestWithParam<DialectForm> {
 protected:
     static Kind ExpectedKind() {
         if (GetParam().name.starts_with("Grant")) return Kind::kGrant;
+        if (GetParam().name == "Commit") return Kind::kCommit;
         return GetParam().name.starts_with("Create") ? Kind::kDefine : Kind::kChange;
     }
 };

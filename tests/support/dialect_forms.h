@@ -22,8 +22,8 @@ struct DialectForm {
 /// engine. The tables stand in the schema in force.
 extern const char* const kDialectTables;
 
-/// Every form of query that the dialogs build, on the owner "NORVADON" and the dataset
-/// "gulf_mexico".
+/// Every form of query that the dialogs build (see sql_texts.h), on the owner "NORVADON" and the
+/// dataset "gulf_mexico".
 const std::vector<DialectForm>& DialectQueries();
 
 /// Every other statement that they build. Each is meant to run on fresh tables.

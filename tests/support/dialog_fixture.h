@@ -123,9 +123,28 @@ public:
 inline int FocusedId() {
     kv::Node* node = kv::WindowSystem::Get().Focus();
     if (!node) return 0;
-    if (node->Parent() && node->Parent()->Class() == kv::NodeClass::kComboBox) node = node->Parent();
+    if (node->Parent() && node->Parent()->Class() == kv::NodeClass::kComboBox)
+        node = node->Parent();
     return node->Id();
 }
+
+/// A desktop on which the next modal dialog is acted on by a function of the test, and the script
+/// begins behind that.
+class TestDesktop : public kv::HeadlessDesktop {
+public:
+    void ActInNextDialog(std::function<void(kv::User&)> act) { act_ = std::move(act); }
+
+    void RunModal(kv::Node& dialog) override {
+        if (!act_) return HeadlessDesktop::RunModal(dialog);
+        const auto act = std::exchange(act_, nullptr);
+        kv::User user(dialog, [this](const std::string& words) { Fail(words); });
+        act(user);
+        kv::WindowSystem::Get().Settle();
+    }
+
+private:
+    std::function<void(kv::User&)> act_;
+};
 
 /// A test on a desktop without a screen, whose script has to be used up.
 class DialogTest : public ::testing::Test {
@@ -133,18 +152,19 @@ protected:
     DialogTest() { kv::WindowSystem::Get().SetDesktop(&desktop); }
     void TearDown() override { EXPECT_EQ(desktop.ScenesLeft(), 0); }
 
-    /// Runs a dialog modally while a person does `act` in it; ends it behind that if it is still open.
+    /// Runs a dialog modally while a person does `act` in it; ends it behind that if it is still
+    /// open.
     int Run(CDialog& dialog, const std::function<void(kv::User&)>& act) {
-        desktop.ExpectWindow("", [act](kv::User& user) {
+        desktop.ActInNextDialog([act](kv::User& user) {
             act(user);
             if (user.Open()) static_cast<CDialog&>(user.Window()).EndDialog(kLeftOpen);
         });
-        return static_cast<int>(dialog.DoModal());
+        return dialog.DoModal();
     }
     /// What `Run` answers for a dialog that the person did not end.
     static constexpr int kLeftOpen = 4711;
 
-    kv::HeadlessDesktop desktop;
+    TestDesktop desktop;
 };
 
 }  // namespace test

@@ -43,7 +43,8 @@ public:
     /// The codes alone.
     std::vector<int> TakeCodes() {
         std::vector<int> codes;
-        for (const Notice& notice : Take()) codes.push_back(notice.code);
+        for (const Notice& notice : Take())
+            codes.push_back(notice.code);
         return codes;
     }
 

@@ -208,18 +208,17 @@ void ExchangeChars(CDataExchange* exchange) {
 
 INSTANTIATE_TEST_SUITE_P(
     , DataExchangeWords,
-    testing::Values(Words{"NoNumber", "12a", "Please enter a number.", ExchangeDouble},
-                    Words{"EmptyIsNoNumber", "", "Please enter a number.", ExchangeDouble},
-                    Words{"NoInteger", "1.5", "Please enter an integer.", ExchangeInt},
-                    Words{"EmptyIsNoInteger", "", "Please enter an integer.", ExchangeInt},
-                    Words{"BelowTheRange", "-0.6",
-                          "Please enter a number between -0.5 and 360.", ExchangeDouble},
-                    Words{"AboveTheRange", "360.001",
-                          "Please enter a number between -0.5 and 360.", ExchangeDouble},
-                    Words{"IntegerOutOfRange", "32", "Please enter an integer between 1 and 31.",
-                          ExchangeInt},
-                    Words{"TooLong", "12345", "Please enter no more than 4 characters.",
-                          ExchangeChars}),
+    testing::Values(
+        Words{"NoNumber", "12a", "Please enter a number.", ExchangeDouble},
+        Words{"EmptyIsNoNumber", "", "Please enter a number.", ExchangeDouble},
+        Words{"NoInteger", "1.5", "Please enter an integer.", ExchangeInt},
+        Words{"EmptyIsNoInteger", "", "Please enter an integer.", ExchangeInt},
+        Words{"BelowTheRange", "-0.6", "Please enter a number between -0.5 and 360.",
+              ExchangeDouble},
+        Words{"AboveTheRange", "360.001", "Please enter a number between -0.5 and 360.",
+              ExchangeDouble},
+        Words{"IntegerOutOfRange", "32", "Please enter an integer between 1 and 31.", ExchangeInt},
+        Words{"TooLong", "12345", "Please enter no more than 4 characters.", ExchangeChars}),
     [](const auto& each) { return each.param.name; });
 
 TEST_F(DataExchange, BothEndsOfARangeAreInIt) {

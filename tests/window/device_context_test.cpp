@@ -178,6 +178,15 @@ TEST_F(DeviceContext, AnEllipseReachesTheSidesOfItsRectangle) {
     EXPECT_EQ(At(10, 10), kWhite);
 }
 
+TEST_F(DeviceContext, AnEllipseWithoutAPenIsAPixelLess) {
+    CBrush red(kRed);
+    dc_.SelectObject(&red);
+    dc_.SelectStockObject(NULL_PEN);
+    dc_.Ellipse(10, 10, 31, 21);
+    EXPECT_EQ(Columns(kRed), std::make_pair(10, 29));
+    EXPECT_EQ(Rows(kRed), std::make_pair(10, 19));
+}
+
 TEST_F(DeviceContext, APolygonIsClosed) {
     constexpr CPoint kCorners[] = {{0, 0}, {4, 0}, {4, 4}, {0, 4}};
     CBrush red(kRed);
@@ -363,6 +372,10 @@ TEST_F(DeviceContext, CopiesABitmapFromMemory) {
     EXPECT_EQ(Drawn(4, 3), ".r..\n..b.\n....\n");
     EXPECT_TRUE(dc_.StretchBlt(0, 2, 4, 2, &memory, 0, 0, 2, 1, SRCCOPY));
     EXPECT_EQ(Drawn(5, 4), ".r...\n..b..\nrr...\nrr...\n");
+
+    memory.SetViewportOrg(1, 0);
+    EXPECT_TRUE(dc_.BitBlt(0, 3, 1, 2, &memory, 0, 0, SRCCOPY));
+    EXPECT_EQ(At(0, 4), kBlue);
 
     memory.SelectObject(former);
     EXPECT_FALSE(dc_.BitBlt(0, 0, 2, 2, &memory, 0, 0, SRCCOPY));

@@ -276,6 +276,17 @@ TEST_F(DrawnFileDialog, AsksBeforeAFileIsReplaced) {
     EXPECT_EQ(dialog.GetPathName(), data_ + "\\a.txt");
 }
 
+TEST_F(DrawnFileDialog, OpensAFileThatIsThereWithoutAsking) {
+    DrawnDialog dialog(TRUE, OFN_OVERWRITEPROMPT | OFN_FILEMUSTEXIST | OFN_PATHMUSTEXIST);
+    dialog.m_ofn.lpstrInitialDir = data_.c_str();
+    desktop_.ExpectWindow("Open", [](kv::User& user) {
+        user.Type(kName, "deep\\c.txt");
+        user.Click(IDOK);
+    });
+    EXPECT_EQ(dialog.DoModal(), IDOK);
+    EXPECT_EQ(dialog.GetPathName(), data_ + "\\deep\\c.txt");
+}
+
 TEST_F(DrawnFileDialog, HasNoWayUpAtTheRoot) {
     kv::MapDrive('D', folder_.Native("data"));
     DrawnDialog dialog(TRUE);

@@ -302,7 +302,8 @@ TEST_F(Focus, AHolderThatIsEnabledAgainInTheSameHandlerKeepsIt) {
 
 TEST_F(Focus, WithNoTabStopLeftNobodyHasIt) {
     Run(dialog_, [&](kv::User&) {
-        for (const int id : {11, 12, 13, 20, 21, 30}) dialog_.GetDlgItem(id)->EnableWindow(FALSE);
+        for (const int id : {11, 12, 13, 20, 21, 30})
+            dialog_.GetDlgItem(id)->EnableWindow(FALSE);
         kv::WindowSystem::Get().Settle();
         EXPECT_EQ(kv::WindowSystem::Get().Focus(), nullptr);
         dialog_.GetDlgItem(12)->EnableWindow(TRUE);

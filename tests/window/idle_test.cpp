@@ -71,10 +71,10 @@ protected:
     }
 
     kv::WindowSystem& system_ = kv::WindowSystem::Get();
-    TestTemplate barTemplate_{{Row(11, kEdit), Row(12, kCheckBox, "Check"), Row(20, kPushButton),
-                               Row(21, kPushButton), Row(22, kPushButton), Row(23, kPushButton),
-                               Row(24, kPushButton)},
-                              200};
+    TestTemplate barTemplate_{
+        {Row(11, kEdit), Row(12, kCheckBox, "Check"), Row(20, kPushButton), Row(21, kPushButton),
+         Row(22, kPushButton), Row(23, kPushButton), Row(24, kPushButton)},
+        200};
     Frame frame_;
     Bar bar_;
 };

@@ -57,9 +57,8 @@ TEST_F(Keys, TabGoesRoundTheVisibleEnabledTabStops) {
 }
 
 TEST_F(Keys, TabStaysWhereThereIsNoOtherTabStop) {
-    Open({Row(11, kEdit), Row(40, kLabel)}, [](kv::User& user) {
-        EXPECT_THAT(Visit(user, "Tab", 2), ElementsAre(11, 11));
-    });
+    Open({Row(11, kEdit), Row(40, kLabel)},
+         [](kv::User& user) { EXPECT_THAT(Visit(user, "Tab", 2), ElementsAre(11, 11)); });
 }
 
 TEST_F(Keys, TabSelectsTheWholeTextOfAnEdit) {
@@ -112,9 +111,8 @@ TEST_F(Keys, TabEntersARadioGroupAtItsCheckedButtonAndLeavesItBehindIt) {
 }
 
 TEST_F(Keys, TabEntersAGroupWithNothingCheckedAtItsNearestButton) {
-    Open(TwoRadioGroups(), [](kv::User& user) {
-        EXPECT_THAT(Visit(user, "Tab", 3), ElementsAre(31, 41, 20));
-    });
+    Open(TwoRadioGroups(),
+         [](kv::User& user) { EXPECT_THAT(Visit(user, "Tab", 3), ElementsAre(31, 41, 20)); });
 }
 
 TEST_F(Keys, ArrowsGoRoundARadioGroupAndCheck) {
@@ -289,10 +287,12 @@ TEST_F(Keys, ReachADialogInWhichNothingHasTheFocus) {
     EXPECT_EQ(Open(rows, press("Enter")), IDOK);
     EXPECT_EQ(Open(rows, press("Escape")), IDCANCEL);
     EXPECT_EQ(Open(rows, press("Space")), kLeftOpen);
-    EXPECT_EQ(Open(rows, [](kv::User& user) {
-        user.Key(0, "Tab");
-        EXPECT_EQ(FocusedId(), 11);
-    }), kLeftOpen);
+    EXPECT_EQ(Open(rows,
+                   [](kv::User& user) {
+                       user.Key(0, "Tab");
+                       EXPECT_EQ(FocusedId(), 11);
+                   }),
+              kLeftOpen);
 }
 
 // Mnemonics.
@@ -307,7 +307,8 @@ TEST_F(Keys, TheMnemonicOfALabelReachesTheControlBehindIt) {
 }
 
 TEST_F(Keys, TheMnemonicOfALabelWhoseControlIsDisabledReachesNothing) {
-    Open({Row(11, kEdit), Row(40, kLabel, "&Area"), Row(12, kEdit, "", kv::kDisabled), Row(13, kEdit)},
+    Open({Row(11, kEdit), Row(40, kLabel, "&Area"), Row(12, kEdit, "", kv::kDisabled),
+          Row(13, kEdit)},
          [](kv::User&) {
              EXPECT_FALSE(kv::input::PressKey('A', {.alt = true}));
              EXPECT_EQ(FocusedId(), 11);
@@ -377,7 +378,8 @@ TEST_F(Keys, AControlThatWantsAllKeysGetsThem) {
     GreedyHandle greedy;
     Open({Row(11, kEdit), Row(12, kEdit), Row(IDOK, kDefaultButton, "OK")}, [&](kv::User& user) {
         greedy.SubclassDlgItem(11, &dialog_);
-        for (const char* key : {"Tab", "Enter", "Escape", "Down"}) user.Key(11, key);
+        for (const char* key : {"Tab", "Enter", "Escape", "Down"})
+            user.Key(11, key);
         EXPECT_TRUE(user.Open());
         EXPECT_EQ(FocusedId(), 11);
     });

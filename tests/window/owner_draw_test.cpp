@@ -263,6 +263,26 @@ TEST_F(OwnerDraw, ThenItsParentIsAsked) {
     parent.DestroyWindow();
 }
 
+TEST_F(OwnerDraw, TheParentsParentIsAskedOnlyBehindAComboBox) {
+    Colored outer;
+    outer.CreateNode(NodeClass::kFrame, "", WS_VISIBLE, {0, 0, 99, 99}, nullptr, 0);
+    Window bar;
+    bar.CreateNode(NodeClass::kBar, "", WS_CHILD | WS_VISIBLE, {0, 0, 90, 30}, &outer, 1);
+    Window label;
+    label.CreateNode(NodeClass::kStatic, "", WS_CHILD | WS_VISIBLE, {0, 0, 9, 9}, &bar, 2);
+    kv::AskColors(*label.m_hWnd, dc_);
+    EXPECT_TRUE(outer.asked.empty());
+
+    Window combo;
+    combo.CreateNode(NodeClass::kComboBox, "", WS_CHILD | WS_VISIBLE | CBS_DROPDOWN, {0, 0, 90, 12},
+                     &outer, 3);
+    kv::Node* edit = combo.m_hWnd->FocusTarget();
+    ASSERT_NE(edit, combo.m_hWnd);
+    EXPECT_EQ(kv::AskColors(*edit, dc_), (ControlColors{kRed, kBlue}));
+    EXPECT_EQ(outer.asked.size(), 1u);
+    outer.DestroyWindow();
+}
+
 TEST_F(OwnerDraw, WithoutABrushTheSystemsColoursStand) {
     Colored edit;
     edit.answers = false;

@@ -117,6 +117,35 @@ TEST(Raster, ADiagonalTakesOnePixelInEachRow) {
               "#...\n");
 }
 
+TEST(Raster, ALineTakesOnePixelInEachColumnOrRowWhicheverAreMore) {
+    Raster flat = White(5, 3);
+    flat.Line({0, 0}, {4, 2}, {kBlack, 1, {}, {}});
+    EXPECT_EQ(Drawn(flat),
+              "##...\n"
+              "..##.\n"
+              ".....\n");
+    Raster steep = White(3, 5);
+    steep.Line({0, 0}, {2, 4}, {kBlack, 1, {}, {}});
+    EXPECT_EQ(Drawn(steep),
+              "#..\n"
+              "#..\n"
+              ".#.\n"
+              ".#.\n"
+              "...\n");
+}
+
+TEST(Raster, ALineTakesTheSamePixelsOnTheWayBack) {
+    for (const CPoint end : {CPoint{6, 3}, CPoint{6, 5}, CPoint{3, 6}, CPoint{1, 6}}) {
+        Raster there = White(7, 7);
+        there.Line({0, 0}, end, {kBlack, 1, {}, {}});
+        there.Fill({end.x, end.y, end.x + 1, end.y + 1}, kBlack);
+        Raster back = White(7, 7);
+        back.Line(end, {0, 0}, {kBlack, 1, {}, {}});
+        back.Fill({0, 0, 1, 1}, kBlack);
+        EXPECT_EQ(Drawn(there), Drawn(back)) << end.x << "," << end.y;
+    }
+}
+
 TEST(Raster, DashesAndTheirGapsFollowTheLine) {
     constexpr int kDashes[] = {2, 1};
     Raster plain = White(7, 1);

@@ -18,8 +18,9 @@ constexpr int kSystemCommand = 0xF010;
 /// What came where, over all targets of a test.
 std::vector<std::string> g_trail;
 
-void Note(const std::string& words) { g_trail.push_back(words); }
-
+void Note(const std::string& words) {
+    g_trail.push_back(words);
+}
 
 class Base : public CDialog {
 public:
@@ -116,10 +117,9 @@ class Routing : public test::DialogTest {
 protected:
     Routing() { g_trail.clear(); }
 
-    TestTemplate dialogTemplate_{{Row(11, kEdit), Row(12, kEdit), Row(20, kPushButton, "Go"),
-                                  Row(21, kPushButton, "Other"), Row(30, kPushButton),
-                                  Row(31, kPushButton), Row(32, kPushButton),
-                                  Row(33, kPushButton)}};
+    TestTemplate dialogTemplate_{
+        {Row(11, kEdit), Row(12, kEdit), Row(20, kPushButton, "Go"), Row(21, kPushButton, "Other"),
+         Row(30, kPushButton), Row(31, kPushButton), Row(32, kPushButton), Row(33, kPushButton)}};
 };
 
 TEST_F(Routing, TheLookUpGoesFromTheDerivedClassToItsBase) {
@@ -144,7 +144,8 @@ TEST_F(Routing, AHandlerThatAnswersFalseHasNotTakenIt) {
 TEST_F(Routing, ARangeOfIdsGoesToOneHandlerWithTheId) {
     Base dialog(test::kTestTemplate);
     Run(dialog, [](kv::User& user) {
-        for (const int id : {30, 31, 32, 33}) user.Click(id);
+        for (const int id : {30, 31, 32, 33})
+            user.Click(id);
         user.Key(12, "x");
     });
     EXPECT_THAT(g_trail, ElementsAre("range 30", "range 31", "range 32", "edit range 12"));
@@ -227,7 +228,7 @@ TEST_F(Routing, ADialogsCommandsGoOnToItsOwnerAndTheApplication) {
     public:
         BOOL OnCmdMsg(UINT id, int code, void*, void*) override {
             Note("app " + std::to_string(id) + "/" + std::to_string(code));
-            return FALSE;
+            return TRUE;
         }
     };
     App app;
@@ -375,7 +376,8 @@ TEST_F(Routing, TheQueueKeepsItsOrderAndCanBeEmptiedOfOneKindForOneWindow) {
         EXPECT_EQ(message.wParam, static_cast<WPARAM>('a'));
         EXPECT_FALSE(system.Take(message, edit, WM_CHAR, WM_CHAR));
         std::vector<int> rest;
-        while (system.Take(message)) rest.push_back(static_cast<int>(message.wParam));
+        while (system.Take(message))
+            rest.push_back(static_cast<int>(message.wParam));
         EXPECT_THAT(rest, ElementsAre(1, 'b', 2));
     });
 }

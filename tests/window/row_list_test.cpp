@@ -17,7 +17,8 @@ constexpr int kManyRows = 100'000;
 
 std::vector<std::string> TextsOf(const RowList& rows) {
     std::vector<std::string> texts;
-    for (int row = 0; row < rows.Count(); ++row) texts.emplace_back(rows.Text(row));
+    for (int row = 0; row < rows.Count(); ++row)
+        texts.emplace_back(rows.Text(row));
     return texts;
 }
 
@@ -55,13 +56,11 @@ public:
         return -1;
     }
     int FindPrefix(const std::string& prefix, int start) const {
-        return Find(start, [&](const std::string& text) {
-            return kv::StartsWithNoCase(text, prefix);
-        });
+        return Find(start,
+                    [&](const std::string& text) { return kv::StartsWithNoCase(text, prefix); });
     }
     int FindExact(const std::string& whole, int start) const {
-        return Find(start,
-                    [&](const std::string& text) { return kv::EqualsNoCase(text, whole); });
+        return Find(start, [&](const std::string& text) { return kv::EqualsNoCase(text, whole); });
     }
 
 private:
@@ -71,7 +70,8 @@ private:
 /// Few letters, so that many rows share their beginnings or are the same.
 std::string RandomText(std::mt19937& random) {
     std::string text(random() % 12, ' ');
-    for (char& ch : text) ch = "abAB"[random() % 4];
+    for (char& ch : text)
+        ch = "abAB"[random() % 4];
     return text;
 }
 
@@ -209,7 +209,8 @@ TEST(RowList, FindsAPrefixWithoutRegardToCase) {
 
 TEST(RowList, SearchesFromTheRowBehindTheStartAndRoundToIt) {
     RowList rows;
-    for (const char* text : {"b1", "a1", "b2", "a2"}) rows.Add(text);
+    for (const char* text : {"b1", "a1", "b2", "a2"})
+        rows.Add(text);
     EXPECT_EQ(rows.FindPrefix("a", 1), 3);
     EXPECT_EQ(rows.FindPrefix("a", 3), 1);
     EXPECT_EQ(rows.FindPrefix("b1", 0), 0);
@@ -243,7 +244,9 @@ TEST(RowList, FindsNothingInAnEmptyList) {
 TEST(RowList, TakesTextsAsBytes) {
     RowList rows;
     rows.Add("28\xB0 30'");
-    rows.Add("\xC3\x84" "sop");
+    rows.Add(
+        "\xC3\x84"
+        "sop");
     rows.Add("\xFF");
     EXPECT_EQ(rows.Text(0), "28\xB0 30'");
     EXPECT_EQ(rows.FindExact("28\xB0 30'", -1), 0);
@@ -274,7 +277,8 @@ TEST(RowList, ItemDataAndMarksGoAlongWithTheirRows) {
 
 TEST(RowList, MarkingAllReachesEveryRow) {
     RowList rows;
-    for (int i = 0; i < 1000; ++i) rows.Add(std::to_string(i));
+    for (int i = 0; i < 1000; ++i)
+        rows.Add(std::to_string(i));
     EXPECT_TRUE(rows.SetAllMarked(true));
     EXPECT_FALSE(rows.SetAllMarked(true));
     EXPECT_EQ(rows.MarkedCount(), 1000);
@@ -282,13 +286,18 @@ TEST(RowList, MarkingAllReachesEveryRow) {
     EXPECT_TRUE(rows.MarkedRows().empty());
 }
 
-TEST(RowList, DoesAsAPlainListDoes) { ExpectTheSameUnderRandomSteps(false, true); }
+TEST(RowList, DoesAsAPlainListDoes) {
+    ExpectTheSameUnderRandomSteps(false, true);
+}
 
-TEST(RowList, SortedDoesAsAPlainListDoes) { ExpectTheSameUnderRandomSteps(true, false); }
+TEST(RowList, SortedDoesAsAPlainListDoes) {
+    ExpectTheSameUnderRandomSteps(true, false);
+}
 
 TEST(RowList, SortedWithRowsOutOfOrderFindsAllTheSame) {
     RowList rows(true);
-    for (int i = 0; i < 500; ++i) rows.Add("row " + std::to_string(i));
+    for (int i = 0; i < 500; ++i)
+        rows.Add("row " + std::to_string(i));
     rows.Insert(0, "zebra");
     rows.Insert(300, "aardvark");
     EXPECT_EQ(rows.FindExact("zebra", -1), 0);
@@ -299,9 +308,11 @@ TEST(RowList, SortedWithRowsOutOfOrderFindsAllTheSame) {
 TEST(RowList, RowsPutInAtOnePlaceAreFoundInTheirOrder) {
     for (const bool ascending : {true, false}) {
         RowList rows;
-        for (int i = 0; i < 100; ++i) rows.Add(i < 50 ? "first" : "last");
+        for (int i = 0; i < 100; ++i)
+            rows.Add(i < 50 ? "first" : "last");
         ASSERT_EQ(rows.FindExact("last", -1), 50);
-        for (int i = 0; i < 20'000; ++i) rows.Insert(ascending ? 50 + i : 50, "same");
+        for (int i = 0; i < 20'000; ++i)
+            rows.Insert(ascending ? 50 + i : 50, "same");
         EXPECT_EQ(rows.FindExact("same", -1), 50);
         for (int row = 50; row < 20'050; row += 997) {
             ASSERT_EQ(rows.FindExact("same", row - 1), row);
@@ -313,7 +324,8 @@ TEST(RowList, RowsPutInAtOnePlaceAreFoundInTheirOrder) {
 
 TEST(RowList, RowsPutInBetweenTwoOthersAreFoundInTheirOrder) {
     RowList rows;
-    for (int i = 0; i < 100; ++i) rows.Add("edge");
+    for (int i = 0; i < 100; ++i)
+        rows.Add("edge");
     ASSERT_EQ(rows.FindExact("edge", 70), 71);
     // Each goes between the last two, so that less and less room is left.
     int low = 40;
@@ -336,9 +348,11 @@ TEST(RowList, FindsEachOfManyRows) {
         RowList rows(sorted);
         std::mt19937 random(7);
         std::vector<std::string> texts;
-        for (int i = 0; i < kManyRows; ++i) texts.push_back("OCS-G " + std::to_string(i));
+        for (int i = 0; i < kManyRows; ++i)
+            texts.push_back("OCS-G " + std::to_string(i));
         std::shuffle(texts.begin(), texts.end(), random);
-        for (const std::string& text : texts) rows.Add(text);
+        for (const std::string& text : texts)
+            rows.Add(text);
         ASSERT_EQ(rows.Count(), kManyRows);
         for (const std::string& text : texts) {
             ASSERT_EQ(rows.Text(rows.FindExact(text, -1)), text);
@@ -367,7 +381,8 @@ TEST(RowList, WalksThroughManyRowsOfOneBeginning) {
 TEST(RowList, LosesManyRowsOneByOneFromAnyPlace) {
     for (const unsigned from : {0u, 1u, 2u}) {
         RowList rows;
-        for (int i = 0; i < kManyRows; ++i) rows.Add(std::to_string(i));
+        for (int i = 0; i < kManyRows; ++i)
+            rows.Add(std::to_string(i));
         rows.SetAllMarked(true);
         ASSERT_EQ(rows.FindExact("99999", -1), 99'999);
         std::mt19937 random(11);
@@ -392,8 +407,10 @@ TEST(RowList, SortsManyRowsThatComeInAnyOrder) {
     RowList rows(true);
     std::mt19937 random(3);
     std::vector<std::string> texts;
-    for (int i = 0; i < kManyRows; ++i) texts.push_back(std::to_string(random() % 50'000));
-    for (const std::string& text : texts) ASSERT_EQ(rows.Text(rows.Add(text)), text);
+    for (int i = 0; i < kManyRows; ++i)
+        texts.push_back(std::to_string(random() % 50'000));
+    for (const std::string& text : texts)
+        ASSERT_EQ(rows.Text(rows.Add(text)), text);
     std::sort(texts.begin(), texts.end());
     EXPECT_EQ(TextsOf(rows), texts);
 }

@@ -1,0 +1,14 @@
+#include "adaptors/check_list_adaptor.h"
+#include "qualifiers/pipe_product_dlg.h"
+#include "qualifiers/pipe_ids.h"
+
+namespace adaptors {
+
+namespace {
+
+const Register kRegistered(CheckListAdaptor<CKvGuiPipeProductDlg>("CKvGuiPipeProductDlg", "Pipeline Product Codes:",
+                                                                kv::pipe_product::kTemplate, "OIL"));
+
+}  // namespace
+
+}  // namespace adaptors

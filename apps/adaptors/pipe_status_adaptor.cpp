@@ -1,0 +1,14 @@
+#include "adaptors/check_list_adaptor.h"
+#include "qualifiers/pipe_status_dlg.h"
+#include "qualifiers/pipe_ids.h"
+
+namespace adaptors {
+
+namespace {
+
+const Register kRegistered(CheckListAdaptor<CKvGuiPipeStatusDlg>("CKvGuiPipeStatusDlg", "Pipeline Status",
+                                                                kv::pipe_status::kTemplate, "ACT"));
+
+}  // namespace
+
+}  // namespace adaptors

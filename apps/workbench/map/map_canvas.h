@@ -1,0 +1,80 @@
+#pragma once
+
+#include <QWidget>
+
+#include "workbench/map/map_model.h"
+#include "workbench/map/map_painter.h"
+#include "workbench/map/map_view.h"
+
+namespace workbench {
+
+/// Shows the map. It is moved by dragging and by the arrow keys, zoomed by the wheel, by a double
+/// click (with Shift: out), by "+" and "-"; "Home" shows all of it.
+class MapCanvas : public QWidget {
+    Q_OBJECT
+public:
+    /// `model` outlives the canvas.
+    explicit MapCanvas(const MapModel& model, QWidget* parent = nullptr);
+
+    /// Areas were added to the model. The first ones are all shown, as long as the user has not
+    /// moved the map.
+    void ModelChanged();
+    /// The model is about to be emptied: forgets what it knew of it.
+    void ModelGoes();
+
+    /// Highlights a pick and brings it to the middle, with some of what is around it.
+    void ShowPick(const Pick& pick);
+    /// Highlights a pick without moving the map.
+    void MarkPick(const Pick& pick);
+    const Pick& GetPick() const { return marks_.pick; }
+    void ShowAll();
+    void ShowBox(const Box& box);
+
+    const MapLayers& Layers() const { return layers_; }
+    void SetLayers(const MapLayers& layers);
+    const MapView& View() const { return view_; }
+
+    /// Zooms about the middle.
+    void ZoomBy(double factor);
+
+    QSize sizeHint() const override { return {900, 560}; }
+    QSize minimumSizeHint() const override { return {240, 160}; }
+
+signals:
+    /// The mouse is at that place.
+    void Pointed(const workbench::Place& place);
+    void PointedNowhere();
+    /// A block was clicked.
+    void BlockClicked(const workbench::BlockRef& block);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    bool event(QEvent* event) override;
+
+private:
+    void ChooseLook();
+    void Hover(const QPointF& at);
+    void Moved();
+    QString TipAt(const QPointF& at) const;
+
+    const MapModel& model_;
+    MapView view_;
+    MapPainter painter_;
+    MapLayers layers_;
+    MapMarks marks_;
+    bool movedByUser_ = false;
+    bool dragging_ = false;
+    QPointF pressedAt_;
+    QPointF lastAt_;
+};
+
+}  // namespace workbench

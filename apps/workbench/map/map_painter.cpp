@@ -1,0 +1,460 @@
+#include "workbench/map/map_painter.h"
+
+#include <cmath>
+#include <functional>
+
+#include "workbench/map/angle_text.h"
+#include "workbench/map/graticule.h"
+
+namespace workbench {
+
+namespace {
+
+// From how many pixels for a usual block on.
+constexpr double kBlockLinesFrom = 5;
+constexpr double kBlockLinesFull = 12;
+constexpr double kBlockLabelsFrom = 30;
+
+// From how many pixels for a degree on.
+constexpr double kDotsFrom = 320;
+constexpr double kPipelinesFrom = 800;
+constexpr double kWidePipelinesFrom = 2'000;
+constexpr double kSymbolsFrom = 1'100;
+constexpr double kSpotLabelsFrom = 4'200;
+
+constexpr double kMargin = 10;
+
+struct LegendRow {
+    const char* text;
+    std::uint8_t kind;
+};
+constexpr LegendRow kWellRows[] = {{"Completed well", kWellCompleted},
+                                   {"Drilling", kWellDrilling},
+                                   {"Temporarily abandoned", kWellSuspended},
+                                   {"Sidetracked", kWellSidetracked},
+                                   {"Plugged and abandoned", kWellAbandoned}};
+constexpr LegendRow kPlatformRows[] = {{"Platform", kPlatformStanding},
+                                       {"Removed platform", kPlatformRemoved}};
+constexpr LegendRow kPipelineRows[] = {
+    {"Oil pipeline", kPipeOil}, {"Gas pipeline", kPipeGas}, {"Other pipeline", kPipeOther}};
+
+QColor WithAlpha(QColor color, double part) {
+    color.setAlphaF(static_cast<float>(color.alphaF() * std::clamp(part, 0.0, 1.0)));
+    return color;
+}
+
+QFont Sized(QFont font, double factor, int weight) {
+    font.setPointSizeF(font.pointSizeF() * factor);
+    font.setWeight(static_cast<QFont::Weight>(weight));
+    return font;
+}
+
+/// A long name in two lines of like length.
+std::string Wrapped(const std::string& name) {
+    constexpr std::size_t kLong = 14;
+    if (name.size() < kLong) return name;
+    std::size_t best = std::string::npos;
+    for (std::size_t at = name.find(' '); at != std::string::npos; at = name.find(' ', at + 1)) {
+        const auto off = [&](std::size_t place) {
+            return std::abs(static_cast<double>(place) - static_cast<double>(name.size()) / 2);
+        };
+        if (best == std::string::npos || off(at) < off(best)) best = at;
+    }
+    if (best == std::string::npos) return name;
+    std::string wrapped = name;
+    wrapped[best] = '\n';
+    return wrapped;
+}
+
+}  // namespace
+
+QPointF MapPainter::At(const Point& point) const {
+    const ScreenPoint at = view_->ToScreen(point);
+    return {at.x, at.y};
+}
+
+QPolygonF MapPainter::Ring(std::span<const Point> points) const {
+    QPolygonF ring;
+    ring.reserve(static_cast<qsizetype>(points.size()));
+    for (const Point& point : points) ring.append(At(point));
+    return ring;
+}
+
+QPainterPath MapPainter::Outline(const AreaMap& area) const {
+    QPainterPath path;
+    for (const auto& ring : area.outline.rings) {
+        path.addPolygon(Ring(ring));
+        path.closeSubpath();
+    }
+    return path;
+}
+
+bool MapPainter::ShowsSpots(const MapView& view) { return view.Scale() >= kSymbolsFrom; }
+
+void MapPainter::Draw(QPainter& painter, const MapModel& model, const MapView& view,
+                      const MapLayers& layers, const MapMarks& marks) {
+    painter_ = &painter;
+    view_ = &view;
+    layers_ = layers;
+    PrepareArt();
+    FindVisible(model);
+    board_.Reset(view.Width(), view.Height());
+
+    const QRectF all(0, 0, view.Width(), view.Height());
+    painter.fillRect(all, look_.ground);
+    painter.setRenderHint(QPainter::Antialiasing);
+    DrawAreas();
+    DrawBlockLines();
+    if (layers.graticule) DrawGraticule();
+    DrawAreaLines();
+    if (layers.pipelines) DrawPipelines();
+    DrawMarks(marks);
+    if (layers.wells) DrawSpots(false);
+    if (layers.platforms) DrawSpots(true);
+
+    DrawScaleBar();
+    if (layers.legend) DrawLegend();
+    if (layers.graticule) DrawEdgeLabels();
+    if (layers.labels) {
+        DrawAreaLabels();
+        DrawBlockLabels();
+        if (layers.platforms) DrawSpotLabels(true);
+        if (layers.wells) DrawSpotLabels(false);
+    }
+}
+
+void MapPainter::PrepareArt() {
+    const double ratio = painter_->device()->devicePixelRatioF();
+    areaLabels_.SetStyle(Sized(font_, 0.9, QFont::DemiBold), look_.areaText, look_.halo, ratio);
+    blockLabels_.SetStyle(Sized(font_, 0.82, QFont::Normal), look_.blockText, look_.halo, ratio);
+    spotLabels_.SetStyle(Sized(font_, 0.78, QFont::Normal), look_.spotText, look_.halo, ratio);
+    edgeLabels_.SetStyle(Sized(font_, 0.78, QFont::Normal), look_.edgeText, look_.halo, ratio);
+    symbols_.SetLook(look_, ratio);
+}
+
+void MapPainter::FindVisible(const MapModel& model) {
+    visible_.clear();
+    const Box seen = view_->Visible();
+    for (const auto& area : model.Areas()) {
+        if (ReachOf(*area).Meets(seen)) visible_.push_back(area.get());
+    }
+}
+
+void MapPainter::DrawAreas() {
+    painter_->setPen(Qt::NoPen);
+    for (const AreaMap* area : visible_) {
+        switch (area->water) {
+            case Water::kState:
+                painter_->setBrush(look_.state);
+                break;
+            case Water::kBay:
+                painter_->setBrush(look_.bay);
+                break;
+            case Water::kShelf:
+                painter_->setBrush(look_.shelf);
+                break;
+            case Water::kDeep:
+                painter_->setBrush(look_.deep);
+                break;
+        }
+        painter_->drawPath(Outline(*area));
+    }
+}
+
+void MapPainter::DrawBlockLines() {
+    const Box seen = view_->Visible();
+    for (const AreaMap* area : visible_) {
+        const double size = BlockPixels(*area);
+        if (size < kBlockLinesFrom) continue;
+        lines_.clear();
+        for (const Segment& line : area->outline.inner) {
+            AddLine(line, seen);
+        }
+        const double part = 0.35 + 0.65 * (size - kBlockLinesFrom) /
+                                       (kBlockLinesFull - kBlockLinesFrom);
+        painter_->setPen(QPen(WithAlpha(look_.blockLine, part), 0));
+        painter_->drawLines(lines_.data(), static_cast<int>(lines_.size()));
+    }
+}
+
+void MapPainter::AddLine(const Segment& line, const Box& seen) {
+    Box box;
+    box.Include(line.from), box.Include(line.to);
+    if (box.Meets(seen)) lines_.emplace_back(At(line.from), At(line.to));
+}
+
+void MapPainter::DrawAreaLines() {
+    painter_->setBrush(Qt::NoBrush);
+    for (const AreaMap* area : visible_) {
+        const bool near = BlockPixels(*area) >= kBlockLabelsFrom;
+        painter_->setPen(QPen(look_.areaLine, near ? 1.8 : 1.0));
+        painter_->drawPath(Outline(*area));
+    }
+}
+
+void MapPainter::DrawPipelines() {
+    if (view_->Scale() < kPipelinesFrom) return;
+    const Box seen = view_->Visible();
+    const bool wide = view_->Scale() >= kWidePipelinesFrom;
+    for (const auto kind : {kPipeOther, kPipeOil, kPipeGas}) {
+        lines_.clear();
+        for (const AreaMap* area : visible_) {
+            area->pipelines.ForEachIn(seen, [&](std::size_t number) {
+                if (area->pipelines.Kind(number) != kind) return;
+                const auto points = area->pipelines.Points(number);
+                for (std::size_t i = 1; i < points.size(); ++i) {
+                    AddLine({points[i - 1], points[i]}, seen);
+                }
+            });
+        }
+        const double part = wide ? 0.85 : 0.55;
+        painter_->setPen(QPen(WithAlpha(PipelineColor(look_, kind), part), wide ? 1.4 : 0,
+                              Qt::SolidLine, Qt::FlatCap));
+        painter_->drawLines(lines_.data(), static_cast<int>(lines_.size()));
+    }
+}
+
+void MapPainter::DrawSpots(bool platforms) {
+    if (view_->Scale() < kDotsFrom) return;
+    if (!ShowsSpots(*view_)) {
+        DrawDots(platforms);
+        return;
+    }
+    const double half = MapSymbols::kSize / 2;
+    const Box seen = view_->Visible().Grown(half / view_->Scale());
+    for (const AreaMap* area : visible_) {
+        const FeatureLayer& layer = platforms ? area->platforms : area->wells;
+        layer.ForEachIn(seen, [&](std::size_t number) {
+            const QPointF at = At(layer.Points(number).front());
+            const std::uint8_t kind = layer.Kind(number);
+            painter_->drawPixmap(at - QPointF(half, half),
+                                 platforms ? symbols_.Platform(kind) : symbols_.Well(kind));
+        });
+    }
+}
+
+void MapPainter::DrawDots(bool platforms) {
+    const Box seen = view_->Visible();
+    const double size = (platforms ? 2.6 : 1.6) * std::clamp(view_->Scale() / 450, 0.8, 1.5);
+    painter_->setPen(Qt::NoPen);
+    painter_->setRenderHint(QPainter::Antialiasing, false);
+    const int kinds = platforms ? int{kPlatformRemoved} : int{kWellOther};
+    for (int kind = kinds; kind >= 0; --kind) {
+        dots_.clear();
+        for (const AreaMap* area : visible_) {
+            const FeatureLayer& layer = platforms ? area->platforms : area->wells;
+            layer.ForEachIn(seen, [&](std::size_t number) {
+                if (layer.Kind(number) != kind) return;
+                const QPointF at = At(layer.Points(number).front());
+                dots_.emplace_back(at.x() - size / 2, at.y() - size / 2, size, size);
+            });
+        }
+        const auto color = static_cast<std::uint8_t>(kind);
+        painter_->setBrush(WithAlpha(
+            platforms ? PlatformColor(look_, color) : WellColor(look_, color), 0.75));
+        painter_->drawRects(dots_.data(), static_cast<int>(dots_.size()));
+    }
+    painter_->setRenderHint(QPainter::Antialiasing);
+}
+
+void MapPainter::DrawMarks(const MapMarks& marks) {
+    if (marks.hovered) {
+        painter_->setPen(Qt::NoPen);
+        painter_->setBrush(look_.hover);
+        painter_->drawPolygon(Ring(marks.hovered->area->blocks.Points(marks.hovered->block)));
+    }
+    if (marks.pick.Empty()) return;
+    QPainterPath path;
+    if (marks.pick.block) {
+        const BlockRef& block = *marks.pick.block;
+        path.addPolygon(Ring(block.area->blocks.Points(block.block)));
+        path.closeSubpath();
+    } else {
+        for (const AreaMap* area : marks.pick.areas) path.addPath(Outline(*area));
+    }
+    QColor fill = look_.pick;
+    fill.setAlphaF(marks.pick.block ? 0.20F : 0.10F);
+    painter_->setBrush(fill);
+    painter_->setPen(QPen(look_.halo, 5, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter_->drawPath(path);
+    painter_->setBrush(Qt::NoBrush);
+    painter_->setPen(QPen(look_.pick, 2.4, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter_->drawPath(path);
+}
+
+void MapPainter::DrawGraticule() {
+    const Graticule lines = GraticuleOf(*view_);
+    lines_.clear();
+    for (const double lon : lines.longitudes) {
+        const double x = At(workbench::ToMap({0, lon})).x();
+        lines_.emplace_back(x, 0, x, view_->Height());
+    }
+    for (const double lat : lines.latitudes) {
+        const double y = At(workbench::ToMap({lat, 0})).y();
+        lines_.emplace_back(0, y, view_->Width(), y);
+    }
+    painter_->setPen(QPen(look_.graticule, 0));
+    painter_->drawLines(lines_.data(), static_cast<int>(lines_.size()));
+}
+
+void MapPainter::DrawEdgeLabels() {
+    const Graticule lines = GraticuleOf(*view_);
+    for (const double lon : lines.longitudes) {
+        const double x = At(workbench::ToMap({0, lon})).x();
+        PutLabel(edgeLabels_, ShortAngle(lon, 'E', 'W'), {x, view_->Height() - kMargin});
+    }
+    for (const double lat : lines.latitudes) {
+        const std::string label = ShortAngle(lat, 'N', 'S');
+        const double half = edgeLabels_.SizeOf(label).width() / 2;
+        PutLabel(edgeLabels_, label, {2 + half, At(workbench::ToMap({lat, 0})).y()});
+    }
+}
+
+void MapPainter::PutLabel(LabelArt& art, std::string_view label, QPointF middle) {
+    const QPixmap& pixmap = art.Of(label);
+    const QSizeF size = pixmap.deviceIndependentSize();
+    const QPointF corner(std::round(middle.x() - size.width() / 2),
+                         std::round(middle.y() - size.height() / 2));
+    if (!board_.Take(corner.x(), corner.y(), size.width(), size.height())) return;
+    painter_->drawPixmap(corner, pixmap);
+}
+
+bool MapPainter::PutAreaLabel(const AreaMap& area, const std::string& label, const QRectF& room,
+                              QPointF middle) {
+    if (label.empty()) return false;
+    const QPixmap& pixmap = areaLabels_.Of(label);
+    const QSizeF size = pixmap.deviceIndependentSize();
+    const bool small = BlockPixels(area) < kBlockLabelsFrom;
+    if (small && (size.width() > room.width() * 1.05 || size.height() > room.height() * 1.05)) {
+        return false;
+    }
+    const QPointF corner(std::round(middle.x() - size.width() / 2),
+                         std::round(middle.y() - size.height() / 2));
+    if (!board_.Take(corner.x(), corner.y(), size.width(), size.height())) return false;
+    painter_->drawPixmap(corner, pixmap);
+    return true;
+}
+
+void MapPainter::DrawAreaLabels() {
+    const QRectF screen(0, 0, view_->Width(), view_->Height());
+    for (const AreaMap* area : visible_) {
+        const Box& box = area->blocks.Bounds();
+        if (box.Empty()) continue;
+        const QRectF room(At({box.minX, box.maxY}), At({box.maxX, box.minY}));
+        const QRectF seen = room.intersected(screen);
+        if (seen.isEmpty()) continue;
+        // The name stays in sight when the middle of the area is not.
+        QPointF middle = At(area->labelAt);
+        if (!screen.contains(middle)) middle = seen.center();
+        PutAreaLabel(*area, area->name, seen, middle) ||
+            PutAreaLabel(*area, Wrapped(area->name), seen, middle) ||
+            PutAreaLabel(*area, area->mmsCode, seen, middle);
+    }
+}
+
+void MapPainter::DrawBlockLabels() {
+    const Box seen = view_->Visible();
+    for (const AreaMap* area : visible_) {
+        if (BlockPixels(*area) < kBlockLabelsFrom) continue;
+        area->blocks.ForEachIn(seen, [&](std::size_t number) {
+            const Box& box = area->blocks.BoxOf(number);
+            const std::string_view label = area->blocks.Label(number);
+            if (blockLabels_.SizeOf(label).width() > box.Width() * view_->Scale()) return;
+            PutLabel(blockLabels_, label, At(box.Middle()));
+        });
+    }
+}
+
+void MapPainter::DrawSpotLabels(bool platforms) {
+    if (view_->Scale() < kSpotLabelsFrom) return;
+    const Box seen = view_->Visible();
+    for (const AreaMap* area : visible_) {
+        const FeatureLayer& layer = platforms ? area->platforms : area->wells;
+        layer.ForEachIn(seen, [&](std::size_t number) {
+            const std::string_view label = layer.Label(number);
+            const QSizeF size = spotLabels_.SizeOf(label);
+            const QPointF right(MapSymbols::kSize / 2 + size.width() / 2, 0);
+            PutLabel(spotLabels_, label, At(layer.Points(number).front()) + right);
+        });
+    }
+}
+
+void MapPainter::DrawScaleBar() {
+    const ScreenPoint at{view_->Width() / 2.0, view_->Height() - kMargin};
+    const ScaleBar bar = ScaleBarOf(*view_, at, 140);
+    if (bar.pixels <= 0) return;
+    const QFont font = Sized(font_, 0.78, QFont::Normal);
+    const QFontMetricsF metrics(font);
+    const QString text = QString::fromStdString(bar.label);
+    const double width = std::max(bar.pixels, metrics.horizontalAdvance(text)) + 2 * kMargin;
+    const double height = metrics.height() + 14;
+    const QRectF panel(view_->Width() - kMargin - width, view_->Height() - 2 * kMargin - height - 8,
+                       width, height);
+    board_.Take(panel.x(), panel.y(), panel.width(), panel.height());
+    painter_->setPen(QPen(look_.panelLine, 1));
+    painter_->setBrush(look_.panel);
+    painter_->drawRoundedRect(panel.translated(0.5, 0.5), 4, 4);
+    painter_->setFont(font);
+    painter_->setPen(look_.panelText);
+    painter_->drawText(panel.adjusted(0, 3, 0, 0), Qt::AlignHCenter | Qt::AlignTop, text);
+    const double y = std::round(panel.bottom() - 7) + 0.5;
+    const double left = std::round(panel.center().x() - bar.pixels / 2) + 0.5;
+    const double right = left + std::round(bar.pixels);
+    const QPointF corners[] = {{left, y - 4}, {left, y}, {right, y}, {right, y - 4}};
+    painter_->setBrush(Qt::NoBrush);
+    painter_->setPen(QPen(look_.panelText, 1.4));
+    painter_->drawPolyline(corners, 4);
+}
+
+void MapPainter::DrawLegend() {
+    const bool symbols = ShowsSpots(*view_);
+    struct Row {
+        QString text;
+        std::function<void(QPointF)> draw;
+    };
+    std::vector<Row> rows;
+    const auto addSymbols = [&](const auto& from, bool platforms) {
+        for (const LegendRow& row : from) {
+            rows.push_back({QString::fromLatin1(row.text), [this, row, platforms](QPointF middle) {
+                                const double half = MapSymbols::kSize / 2;
+                                painter_->drawPixmap(middle - QPointF(half, half),
+                                                     platforms ? symbols_.Platform(row.kind)
+                                                               : symbols_.Well(row.kind));
+                            }});
+        }
+    };
+    if (layers_.wells && symbols) addSymbols(kWellRows, false);
+    if (layers_.platforms && symbols) addSymbols(kPlatformRows, true);
+    if (layers_.pipelines && view_->Scale() >= kPipelinesFrom) {
+        for (const LegendRow& row : kPipelineRows) {
+            rows.push_back({QString::fromLatin1(row.text), [this, row](QPointF middle) {
+                                painter_->setPen(QPen(PipelineColor(look_, row.kind), 2));
+                                painter_->drawLine(middle - QPointF(8, 0), middle + QPointF(8, 0));
+                            }});
+        }
+    }
+    if (rows.empty()) return;
+
+    const QFont font = Sized(font_, 0.82, QFont::Normal);
+    const QFontMetricsF metrics(font);
+    double width = 0;
+    for (const Row& row : rows) width = std::max(width, metrics.horizontalAdvance(row.text));
+    const double line = std::max(metrics.height() + 2, MapSymbols::kSize + 2);
+    const QRectF panel(view_->Width() - kMargin - (width + 44), kMargin, width + 44,
+                       line * static_cast<double>(rows.size()) + 12);
+    board_.Take(panel.x(), panel.y(), panel.width(), panel.height());
+    painter_->setPen(QPen(look_.panelLine, 1));
+    painter_->setBrush(look_.panel);
+    painter_->drawRoundedRect(panel.translated(0.5, 0.5), 4, 4);
+    painter_->setFont(font);
+    double y = panel.top() + 6 + line / 2;
+    for (const Row& row : rows) {
+        row.draw({std::round(panel.left() + 19), std::round(y)});
+        painter_->setPen(look_.panelText);
+        painter_->drawText(QRectF(panel.left() + 36, y - line / 2, width + 4, line),
+                           Qt::AlignVCenter, row.text);
+        y += line;
+    }
+}
+
+}  // namespace workbench

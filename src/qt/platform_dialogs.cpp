@@ -1,0 +1,163 @@
+#include "qt/platform_dialogs.h"
+
+#include <QCoreApplication>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPageSetupDialog>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <array>
+#include <utility>
+
+#include "qt/peer.h"
+#include "qt/text.h"
+#include "window/file_dialog.h"
+#include "window/paths.h"
+#include "window/window_system.h"
+#include "window/wnd.h"
+
+namespace kv::qt {
+
+namespace {
+
+constexpr double kTenthMmPerMm = 10;
+
+/// The window that a dialog opens over.
+QWidget* ParentFor(const CWnd* parent) {
+    Node* node = parent ? parent->GetSafeHwnd() : nullptr;
+    if (!node) node = WindowSystem::Get().ActiveWindow();
+    const Peer* peer = node && !node->Destroyed() ? PeerOf(*node->Root()) : nullptr;
+    QWidget* widget = peer ? peer->Widget() : nullptr;
+    return widget && widget->isVisible() ? widget : nullptr;
+}
+
+constexpr std::array<std::pair<QMessageBox::StandardButton, int>, 7> kButtons{{
+    {QMessageBox::Ok, IDOK},
+    {QMessageBox::Cancel, IDCANCEL},
+    {QMessageBox::Abort, IDABORT},
+    {QMessageBox::Retry, IDRETRY},
+    {QMessageBox::Ignore, IDIGNORE},
+    {QMessageBox::Yes, IDYES},
+    {QMessageBox::No, IDNO},
+}};
+
+QMessageBox::StandardButtons ButtonsOf(UINT type) {
+    switch (type & MB_TYPEMASK) {
+        case MB_OKCANCEL:
+            return QMessageBox::Ok | QMessageBox::Cancel;
+        case MB_YESNOCANCEL:
+            return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+        case MB_YESNO:
+            return QMessageBox::Yes | QMessageBox::No;
+        default:
+            return QMessageBox::Ok;
+    }
+}
+
+QMessageBox::Icon IconOfType(UINT type) {
+    switch (type & 0xF0) {
+        case MB_ICONSTOP:
+            return QMessageBox::Critical;
+        case MB_ICONQUESTION:
+            return QMessageBox::Question;
+        case MB_ICONEXCLAMATION:
+            return QMessageBox::Warning;
+        case MB_ICONINFORMATION:
+            return QMessageBox::Information;
+        default:
+            return QMessageBox::NoIcon;
+    }
+}
+
+/// A line of the list of types in Qt's form: the words, and the patterns in brackets.
+QString NameFilter(const FileFilter& filter) {
+    QString words = ToQString(filter.description);
+    const auto bracket = words.lastIndexOf(u'(');
+    if (bracket > 0 && words.endsWith(u')')) words.truncate(bracket);
+    QString patterns = ToQString(filter.pattern);
+    patterns.replace(u';', u' ');
+    patterns.replace(QStringLiteral("*.*"), QStringLiteral("*"));
+    if (patterns.isEmpty()) patterns = QStringLiteral("*");
+    return QStringLiteral("%1 (%2)").arg(words.trimmed(), patterns);
+}
+
+void SetUp(QFileDialog& dialog, const FileDialogRequest& request) {
+    dialog.setAcceptMode(request.open ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
+    dialog.setFileMode(request.open ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite, !(request.flags & OFN_OVERWRITEPROMPT));
+    QStringList filters;
+    for (const FileFilter& filter : ParseFilter(request.filter)) filters.append(NameFilter(filter));
+    if (!filters.isEmpty()) dialog.setNameFilters(filters);
+    dialog.setDefaultSuffix(ToQString(request.defaultExtension));
+    std::string folder = request.initialFolder;
+    if (folder.empty()) folder = FolderOf(request.fileName);
+    dialog.setDirectory(ToQString(ToNative(folder.empty() ? CurrentFolder() : folder)));
+    const std::string name = NameOf(request.fileName);
+    if (!name.empty()) dialog.selectFile(ToQString(name));
+}
+
+void Take(const QPageLayout& layout, PrinterSettings& settings) {
+    const QPageSize page = layout.pageSize();
+    const QSizeF size = page.size(QPageSize::Millimeter);
+    settings.paper = page.windowsId();
+    settings.landscape = layout.orientation() == QPageLayout::Landscape;
+    settings.widthTenthMm = qRound(size.width() * kTenthMmPerMm);
+    settings.heightTenthMm = qRound(size.height() * kTenthMmPerMm);
+}
+
+QPageSize PageOf(const PrinterSettings& settings) {
+    const QPageSize::PageSizeId id = QPageSize::id(settings.paper);
+    if (id != QPageSize::Custom) return QPageSize(id);
+    return QPageSize(QSizeF(settings.widthTenthMm, settings.heightTenthMm) / kTenthMmPerMm,
+                     QPageSize::Millimeter);
+}
+
+}  // namespace
+
+int ShowMessageBox(const MessageBoxRequest& request) {
+    QMessageBox box(ParentFor(request.parent));
+    const QString caption = ToQString(request.caption);
+    box.setWindowTitle(caption.isEmpty() ? QCoreApplication::applicationName() : caption);
+    box.setTextFormat(Qt::PlainText);
+    box.setText(ToQString(request.text));
+    box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    box.setIcon(IconOfType(request.type));
+    box.setStandardButtons(ButtonsOf(request.type));
+    const int pressed = box.exec();
+    for (const auto& [button, id] : kButtons) {
+        if (button == pressed) return id;
+    }
+    return IDCANCEL;
+}
+
+int ShowFileDialog(const FileDialogRequest& request, std::string& path) {
+    QFileDialog dialog(ParentFor(request.parent));
+    if (!request.title.empty()) dialog.setWindowTitle(ToQString(request.title));
+    SetUp(dialog, request);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return IDCANCEL;
+    path = FromNative(ToBytes(dialog.selectedFiles().constFirst()));
+    return IDOK;
+}
+
+int ShowPrintSetup(PrinterSettings& settings) {
+    const QPrinterInfo info = QPrinterInfo::printerInfo(ToQString(settings.device));
+    QPrinter printer(info.isNull() ? QPrinterInfo::defaultPrinter() : info);
+    printer.setPageSize(PageOf(settings));
+    printer.setPageOrientation(settings.landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
+    QPageSetupDialog dialog(&printer, ParentFor(nullptr));
+    if (dialog.exec() != QDialog::Accepted) return IDCANCEL;
+    Take(printer.pageLayout(), settings);
+    settings.device = ToBytes(printer.printerName());
+    return IDOK;
+}
+
+bool FindDefaultPrinter(PrinterSettings& settings) {
+    const QPrinterInfo info = QPrinterInfo::defaultPrinter();
+    if (info.isNull()) return false;
+    const QPrinter printer(info);
+    settings.device = ToBytes(info.printerName());
+    Take(printer.pageLayout(), settings);
+    return true;
+}
+
+}  // namespace kv::qt

@@ -1,0 +1,246 @@
+#include "qt/qt_desktop.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QEvent>
+#include <QEventLoop>
+#include <QFontMetricsF>
+#include <QMainWindow>
+#include <QScreen>
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+#include "qt/colors.h"
+#include "qt/peer.h"
+#include "qt/platform_dialogs.h"
+#include "qt/text.h"
+#include "window/dialog.h"
+#include "window/window_system.h"
+
+namespace kv::qt {
+
+namespace {
+
+QtDesktop* g_desktop = nullptr;
+
+const QEvent::Type kWakeEvent = static_cast<QEvent::Type>(QEvent::registerEventType());
+
+/// How many actions of a person are under way, one within the other.
+int g_acting = 0;
+/// Widgets that go when none is.
+std::vector<QPointer<QWidget>>& Leaving() {
+    static std::vector<QPointer<QWidget>> leaving;
+    return leaving;
+}
+
+void DeleteLeaving() {
+    for (const QPointer<QWidget>& widget : std::exchange(Leaving(), {})) {
+        if (widget) widget->deleteLater();
+    }
+}
+
+void ForEachPeer(Node& node, const std::function<void(Peer&)>& visit) {
+    if (Peer* peer = PeerOf(node); peer && peer->Widget()) visit(*peer);
+    const auto children = node.Children();
+    for (const auto& child : children) ForEachPeer(*child, visit);
+}
+
+void ForEachPeer(const std::function<void(Peer&)>& visit) {
+    const auto windows = WindowSystem::Get().TopLevels();
+    for (const auto& window : windows) ForEachPeer(*window, visit);
+}
+
+bool HasEnded(Node& window) {
+    if (window.Destroyed()) return true;
+    auto* dialog = dynamic_cast<DialogNode*>(&window);
+    return dialog && dialog->Modal() ? dialog->Ended() : !window.Visible();
+}
+
+}  // namespace
+
+/// What Qt tells the desktop, and the loops that run.
+class QtDesktop::Events : public QObject {
+public:
+    Events() {
+        QApplication::instance()->installEventFilter(this);
+        connect(qApp, &QApplication::focusChanged, this, &Events::FocusChanged);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (watched != qApp) return false;
+        if (event->type() == QEvent::ApplicationFontChange) {
+            ForgetScale();
+            ForEachPeer([](Peer& peer) { peer.ShowRect(); });
+        } else if (event->type() == QEvent::ApplicationPaletteChange) {
+            ForEachPeer([](Peer& peer) { peer.ShowColors(); });
+        }
+        return false;
+    }
+
+    bool event(QEvent* event) override {
+        if (event->type() != kWakeEvent) return QObject::event(event);
+        wakes_ = false;
+        Settle();
+        return true;
+    }
+
+    void Wake() {
+        if (wakes_) return;
+        wakes_ = true;
+        QCoreApplication::postEvent(this, new QEvent(kWakeEvent));
+    }
+
+    void RunUntilEnded(Node& window) {
+        const auto keep = window.shared_from_this();
+        QEventLoop loop;
+        loops_.push_back({keep, &loop});
+        if (!HasEnded(window)) loop.exec();
+        std::erase_if(loops_, [&](const Running& each) { return each.loop == &loop; });
+        // The program is quitting.
+        auto* dialog = dynamic_cast<DialogNode*>(&window);
+        if (dialog && dialog->Modal() && !dialog->Ended()) dialog->End(IDCANCEL);
+    }
+
+    void LeaveEndedLoops() {
+        for (const Running& each : loops_) {
+            if (HasEnded(*each.window)) each.loop->quit();
+        }
+    }
+
+private:
+    struct Running {
+        std::shared_ptr<Node> window;
+        QEventLoop* loop;
+    };
+
+    /// A widget of the host's own has the focus: no control has it any more. Where Qt moved it
+    /// between controls of its own will, the layer's holder gets it back.
+    void FocusChanged(QWidget*, QWidget* now) {
+        Node* holder = WindowSystem::Get().Focus();
+        if (!now || !holder) return;
+        const Peer* peer = PeerOf(now);
+        const bool isHosts = peer && peer->Widget() == now->window() && now != now->window();
+        if (isHosts) {
+            Act(holder->weak_from_this(), [](Node&) { WindowSystem::Get().SetFocus(nullptr); });
+        }
+    }
+
+    bool wakes_ = false;
+    std::vector<Running> loops_;
+};
+
+void Act(const std::weak_ptr<Node>& node, const std::function<void(Node&)>& action) {
+    const auto alive = node.lock();
+    if (!alive || alive->Destroyed()) return;
+    ++g_acting;
+    action(*alive);
+    Settle();
+    if (--g_acting == 0) DeleteLeaving();
+}
+
+void Settle() {
+    WindowSystem::Get().Settle();
+    if (g_desktop) g_desktop->LeaveEndedLoops();
+}
+
+void LetGo(QWidget* widget) {
+    widget->hide();
+    if (g_acting == 0) {
+        widget->deleteLater();
+    } else {
+        Leaving().push_back(widget);
+    }
+}
+
+void WindowGone() {
+    if (g_desktop) g_desktop->Wake();
+}
+
+QtDesktop::QtDesktop() : events_(std::make_unique<Events>()) {
+    g_desktop = this;
+    WindowSystem::Get().SetDesktop(this);
+}
+
+QtDesktop::~QtDesktop() {
+    const auto windows = WindowSystem::Get().TopLevels();
+    for (const auto& window : windows) window->SetView(nullptr);
+    WindowSystem::Get().ForgetDesktop(*this);
+    g_desktop = nullptr;
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+void QtDesktop::LeaveEndedLoops() { events_->LeaveEndedLoops(); }
+
+void QtDesktop::RunModal(Node& dialog) {
+    MakePeer(dialog, nullptr);
+    events_->RunUntilEnded(dialog);
+}
+
+void QtDesktop::RunModeless(Node& window, Node&) {
+    MakePeer(*window.Root(), nullptr);
+    Settle();
+    events_->RunUntilEnded(window);
+}
+
+int QtDesktop::RunMessageBox(const MessageBoxRequest& request) { return ShowMessageBox(request); }
+
+int QtDesktop::RunFileDialog(const FileDialogRequest& request, std::string& path) {
+    return ShowFileDialog(request, path);
+}
+
+int QtDesktop::RunPrintSetup(PrinterSettings& settings) { return ShowPrintSetup(settings); }
+
+bool QtDesktop::DefaultPrinter(PrinterSettings& settings) { return FindDefaultPrinter(settings); }
+
+CSize QtDesktop::ScreenSize() {
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    return screen ? CurrentScale().ToLogical(screen->availableGeometry().size()) : CSize{};
+}
+
+CSize QtDesktop::TextExtent(const std::string& text, const Font& font) {
+    const QFontMetricsF metrics(ToQFont(font));
+    const Scale scale = CurrentScale();
+    const double width = metrics.horizontalAdvance(ToQString(text)) / scale.x;
+    return {static_cast<int>(std::ceil(width)), static_cast<int>(std::lround(metrics.height() / scale.y))};
+}
+
+COLORREF QtDesktop::Color(SystemColor which) { return PaletteColor(which); }
+
+Font QtDesktop::DefaultFont() { return {}; }
+
+std::chrono::system_clock::time_point QtDesktop::Now() { return std::chrono::system_clock::now(); }
+
+std::string QtDesktop::ClipboardText() { return ToBytes(QGuiApplication::clipboard()->text()); }
+
+void QtDesktop::SetClipboardText(const std::string& text) {
+    QGuiApplication::clipboard()->setText(ToQString(text));
+}
+
+void QtDesktop::Pump() { QCoreApplication::processEvents(); }
+
+void QtDesktop::Wake() { events_->Wake(); }
+
+void QtDesktop::Created(Node& node) {
+    if (!node.Parent()) {
+        MakePeer(node, nullptr);
+    } else if (Peer* parent = PeerOf(*node.Parent())) {
+        parent->Changed(Change::kChildren);
+    }
+}
+
+QWidget* WidgetOf(const Node& node) {
+    const Peer* peer = PeerOf(node);
+    return peer ? peer->Widget() : nullptr;
+}
+
+QMainWindow* MainWindowOf(const Node& frame) {
+    return qobject_cast<QMainWindow*>(WidgetOf(frame));
+}
+
+bool SavePicture(const Node& window, const std::string& machinePath) {
+    QWidget* widget = WidgetOf(window);
+    return widget && widget->grab().save(ToQString(machinePath), "PNG");
+}
+
+}  // namespace kv::qt

@@ -1,0 +1,71 @@
+#include "frame/module.h"
+
+#include <gtest/gtest.h>
+
+#include "window/dialog.h"
+#include "window/headless_desktop.h"
+#include "window/window_system.h"
+
+namespace {
+
+using kv::module::Event;
+using kv::module::Main;
+
+constexpr int kTemplate = 31000;
+const kv::DialogTemplate kDialog{kTemplate, "Of the library", 100, 50, {}};
+const kv::RegisterTemplate kRegistered(kDialog);
+
+/// Each test begins with the module loaded and not started.
+class Module : public ::testing::Test {
+protected:
+    Module() {
+        Main(Event::kProcessDetach, &kv::LibraryResources());
+        Main(Event::kProcessAttach, &kv::LibraryResources());
+        kv::WindowSystem::Get().SetDesktop(&desktop_);
+    }
+    kv::HeadlessDesktop desktop_;
+};
+
+TEST_F(Module, BeforeInitControlDllNoDialogOpens) {
+    CDialog dialog(kTemplate);
+    EXPECT_EQ(dialog.DoModal(), -1);
+    EXPECT_FALSE(dialog.Create(kTemplate));
+    EXPECT_TRUE(kv::WindowSystem::Get().TopLevels().empty());
+    EXPECT_EQ(kv::WindowSystem::Get().ModalsOpened(), 0);
+}
+
+TEST_F(Module, AfterInitControlDllDialogsOpen) {
+    const CDynLinkLibrary* library = InitControlDll();
+    ASSERT_NE(library, nullptr);
+    EXPECT_EQ(library->m_hModule, &kv::LibraryResources());
+    EXPECT_EQ(AfxFindResourceHandle(kTemplate, ResourceKind::kDialog), &kv::LibraryResources());
+    desktop_.ExpectWindow("Of the library", [](kv::User& user) { user.Key(0, "Enter"); });
+    EXPECT_EQ(CDialog(kTemplate).DoModal(), IDOK);
+}
+
+TEST_F(Module, ASecondInitControlDllDoesNoHarm) {
+    EXPECT_NE(InitControlDll(), InitControlDll());
+    EXPECT_EQ(kv::FindTemplate(kTemplate), &kDialog);
+}
+
+TEST_F(Module, DetachTakesTheResourcesOutOfTheChain) {
+    InitControlDll();
+    EXPECT_EQ(Main(Event::kProcessDetach, &kv::LibraryResources()), 1);
+    EXPECT_EQ(kv::FindTemplate(kTemplate), nullptr);
+    EXPECT_EQ(CDialog(kTemplate).DoModal(), -1);
+}
+
+TEST_F(Module, AttachWithoutAnInstanceFails) {
+    Main(Event::kProcessDetach, &kv::LibraryResources());
+    EXPECT_EQ(Main(Event::kProcessAttach, nullptr), 0);
+    EXPECT_EQ(Main(Event::kProcessAttach, &kv::LibraryResources()), 1);
+}
+
+TEST_F(Module, ThreadsComeAndGoWithoutEffect) {
+    InitControlDll();
+    EXPECT_EQ(Main(Event::kThreadAttach, &kv::LibraryResources()), 1);
+    EXPECT_EQ(Main(Event::kThreadDetach, &kv::LibraryResources()), 1);
+    EXPECT_EQ(kv::FindTemplate(kTemplate), &kDialog);
+}
+
+}  // namespace
