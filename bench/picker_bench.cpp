@@ -63,7 +63,8 @@ struct BlockBox {
 
 void FillOurs(benchmark::State& state) {
     BlockBox box;
-    for (auto _ : state) box.combo.V_InitializeCombo();
+    for (auto _ : state)
+        box.combo.V_InitializeCombo();
 }
 
 void FillPeer(benchmark::State& state) {

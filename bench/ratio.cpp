@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <limits>
-#include <map>
+#include <utility>
 #include <vector>
 
 namespace bench {
@@ -18,6 +18,7 @@ const std::string kPeer = "/peer";
 struct Pair {
     std::string name;
     double bound;
+    Clock clock;
     double ours = kNotRun;  ///< nanoseconds, of the fastest repetition
     double peer = kNotRun;
 };
@@ -48,14 +49,18 @@ private:
     void Keep(const Run& run) {
         failed_ |= run.error_occurred;
         if (run.error_occurred || run.run_type != Run::RT_Iteration) return;
-        const double time =
-            run.GetAdjustedCPUTime() / benchmark::GetTimeUnitMultiplier(run.time_unit) * 1e9;
         for (Pair& pair : Pairs()) {
             if (run.run_name.function_name == pair.name + kOurs)
-                pair.ours = std::min(pair.ours, time);
+                pair.ours = std::min(pair.ours, Nanoseconds(run, pair.clock));
             if (run.run_name.function_name == pair.name + kPeer)
-                pair.peer = std::min(pair.peer, time);
+                pair.peer = std::min(pair.peer, Nanoseconds(run, pair.clock));
         }
+    }
+
+    static double Nanoseconds(const Run& run, Clock clock) {
+        const double time =
+            clock == Clock::kWall ? run.GetAdjustedRealTime() : run.GetAdjustedCPUTime();
+        return time / benchmark::GetTimeUnitMultiplier(run.time_unit) * 1e9;
     }
 
     bool failed_ = false;
@@ -82,7 +87,7 @@ bool PrintRatios() {
         if (pair.ours == kNotRun || pair.peer == kNotRun) continue;
         const double ratio = pair.ours / pair.peer;
         const bool above = ratio > pair.bound;
-        std::printf("%-44s %10s %10s %8.2f %8.2f%s\n", pair.name.c_str(),
+        std::printf("%-44s %10s %10s %8.3g %8.3g%s\n", pair.name.c_str(),
                     Duration(pair.ours).c_str(), Duration(pair.peer).c_str(), ratio, pair.bound,
                     above ? "  ABOVE" : "");
         within = within && !above;
@@ -92,10 +97,13 @@ bool PrintRatios() {
 
 }  // namespace
 
-Subject::Subject(const std::string& name, double bound, Body ours, Body peer) {
-    Pairs().push_back({name, bound});
-    benchmark::RegisterBenchmark((name + kOurs).c_str(), ours)->Repetitions(kRepetitions);
-    benchmark::RegisterBenchmark((name + kPeer).c_str(), peer)->Repetitions(kRepetitions);
+Subject::Subject(const std::string& name, double bound, Body ours, Body peer, Clock clock) {
+    Pairs().push_back({name, bound, clock});
+    for (const auto& [half, body] : {std::pair{kOurs, ours}, {kPeer, peer}}) {
+        auto* run = benchmark::RegisterBenchmark((name + half).c_str(), body);
+        run->Repetitions(kRepetitions);
+        if (clock == Clock::kWall) run->UseRealTime();
+    }
 }
 
 int Run(int argc, char** argv) {

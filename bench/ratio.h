@@ -10,12 +10,16 @@ namespace bench {
 
 using Body = void (*)(benchmark::State&);
 
+/// What a pair's time is: this program's own work, or all that a user waits, for instance for a
+/// server.
+enum class Clock { kCpu, kWall };
+
 /// Registers a pair under a name such as "list box/find". `bound` is the ratio of our time to the
 /// peer's that is not to be exceeded. Defined as a static object beside its two bodies, each a
 /// loop over the state.
 class Subject {
 public:
-    Subject(const std::string& name, double bound, Body ours, Body peer);
+    Subject(const std::string& name, double bound, Body ours, Body peer, Clock clock = Clock::kCpu);
 };
 
 /// Runs what the command line of Google Benchmark selects, then prints, for each pair that was

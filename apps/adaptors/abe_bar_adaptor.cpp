@@ -84,7 +84,8 @@ const Register kRegistered({
         {"includeAll", "flag", "whether the block box offers the row ALL; true by default", true},
         {"enableABE", "flag", "whether the pickers may be used; true by default", nullptr},
     },
-    "area, areaMode, areacode (bare and quoted), block (as shown and without suffix), layer number, "
+    "area, areaMode, areacode (bare and quoted), block (as shown and without suffix), layer "
+    "number, "
     "map or report; \"runs\" holds the same for each press of Run",
     RunBar,
 });

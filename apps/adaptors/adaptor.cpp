@@ -15,7 +15,8 @@ std::vector<std::unique_ptr<Adaptor>>& Registered() {
 
 std::string NamesOf(const std::vector<Input>& inputs) {
     std::string names;
-    for (const Input& input : inputs) names += (names.empty() ? "" : ", ") + input.name;
+    for (const Input& input : inputs)
+        names += (names.empty() ? "" : ", ") + input.name;
     return names.empty() ? "none" : names;
 }
 
@@ -51,8 +52,8 @@ void Adaptor::Check(const Json& given) const {
         const bool known = std::any_of(inputs.begin(), inputs.end(),
                                        [&](const Input& input) { return input.name == name; });
         if (!known) {
-            throw BadInput(className + " takes no input \"" + name + "\"; it takes: " +
-                           NamesOf(inputs));
+            throw BadInput(className + " takes no input \"" + name +
+                           "\"; it takes: " + NamesOf(inputs));
         }
     }
 }
@@ -63,7 +64,8 @@ Register::Register(Adaptor adaptor) {
 
 std::vector<const Adaptor*> All() {
     std::vector<const Adaptor*> list;
-    for (const auto& each : Registered()) list.push_back(each.get());
+    for (const auto& each : Registered())
+        list.push_back(each.get());
     std::sort(list.begin(), list.end(), [](const Adaptor* a, const Adaptor* b) {
         return std::tie(a->family, a->className) < std::tie(b->family, b->className);
     });
@@ -72,9 +74,8 @@ std::vector<const Adaptor*> All() {
 
 const Adaptor* Find(const std::string& className) {
     const auto& list = Registered();
-    const auto at = std::find_if(list.begin(), list.end(), [&](const auto& each) {
-        return each->className == className;
-    });
+    const auto at = std::find_if(list.begin(), list.end(),
+                                 [&](const auto& each) { return each->className == className; });
     return at == list.end() ? nullptr : at->get();
 }
 

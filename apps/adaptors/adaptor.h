@@ -39,8 +39,8 @@ public:
         try {
             return inputs_.at(name).template get<T>();
         } catch (const nlohmann::json::exception&) {
-            throw BadInput("The input \"" + name + "\" is of the wrong type: " +
-                           inputs_.at(name).dump());
+            throw BadInput("The input \"" + name +
+                           "\" is of the wrong type: " + inputs_.at(name).dump());
         }
     }
     const Json& Inputs() const { return inputs_; }

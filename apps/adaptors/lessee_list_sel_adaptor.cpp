@@ -23,7 +23,8 @@ std::vector<T_KV_LESSEE_PER_STRUCT> PercentsFrom(const Run& run) {
 Json PercentsAsJson(const std::vector<T_KV_LESSEE_PER_STRUCT>& percents) {
     Json list = Json::array();
     for (const T_KV_LESSEE_PER_STRUCT& each : percents) {
-        list.push_back({{"company", each.sCompany}, {"min", each.nMinPercent}, {"max", each.nMaxPercent}});
+        list.push_back(
+            {{"company", each.sCompany}, {"min", each.nMinPercent}, {"max", each.nMaxPercent}});
     }
     return list;
 }

@@ -9,11 +9,10 @@ namespace {
 
 void RunOptrListSel(Run& run) {
     Caller caller(run);
-    CKvGuiOptrListSel dialog(run.Get<std::string>("column", ""),
-                             run.Get<std::string>("keyColumn", ""),
-                             run.Get<std::string>("table", ""),
-                             run.Get<std::string>("condition", ""), &caller.combo, caller.values,
-                             kv::list_sel::kTemplate, nullptr);
+    CKvGuiOptrListSel dialog(
+        run.Get<std::string>("column", ""), run.Get<std::string>("keyColumn", ""),
+        run.Get<std::string>("table", ""), run.Get<std::string>("condition", ""), &caller.combo,
+        caller.values, kv::list_sel::kTemplate, nullptr);
     SetUpListSel(run, dialog);
     run.result = dialog.DoModal();
     TellListSel(run, dialog);

@@ -1,13 +1,13 @@
 #include "adaptors/check_list_adaptor.h"
-#include "qualifiers/pipe_product_dlg.h"
 #include "qualifiers/pipe_ids.h"
+#include "qualifiers/pipe_product_dlg.h"
 
 namespace adaptors {
 
 namespace {
 
-const Register kRegistered(CheckListAdaptor<CKvGuiPipeProductDlg>("CKvGuiPipeProductDlg", "Pipeline Product Codes:",
-                                                                kv::pipe_product::kTemplate, "OIL"));
+const Register kRegistered(CheckListAdaptor<CKvGuiPipeProductDlg>(
+    "CKvGuiPipeProductDlg", "Pipeline Product Codes:", kv::pipe_product::kTemplate, "OIL"));
 
 }  // namespace
 

@@ -1,13 +1,13 @@
 #include "adaptors/check_list_adaptor.h"
-#include "qualifiers/pipe_status_dlg.h"
 #include "qualifiers/pipe_ids.h"
+#include "qualifiers/pipe_status_dlg.h"
 
 namespace adaptors {
 
 namespace {
 
-const Register kRegistered(CheckListAdaptor<CKvGuiPipeStatusDlg>("CKvGuiPipeStatusDlg", "Pipeline Status",
-                                                                kv::pipe_status::kTemplate, "ACT"));
+const Register kRegistered(CheckListAdaptor<CKvGuiPipeStatusDlg>(
+    "CKvGuiPipeStatusDlg", "Pipeline Status", kv::pipe_status::kTemplate, "ACT"));
 
 }  // namespace
 

@@ -2,6 +2,7 @@
 
 #include <CLI/CLI.hpp>
 #include <cstdio>
+#include <cstdlib>
 #include <fstream>
 #include <iostream>
 #include <sstream>
@@ -13,6 +14,7 @@
 #include "frame/statement_trace.h"
 #include "kvdlg/report.h"
 #include "kvdlg/script.h"
+#include "kvdlg/script_lines.h"
 #include "window/headless_desktop.h"
 #include "window/window_system.h"
 
@@ -110,8 +112,8 @@ Json InputsOf(const Options& options, const Json& script) {
 
 int Play(const Options& options) {
     const Adaptor& adaptor = Require(options.className);
-    const Json script =
-        kvdlg::ParseJson(ReadFile(options.scriptFile), "The script " + options.scriptFile);
+    const std::string text = ReadFile(options.scriptFile);
+    const Json script = kvdlg::ParseJson(text, "The script " + options.scriptFile);
     if (!script.is_object()) throw kvdlg::BadScript("The script has to be an object");
     const Json inputs = InputsOf(options, script);
     adaptor.Check(inputs);
@@ -123,6 +125,13 @@ int Play(const Options& options) {
     kv::WindowSystem::Get().SetDesktop(&desktop);
     desktop.SetWindowClosed(
         [&](kv::Node& window) { windows.push_back(kvdlg::Describe(window, "")); });
+    std::string place;
+    desktop.SetFailure([&](const std::string& words) {
+        std::cerr << "kvdlg: " << place << (place.empty() ? "" : ": ") << words << std::endl;
+        std::fflush(nullptr);
+        // At once: no handler on the way may go on.
+        std::_Exit(kWrongUse);
+    });
     const auto snapshot = [&](kv::Node& window, const std::string& name) {
         windows.push_back(kvdlg::Describe(window, name));
     };
@@ -133,7 +142,9 @@ int Play(const Options& options) {
             desktop.Fail(e.what());
         }
     };
-    kvdlg::AddScenes(script.value("user", Json::array()), desktop, {snapshot, call});
+    const auto at = [&](const std::string& where) { place = where; };
+    kvdlg::AddScenes(script.value("user", Json::array()), kvdlg::LinesOf(text), desktop,
+                     {snapshot, call, at});
     kv::db::SetStatementTrace([&](const std::string& statement) { sql.push_back(statement); });
 
     adaptor.run(run);
@@ -154,7 +165,11 @@ int Play(const Options& options) {
 void UseDatabase(const std::string& server) {
     if (server.empty()) return;
     CKvDbInfo info("", "", server.c_str());
-    CKvDbAbsDataMgr(1).SetDbInfo(info);
+    CKvDbAbsDataMgr manager(1);
+    manager.SetDbInfo(info);
+    // A database that is not there ends the run here and not in some message box.
+    manager.Connect();
+    manager.Disconnect();
 }
 
 }  // namespace
@@ -166,8 +181,8 @@ int main(int argc, char** argv) {
     Options options;
 
     auto* list = app.add_subcommand("list", "Every dialog: class, family, caption");
-    auto* describe = app.add_subcommand(
-        "describe", "Inputs that a dialog takes, its controls, what it returns");
+    auto* describe =
+        app.add_subcommand("describe", "Inputs that a dialog takes, its controls, what it returns");
     describe->add_option("CLASS", options.className, "The dialog's class")->required();
     auto* run = app.add_subcommand("run", "Runs a dialog");
     run->add_option("CLASS", options.className, "The dialog's class")->required();

@@ -104,13 +104,19 @@ using Maker = Action (*)(const Json&, const std::string&);
 
 const std::map<std::string, Maker>& Makers() {
     static const std::map<std::string, Maker> makers{
-        {"type", MakeType},     {"key", MakeKey},
-        {"paste", MakePaste},   {"click", MakeClick},
-        {"select", MakeSelect}, {"doubleclick", MakeDoubleClick},
-        {"drop", MakeDrop},     {"focus", MakeFocus},
-        {"close", MakeClose},
+        {"type", MakeType},   {"key", MakeKey},       {"paste", MakePaste},
+        {"click", MakeClick}, {"select", MakeSelect}, {"doubleclick", MakeDoubleClick},
+        {"drop", MakeDrop},   {"focus", MakeFocus},   {"close", MakeClose},
     };
     return makers;
+}
+
+using Lines = std::map<std::string, int>;
+
+/// "Line 7, ", where the line is known.
+std::string LineOf(const Lines& lines, const std::string& pointer) {
+    const auto at = lines.find(pointer);
+    return at == lines.end() ? std::string() : "Line " + std::to_string(at->second) + ", ";
 }
 
 Action MakeAction(const Json& step, const std::string& where, const Hooks& hooks) {
@@ -132,20 +138,40 @@ Action MakeAction(const Json& step, const std::string& where, const Hooks& hooks
     const auto maker = Makers().find(name);
     if (maker == Makers().end()) {
         std::string known = "snapshot, call";
-        for (const auto& [each, make] : Makers()) known += ", " + each;
+        for (const auto& [each, make] : Makers())
+            known += ", " + each;
         Wrong(where, "one of the actions " + known + ", and not \"" + name + "\"");
     }
     return maker->second(value, here);
 }
 
-std::vector<Action> MakeActions(const Json& scene, const std::string& where, const Hooks& hooks) {
+/// A scene of the script, and how its place is named.
+struct ScenePlace {
+    int index;
+    const Lines& lines;
+
+    std::string Pointer() const { return "/user/" + std::to_string(index); }
+    std::string Words() const {
+        return LineOf(lines, Pointer()) + "scene " + std::to_string(index + 1);
+    }
+    std::string WordsOfAction(int action) const {
+        return LineOf(lines, Pointer() + "/do/" + std::to_string(action)) + "scene " +
+               std::to_string(index + 1) + ", action " + std::to_string(action + 1);
+    }
+};
+
+std::vector<Action> MakeActions(const Json& scene, const ScenePlace& place, const Hooks& hooks) {
     std::vector<Action> actions;
     if (!scene.contains("do")) return actions;
-    if (!scene["do"].is_array()) Wrong(where, "\"do\" to be a list of actions");
-    int number = 0;
+    if (!scene["do"].is_array()) Wrong(place.Words(), "\"do\" to be a list of actions");
+    int index = 0;
     for (const Json& step : scene["do"]) {
-        const std::string here = where + ", action " + std::to_string(++number);
-        actions.push_back(MakeAction(step, here, hooks));
+        const std::string where = place.WordsOfAction(index++);
+        actions.push_back(
+            [where, at = hooks.at, act = MakeAction(step, where, hooks)](kv::User& user) {
+                at(where);
+                act(user);
+            });
     }
     return actions;
 }
@@ -157,15 +183,18 @@ int AnswerOf(const Json& scene, const std::string& where) {
     if (!scene.contains("answer")) return IDOK;
     const std::string answer = scene["answer"].is_string() ? scene["answer"] : "";
     const auto at = answers.find(answer);
-    if (at == answers.end()) Wrong(where, "\"answer\" to be ok, cancel, yes, no, retry, abort or ignore");
+    if (at == answers.end())
+        Wrong(where, "\"answer\" to be ok, cancel, yes, no, retry, abort or ignore");
     return at->second;
 }
 
-void AddScene(const Json& scene, const std::string& where, kv::HeadlessDesktop& desktop,
+void AddScene(const Json& scene, const ScenePlace& place, kv::HeadlessDesktop& desktop,
               const Hooks& hooks) {
+    const std::string where = place.Words();
     if (!scene.is_object()) Wrong(where, "an object");
-    const auto play = [actions = MakeActions(scene, where, hooks)](kv::User& user) {
-        for (const Action& action : actions) action(user);
+    const auto play = [actions = MakeActions(scene, place, hooks)](kv::User& user) {
+        for (const Action& action : actions)
+            action(user);
     };
     const auto textOf = [&](const char* key) {
         if (!scene[key].is_string()) Wrong(where, std::string("\"") + key + "\" to be a text");
@@ -182,7 +211,8 @@ void AddScene(const Json& scene, const std::string& where, kv::HeadlessDesktop& 
             desktop.ExpectFile(textOf("file"));
         }
     } else if (scene.contains("pump")) {
-        if (!scene["pump"].is_number_integer()) Wrong(where, "\"pump\" to be how many pumpings go by first");
+        if (!scene["pump"].is_number_integer())
+            Wrong(where, "\"pump\" to be how many pumpings go by first");
         desktop.ExpectPump(play, scene["pump"].get<int>());
     } else {
         Wrong(where, "\"window\", \"message\", \"file\" or \"pump\"");
@@ -201,11 +231,16 @@ Json ParseJson(const std::string& text, const std::string& nameOfText) {
     }
 }
 
-void AddScenes(const Json& user, kv::HeadlessDesktop& desktop, Hooks hooks) {
-    if (!user.is_array()) Wrong("The script", "\"user\" to be a list of scenes");
-    int number = 0;
+void AddScenes(const Json& user, const std::map<std::string, int>& lines,
+               kv::HeadlessDesktop& desktop, const Hooks& hooks) {
+    if (!user.is_array()) {
+        Wrong(LineOf(lines, "/user") + "the script", "\"user\" to be a list of scenes");
+    }
+    int index = 0;
     for (const Json& scene : user) {
-        AddScene(scene, "Scene " + std::to_string(++number), desktop, hooks);
+        const ScenePlace place{index++, lines};
+        if (index == 1) hooks.at(place.Words());
+        AddScene(scene, place, desktop, hooks);
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <stdexcept>
 #include <string>
 
@@ -23,13 +24,17 @@ struct Hooks {
     std::function<void(kv::Node&, const std::string& name)> snapshot;
     /// "call": a method that a tool's host calls.
     std::function<void(const std::string& method, const Json& arguments)> call;
+    /// Told where in the script the next action stands.
+    std::function<void(const std::string& where)> at;
 };
 
 /// Reads the text as JSON. Throws BadScript with the line and column of what is wrong.
 Json ParseJson(const std::string& text, const std::string& nameOfText);
 
 /// Adds the scenes of `user`, a list, to the desktop. The whole script is checked before anything
-/// runs: throws BadScript naming the scene and the action.
-void AddScenes(const Json& user, kv::HeadlessDesktop& desktop, Hooks hooks);
+/// runs: throws BadScript naming line, scene and action. `lines` are those of the whole script, by
+/// JSON pointers.
+void AddScenes(const Json& user, const std::map<std::string, int>& lines,
+               kv::HeadlessDesktop& desktop, const Hooks& hooks);
 
 }  // namespace kvdlg

@@ -69,11 +69,12 @@ public:
     }
 
     void ShowBar() {
-        std::printf("  | Area [%s]%s  Blk/Ext [%s]%s  Layer [%s]%s  (%c) Map%s  (%c) Report%s  "
-                    "[Run]%s\n",
-                    user_.Text(kArea).c_str(), Off(kArea), user_.Text(kBlock).c_str(), Off(kBlock),
-                    user_.Text(kLayer).c_str(), Off(kLayer), Mark(kMap), Off(kMap), Mark(kReport),
-                    Off(kReport), Off(kRun));
+        std::printf(
+            "  | Area [%s]%s  Blk/Ext [%s]%s  Layer [%s]%s  (%c) Map%s  (%c) Report%s  "
+            "[Run]%s\n",
+            user_.Text(kArea).c_str(), Off(kArea), user_.Text(kBlock).c_str(), Off(kBlock),
+            user_.Text(kLayer).c_str(), Off(kLayer), Mark(kMap), Off(kMap), Mark(kReport),
+            Off(kReport), Off(kRun));
     }
     void ShowRows(int id) {
         const std::vector<std::string> rows = user_.Rows(id);

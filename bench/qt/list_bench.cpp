@@ -28,7 +28,8 @@ const std::vector<std::string>& Names() {
 
 QStringList QtNames() {
     QStringList list;
-    for (const std::string& name : Names()) list.append(QString::fromStdString(name));
+    for (const std::string& name : Names())
+        list.append(QString::fromStdString(name));
     return list;
 }
 
@@ -53,7 +54,8 @@ struct Host {
 
 template <typename Control>
 void Fill(Control& control) {
-    for (const std::string& name : Names()) control.AddString(name.c_str());
+    for (const std::string& name : Names())
+        control.AddString(name.c_str());
 }
 
 void FillListOurs(benchmark::State& state) {
@@ -67,7 +69,8 @@ void FillListPeer(benchmark::State& state) {
     const QStringList names = QtNames();
     QListWidget list;
     for (auto _ : state) {
-        for (const QString& name : names) list.addItem(name);
+        for (const QString& name : names)
+            list.addItem(name);
         list.clear();
     }
 }
@@ -89,7 +92,8 @@ void PrefixPeer(benchmark::State& state) {
     const auto wanted = Wanted(12);
     for (auto _ : state) {
         for (const std::string& text : wanted) {
-            benchmark::DoNotOptimize(list.findItems(QString::fromStdString(text), Qt::MatchStartsWith));
+            benchmark::DoNotOptimize(
+                list.findItems(QString::fromStdString(text), Qt::MatchStartsWith));
         }
     }
 }
@@ -111,7 +115,8 @@ void ExactPeer(benchmark::State& state) {
     const auto wanted = Wanted(std::string::npos);
     for (auto _ : state) {
         for (const std::string& text : wanted) {
-            benchmark::DoNotOptimize(list.findItems(QString::fromStdString(text), Qt::MatchFixedString));
+            benchmark::DoNotOptimize(
+                list.findItems(QString::fromStdString(text), Qt::MatchFixedString));
         }
     }
 }
@@ -128,7 +133,8 @@ void FillComboPeer(benchmark::State& state) {
     const QStringList names = QtNames();
     QComboBox combo;
     for (auto _ : state) {
-        for (const QString& name : names) combo.addItem(name);
+        for (const QString& name : names)
+            combo.addItem(name);
         combo.clear();
     }
 }
@@ -150,7 +156,8 @@ void ExactComboPeer(benchmark::State& state) {
     const auto wanted = Wanted(std::string::npos);
     for (auto _ : state) {
         for (const std::string& text : wanted) {
-            benchmark::DoNotOptimize(combo.findText(QString::fromStdString(text), Qt::MatchFixedString));
+            benchmark::DoNotOptimize(
+                combo.findText(QString::fromStdString(text), Qt::MatchFixedString));
         }
     }
 }

@@ -77,12 +77,13 @@ private:
     }
     const std::string& Cell(const kv::sample::Row& row, std::string_view column) const {
         std::size_t at = 0;
-        while (table_->columns[at].name != column) ++at;
+        while (table_->columns[at].name != column)
+            ++at;
         return row[at];
     }
     Point PlaceOf(const kv::sample::Row& row, const char* lat, const char* lon) const {
-        return workbench::ToMap({std::atof(Cell(row, lat).c_str()),
-                                 std::atof(Cell(row, lon).c_str())});
+        return workbench::ToMap(
+            {std::atof(Cell(row, lat).c_str()), std::atof(Cell(row, lon).c_str())});
     }
     void AddCorner(const kv::sample::Row& row) {
         const Part& block = blocks_.at(Cell(row, "refnum"));

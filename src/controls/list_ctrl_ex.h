@@ -19,8 +19,7 @@ public:
     /// cell whether it was filled.
     int AddItem(int nItem, int nSubItem, const char* pszText, int nImage = -1);
     /// The same, and sets the row's data value. The indent is only carried along in the record.
-    int AddItem(int nItem, int nSubItem, const char* pszText, int nImage, long lParam,
-                int nIndent);
+    int AddItem(int nItem, int nSubItem, const char* pszText, int nImage, long lParam, int nIndent);
 
     /// Scrolls the row of the selection mark into view.
     void OnSelchange();

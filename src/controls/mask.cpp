@@ -11,20 +11,29 @@ namespace {
 constexpr std::string_view kPlaceholders = "#9?Aa&C";
 constexpr std::string_view kRequired = "#?A&";
 
-bool IsLetter(char ch) { return (ch >= 'a' && ch <= 'z') || (ch >= 'A' && ch <= 'Z'); }
+bool IsLetter(char ch) {
+    return (ch >= 'a' && ch <= 'z') || (ch >= 'A' && ch <= 'Z');
+}
 
-bool IsPrintable(char ch) { return static_cast<unsigned char>(ch) >= ' ' && ch != 0x7F; }
+bool IsPrintable(char ch) {
+    return static_cast<unsigned char>(ch) >= ' ' && ch != 0x7F;
+}
 
-bool IsContinuation(char ch) { return (static_cast<unsigned char>(ch) & 0xC0) == 0x80; }
+bool IsContinuation(char ch) {
+    return (static_cast<unsigned char>(ch) & 0xC0) == 0x80;
+}
 
 }  // namespace
 
+std::size_t SequenceSize(char lead) {
+    const auto byte = static_cast<unsigned char>(lead);
+    if (byte >= 0xF0 && byte <= 0xF4) return 4;
+    if (byte >= 0xE0 && byte <= 0xEF) return 3;
+    return byte >= 0xC2 && byte <= 0xDF ? 2 : 1;
+}
+
 std::size_t CharacterSize(std::string_view text) {
-    const auto lead = static_cast<unsigned char>(text.front());
-    const std::size_t size = lead >= 0xF0 && lead <= 0xF4   ? 4
-                             : lead >= 0xE0 && lead <= 0xEF ? 3
-                             : lead >= 0xC2 && lead <= 0xDF ? 2
-                                                            : 1;
+    const std::size_t size = SequenceSize(text.front());
     if (size > text.size()) return 1;
     const std::string_view rest = text.substr(1, size - 1);
     return std::all_of(rest.begin(), rest.end(), IsContinuation) ? size : 1;
@@ -118,14 +127,16 @@ std::string Mask::ShownOf(const Place& place) const {
 
 std::string Mask::Shown() const {
     std::string shown;
-    for (const Place& place : places_) shown += ShownOf(place);
+    for (const Place& place : places_)
+        shown += ShownOf(place);
     return shown;
 }
 
 std::string Mask::Text() const {
     std::string text;
     if (!AnythingEntered()) return text;
-    for (const Place& place : places_) text += place.text;
+    for (const Place& place : places_)
+        text += place.text;
     return text;
 }
 
@@ -137,18 +148,14 @@ std::string Mask::Entered() const {
     return entered;
 }
 
-std::string Mask::Clip(int first, int last, bool literals) const {
+std::string Mask::Clip(int first, int last, bool literals, bool prompts) const {
     std::string clip;
     int offset = 0;
     for (const Place& place : places_) {
-        if (offset >= first && offset < last) {
-            if (literals) {
-                clip += ShownOf(place);
-            } else if (place.kind) {
-                clip += place.text;
-            }
-        }
-        offset += static_cast<int>(ShownOf(place).size());
+        const std::string shown = ShownOf(place);
+        const bool wanted = place.kind == 0 ? literals : prompts || !place.text.empty();
+        if (wanted && offset >= first && offset < last) clip += shown;
+        offset += static_cast<int>(shown.size());
     }
     return clip;
 }
@@ -165,10 +172,10 @@ bool Mask::Complete() const {
     });
 }
 
-bool Mask::Full() const {
-    const auto last = std::find_if(places_.rbegin(), places_.rend(),
-                                   [](const Place& place) { return place.kind != 0; });
-    return last != places_.rend() && !last->text.empty() && Complete();
+bool Mask::FullAt(int offset) const {
+    const auto behind = places_.begin() + static_cast<std::ptrdiff_t>(PlaceAt(offset));
+    return Complete() && AnythingEntered() &&
+           std::all_of(behind, places_.end(), [](const Place& place) { return place.kind == 0; });
 }
 
 // Entering.
@@ -197,17 +204,24 @@ void Mask::Clear() {
     }
 }
 
-/// The place behind the character that was entered, or none.
-std::optional<std::size_t> Mask::EnterAt(std::size_t place, std::string_view character) {
-    for (; place < places_.size(); ++place) {
-        if (places_[place].kind == 0) {
-            if (places_[place].text == character) return place + 1;
-            continue;
-        }
-        if (!Put(places_[place], character)) return std::nullopt;
-        return place + 1;
+/// The place behind a literal, if that is among the next literals.
+std::optional<std::size_t> Mask::BehindLiteral(std::size_t place, std::string_view literal) const {
+    while (place < places_.size() && places_[place].kind != 0)
+        ++place;
+    for (; place < places_.size() && places_[place].kind == 0; ++place) {
+        if (places_[place].text == literal) return place + 1;
     }
     return std::nullopt;
+}
+
+/// The place behind the character that was entered, or none.
+std::optional<std::size_t> Mask::EnterAt(std::size_t place, std::string_view character) {
+    const std::size_t from = place;
+    for (; place < places_.size() && places_[place].kind == 0; ++place) {
+        if (places_[place].text == character) return place + 1;
+    }
+    if (place < places_.size() && Put(places_[place], character)) return place + 1;
+    return BehindLiteral(from, character);
 }
 
 std::optional<int> Mask::Enter(int offset, std::string_view character) {

@@ -37,8 +37,8 @@ public:
     /// The character shown in empty places; false for one that cannot be shown.
     bool SetPrompt(char prompt);
     char Prompt() const { return prompt_; }
-    /// Whether the prompt character may be entered: where the mask takes it, it is entered, and else
-    /// it empties its place.
+    /// Whether the prompt character may be entered: where the mask takes it, it is entered, and
+    /// else it empties its place.
     void AllowPrompt(bool allow) { allowPrompt_ = allow; }
     bool PromptAllowed() const { return allowPrompt_; }
 
@@ -48,22 +48,22 @@ public:
     std::string Text() const;
     /// The entered characters alone.
     std::string Entered() const;
-    /// Of the part of the shown text between two offsets, what goes to the clipboard.
-    std::string Clip(int first, int last, bool literals) const;
+    /// The part of the shown text between two offsets, with or without its literals and prompts.
+    std::string Clip(int first, int last, bool literals, bool prompts) const;
     bool AnythingEntered() const;
     /// Whether every placeholder that may not stay empty is filled.
     bool Complete() const;
-    /// Whether the last placeholder is filled, too: there is no more to enter.
-    bool Full() const;
+    /// Whether it is complete, and there is no placeholder left at or behind the offset.
+    bool FullAt(int offset) const;
 
     void Clear();
-    /// Takes a text that fits the mask, with its literals and prompts or without. False, and nothing
-    /// changed, for any other.
+    /// Takes a text that fits the mask, with its literals and prompts or without. False, and
+    /// nothing changed, for any other.
     bool Assign(std::string_view text);
 
-    /// Enters one character at an offset, or in the next placeholder behind it; a literal that stands
-    /// there anyway is passed over. Returns the offset behind it, or none when the mask does not take
-    /// it.
+    /// Enters one character at an offset, or in the next placeholder behind it. One that is the
+    /// next literal leads behind that. Returns the offset behind it, or none when the mask does not
+    /// take it.
     std::optional<int> Enter(int offset, std::string_view character);
     /// Enters what the mask takes of a text, and leaves out the rest. Returns the offset behind it.
     int Paste(int offset, std::string_view text);
@@ -72,8 +72,8 @@ public:
     /// Empties the placeholder that ends at the offset, or the last one ahead of it; returns the
     /// offset at which it begins, or the given one where there is none.
     int EraseAhead(int offset);
-    /// Empties the placeholder at the offset, or the first one behind it; returns the offset at which
-    /// it ends, or the given one where there is none.
+    /// Empties the placeholder at the offset, or the first one behind it; returns the offset at
+    /// which it ends, or the given one where there is none.
     int EraseBehind(int offset);
 
 private:
@@ -92,6 +92,7 @@ private:
     std::size_t PlaceAt(int offset) const;
     int OffsetOf(std::size_t place) const;
     std::optional<std::size_t> EnterAt(std::size_t place, std::string_view character);
+    std::optional<std::size_t> BehindLiteral(std::size_t place, std::string_view literal) const;
 
     std::string pattern_;
     std::vector<Place> places_;
@@ -99,6 +100,8 @@ private:
     bool allowPrompt_ = false;
 };
 
+/// Bytes of the UTF-8 sequence that begins with `lead`; 1 for a byte that begins none.
+std::size_t SequenceSize(char lead);
 /// Bytes of the character that a text begins with: those of a UTF-8 sequence, else 1. The text must
 /// not be empty.
 std::size_t CharacterSize(std::string_view text);

@@ -1,5 +1,6 @@
 #include "controls/mask_format.h"
 
+#include <algorithm>
 #include <array>
 #include <chrono>
 #include <cmath>
@@ -15,6 +16,8 @@ namespace {
 
 /// More digits than a number has are never shown.
 constexpr int kMostDecimals = 30;
+/// A number that leaves room for being shown in hundredths.
+constexpr double kGreatest = 1e300;
 
 // Numbers.
 
@@ -101,7 +104,8 @@ std::string WithDigits(const std::string& digits, const NumberFormat& format) {
         decimals.pop_back();
     }
     if (format.grouped) {
-        for (std::size_t at = whole.size(); at > 3; at -= 3) whole.insert(at - 3, 1, ',');
+        for (std::size_t at = whole.size(); at > 3; at -= 3)
+            whole.insert(at - 3, 1, ',');
     }
     return whole + (format.decimals ? "." + decimals : decimals);
 }
@@ -113,21 +117,26 @@ std::string ExponentOf(int exponent, const NumberFormat& format) {
     return std::string("E") + (exponent < 0 ? "-" : format.plus ? "+" : "") + digits;
 }
 
+/// Fixed notation, a half being rounded up.
+std::string RoundedFixed(double value, int decimals) {
+    const double scaled = value * std::pow(10, decimals);
+    const bool half = scaled - std::floor(scaled) == 0.5;
+    return FormatFixed(half ? std::nextafter(value, HUGE_VAL) : value, decimals);
+}
+
 /// `value` is not negative.
 std::string FormatSection(std::string_view section, double value) {
     const NumberFormat format = ParseNumberFormat(section);
     if (!format.digits) return format.ahead + format.behind;
     if (format.percent) value *= 100;
-    std::string exponent;
-    if (format.exponent) {
-        int power = value == 0 ? 0 : static_cast<int>(std::floor(std::log10(value)));
-        // Rounding may bring in one more digit.
-        if (Atof(FormatFixed(value / std::pow(10, power), format.mostDecimals)) >= 10) ++power;
-        value /= std::pow(10, power);
-        exponent = ExponentOf(power, format);
+    if (!format.exponent) {
+        return format.ahead + WithDigits(RoundedFixed(value, format.mostDecimals), format) +
+               format.behind;
     }
-    const std::string digits = FormatFixed(value, format.mostDecimals);
-    return format.ahead + WithDigits(digits, format) + exponent + format.behind;
+    const std::string scientific = FormatText("%.*e", format.mostDecimals, value);
+    const std::size_t mark = scientific.find('e');
+    return format.ahead + WithDigits(scientific.substr(0, mark), format) +
+           ExponentOf(Atoi(scientific.substr(mark + 1)), format) + format.behind;
 }
 
 /// The sections between the semicolons that are not quoted.
@@ -165,7 +174,7 @@ std::optional<double> NumberIn(const std::string& text) {
     if (digits.starts_with("$")) digits.erase(0, 1);
     std::size_t end = 0;
     const auto number = ScanNumber(digits, &end);
-    if (!number || end != digits.size() || !std::isfinite(*number)) return std::nullopt;
+    if (!number || end != digits.size() || std::abs(*number) > kGreatest) return std::nullopt;
     return number;
 }
 
@@ -189,8 +198,7 @@ constexpr std::array<const char*, 7> kDays{"Sunday",   "Monday", "Tuesday", "Wed
                                            "Thursday", "Friday", "Saturday"};
 
 std::chrono::year_month_day DateOf(const Moment& moment) {
-    return {std::chrono::year(moment.year),
-            std::chrono::month(static_cast<unsigned>(moment.month)),
+    return {std::chrono::year(moment.year), std::chrono::month(static_cast<unsigned>(moment.month)),
             std::chrono::day(static_cast<unsigned>(moment.day))};
 }
 
@@ -314,7 +322,8 @@ std::string FormatMoment(std::string_view format, const Moment& moment) {
         }
         const char letter = ToLower(format.front());
         std::size_t length = 1;
-        while (length < format.size() && ToLower(format[length]) == letter) ++length;
+        while (length < format.size() && ToLower(format[length]) == letter)
+            ++length;
         if (letter == 'h') {
             const int hour = half ? (moment.hour + 11) % 12 + 1 : moment.hour;
             text += Padded(hour, length);

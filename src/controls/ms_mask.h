@@ -25,13 +25,14 @@ struct CLSID {
 inline constexpr long mskIncludeLiterals = 0;
 inline constexpr long mskExcludeLiterals = 1;
 
-/// A masked edit: what is typed, pasted or set has to fit a mask; see `kv::Mask` for its characters.
+/// A masked edit: what is typed, pasted or set has to fit a mask; see `kv::Mask` for its
+/// characters.
 ///
 /// It stands on an edit, which `Create` makes, or which it attaches to (`SubclassDlgItem`). Typing
 /// replaces what stands at the caret; backspace and delete empty a place and leave the others where
-/// they are; pasting takes what fits and leaves out the rest. Without a mask it is a plain edit of at
-/// most `GetMaxLength` characters. With a format, and as long as the selection is hidden elsewhere,
-/// it shows the formatted text while the focus is somewhere else.
+/// they are; pasting takes what fits and leaves out the rest. Without a mask it is a plain edit of
+/// at most `GetMaxLength` characters. With a format, and as long as the selection is hidden
+/// elsewhere, it shows the formatted text while the focus is somewhere else.
 ///
 /// Places and lengths are bytes. Detached from it, the edit is a plain one with the text as shown.
 class KVGUICTL_API CMSMask : public CWnd {
@@ -49,8 +50,8 @@ public:
     /// A mask of more than 64 places changes nothing.
     CString GetMask();
     void SetMask(LPCTSTR mask);
-    /// The character of empty places, the underscore at first; the text's first character counts, and
-    /// has to be a printable ASCII one.
+    /// The character of empty places, the underscore at first; the text's first character counts,
+    /// and has to be a printable ASCII one.
     CString GetPromptChar();
     void SetPromptChar(LPCTSTR prompt);
     /// Whether `GetText` gives empty places as prompts; at first it does.

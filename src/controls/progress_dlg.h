@@ -6,7 +6,8 @@
 /// A modeless dialog that shows how far a long operation has come, and can be told to cancel it.
 ///
 /// The operation runs on the user-interface thread. Each call of this class that moves the bar lets
-/// waiting messages through; the operation asks `CheckCancelButton` in its loop and stops by itself.
+/// waiting messages through; the operation asks `CheckCancelButton` in its loop and stops by
+/// itself.
 class KVGUICTL_API CKvGuiProgressDlg : public CDialog {
 public:
     /// A caption id other than 0 is kept. Clears the cancel flag, which all dialogs of this class

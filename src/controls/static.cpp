@@ -8,7 +8,6 @@ namespace {
 
 constexpr int kHeight = 12;
 constexpr char kFace[] = "Times New Roman";
-constexpr DWORD kOwnerDraw = 0x0D;
 
 }  // namespace
 
@@ -36,11 +35,13 @@ void CKvStatic::DrawLabel(const std::string& sText) {
 }
 
 LRESULT CKvStatic::OnCreate(WPARAM, LPARAM) {
-    ModifyStyle(0, kOwnerDraw);
+    ModifyStyle(0, SS_OWNERDRAW);
     return Default();
 }
 
-void CKvStatic::OnPaint() { DrawLabel(WindowText()); }
+void CKvStatic::OnPaint() {
+    DrawLabel(WindowText());
+}
 
 void CKvStatic::OnShowWindow(BOOL, UINT) {
     // The label comes and goes with the cell that it names; there is nothing to do for it.

@@ -6,7 +6,8 @@
 #include "window/message_map.h"
 #include "window/static_text.h"
 
-/// A label that paints its own text, in a font and a colour of its own, centred about its left edge.
+/// A label that paints its own text, in a font and a colour of its own, centred about its left
+/// edge.
 class KVGUICTL_API CKvStatic : public CStatic {
 public:
     CKvStatic();

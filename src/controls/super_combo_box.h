@@ -2,6 +2,7 @@
 
 #include "window/combo_box.h"
 #include "window/edit.h"
+#include "window/gdi_objects.h"
 #include "window/list_box.h"
 #include "window/message_map.h"
 

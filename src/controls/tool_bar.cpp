@@ -13,9 +13,13 @@ constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE | CBRS_TOP | CBRS_TOOLTIPS;
 constexpr CSize kPlainButton{23, 22};
 constexpr CSize kImage{16, 16};
 
-std::string SectionOf(const char* name) { return std::string(name ? name : "") + "-Summary"; }
+std::string SectionOf(const char* name) {
+    return std::string(name ? name : "") + "-Summary";
+}
 
-std::string EntryOf(const CWnd& bar) { return bar.WindowText() + "-Visible"; }
+std::string EntryOf(const CWnd& bar) {
+    return bar.WindowText() + "-Visible";
+}
 
 }  // namespace
 
@@ -36,8 +40,8 @@ BOOL CKvToolBar::CreateBar(CWnd* pParent, int nId, UINT nBitmapId, const UINT* p
     return Finish(LoadBitmap(nBitmapId) && SetButtons(pButtons, nButtons), pszTitle);
 }
 
-BOOL CKvToolBar::CreateBarEx(CWnd* pParent, int, UINT nBitmapId, const UINT* pButtons,
-                             int nButtons, const char* pszTitle) {
+BOOL CKvToolBar::CreateBarEx(CWnd* pParent, int, UINT nBitmapId, const UINT* pButtons, int nButtons,
+                             const char* pszTitle) {
     if (!CreateEx(pParent, TBSTYLE_FLAT, kStyle, AFX_IDW_TOOLBAR)) return FALSE;
     return Finish(LoadToolBar(nBitmapId) && SetButtons(pButtons, nButtons), pszTitle);
 }

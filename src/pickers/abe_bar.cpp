@@ -35,7 +35,8 @@ BOOL CKvABEBar::Create(CWnd* parent, UINT, UINT style, UINT id) {
 
 void CKvABEBar::PopulateLayerCombo() {
     auto& layers = Control<CComboBox>(kLayer);
-    for (const char* title : kLayerTitles) layers.AddString(title);
+    for (const char* title : kLayerTitles)
+        layers.AddString(title);
 }
 
 E_Layer CKvABEBar::GetLayer() {
@@ -47,7 +48,9 @@ void CKvABEBar::SetLayerFromTitle(const std::string& title) {
     m_eLayer = kv::catalogue::LayerFromTitle(title);
 }
 
-bool CKvABEBar::IsMapSelected() const { return IsDlgButtonChecked(kMap) == BST_CHECKED; }
+bool CKvABEBar::IsMapSelected() const {
+    return IsDlgButtonChecked(kMap) == BST_CHECKED;
+}
 
 void CKvABEBar::SetRadioState(bool bReport) {
     CheckDlgButton(kReport, bReport ? BST_CHECKED : BST_UNCHECKED);
@@ -67,8 +70,7 @@ void CKvABEBar::SetArea(const std::string& areacode) {
 
 BOOL CKvABEBar::OnCmdMsg(UINT id, int code, void* extra, void* info) {
     if (id == kArea) {
-        const bool touched =
-            code == CBN_EDITCHANGE || code == CBN_DROPDOWN || code == CBN_SETFOCUS;
+        const bool touched = code == CBN_EDITCHANGE || code == CBN_DROPDOWN || code == CBN_SETFOCUS;
         if (touched && m_areaCombo.m_hWnd) FillAreasOnce();
         if (code == CBN_EDITCHANGE || code == CBN_SELCHANGE) m_areaCombo.V_SelChanged(true);
     }
@@ -79,17 +81,25 @@ void CKvABEBar::OnABERun() {
     if (CWnd* mainWindow = AfxGetMainWnd()) mainWindow->SendMessage(kRunMessage, 0, 0);
 }
 
-void CKvABEBar::OnSelchangeComboLayer() { SetLayerFromTitle(DlgItemText(kLayer)); }
+void CKvABEBar::OnSelchangeComboLayer() {
+    SetLayerFromTitle(DlgItemText(kLayer));
+}
 
 bool CKvABEBar::IsComplete() const {
     return !m_blkCombo.WindowText().empty() && !m_areaCombo.WindowText().empty();
 }
 
-void CKvABEBar::OnUpdateButton(CCmdUI* update) { update->Enable(IsComplete()); }
+void CKvABEBar::OnUpdateButton(CCmdUI* update) {
+    update->Enable(IsComplete());
+}
 
-void CKvABEBar::OnUpdateRunButton(CCmdUI* update) { update->Enable(IsComplete()); }
+void CKvABEBar::OnUpdateRunButton(CCmdUI* update) {
+    update->Enable(IsComplete());
+}
 
-void CKvABEBar::OnUpdateMapRadio(CCmdUI* update) { OnUpdateButton(update); }
+void CKvABEBar::OnUpdateMapRadio(CCmdUI* update) {
+    OnUpdateButton(update);
+}
 
 void CKvABEBar::OnUpdateRepRadio(CCmdUI* update) {
     update->Enable(IsComplete() && m_eLayer != KV_LAYER_2D_SHOTPOINTS);
@@ -103,7 +113,9 @@ void CKvABEBar::OnUpdateLayerCombo(CCmdUI* update) {
     }
 }
 
-void CKvABEBar::OnUpdateBlkCombo(CCmdUI* update) { update->Enable(m_areaCombo.EnableBlkCombo()); }
+void CKvABEBar::OnUpdateBlkCombo(CCmdUI* update) {
+    update->Enable(m_areaCombo.EnableBlkCombo());
+}
 
 void CKvABEBar::OnUpdateAreaCombo(CCmdUI* update) {
     update->Enable(m_bEnableABE);

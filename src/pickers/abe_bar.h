@@ -27,7 +27,8 @@ public:
     std::string GetBlk(bool bStripSuffix) const { return m_blkCombo.GetBlk(bStripSuffix); }
     bool IsMapSelected() const;
     void SetRadioState(bool bReport);
-    /// Selects the area with that area code, filling the area list first where it is not filled yet.
+    /// Selects the area with that area code, filling the area list first where it is not filled
+    /// yet.
     void SetArea(const std::string& areacode);
     void SetBlkExt(const std::string& text) { m_blkCombo.SetWindowText(text.c_str()); }
     void SetIncludeAll(bool includeAll) { m_blkCombo.SetIncludeAll(includeAll); }

@@ -32,7 +32,9 @@ std::string SelectLabels(const char* first, const char* second) {
            "' from dual union ";
 }
 
-std::string Quoted(const std::string& text) { return "'" + text + "'"; }
+std::string Quoted(const std::string& text) {
+    return "'" + text + "'";
+}
 
 }  // namespace
 

@@ -10,8 +10,8 @@
 /// the pick.
 class KVGUICTL_API CKvAreaComboBox : public CKvDbComboBox {
 public:
-    /// Binds the block box, which is not owned, and gives it the present mode. To be called ahead of
-    /// `V_InitializeCombo`.
+    /// Binds the block box, which is not owned, and gives it the present mode. To be called ahead
+    /// of `V_InitializeCombo`.
     void SetBlkCombo(CKvBlkComboBox* combo);
 
     int GetMode() const { return m_nMode; }

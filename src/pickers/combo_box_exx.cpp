@@ -8,7 +8,9 @@ using kv::SystemColor;
 
 namespace {
 
-COLORREF Color(SystemColor which) { return kv::WindowSystem::Get().GetDesktop().Color(which); }
+COLORREF Color(SystemColor which) {
+    return kv::WindowSystem::Get().GetDesktop().Color(which);
+}
 
 /// Shared by all boxes: made anew each time that a box is asked for its colours.
 CBrush& BackgroundBrush() {
@@ -27,7 +29,9 @@ void CComboBoxExx::SetColor(COLORREF& field, COLORREF color, BOOL redraw) {
     if (redraw) Invalidate();
 }
 
-void CComboBoxExx::SetBkColor(COLORREF color, BOOL redraw) { SetColor(m_crBkColor, color, redraw); }
+void CComboBoxExx::SetBkColor(COLORREF color, BOOL redraw) {
+    SetColor(m_crBkColor, color, redraw);
+}
 
 void CComboBoxExx::SetTextColor(COLORREF color, BOOL redraw) {
     SetColor(m_crTextColor, color, redraw);

@@ -10,8 +10,8 @@ class KVGUICTL_API CComboBoxExx : public CComboBox {
 public:
     CComboBoxExx();
 
-    /// Stores the colour when it differs from the present one, and repaints if asked. A disabled box
-    /// paints in the system's colours whatever is set.
+    /// Stores the colour when it differs from the present one, and repaints if asked. A disabled
+    /// box paints in the system's colours whatever is set.
     void SetBkColor(COLORREF color, BOOL redraw);
     void SetTextColor(COLORREF color, BOOL redraw);
 

@@ -25,7 +25,8 @@ void CKvDbComboBox::FillFromQuery(const std::string& sql, bool bClear) {
         manager.Connect();
         manager.Select(sql);
         const int rows = manager.NumberOfRows();
-        for (int row = 0; row < rows; ++row) AddString(manager.GetItem(row, 0));
+        for (int row = 0; row < rows; ++row)
+            AddString(manager.GetItem(row, 0));
     } catch (const CKvException& e) {
         CKvLog::Output(e.GetErrorMessage(true, true), 101, false);
     }

@@ -22,9 +22,8 @@ class ButtonView : public Base {
 public:
     ButtonView(ButtonNode& node, QWidget* host) : Base(host), node_(node.weak_from_this()) {
         // What is left of clicks are those of tools that act on the widget itself.
-        QObject::connect(this, &QAbstractButton::clicked, this, [this] {
-            Act(node_, [](Node& button) { input::Click(button); });
-        });
+        QObject::connect(this, &QAbstractButton::clicked, this,
+                         [this] { Act(node_, [](Node& button) { input::Click(button); }); });
     }
 
 protected:
@@ -135,15 +134,19 @@ void ButtonPeer::Changed(Change change) {
     if (change == Change::kPaint) View()->setDown(Button().Pushed());
 }
 
-void ButtonPeer::ShowText() { View()->setText(Escaped(PlainText(GetNode().Text()))); }
+void ButtonPeer::ShowText() {
+    View()->setText(Escaped(PlainText(GetNode().Text())));
+}
 
-void ButtonPeer::ShowCheck() { View()->setChecked(Button().CheckState() == BST_CHECKED); }
+void ButtonPeer::ShowCheck() {
+    View()->setChecked(Button().CheckState() == BST_CHECKED);
+}
 
 void ButtonPeer::ShowImage() {
     const auto image = static_cast<int>(Button().Image());
     const QPixmap pixmap = PixmapOf(image);
-    if (!pixmap.isNull()) View()->setIconSize(CurrentScale().ToScreen(
-        CSize{pixmap.width(), pixmap.height()}));
+    if (!pixmap.isNull())
+        View()->setIconSize(CurrentScale().ToScreen(CSize{pixmap.width(), pixmap.height()}));
     View()->setIcon(IconOf(image));
     View()->update();
 }

@@ -148,8 +148,7 @@ QWidget* MakeView(ComboBoxNode& node, QWidget* host) {
 
 }  // namespace
 
-ComboBoxPeer::ComboBoxPeer(ComboBoxNode& node, QWidget* host)
-    : Peer(node, MakeView(node, host)) {}
+ComboBoxPeer::ComboBoxPeer(ComboBoxNode& node, QWidget* host) : Peer(node, MakeView(node, host)) {}
 
 ComboBoxPeer::~ComboBoxPeer() {
     if (popup_) LetGo(popup_);

@@ -29,9 +29,13 @@ EditNode* EditOf(const WeakNode& node) {
     return edit && !edit->Destroyed() ? static_cast<EditNode*>(edit.get()) : nullptr;
 }
 
-PlacedText TextOf(const EditNode& edit) { return {edit.Text(), edit.MultiLine()}; }
+PlacedText TextOf(const EditNode& edit) {
+    return {edit.Text(), edit.MultiLine()};
+}
 
-bool IsWordPart(QChar character) { return character.isLetterOrNumber() || character == u'_'; }
+bool IsWordPart(QChar character) {
+    return character.isLetterOrNumber() || character == u'_';
+}
 
 /// What the mouse does in an edit, be it of one line or of several.
 class EditMouse {
@@ -42,8 +46,9 @@ public:
     void Press(const QMouseEvent& event, int index) {
         if (event.button() != Qt::LeftButton) return;
         held_ = false;
-        const bool third = sinceDouble_.isValid() &&
-                           sinceDouble_.elapsed() < QApplication::styleHints()->mouseDoubleClickInterval();
+        const bool third =
+            sinceDouble_.isValid() &&
+            sinceDouble_.elapsed() < QApplication::styleHints()->mouseDoubleClickInterval();
         sinceDouble_.invalidate();
         const bool shift = event.modifiers() & Qt::ShiftModifier;
         Act(node_, [&](Node& node) {
@@ -89,8 +94,10 @@ public:
             const QString& text = placed.Text();
             int first = std::min(index, static_cast<int>(text.size()));
             int last = first;
-            while (first > 0 && IsWordPart(text.at(first - 1))) --first;
-            while (last < text.size() && IsWordPart(text.at(last))) ++last;
+            while (first > 0 && IsWordPart(text.at(first - 1)))
+                --first;
+            while (last < text.size() && IsWordPart(text.at(last)))
+                ++last;
             input::SelectText(edit, placed.ByteOf(first), placed.ByteOf(last));
         });
     }
@@ -104,9 +111,11 @@ private:
 
 void AddCommand(QMenu& menu, const QString& words, const WeakNode& node, UINT message,
                 bool enabled) {
-    menu.addAction(words, [node, message] {
-            Act(node, [message](Node& edit) { input::EditCommand(edit, message); });
-        })->setEnabled(enabled);
+    menu.addAction(words,
+                   [node, message] {
+                       Act(node, [message](Node& edit) { input::EditCommand(edit, message); });
+                   })
+        ->setEnabled(enabled);
 }
 
 void ShowMenu(QWidget& view, const WeakNode& node, const QPoint& at) {
@@ -126,14 +135,15 @@ void ShowMenu(QWidget& view, const WeakNode& node, const QPoint& at) {
     AddCommand(*menu, QLineEdit::tr("Delete"), node, WM_CLEAR, writable && selected);
     menu->addSeparator();
     menu->addAction(QLineEdit::tr("Select All"), [node] {
-        Act(node, [](Node& each) {
-            input::SelectText(each, 0, static_cast<int>(each.Text().size()));
-        });
+        Act(node,
+            [](Node& each) { input::SelectText(each, 0, static_cast<int>(each.Text().size())); });
     });
     menu->popup(at);
 }
 
-bool HoldsFocus(const EditNode& edit) { return WindowSystem::Get().Focus() == &edit; }
+bool HoldsFocus(const EditNode& edit) {
+    return WindowSystem::Get().Focus() == &edit;
+}
 
 class LineView : public QLineEdit {
 public:

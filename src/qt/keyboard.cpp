@@ -74,8 +74,7 @@ bool IsForControls(const QKeyEvent& event, const Node& root) {
         return event.key() == Qt::Key_Down || event.key() == Qt::Key_Up || TypesText(event);
     }
     if (event.modifiers() & Qt::ControlModifier) {
-        return IsEditCommand(event.key()) ||
-               (VirtualKey(event.key()) && event.key() < Qt::Key_F1);
+        return IsEditCommand(event.key()) || (VirtualKey(event.key()) && event.key() < Qt::Key_F1);
     }
     return event.key() < Qt::Key_F1 || event.key() == Qt::Key_F4;
 }
@@ -121,7 +120,8 @@ public:
         Peer* peer = PeerOf(static_cast<QWidget*>(watched));
         if (!peer) return false;
         Node& root = *peer->GetNode().Root();
-        if (type == QEvent::InputMethod) return Commit(static_cast<QInputMethodEvent&>(*event), root);
+        if (type == QEvent::InputMethod)
+            return Commit(static_cast<QInputMethodEvent&>(*event), root);
         auto& key = static_cast<QKeyEvent&>(*event);
         if (!IsForControls(key, root)) return TakeMnemonic(key, root);
         event->accept();

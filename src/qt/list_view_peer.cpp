@@ -260,7 +260,9 @@ bool ListTree::IsOnCheckBox(const QModelIndex& index, const QPoint& at) const {
     initViewItemOption(&option);
     option.rect = visualRect(index);
     static_cast<const CellDelegate*>(itemDelegate())->Prepare(option, index);
-    return style()->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &option, this).contains(at);
+    return style()
+        ->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &option, this)
+        .contains(at);
 }
 
 void ListTree::mousePressEvent(QMouseEvent* event) {
@@ -298,7 +300,9 @@ void ListTree::contextMenuEvent(QContextMenuEvent* event) {
 ListViewPeer::ListViewPeer(ListViewNode& node, QWidget* host)
     : Peer(node, new ListTree(node, host)) {}
 
-ListTree* ListViewPeer::View() const { return static_cast<ListTree*>(Widget()); }
+ListTree* ListViewPeer::View() const {
+    return static_cast<ListTree*>(Widget());
+}
 
 void ListViewPeer::ShowAll() {
     Peer::ShowAll();

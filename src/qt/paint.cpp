@@ -40,7 +40,8 @@ QIcon IconOf(int imageId) {
     const QPixmap plain = PixmapOf(imageId);
     QIcon icon;
     if (plain.isNull()) return icon;
-    for (const int factor : kIconScales) icon.addPixmap(plain.scaled(plain.size() * factor));
+    for (const int factor : kIconScales)
+        icon.addPixmap(plain.scaled(plain.size() * factor));
     return icon;
 }
 

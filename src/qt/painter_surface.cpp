@@ -14,8 +14,8 @@ QImage ToImage(const Raster& raster) {
     QImage image(raster.Width(), raster.Height(), QImage::Format_ARGB32);
     const auto width = static_cast<std::size_t>(raster.Width());
     for (int y = 0; y < raster.Height(); ++y) {
-        const auto first = raster.Pixels().begin() + static_cast<std::ptrdiff_t>(
-                                                         static_cast<std::size_t>(y) * width);
+        const auto first = raster.Pixels().begin() +
+                           static_cast<std::ptrdiff_t>(static_cast<std::size_t>(y) * width);
         std::copy_n(first, width, reinterpret_cast<std::uint32_t*>(image.scanLine(y)));
     }
     return image;
@@ -28,7 +28,9 @@ PainterSurface::PainterSurface(QPainter& painter, CSize extent, Scale scale)
     painter_.setRenderHint(QPainter::SmoothPixmapTransform, !exact);
 }
 
-void PainterSurface::SetClip(const CRect& clip) { painter_.setClipRect(scale_.ToScreen(clip)); }
+void PainterSurface::SetClip(const CRect& clip) {
+    painter_.setClipRect(scale_.ToScreen(clip));
+}
 
 void PainterSurface::Fill(const CRect& rect, COLORREF color) {
     if (!rect.IsRectEmpty()) painter_.fillRect(scale_.ToScreen(rect), ToQColor(color));
@@ -51,8 +53,8 @@ void PainterSurface::Line(CPoint from, CPoint to, const Stroke& stroke) {
     const QPointF start = scale_.ToScreen(from);
     const QPointF end = scale_.ToScreen(to);
     // A pixel's place is its corner, a line runs through its middle.
-    const QPointF middle = scale_ == Scale{1, 1} && stroke.width <= 1 ? QPointF(0, 0)
-                                                                     : QPointF(0.5, 0.5);
+    const QPointF middle =
+        scale_ == Scale{1, 1} && stroke.width <= 1 ? QPointF(0, 0) : QPointF(0.5, 0.5);
     if (!stroke.dashes.empty() && stroke.gap) {
         painter_.setPen(Pen(stroke, *stroke.gap));
         painter_.drawLine(start + middle, end + middle);
@@ -72,7 +74,8 @@ void PainterSurface::Line(CPoint from, CPoint to, const Stroke& stroke) {
 
 void PainterSurface::Polygon(std::span<const CPoint> corners, COLORREF color) {
     QPolygonF polygon;
-    for (const CPoint corner : corners) polygon.append(scale_.ToScreen(corner));
+    for (const CPoint corner : corners)
+        polygon.append(scale_.ToScreen(corner));
     painter_.setPen(Qt::NoPen);
     painter_.setBrush(ToQColor(color));
     painter_.drawPolygon(polygon, Qt::OddEvenFill);

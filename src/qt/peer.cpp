@@ -43,7 +43,7 @@ Peer::Peer(Node& node, QWidget* widget) : node_(node), widget_(widget) {
 Peer::~Peer() {
     Peers().removeIf([this](const auto& each) { return each.value() == this; });
     if (widget_) LetGo(widget_);
-    if (!node_.Parent()) WindowGone();
+    if (!node_.Parent()) SettleSoon();
 }
 
 Peer* PeerOf(const QWidget* widget) {
@@ -53,7 +53,9 @@ Peer* PeerOf(const QWidget* widget) {
     return nullptr;
 }
 
-Peer* PeerOf(const Node& node) { return dynamic_cast<Peer*>(node.GetView()); }
+Peer* PeerOf(const Node& node) {
+    return dynamic_cast<Peer*>(node.GetView());
+}
 
 void AddWidget(Peer& peer, QWidget* widget) {
     Peers().insert(widget, &peer);
@@ -85,9 +87,11 @@ void Peer::Changed(Change change) {
         case Change::kEnabled:
             ShowEnabled();
             ShowColors();
+            SettleSoon();
             break;
         case Change::kVisible:
             ShowVisible();
+            SettleSoon();
             break;
         case Change::kStyle:
         case Change::kDefault:
@@ -113,11 +117,17 @@ void Peer::Changed(Change change) {
     }
 }
 
-void Peer::ShowRect() { widget_->setGeometry(CurrentScale().ToScreen(node_.Rect())); }
+void Peer::ShowRect() {
+    widget_->setGeometry(CurrentScale().ToScreen(node_.Rect()));
+}
 
-void Peer::ShowEnabled() { widget_->setEnabled(node_.Enabled()); }
+void Peer::ShowEnabled() {
+    widget_->setEnabled(node_.Enabled());
+}
 
-void Peer::ShowVisible() { widget_->setVisible(node_.Visible()); }
+void Peer::ShowVisible() {
+    widget_->setVisible(node_.Visible());
+}
 
 void Peer::ShowFocus() {
     if (WindowSystem::Get().Focus() != &node_) return;
@@ -148,7 +158,8 @@ void Peer::ShowColors() {
     CDC context;
     const ControlColors colors = AskColors(node_, context);
     const bool field = node_.Class() == NodeClass::kEdit || node_.Class() == NodeClass::kComboBox ||
-                       node_.Class() == NodeClass::kListBox || node_.Class() == NodeClass::kListView;
+                       node_.Class() == NodeClass::kListBox ||
+                       node_.Class() == NodeClass::kListView;
     const std::initializer_list<SystemColor> texts = {
         SystemColor::kWindowText, SystemColor::kButtonText, SystemColor::kGrayText};
     const std::initializer_list<SystemColor> backgrounds = {SystemColor::kWindow,

@@ -71,8 +71,8 @@ void Act(const std::weak_ptr<Node>& node, const std::function<void(Node&)>& acti
 void Settle();
 /// Hides a widget and deletes it when no action is under way, which may be one of its own.
 void LetGo(QWidget* widget);
-/// A window's peer has gone.
-void WindowGone();
+/// Lets the layer settle as soon as the event loop runs.
+void SettleSoon();
 
 /// The text of a control that has none of its own: of the label ahead of it.
 QString AccessibleName(const Node& node);

@@ -17,7 +17,8 @@ std::unique_ptr<Peer> Make(Node& node, QWidget* host) {
 }
 
 std::unique_ptr<Peer> MakeButton(Node& node, QWidget* host) {
-    if ((node.Style() & BS_TYPEMASK) == BS_GROUPBOX) return Make<GroupBoxPeer, ButtonNode>(node, host);
+    if ((node.Style() & BS_TYPEMASK) == BS_GROUPBOX)
+        return Make<GroupBoxPeer, ButtonNode>(node, host);
     return Make<ButtonPeer, ButtonNode>(node, host);
 }
 
@@ -26,10 +27,12 @@ std::unique_ptr<Peer> MakeEdit(Node& node, QWidget* host) {
 }
 
 std::unique_ptr<Peer> MakeDialog(Node& node, QWidget*) {
-    return std::make_unique<DialogPeer>(static_cast<DialogNode&>(node));
+    return std::make_unique<DialogPeer>(node);
 }
 
-std::unique_ptr<Peer> MakeFrame(Node& node, QWidget*) { return std::make_unique<FramePeer>(node); }
+std::unique_ptr<Peer> MakeFrame(Node& node, QWidget*) {
+    return std::make_unique<FramePeer>(node);
+}
 
 struct Maker {
     NodeClass nodeClass;

@@ -86,7 +86,8 @@ void SetUp(QFileDialog& dialog, const FileDialogRequest& request) {
     dialog.setFileMode(request.open ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     dialog.setOption(QFileDialog::DontConfirmOverwrite, !(request.flags & OFN_OVERWRITEPROMPT));
     QStringList filters;
-    for (const FileFilter& filter : ParseFilter(request.filter)) filters.append(NameFilter(filter));
+    for (const FileFilter& filter : ParseFilter(request.filter))
+        filters.append(NameFilter(filter));
     if (!filters.isEmpty()) dialog.setNameFilters(filters);
     dialog.setDefaultSuffix(ToQString(request.defaultExtension));
     std::string folder = request.initialFolder;

@@ -43,12 +43,14 @@ void DeleteLeaving() {
 void ForEachPeer(Node& node, const std::function<void(Peer&)>& visit) {
     if (Peer* peer = PeerOf(node); peer && peer->Widget()) visit(*peer);
     const auto children = node.Children();
-    for (const auto& child : children) ForEachPeer(*child, visit);
+    for (const auto& child : children)
+        ForEachPeer(*child, visit);
 }
 
 void ForEachPeer(const std::function<void(Peer&)>& visit) {
     const auto windows = WindowSystem::Get().TopLevels();
-    for (const auto& window : windows) ForEachPeer(*window, visit);
+    for (const auto& window : windows)
+        ForEachPeer(*window, visit);
 }
 
 bool HasEnded(Node& window) {
@@ -153,7 +155,7 @@ void LetGo(QWidget* widget) {
     }
 }
 
-void WindowGone() {
+void SettleSoon() {
     if (g_desktop) g_desktop->Wake();
 }
 
@@ -164,13 +166,16 @@ QtDesktop::QtDesktop() : events_(std::make_unique<Events>()) {
 
 QtDesktop::~QtDesktop() {
     const auto windows = WindowSystem::Get().TopLevels();
-    for (const auto& window : windows) window->SetView(nullptr);
+    for (const auto& window : windows)
+        window->SetView(nullptr);
     WindowSystem::Get().ForgetDesktop(*this);
     g_desktop = nullptr;
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
-void QtDesktop::LeaveEndedLoops() { events_->LeaveEndedLoops(); }
+void QtDesktop::LeaveEndedLoops() {
+    events_->LeaveEndedLoops();
+}
 
 void QtDesktop::RunModal(Node& dialog) {
     MakePeer(dialog, nullptr);
@@ -183,15 +188,21 @@ void QtDesktop::RunModeless(Node& window, Node&) {
     events_->RunUntilEnded(window);
 }
 
-int QtDesktop::RunMessageBox(const MessageBoxRequest& request) { return ShowMessageBox(request); }
+int QtDesktop::RunMessageBox(const MessageBoxRequest& request) {
+    return ShowMessageBox(request);
+}
 
 int QtDesktop::RunFileDialog(const FileDialogRequest& request, std::string& path) {
     return ShowFileDialog(request, path);
 }
 
-int QtDesktop::RunPrintSetup(PrinterSettings& settings) { return ShowPrintSetup(settings); }
+int QtDesktop::RunPrintSetup(PrinterSettings& settings) {
+    return ShowPrintSetup(settings);
+}
 
-bool QtDesktop::DefaultPrinter(PrinterSettings& settings) { return FindDefaultPrinter(settings); }
+bool QtDesktop::DefaultPrinter(PrinterSettings& settings) {
+    return FindDefaultPrinter(settings);
+}
 
 CSize QtDesktop::ScreenSize() {
     const QScreen* screen = QGuiApplication::primaryScreen();
@@ -202,24 +213,37 @@ CSize QtDesktop::TextExtent(const std::string& text, const Font& font) {
     const QFontMetricsF metrics(ToQFont(font));
     const Scale scale = CurrentScale();
     const double width = metrics.horizontalAdvance(ToQString(text)) / scale.x;
-    return {static_cast<int>(std::ceil(width)), static_cast<int>(std::lround(metrics.height() / scale.y))};
+    return {static_cast<int>(std::ceil(width)),
+            static_cast<int>(std::lround(metrics.height() / scale.y))};
 }
 
-COLORREF QtDesktop::Color(SystemColor which) { return PaletteColor(which); }
+COLORREF QtDesktop::Color(SystemColor which) {
+    return PaletteColor(which);
+}
 
-Font QtDesktop::DefaultFont() { return {}; }
+Font QtDesktop::DefaultFont() {
+    return {};
+}
 
-std::chrono::system_clock::time_point QtDesktop::Now() { return std::chrono::system_clock::now(); }
+std::chrono::system_clock::time_point QtDesktop::Now() {
+    return std::chrono::system_clock::now();
+}
 
-std::string QtDesktop::ClipboardText() { return ToBytes(QGuiApplication::clipboard()->text()); }
+std::string QtDesktop::ClipboardText() {
+    return ToBytes(QGuiApplication::clipboard()->text());
+}
 
 void QtDesktop::SetClipboardText(const std::string& text) {
     QGuiApplication::clipboard()->setText(ToQString(text));
 }
 
-void QtDesktop::Pump() { QCoreApplication::processEvents(); }
+void QtDesktop::Pump() {
+    QCoreApplication::processEvents();
+}
 
-void QtDesktop::Wake() { events_->Wake(); }
+void QtDesktop::Wake() {
+    events_->Wake();
+}
 
 void QtDesktop::Created(Node& node) {
     if (!node.Parent()) {

@@ -45,11 +45,14 @@ RowModel::RowModel(std::shared_ptr<RowSource> source) : source_(std::move(source
     if (const RowList* rows = source_->Rows()) count_ = rows->Count();
 }
 
-int RowModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : count_; }
+int RowModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : count_;
+}
 
 QVariant RowModel::data(const QModelIndex& index, int role) const {
     const RowList* rows = source_->Rows();
-    if (role != Qt::DisplayRole || !rows || !rows->Has(index.row())) return {};
+    const bool text = role == Qt::DisplayRole || role == Qt::EditRole;
+    if (!text || !rows || !rows->Has(index.row())) return {};
     return ToQString(rows->Text(index.row()));
 }
 
@@ -84,7 +87,9 @@ RowsView::RowsView(std::shared_ptr<RowSource> source, QWidget* parent)
     setTabKeyNavigation(false);
 }
 
-int RowsView::RowHeight() const { return fontMetrics().height() + 2; }
+int RowsView::RowHeight() const {
+    return fontMetrics().height() + 2;
+}
 
 int RowsView::RowAt(const QPoint& at) const {
     const QModelIndex index = indexAt(at);
@@ -156,9 +161,9 @@ void ShowCopyMenu(QWidget& view, Node& list, const QPoint& at) {
     auto* menu = new QMenu(&view);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     const auto node = list.weak_from_this();
-    menu->addAction(QMenu::tr("&Copy"), [node] {
-            Act(node, [](Node& each) { input::CopyRows(each); });
-        })->setEnabled(!SelectedRows(list).empty());
+    menu->addAction(QMenu::tr("&Copy"),
+                    [node] { Act(node, [](Node& each) { input::CopyRows(each); }); })
+        ->setEnabled(!SelectedRows(list).empty());
     menu->popup(at);
 }
 

@@ -18,13 +18,14 @@ constexpr double kBaseUnitY = 13;
 
 std::optional<Scale> g_scale;
 
-int Round(double value) { return static_cast<int>(std::lround(value)); }
+int Round(double value) {
+    return static_cast<int>(std::lround(value));
+}
 
 /// As the platform measures a dialog's font: by the letters of the alphabet, small and capital.
 Scale Measure(const QFont& font) {
     const QFontMetricsF metrics(font);
-    const QString letters =
-        QStringLiteral("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz");
+    const QString letters = QStringLiteral("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz");
     const double width = metrics.horizontalAdvance(letters) / static_cast<double>(letters.size());
     return {std::max(width, 1.0) / kBaseUnitX, std::max(metrics.height(), 1.0) / kBaseUnitY};
 }
@@ -37,9 +38,13 @@ QRect Scale::ToScreen(const CRect& rect) const {
     return {topLeft, QSize(behind.x() - topLeft.x(), behind.y() - topLeft.y())};
 }
 
-QPoint Scale::ToScreen(CPoint at) const { return {Round(at.x * x), Round(at.y * y)}; }
+QPoint Scale::ToScreen(CPoint at) const {
+    return {Round(at.x * x), Round(at.y * y)};
+}
 
-QSize Scale::ToScreen(CSize size) const { return {Round(size.cx * x), Round(size.cy * y)}; }
+QSize Scale::ToScreen(CSize size) const {
+    return {Round(size.cx * x), Round(size.cy * y)};
+}
 
 CRect Scale::ToLogical(const QRect& rect) const {
     const CPoint topLeft = ToLogical(rect.topLeft());
@@ -47,7 +52,9 @@ CRect Scale::ToLogical(const QRect& rect) const {
     return {topLeft.x, topLeft.y, behind.x, behind.y};
 }
 
-CPoint Scale::ToLogical(const QPoint& at) const { return {Round(at.x() / x), Round(at.y() / y)}; }
+CPoint Scale::ToLogical(const QPoint& at) const {
+    return {Round(at.x() / x), Round(at.y() / y)};
+}
 
 CSize Scale::ToLogical(const QSize& size) const {
     return {Round(size.width() / x), Round(size.height() / y)};
@@ -58,7 +65,9 @@ Scale CurrentScale() {
     return *g_scale;
 }
 
-void ForgetScale() { g_scale.reset(); }
+void ForgetScale() {
+    g_scale.reset();
+}
 
 QFont ToQFont(const Font& font) {
     QFont made = QApplication::font();

@@ -27,9 +27,8 @@ public:
         setFocusPolicy(Qt::NoFocus);
         setAccessibleName(up ? tr("Increase") : tr("Decrease"));
         const auto node = spin.weak_from_this();
-        connect(this, &QToolButton::clicked, this, [node, up] {
-            Act(node, [up](Node& each) { input::StepSpin(each, up); });
-        });
+        connect(this, &QToolButton::clicked, this,
+                [node, up] { Act(node, [up](Node& each) { input::StepSpin(each, up); }); });
     }
 };
 
@@ -103,8 +102,7 @@ QIcon IconAt(const QPixmap& strip, int image, CSize size) {
 
 SpinPeer::SpinPeer(SpinNode& node, QWidget* host) : Peer(node, new SpinView(node, host)) {}
 
-ProgressPeer::ProgressPeer(ProgressNode& node, QWidget* host)
-    : Peer(node, new QProgressBar(host)) {
+ProgressPeer::ProgressPeer(ProgressNode& node, QWidget* host) : Peer(node, new QProgressBar(host)) {
     static_cast<QProgressBar*>(Widget())->setTextVisible(false);
 }
 
@@ -159,7 +157,9 @@ void ToolBarPeer::ShowRect() {
     if (!qobject_cast<QMainWindow*>(Widget()->parentWidget())) Peer::ShowRect();
 }
 
-void ToolBarPeer::ShowText() { Widget()->setWindowTitle(ToQString(GetNode().Text())); }
+void ToolBarPeer::ShowText() {
+    Widget()->setWindowTitle(ToQString(GetNode().Text()));
+}
 
 void ToolBarPeer::ShowButtons() {
     auto* bar = static_cast<QToolBar*>(Widget());

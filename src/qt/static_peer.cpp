@@ -4,6 +4,7 @@
 #include <QMenu>
 #include <QPainter>
 #include <QStyle>
+#include <algorithm>
 
 #include "qt/paint.h"
 #include "qt/text.h"
@@ -14,10 +15,32 @@ namespace kv::qt {
 
 namespace {
 
+constexpr int kGap = 3;
+
+/// How wide a label could be without touching what lies beside it, on the screen.
+int FreeWidth(const Node& label) {
+    const CRect own = label.Rect();
+    int right = label.Parent()->Rect().Width();
+    for (const auto& sibling : label.Parent()->Children()) {
+        const CRect& other = sibling->Rect();
+        const bool beside = other.top < own.bottom && other.bottom > own.top;
+        const bool around = other.left <= own.left && other.right >= own.right;
+        if (sibling.get() == &label || !beside) continue;
+        if (around) {
+            right = std::min(right, other.right);
+        } else if (other.left >= own.right) {
+            right = std::min(right, other.left);
+        }
+    }
+    return CurrentScale().ToScreen(CSize{right - own.left, 0}).width() - kGap;
+}
+
 bool IsPicture(const Node& node) {
     const DWORD kind = node.Style() & SS_TYPEMASK;
     return kind == SS_ICON || kind == SS_BITMAP;
 }
+
+constexpr int kLeastStretch = 80;
 
 class LabelView : public QLabel {
 public:
@@ -61,8 +84,12 @@ private:
         flags |= severalLines ? Qt::AlignTop | Qt::TextWordWrap : Qt::AlignVCenter;
         if (!node.HasStyle(SS_NOPREFIX)) flags |= Qt::TextShowMnemonic;
         QString text = ToQString(node.Text());
-        if (!severalLines && metrics.size(flags, text).width() > width()) {
-            text = metrics.elidedText(text, Qt::ElideRight, width(), flags);
+        const int wanted = severalLines ? 0 : metrics.size(flags, text).width();
+        if (wanted > width()) {
+            QFont narrow = font();
+            narrow.setStretch(std::max(kLeastStretch, 100 * width() / wanted));
+            painter.setFont(narrow);
+            text = QFontMetrics(narrow).elidedText(text, Qt::ElideRight, width(), flags);
         }
         style()->drawItemText(&painter, rect(), flags, palette(), isEnabled(), text,
                               foregroundRole());
@@ -80,7 +107,21 @@ void StaticPeer::Changed(Change change) {
     if (change == Change::kImage) ShowStyle();
 }
 
+/// A text that is wider in the platform's font than in the layer's takes the free space behind it.
+void StaticPeer::ShowRect() {
+    Peer::ShowRect();
+    const Node& node = GetNode();
+    const QRect place = Widget()->geometry();
+    const int wanted =
+        Widget()->fontMetrics().size(Qt::TextShowMnemonic, ToQString(node.Text())).width() + 1;
+    const bool growable = !IsPicture(node) && (node.Style() & SS_TYPEMASK) == SS_LEFT &&
+                          place.height() < 2 * Widget()->fontMetrics().lineSpacing() - 2;
+    if (!growable || wanted <= place.width() || !node.Parent()) return;
+    Widget()->resize(std::min(wanted, FreeWidth(node)), place.height());
+}
+
 void StaticPeer::ShowText() {
+    ShowRect();
     auto* label = static_cast<QLabel*>(Widget());
     if (!IsPicture(GetNode())) label->setText(PlainText(GetNode().Text()));
 }

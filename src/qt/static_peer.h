@@ -13,6 +13,7 @@ public:
     StaticPeer(StaticNode& node, QWidget* host);
 
     void Changed(Change change) override;
+    void ShowRect() override;
 
 protected:
     void ShowText() override;

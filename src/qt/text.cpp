@@ -37,7 +37,8 @@ Decoded DecodeAt(std::string_view bytes, std::size_t at) {
         character = (character << 6) | (static_cast<unsigned char>(bytes[next]) & 0x3Fu);
     }
     const bool surrogate = character >= 0xD800 && character <= 0xDFFF;
-    const bool overlong = (length == 3 && character < 0x800) || (length == 4 && character < 0x10000);
+    const bool overlong =
+        (length == 3 && character < 0x800) || (length == 4 && character < 0x10000);
     if (surrogate || overlong || character > 0x10FFFF) return {lead, 1};
     return {character, length};
 }
@@ -71,7 +72,9 @@ QString ToQString(std::string_view bytes) {
     return text;
 }
 
-std::string ToBytes(const QString& text) { return text.toStdString(); }
+std::string ToBytes(const QString& text) {
+    return text.toStdString();
+}
 
 PlacedText::PlacedText(std::string_view bytes, bool lines) : size_(static_cast<int>(bytes.size())) {
     const bool same = IsAscii(bytes) && (!lines || bytes.find("\r\n") == std::string_view::npos);
@@ -85,8 +88,8 @@ PlacedText::PlacedText(std::string_view bytes, bool lines) : size_(static_cast<i
             bytes[static_cast<std::size_t>(byte) - 1] == '\r') {
             return;
         }
-        const bool pair = lines && decoded.character == '\r' && next < bytes.size() &&
-                          bytes[next] == '\n';
+        const bool pair =
+            lines && decoded.character == '\r' && next < bytes.size() && bytes[next] == '\n';
         Append(text_, pair ? U'\n' : decoded.character);
         bytes_.resize(static_cast<std::size_t>(text_.size()), byte);
     });
@@ -108,7 +111,9 @@ int PlacedText::ByteOf(int index) const {
     return bytes_[static_cast<std::size_t>(index)];
 }
 
-QString PlainText(const std::string& text) { return ToQString(WithoutMnemonic(text)); }
+QString PlainText(const std::string& text) {
+    return ToQString(WithoutMnemonic(text));
+}
 
 QString Escaped(const QString& plain) {
     QString escaped = plain;

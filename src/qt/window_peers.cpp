@@ -12,6 +12,7 @@
 #include "qt/paint.h"
 #include "qt/text.h"
 #include "window/control_bar.h"
+#include "window/dialog.h"
 #include "window/input.h"
 
 namespace kv::qt {
@@ -40,7 +41,8 @@ public:
         }
         // A place that is only rounded otherwise is the same one.
         const Scale scale = CurrentScale();
-        if (!placed_ || scale.ToLogical(ClientPlace().topLeft()) != scale.ToLogical(place.topLeft())) {
+        if (!placed_ ||
+            scale.ToLogical(ClientPlace().topLeft()) != scale.ToLogical(place.topLeft())) {
             const QPoint frame = this->geometry().topLeft() - this->pos();
             this->move(place.topLeft() - frame);
         }
@@ -119,9 +121,11 @@ private:
 
 class DialogView : public WindowView<QDialog> {
 public:
-    DialogView(DialogNode& node, QWidget* owner) : WindowView(node, owner) {
+    DialogView(Node& node, QWidget* owner) : WindowView(node, owner) {
         setWindowFlag(Qt::WindowContextHelpButtonHint, false);
-        if (node.Modal()) setWindowModality(owner ? Qt::WindowModal : Qt::ApplicationModal);
+        const auto* dialog = dynamic_cast<const DialogNode*>(&node);
+        if (!dialog || !dialog->Modal()) return;
+        setWindowModality(owner ? Qt::WindowModal : Qt::ApplicationModal);
     }
     /// It is the node that ends.
     void done(int) override {
@@ -159,7 +163,9 @@ QWidget* MakeBar(Node& node, QWidget* host) {
     return bar;
 }
 
-const CControlBar* HandleOf(Node& node) { return dynamic_cast<CControlBar*>(node.Handle()); }
+const CControlBar* HandleOf(Node& node) {
+    return dynamic_cast<CControlBar*>(node.Handle());
+}
 
 Qt::ToolBarAreas AreasOf(DWORD sides) {
     Qt::ToolBarAreas areas;
@@ -172,9 +178,11 @@ Qt::ToolBarAreas AreasOf(DWORD sides) {
 
 }  // namespace
 
-DialogPeer::DialogPeer(DialogNode& node) : Peer(node, new DialogView(node, OwnerOf(node))) {}
+DialogPeer::DialogPeer(Node& node) : Peer(node, new DialogView(node, OwnerOf(node))) {}
 
-void DialogPeer::ShowText() { Widget()->setWindowTitle(ToQString(GetNode().Text())); }
+void DialogPeer::ShowText() {
+    Widget()->setWindowTitle(ToQString(GetNode().Text()));
+}
 
 void DialogPeer::ShowRect() {
     static_cast<DialogView*>(Widget())->Place(CurrentScale().ToScreen(GetNode().Rect()), true);
@@ -192,14 +200,18 @@ FramePeer::FramePeer(Node& node) : Peer(node, new WindowView<QMainWindow>(node, 
     Widget()->setContextMenuPolicy(Qt::NoContextMenu);
 }
 
-void FramePeer::ShowText() { Widget()->setWindowTitle(ToQString(GetNode().Text())); }
+void FramePeer::ShowText() {
+    Widget()->setWindowTitle(ToQString(GetNode().Text()));
+}
 
 void FramePeer::ShowRect() {
     static_cast<WindowView<QMainWindow>*>(Widget())->Place(
         CurrentScale().ToScreen(GetNode().Rect()), false);
 }
 
-void FramePeer::ShowVisible() { Widget()->setVisible(GetNode().Visible()); }
+void FramePeer::ShowVisible() {
+    Widget()->setVisible(GetNode().Visible());
+}
 
 BarPeer::BarPeer(Node& node, QWidget* host) : Peer(node, MakeBar(node, host)) {}
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "qt/peer.h"
-#include "window/dialog.h"
 
 class QMainWindow;
 
@@ -10,7 +9,7 @@ namespace kv::qt {
 /// A dialog: a window of its own, modal or not.
 class DialogPeer : public Peer {
 public:
-    explicit DialogPeer(DialogNode& node);
+    explicit DialogPeer(Node& node);
 
     void ShowRect() override;
 

@@ -211,8 +211,9 @@ void CKvGuiListSel::MoveSelectedRows(CListBox& from, CListBox& to, bool skipEmpt
     if (!rows.empty()) from.GetSelItems(static_cast<int>(rows.size()), rows.data());
 
     std::vector<std::string> moved;
+    moved.reserve(rows.size());
+    CString text;
     for (const int row : rows) {
-        CString text;
         from.GetText(row, text);
         if (skipEmpty && text.IsEmpty()) continue;
         to.AddString(text);
@@ -220,10 +221,10 @@ void CKvGuiListSel::MoveSelectedRows(CListBox& from, CListBox& to, bool skipEmpt
     }
 
     int last = LB_ERR;
-    for (const std::string& text : moved) {
+    for (const std::string& each : moved) {
         // By the text's beginning; an empty one begins no search.
         const int row =
-            text.empty() ? from.FindStringExact(-1, "") : from.FindString(-1, text.c_str());
+            each.empty() ? from.FindStringExact(-1, "") : from.FindString(-1, each.c_str());
         if (row == LB_ERR) continue;
         from.DeleteString(static_cast<UINT>(row));
         last = row;

@@ -306,8 +306,10 @@ bool ComboBoxNode::UserKey(int key) {
         Cancel();
         return true;
     }
+    // A key that types goes on with the text that is searched for.
+    if (!MoveKey(key)) return false;
     search_.Stop();
-    return MoveKey(key);
+    return true;
 }
 
 void ComboBoxNode::HandleChar(char ch) {

@@ -7,14 +7,30 @@ namespace {
 
 CWinApp* g_app = nullptr;
 
+/// Cuts a strip for a bar of that size off the edge that its style names; off the top where it
+/// names none.
+CRect TakeEdge(CRect& free, DWORD style, CSize size) {
+    CRect strip = free;
+    if (style & CBRS_ALIGN_BOTTOM) {
+        strip.top = free.bottom -= size.cy;
+    } else if (style & CBRS_ALIGN_LEFT) {
+        strip.right = free.left += size.cx;
+    } else if (style & CBRS_ALIGN_RIGHT) {
+        strip.left = free.right -= size.cx;
+    } else {
+        strip.bottom = free.top += size.cy;
+    }
+    return strip;
+}
+
 }  // namespace
 
-CWinApp::CWinApp() {
+CWinApp::CWinApp() : m_pBefore(g_app) {
     g_app = this;
 }
 
 CWinApp::~CWinApp() {
-    if (g_app == this) g_app = nullptr;
+    if (g_app == this) g_app = m_pBefore;
 }
 
 CWinApp* AfxGetApp() {
@@ -47,16 +63,15 @@ void CFrameWnd::RecalcLayout(BOOL) {
     for (const auto& child : children) {
         const auto* bar = dynamic_cast<CControlBar*>(child->Handle());
         if (!bar || !child->Visible()) continue;
-        const int height = bar->GetHeightAt(free.Width());
-        if (bar->GetBarStyle() & CBRS_ALIGN_BOTTOM) {
-            child->SetRect({free.left, free.bottom - height, free.right, free.bottom});
-            free.bottom -= height;
-        } else {
-            child->SetRect({free.left, free.top, free.right, free.top + height});
-            free.top += height;
-        }
+        const CSize size{child->Rect().Width(), bar->GetHeightAt(free.Width())};
+        child->SetRect(TakeEdge(free, bar->GetBarStyle(), size));
     }
     m_rcFree = free;
+}
+
+LRESULT CFrameWnd::OnSize(WPARAM, LPARAM) {
+    RecalcLayout();
+    return Default();
 }
 
 BOOL CFrameWnd::OnCmdMsg(UINT id, int code, void* extra, void* info) {
@@ -68,6 +83,9 @@ BOOL CFrameWnd::OnCmdMsg(UINT id, int code, void* extra, void* info) {
 }
 
 const kv::MessageMap& CFrameWnd::Messages() {
-    static const kv::MessageMap kMap{&CWnd::Messages(), {}};
+    static const kv::MessageEntry kEntries[] = {
+        kv::OnMessage<&CFrameWnd::OnSize>(WM_SIZE),
+    };
+    static const kv::MessageMap kMap{&CWnd::Messages(), kEntries};
     return kMap;
 }

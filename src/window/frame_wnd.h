@@ -37,11 +37,14 @@ public:
     const kv::MessageMap& GetMessageMap() const override { return Messages(); }
 
 private:
+    LRESULT OnSize(WPARAM wParam, LPARAM lParam);
+
     DWORD m_dwDockSides = 0;
     CRect m_rcFree;
 };
 
-/// The application: its main window. One for the process, or none.
+/// The application: its main window. Where there are several, the newest counts, and behind it the
+/// one before.
 class KVGUICTL_API CWinApp : public CCmdTarget {
 public:
     CWinApp();
@@ -51,6 +54,9 @@ public:
 
     /// Not owned.
     CWnd* m_pMainWnd = nullptr;
+
+private:
+    CWinApp* m_pBefore;
 };
 
 /// The application, or null.

@@ -89,10 +89,10 @@ bool RunKey(int key, char character, Modifiers modifiers) {
 }
 
 constexpr std::array<std::pair<std::string_view, int>, 19> kKeyNames{{
-    {"Backspace", VK_BACK}, {"Tab", VK_TAB},       {"Enter", VK_RETURN},   {"Escape", VK_ESCAPE},
-    {"Space", VK_SPACE},    {"PageUp", VK_PRIOR},  {"PageDown", VK_NEXT},  {"End", VK_END},
-    {"Home", VK_HOME},      {"Left", VK_LEFT},     {"Up", VK_UP},          {"Right", VK_RIGHT},
-    {"Down", VK_DOWN},      {"Insert", VK_INSERT}, {"Delete", VK_DELETE},  {"F4", VK_F4},
+    {"Backspace", VK_BACK}, {"Tab", VK_TAB},       {"Enter", VK_RETURN},  {"Escape", VK_ESCAPE},
+    {"Space", VK_SPACE},    {"PageUp", VK_PRIOR},  {"PageDown", VK_NEXT}, {"End", VK_END},
+    {"Home", VK_HOME},      {"Left", VK_LEFT},     {"Up", VK_UP},         {"Right", VK_RIGHT},
+    {"Down", VK_DOWN},      {"Insert", VK_INSERT}, {"Delete", VK_DELETE}, {"F4", VK_F4},
     {"Esc", VK_ESCAPE},     {"Return", VK_RETURN}, {"Del", VK_DELETE},
 }};
 
@@ -126,15 +126,18 @@ bool ClickAt(Node& control, CPoint at) {
 bool Press(Node& control, CPoint at, Modifiers modifiers) {
     if (!CanAct(control)) return false;
     const auto keep = control.shared_from_this();
-    if (!FocusForClick(control)) return false;
+    const ActionScope action;
     const ModifierScope scope(modifiers);
-    Send(control, WM_LBUTTONDOWN, 1, MAKELPARAM(at.x, at.y));
+    MSG message{&control, WM_LBUTTONDOWN, 1, MAKELPARAM(at.x, at.y)};
+    if (WindowSystem::Get().PreTranslate(message) || !FocusForClick(control)) return false;
+    Send(control, message.message, message.wParam, message.lParam);
     return true;
 }
 
 bool Release(Node& control, CPoint at) {
     if (!CanAct(control)) return false;
-    Send(control, WM_LBUTTONUP, 0, MAKELPARAM(at.x, at.y));
+    MSG message{&control, WM_LBUTTONUP, 0, MAKELPARAM(at.x, at.y)};
+    WindowSystem::Get().Dispatch(message);
     return true;
 }
 
@@ -217,6 +220,13 @@ bool SelectRows(Node& list, const std::vector<int>& rows) {
                                         [count](int row) { return row >= 0 && row < count; });
         if (!inside) return false;
         if (FocusForClick(list)) box->UserSelectRows(rows);
+        return true;
+    }
+    if (auto* view = dynamic_cast<ListViewNode*>(&list)) {
+        const bool inside =
+            std::all_of(rows.begin(), rows.end(), [view](int row) { return view->Has(row); });
+        if (!inside) return false;
+        if (FocusForClick(list)) view->UserSelectRows(rows);
         return true;
     }
     if (auto* combo = dynamic_cast<ComboBoxNode*>(&list)) {
@@ -333,7 +343,9 @@ bool TypeHere(std::string_view text) {
     return true;
 }
 
-bool PressKey(int key, Modifiers modifiers) { return RunKey(key, 0, modifiers); }
+bool PressKey(int key, Modifiers modifiers) {
+    return RunKey(key, 0, modifiers);
+}
 
 int KeyByName(std::string_view name) {
     for (const auto& [known, key] : kKeyNames) {

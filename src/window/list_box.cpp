@@ -34,9 +34,8 @@ void CListBox::GetText(int row, CString& text) const {
     text.Empty();
     const int length = GetTextLen(row);
     if (length <= 0) return;
-    std::string buffer(static_cast<std::size_t>(length) + 1, '\0');
-    Ask(LB_GETTEXT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(buffer.data()));
-    text = buffer.c_str();
+    Ask(LB_GETTEXT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(text.GetBuffer(length)));
+    text.ReleaseBuffer(length);
 }
 
 int CListBox::GetTextLen(int row) const {

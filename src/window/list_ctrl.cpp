@@ -4,12 +4,18 @@ namespace {
 
 constexpr int kStateImageShift = 12;
 
-WPARAM AsIndex(int index) { return static_cast<WPARAM>(index); }
+WPARAM AsIndex(int index) {
+    return static_cast<WPARAM>(index);
+}
 
-LPARAM AsRecord(const void* record) { return reinterpret_cast<LPARAM>(record); }
+LPARAM AsRecord(const void* record) {
+    return reinterpret_cast<LPARAM>(record);
+}
 
 /// Records have one field for texts that go in and texts that come out; this one goes in.
-char* TextIn(const char* text) { return const_cast<char*>(text); }
+char* TextIn(const char* text) {
+    return const_cast<char*>(text);
+}
 
 /// A position is the row's index and one, so that the null position is none.
 POSITION PositionOf(int row) {
@@ -68,7 +74,9 @@ BOOL CListCtrl::SetColumn(int column, const LVCOLUMN* record) {
     return Ask(LVM_SETCOLUMN, AsIndex(column), AsRecord(record));
 }
 
-BOOL CListCtrl::DeleteColumn(int column) { return Ask(LVM_DELETECOLUMN, AsIndex(column)); }
+BOOL CListCtrl::DeleteColumn(int column) {
+    return Ask(LVM_DELETECOLUMN, AsIndex(column));
+}
 
 int CListCtrl::GetColumnWidth(int column) const {
     return Ask(LVM_GETCOLUMNWIDTH, AsIndex(column));
@@ -90,7 +98,8 @@ BOOL CListCtrl::SetColumnOrderArray(int count, const int* order) {
 int CListCtrl::GetColumnCount() const {
     LVCOLUMN none;
     int count = 0;
-    while (GetColumn(count, &none)) ++count;
+    while (GetColumn(count, &none))
+        ++count;
     return count;
 }
 
@@ -104,7 +113,9 @@ CHeaderCtrl* CListCtrl::GetHeaderCtrl() const {
 
 // Rows.
 
-int CListCtrl::GetItemCount() const { return Ask(LVM_GETITEMCOUNT); }
+int CListCtrl::GetItemCount() const {
+    return Ask(LVM_GETITEMCOUNT);
+}
 
 BOOL CListCtrl::SetItemCountEx(int count, DWORD flags) {
     return Ask(LVM_SETITEMCOUNT, AsIndex(count), static_cast<LPARAM>(flags));
@@ -123,9 +134,13 @@ int CListCtrl::InsertItem(int row, const char* text, int image) {
     return InsertItem(&item);
 }
 
-BOOL CListCtrl::GetItem(LVITEM* item) const { return Ask(LVM_GETITEM, 0, AsRecord(item)); }
+BOOL CListCtrl::GetItem(LVITEM* item) const {
+    return Ask(LVM_GETITEM, 0, AsRecord(item));
+}
 
-BOOL CListCtrl::SetItem(const LVITEM* item) { return Ask(LVM_SETITEM, 0, AsRecord(item)); }
+BOOL CListCtrl::SetItem(const LVITEM* item) {
+    return Ask(LVM_SETITEM, 0, AsRecord(item));
+}
 
 BOOL CListCtrl::SetItemText(int row, int column, const char* text) {
     LVITEM item;
@@ -178,9 +193,13 @@ BOOL CListCtrl::SetItemImage(int row, int column, int image) {
     return SetItem(&item);
 }
 
-BOOL CListCtrl::DeleteItem(int row) { return Ask(LVM_DELETEITEM, AsIndex(row)); }
+BOOL CListCtrl::DeleteItem(int row) {
+    return Ask(LVM_DELETEITEM, AsIndex(row));
+}
 
-BOOL CListCtrl::DeleteAllItems() { return Ask(LVM_DELETEALLITEMS); }
+BOOL CListCtrl::DeleteAllItems() {
+    return Ask(LVM_DELETEALLITEMS);
+}
 
 int CListCtrl::FindItem(LVFINDINFO* what, int start) const {
     return m_hWnd ? Ask(LVM_FINDITEM, AsIndex(start), AsRecord(what)) : -1;
@@ -211,7 +230,9 @@ BOOL CListCtrl::SetCheck(int row, BOOL check) {
     return SetItemState(row, (check ? 2u : 1u) << kStateImageShift, LVIS_STATEIMAGEMASK);
 }
 
-UINT CListCtrl::GetSelectedCount() const { return static_cast<UINT>(Ask(LVM_GETSELECTEDCOUNT)); }
+UINT CListCtrl::GetSelectedCount() const {
+    return static_cast<UINT>(Ask(LVM_GETSELECTEDCOUNT));
+}
 
 int CListCtrl::GetNextItem(int start, UINT flags) const {
     return m_hWnd ? Ask(LVM_GETNEXTITEM, AsIndex(start), MAKELPARAM(static_cast<int>(flags), 0))
@@ -228,7 +249,9 @@ int CListCtrl::GetNextSelectedItem(POSITION& position) const {
     return row;
 }
 
-int CListCtrl::GetSelectionMark() const { return m_hWnd ? Ask(LVM_GETSELECTIONMARK) : -1; }
+int CListCtrl::GetSelectionMark() const {
+    return m_hWnd ? Ask(LVM_GETSELECTIONMARK) : -1;
+}
 
 int CListCtrl::SetSelectionMark(int row) {
     return m_hWnd ? Ask(LVM_SETSELECTIONMARK, 0, row) : -1;
@@ -249,9 +272,13 @@ BOOL CListCtrl::EnsureVisible(int row, BOOL partialOk) {
     return Ask(LVM_ENSUREVISIBLE, AsIndex(row), partialOk);
 }
 
-int CListCtrl::GetTopIndex() const { return Ask(LVM_GETTOPINDEX); }
+int CListCtrl::GetTopIndex() const {
+    return Ask(LVM_GETTOPINDEX);
+}
 
-int CListCtrl::GetCountPerPage() const { return Ask(LVM_GETCOUNTPERPAGE); }
+int CListCtrl::GetCountPerPage() const {
+    return Ask(LVM_GETCOUNTPERPAGE);
+}
 
 int CListCtrl::HitTest(LVHITTESTINFO* info) const {
     return m_hWnd ? Ask(LVM_HITTEST, 0, AsRecord(info)) : -1;
@@ -278,8 +305,8 @@ BOOL CListCtrl::GetSubItemRect(int row, int column, int area, CRect& rect) const
 }
 
 CSize CListCtrl::ApproximateViewRect(CSize extent, int count) const {
-    return SizeOf(SendMessage(LVM_APPROXIMATEVIEWRECT, AsIndex(count),
-                              MAKELPARAM(extent.cx, extent.cy)));
+    return SizeOf(
+        SendMessage(LVM_APPROXIMATEVIEWRECT, AsIndex(count), MAKELPARAM(extent.cx, extent.cy)));
 }
 
 int CListCtrl::GetStringWidth(const char* text) const {
@@ -288,9 +315,13 @@ int CListCtrl::GetStringWidth(const char* text) const {
 
 // Looks.
 
-int CListCtrl::GetHotItem() const { return m_hWnd ? Ask(LVM_GETHOTITEM) : -1; }
+int CListCtrl::GetHotItem() const {
+    return m_hWnd ? Ask(LVM_GETHOTITEM) : -1;
+}
 
-int CListCtrl::SetHotItem(int row) { return m_hWnd ? Ask(LVM_SETHOTITEM, AsIndex(row)) : -1; }
+int CListCtrl::SetHotItem(int row) {
+    return m_hWnd ? Ask(LVM_SETHOTITEM, AsIndex(row)) : -1;
+}
 
 HCURSOR CListCtrl::GetHotCursor() const {
     return reinterpret_cast<HCURSOR>(SendMessage(LVM_GETHOTCURSOR));
@@ -316,7 +347,9 @@ BOOL CListCtrl::GetBkImage(LVBKIMAGE* image) const {
     return Ask(LVM_GETBKIMAGE, 0, AsRecord(image));
 }
 
-BOOL CListCtrl::SetBkImage(LVBKIMAGE* image) { return Ask(LVM_SETBKIMAGE, 0, AsRecord(image)); }
+BOOL CListCtrl::SetBkImage(LVBKIMAGE* image) {
+    return Ask(LVM_SETBKIMAGE, 0, AsRecord(image));
+}
 
 void CListCtrl::SetWorkAreas(int count, const CRect* areas) {
     Ask(LVM_SETWORKAREAS, AsIndex(count), AsRecord(areas));

@@ -193,8 +193,8 @@ void ListViewNode::HandleChar(char ch) {
     }
 }
 
-/// A press on a check box leaves the selection as it is; one beside what the row shows counts as one
-/// behind the rows.
+/// A press on a check box leaves the selection as it is; one beside what the row shows counts as
+/// one behind the rows.
 void ListViewNode::PressAt(CPoint at) {
     LVHITTESTINFO hit = HitTest(at);
     const bool wholeRow = (extendedStyle_ & LVS_EX_FULLROWSELECT) != 0;

@@ -40,7 +40,9 @@ public:
 
 }  // namespace
 
-int ListViewNode::HeaderHeight() const { return HasStyle(LVS_NOCOLUMNHEADER) ? 0 : kHeaderHeight; }
+int ListViewNode::HeaderHeight() const {
+    return HasStyle(LVS_NOCOLUMNHEADER) ? 0 : kHeaderHeight;
+}
 
 int ListViewNode::RowsOnPage() const {
     return std::max(1, (Rect().Height() - HeaderHeight()) / kListRowHeight);
@@ -135,14 +137,14 @@ LVHITTESTINFO ListViewNode::HitTest(CPoint at) const {
         const CRect icon = CellRect(row, column, LVIR_ICON);
         const CRect label = CellRect(row, column, LVIR_LABEL);
         const CRect whole{icon.left, icon.top, label.right, icon.bottom};
-        const int checkBox = column == 0 && Row(row).state & LVIS_STATEIMAGEMASK ? kCheckBoxWidth
-                                                                                 : 0;
+        const int checkBox =
+            column == 0 && Row(row).state & LVIS_STATEIMAGEMASK ? kCheckBoxWidth : 0;
         if (at.x < whole.left - checkBox || at.x >= whole.right) continue;
         hit.iItem = row;
         hit.iSubItem = column;
-        hit.flags = at.x < whole.left    ? LVHT_ONITEMSTATEICON
+        hit.flags = at.x < whole.left   ? LVHT_ONITEMSTATEICON
                     : icon.PtInRect(at) ? LVHT_ONITEMICON
-                                         : LVHT_ONITEMLABEL;
+                                        : LVHT_ONITEMLABEL;
         return hit;
     }
     return hit;
@@ -150,7 +152,8 @@ LVHITTESTINFO ListViewNode::HitTest(CPoint at) const {
 
 CSize ListViewNode::ApproximateSize(int rows) const {
     int width = 0;
-    for (const ListColumn& column : columns_) width += column.width;
+    for (const ListColumn& column : columns_)
+        width += column.width;
     return {width, HeaderHeight() + (rows < 0 ? Count() : rows) * kListRowHeight};
 }
 

@@ -120,8 +120,8 @@ inline constexpr int NM_KILLFOCUS = -8;
 inline constexpr int LVN_ITEMCHANGED = -101;
 inline constexpr int LVN_COLUMNCLICK = -108;
 
-/// One cell of a row, with the row's own properties in that of column 0. Read, the text is copied to
-/// `pszText`, a buffer of `cchTextMax` bytes.
+/// One cell of a row, with the row's own properties in that of column 0. Read, the text is copied
+/// to `pszText`, a buffer of `cchTextMax` bytes.
 struct LVITEM {
     UINT mask = 0;
     int iItem = 0;

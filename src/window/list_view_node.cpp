@@ -151,7 +151,8 @@ int ListViewNode::InsertItem(const LVITEM& item) {
     Store(rows_[id], item);
     if (HasCheckBoxes()) rows_[id].state = kUnchecked;
     order_.Insert(row, id);
-    for (int* each : {&focused_, &mark_, &wanted_, &hotItem_}) MoveForInsert(*each, row);
+    for (int* each : {&focused_, &mark_, &wanted_, &hotItem_})
+        MoveForInsert(*each, row);
     TellInserted(row);
     if (item.mask & LVIF_STATE) SetItemState(row, item.state, item.stateMask);
     return row;
@@ -166,7 +167,8 @@ bool ListViewNode::DeleteItem(int row) {
     order_.Erase(row);
     rows_[id] = {};
     free_.push_back(id);
-    for (int* each : {&focused_, &mark_, &wanted_, &hotItem_}) MoveForDelete(*each, row);
+    for (int* each : {&focused_, &mark_, &wanted_, &hotItem_})
+        MoveForDelete(*each, row);
     top_ = std::min(top_, std::max(0, Count() - 1));
     TellRemoved(row);
     if (hadFocus && Count() > 0) {
@@ -194,9 +196,8 @@ DWORD ListViewNode::SetExtendedStyle(DWORD mask, DWORD style) {
     const DWORD changed = former ^ extendedStyle_;
     if (changed & LVS_EX_CHECKBOXES) {
         const UINT image = HasCheckBoxes() ? kUnchecked : 0;
-        order_.ForEach([&](RowId id) {
-            rows_[id].state = (rows_[id].state & ~LVIS_STATEIMAGEMASK) | image;
-        });
+        order_.ForEach(
+            [&](RowId id) { rows_[id].state = (rows_[id].state & ~LVIS_STATEIMAGEMASK) | image; });
     }
     if (changed) Tell(Change::kStyle);
     return former;
@@ -205,7 +206,8 @@ DWORD ListViewNode::SetExtendedStyle(DWORD mask, DWORD style) {
 bool ListViewNode::SetItemState(int row, UINT state, UINT mask) {
     const auto keep = shared_from_this();
     if (row == -1) {
-        for (int each = 0; each < Count(); ++each) SetItemState(each, state, mask);
+        for (int each = 0; each < Count(); ++each)
+            SetItemState(each, state, mask);
         return true;
     }
     if (!Has(row)) return false;
@@ -289,7 +291,8 @@ int ListViewNode::InsertColumn(int index, ListColumn column) {
     if (index < 0) return -1;
     const int place = std::min(index, static_cast<int>(columns_.size()));
     columns_.insert(columns_.begin() + place, std::move(column));
-    for (int& each : columnOrder_) MoveForInsert(each, place);
+    for (int& each : columnOrder_)
+        MoveForInsert(each, place);
     columnOrder_.insert(columnOrder_.begin() + place, place);
     order_.ForEach([&](RowId id) {
         auto& cells = rows_[id].cells;
@@ -337,7 +340,8 @@ bool ListViewNode::DeleteColumn(int index) {
     if (index < 0 || index >= static_cast<int>(columns_.size())) return false;
     columns_.erase(columns_.begin() + index);
     std::erase(columnOrder_, index);
-    for (int& each : columnOrder_) MoveForDelete(each, index);
+    for (int& each : columnOrder_)
+        MoveForDelete(each, index);
     order_.ForEach([&](RowId id) {
         auto& cells = rows_[id].cells;
         if (index < static_cast<int>(cells.size())) cells.erase(cells.begin() + index);
@@ -475,9 +479,9 @@ LRESULT ListViewNode::ProcessColumns(UINT message, WPARAM wParam, LPARAM lParam,
 
 LRESULT ListViewNode::Process(UINT message, WPARAM wParam, LPARAM lParam) {
     using Part = LRESULT (ListViewNode::*)(UINT, WPARAM, LPARAM, bool&);
-    constexpr Part kParts[] = {&ListViewNode::ProcessRows,   &ListViewNode::ProcessStates,
+    constexpr Part kParts[] = {&ListViewNode::ProcessRows,    &ListViewNode::ProcessStates,
                                &ListViewNode::ProcessColumns, &ListViewNode::ProcessPlaces,
-                               &ListViewNode::ProcessLook,   &ListViewNode::ProcessUser};
+                               &ListViewNode::ProcessLook,    &ListViewNode::ProcessUser};
     for (const Part part : kParts) {
         bool handled = true;
         const LRESULT result = (this->*part)(message, wParam, lParam, handled);

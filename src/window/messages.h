@@ -232,6 +232,7 @@ inline constexpr DWORD SS_LEFT = 0x00;
 inline constexpr DWORD SS_CENTER = 0x01;
 inline constexpr DWORD SS_RIGHT = 0x02;
 inline constexpr DWORD SS_ICON = 0x03;
+inline constexpr DWORD SS_OWNERDRAW = 0x0D;
 inline constexpr DWORD SS_BITMAP = 0x0E;
 inline constexpr DWORD SS_NOPREFIX = 0x80;
 inline constexpr DWORD SS_TYPEMASK = 0x1F;

@@ -1,7 +1,9 @@
 #include "window/numbers.h"
 
+#include <charconv>
 #include <cmath>
 #include <cstdlib>
+#include <iterator>
 #include <limits>
 
 #include "window/c_locale.h"
@@ -13,6 +15,8 @@ namespace {
 
 constexpr int kLargest = std::numeric_limits<int>::max();
 constexpr int kSmallest = std::numeric_limits<int>::min();
+/// Of a number in fixed notation: the largest has 309 digits ahead of the point.
+constexpr std::size_t kFixedLength = 384;
 
 bool IsSign(char ch) {
     return ch == '+' || ch == '-';
@@ -131,7 +135,11 @@ std::string FormatStream(double value) {
 }
 
 std::string FormatFixed(double value, int decimals) {
-    return FormatText("%.*f", decimals, value);
+    char text[kFixedLength];
+    const auto [end, error] =
+        std::to_chars(text, std::end(text), value, std::chars_format::fixed, decimals);
+    if (error != std::errc()) return FormatText("%.*f", decimals, value);
+    return std::string(text, end);
 }
 
 std::string FormatG(double value) {

@@ -52,6 +52,11 @@ bool IsOwnerDrawnButton(const Node& node) {
     return node.Class() == NodeClass::kButton && (node.Style() & BS_TYPEMASK) == BS_OWNERDRAW;
 }
 
+/// It draws on its parent's surface, and may reach beyond its own edges.
+bool IsOwnerDrawnLabel(const Node& node) {
+    return node.Class() == NodeClass::kStatic && (node.Style() & SS_TYPEMASK) == SS_OWNERDRAW;
+}
+
 UINT DrawStateOf(Node& button) {
     UINT state = 0;
     if (!button.ReallyEnabled()) state |= ODS_DISABLED;
@@ -157,7 +162,9 @@ bool PaintControl(Node& control, CDC& context) {
     if (control.Destroyed()) return false;
     const auto keep = control.shared_from_this();
     const int saved = context.SaveDC();
-    context.IntersectClipRect({0, 0, control.Rect().Width(), control.Rect().Height()});
+    if (!IsOwnerDrawnLabel(control)) {
+        context.IntersectClipRect({0, 0, control.Rect().Width(), control.Rect().Height()});
+    }
     bool painted = true;
     if (IsOwnerDrawnButton(control)) {
         PaintButton(control, context);

@@ -47,8 +47,8 @@ KVGUICTL_API bool ReflectDrawItem(LPARAM lParam);
 
 /// Lets a control paint itself, its top left corner being the origin of `context`: an owner-drawn
 /// button by WM_DRAWITEM to its parent, any other control by WM_PAINT to its handle. An owner-drawn
-/// button that nobody draws becomes a plain push button. False when the control leaves its picture
-/// to the view.
+/// button that nobody draws becomes a plain push button. An owner-drawn label may draw beyond
+/// its edges, all else is cut there. False when the control leaves its picture to the view.
 KVGUICTL_API bool PaintControl(Node& control, CDC& context);
 
 /// A push button in the system's colours with its text, in a state of ODS_... bits.

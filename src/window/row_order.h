@@ -6,6 +6,7 @@
 #include <memory>
 #include <vector>
 
+#include "window/export.h"
 #include "window/row_store.h"
 
 namespace kv {
@@ -14,7 +15,7 @@ namespace kv {
 ///
 /// The ids lie in blocks, and a tree over the blocks counts what lies ahead of each, so that each
 /// operation costs a walk down the tree and one block.
-class RowOrder {
+class KVGUICTL_API RowOrder {
 public:
     int Count() const { return count_; }
     /// `place` must be inside.

@@ -4,8 +4,8 @@
 
 #include "window/wnd.h"
 
-/// What is known of a class while the program runs: its name, and how to make an object of it, where
-/// that can be done.
+/// What is known of a class while the program runs: its name, and how to make an object of it,
+/// where that can be done.
 struct CRuntimeClass {
     const char* m_lpszClassName;
     std::unique_ptr<CWnd> (*m_pfnCreateObject)() = nullptr;

@@ -178,7 +178,7 @@ int CompareNoCase(std::string_view a, std::string_view b) {
 }
 
 bool EqualsNoCase(std::string_view a, std::string_view b) {
-    return a.size() == b.size() && CompareNoCase(a, b) == 0;
+    return a.size() == b.size() && (a == b || CompareNoCase(a, b) == 0);
 }
 
 bool StartsWithNoCase(std::string_view text, std::string_view prefix) {

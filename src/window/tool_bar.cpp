@@ -51,7 +51,9 @@ BOOL CToolBar::CreateEx(CWnd* parent, DWORD toolStyle, DWORD style, UINT id) {
     return TRUE;
 }
 
-kv::ToolBarNode* CToolBar::Bar() const { return dynamic_cast<kv::ToolBarNode*>(m_hWnd); }
+kv::ToolBarNode* CToolBar::Bar() const {
+    return dynamic_cast<kv::ToolBarNode*>(m_hWnd);
+}
 
 BOOL CToolBar::LoadBitmap(UINT bitmapId) {
     if (!Bar() || !kv::FindImage(static_cast<int>(bitmapId))) return FALSE;
@@ -79,7 +81,9 @@ BOOL CToolBar::SetButtons(const UINT* ids, int count) {
     return TRUE;
 }
 
-int CToolBar::GetCount() const { return Bar() ? static_cast<int>(Bar()->Buttons().size()) : 0; }
+int CToolBar::GetCount() const {
+    return Bar() ? static_cast<int>(Bar()->Buttons().size()) : 0;
+}
 
 UINT CToolBar::GetItemID(int index) const {
     if (!Bar() || !Bar()->Has(index)) return 0;
@@ -114,9 +118,13 @@ CSize CToolBar::GetNaturalSize(int index) const {
     return Bar() ? Bar()->NaturalSize(index) : CSize{};
 }
 
-CSize CToolBar::GetMaxSize() const { return Bar() ? Bar()->MaxSize() : CSize{}; }
+CSize CToolBar::GetMaxSize() const {
+    return Bar() ? Bar()->MaxSize() : CSize{};
+}
 
-int CToolBar::GetRows() const { return Bar() ? Bar()->Rows() : 0; }
+int CToolBar::GetRows() const {
+    return Bar() ? Bar()->Rows() : 0;
+}
 
 void CToolBar::SetRows(int rows) {
     if (Bar()) Bar()->SetRows(rows);

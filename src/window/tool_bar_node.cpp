@@ -109,7 +109,9 @@ int ToolBarNode::RowsAt(int width) const {
     return LayOut(width, [](int, const CRect&) {});
 }
 
-int ToolBarNode::Rows() const { return Rect().Width() > 0 ? RowsAt(Rect().Width()) : 1; }
+int ToolBarNode::Rows() const {
+    return Rect().Width() > 0 ? RowsAt(Rect().Width()) : 1;
+}
 
 void ToolBarNode::SetRows(int rows) {
     // Fewer rows take more width.
@@ -124,13 +126,13 @@ void ToolBarNode::SetRows(int rows) {
         }
     }
     const CPoint corner = Rect().TopLeft();
-    SetRect({corner.x, corner.y, corner.x + least,
-             corner.y + RowsAt(least) * buttonSize_.cy});
+    SetRect({corner.x, corner.y, corner.x + least, corner.y + RowsAt(least) * buttonSize_.cy});
 }
 
 CSize ToolBarNode::MaxSize() const {
     int width = 0;
-    for (const ToolButton& button : buttons_) width += WidthOf(button);
+    for (const ToolButton& button : buttons_)
+        width += WidthOf(button);
     return {width, buttonSize_.cy};
 }
 

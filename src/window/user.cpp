@@ -18,7 +18,9 @@ namespace kv {
 
 namespace {
 
-std::string Number(int value) { return std::to_string(value); }
+std::string Number(int value) {
+    return std::to_string(value);
+}
 
 /// The rows of a list box or a combo box, null for other controls.
 const RowList* RowsOf(const Node& control) {
@@ -83,9 +85,11 @@ bool HasRows(const Node& control) {
 std::vector<std::string> RowTexts(Node& control) {
     std::vector<std::string> texts;
     if (const auto* view = dynamic_cast<const ListViewNode*>(&control)) {
-        for (int row = 0; row < view->Count(); ++row) texts.push_back(RowText(*view, row));
+        for (int row = 0; row < view->Count(); ++row)
+            texts.push_back(RowText(*view, row));
     } else if (const RowList* rows = RowsOf(control)) {
-        for (int row = 0; row < rows->Count(); ++row) texts.emplace_back(rows->Text(row));
+        for (int row = 0; row < rows->Count(); ++row)
+            texts.emplace_back(rows->Text(row));
     }
     return texts;
 }
@@ -126,7 +130,9 @@ CWnd& User::Window() {
     return *handle;
 }
 
-bool User::Open() const { return !window_->Destroyed() && window_->Visible(); }
+bool User::Open() const {
+    return !window_->Destroyed() && window_->Visible();
+}
 
 void User::Fail(const std::string& words) {
     fail_(words);
@@ -163,7 +169,9 @@ int User::RowOf(Node& control, const std::string& text, const char* action) {
     return static_cast<int>(at - rows.begin());
 }
 
-void User::Click(int id) { Done(input::Click(ControlOf(id, "click")), "click", id); }
+void User::Click(int id) {
+    Done(input::Click(ControlOf(id, "click")), "click", id);
+}
 
 void User::DoubleClick(int id, int row) {
     Done(input::DoubleClick(ControlOf(id, "doubleclick"), row), "doubleclick", id);
@@ -197,7 +205,9 @@ void User::Select(int id, const std::vector<int>& rows) {
     Done(input::SelectRows(ControlOf(id, "select"), rows), "select", id);
 }
 
-void User::Select(int id, int row) { Select(id, std::vector<int>{row}); }
+void User::Select(int id, int row) {
+    Select(id, std::vector<int>{row});
+}
 
 void User::Select(int id, const std::string& rowText) {
     Node& control = ControlOf(id, "select");
@@ -207,28 +217,48 @@ void User::Select(int id, const std::string& rowText) {
     Select(id, RowOf(control, rowText, "select"));
 }
 
-void User::Drop(int id) { Done(input::DropDown(ControlOf(id, "drop")), "drop", id); }
+void User::Drop(int id) {
+    Done(input::DropDown(ControlOf(id, "drop")), "drop", id);
+}
 
-void User::Focus(int id) { Done(input::MoveFocus(ControlOf(id, "focus")), "focus", id); }
+void User::Focus(int id) {
+    Done(input::MoveFocus(ControlOf(id, "focus")), "focus", id);
+}
 
-void User::Close() { Done(input::CloseWindow(*window_), "close", window_->Id()); }
+void User::Close() {
+    Done(input::CloseWindow(*window_), "close", window_->Id());
+}
 
-std::string User::Text(int id) { return ControlOf(id, "text").Text(); }
+std::string User::Text(int id) {
+    return ControlOf(id, "text").Text();
+}
 
-bool User::Checked(int id) { return Send(ControlOf(id, "checked"), BM_GETCHECK) == BST_CHECKED; }
+bool User::Checked(int id) {
+    return Send(ControlOf(id, "checked"), BM_GETCHECK) == BST_CHECKED;
+}
 
-bool User::Enabled(int id) { return ControlOf(id, "enabled").ReallyEnabled(); }
+bool User::Enabled(int id) {
+    return ControlOf(id, "enabled").ReallyEnabled();
+}
 
-bool User::Visible(int id) { return ControlOf(id, "visible").ReallyVisible(); }
+bool User::Visible(int id) {
+    return ControlOf(id, "visible").ReallyVisible();
+}
 
-bool User::HasControl(int id) const { return window_->FindChild(id) != nullptr; }
+bool User::HasControl(int id) const {
+    return window_->FindChild(id) != nullptr;
+}
 
 int User::RowIndex(int id, const std::string& rowText) {
     return RowOf(ControlOf(id, "select"), rowText, "select");
 }
 
-std::vector<std::string> User::Rows(int id) { return RowTexts(ControlOf(id, "rows")); }
+std::vector<std::string> User::Rows(int id) {
+    return RowTexts(ControlOf(id, "rows"));
+}
 
-std::vector<int> User::Selected(int id) { return SelectedRows(ControlOf(id, "selected")); }
+std::vector<int> User::Selected(int id) {
+    return SelectedRows(ControlOf(id, "selected"));
+}
 
 }  // namespace kv

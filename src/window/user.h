@@ -11,8 +11,8 @@
 namespace kv {
 
 /// A person at one window, acting on its controls by their ids. After every action what waits is
-/// dispatched and idle time passes. An action on a control that is not there, or that a person could
-/// not act on, ends the run through the desktop's failure.
+/// dispatched and idle time passes. An action on a control that is not there, or that a person
+/// could not act on, ends the run through the desktop's failure.
 class KVGUICTL_API User {
 public:
     /// `fail` must not return.

@@ -26,7 +26,8 @@ TEST_F(AbeBar, ComesUpWithMapCheckedLayerWellsAndNothingToRun) {
     EXPECT_TRUE(bar.IsMapSelected());
     EXPECT_EQ(user->Text(kLayer), "Wells");
     EXPECT_EQ(user->Text(kArea), "");
-    for (const int id : {kRun, kMap, kReport, kLayer, kBlock}) EXPECT_FALSE(user->Enabled(id)) << id;
+    for (const int id : {kRun, kMap, kReport, kLayer, kBlock})
+        EXPECT_FALSE(user->Enabled(id)) << id;
     EXPECT_TRUE(user->Enabled(kArea));
 }
 
@@ -78,7 +79,8 @@ TEST_F(AbeBar, SetAreaFillsTheListFirst) {
 
 TEST_F(AbeBar, ACompletePickEnablesRunAndTheRadios) {
     CompleteThePick();
-    for (const int id : {kRun, kMap, kReport, kBlock}) EXPECT_TRUE(user->Enabled(id)) << id;
+    for (const int id : {kRun, kMap, kReport, kBlock})
+        EXPECT_TRUE(user->Enabled(id)) << id;
     EXPECT_FALSE(user->Enabled(kLayer));
     user->Click(kReport);
     EXPECT_TRUE(user->Enabled(kLayer));

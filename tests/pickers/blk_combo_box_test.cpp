@@ -41,7 +41,8 @@ protected:
 };
 
 TEST_F(BlkComboBox, SendsTheStatementOfEachModeToTheLetter) {
-    for (const int mode : {0, 1, 2, 9}) RowsOf(mode, "X");
+    for (const int mode : {0, 1, 2, 9})
+        RowsOf(mode, "X");
     EXPECT_THAT(statements,
                 ElementsAre(kAll + kLabels +
                                 " where areacode in (select stcode from "

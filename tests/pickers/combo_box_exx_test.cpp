@@ -32,7 +32,8 @@ protected:
         kv::AddToResourceChain(module);
         dialog.Create(kTemplate);
         box.SubclassDlgItem(kBox, &dialog);
-        for (const char* row : {"ALPHA", "GULF", "GRAND", "GULL"}) box.AddString(row);
+        for (const char* row : {"ALPHA", "GULF", "GRAND", "GULL"})
+            box.AddString(row);
     }
 
     void Type(const char* text) { kv::input::TypeText(*box.m_hWnd, text); }

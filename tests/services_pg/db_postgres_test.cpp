@@ -53,6 +53,24 @@ TEST_F(PostgresEngine, WithoutThatSchemaItsTablesAreFoundWhereTheyAre) {
     EXPECT_EQ(Cell("select a from NORVADON.kvt"), "public");
 }
 
+TEST_F(PostgresEngine, WithoutThatSchemaTheDictionaryNamesItAsOwnerOfTheCurrentOne) {
+    database_.Run(
+        "create schema other; create table other.kvz_well_hdr (a text);"
+        "create table kvt_well_hdr (a text)");
+    const std::string sql =
+        "select table_name from all_tables where table_name like '%WELL_HDR' and "
+        "owner='NORVADON'";
+    manager_.Connect();
+    manager_.Select(sql);
+    EXPECT_EQ(RowsOf(manager_, 1), "KVT_WELL_HDR");
+    EXPECT_EQ(Cell("select table_name from all_tables where owner = 'OTHER'"), "KVZ_WELL_HDR");
+    manager_.ExecuteDDL("create schema norvadon");
+    EXPECT_EQ(manager_.Select(sql), 0);
+    manager_.ExecuteDDL("create table norvadon.kvs_well_hdr (a VARCHAR2(10))");
+    manager_.Select(sql);
+    EXPECT_EQ(RowsOf(manager_, 1), "KVS_WELL_HDR");
+}
+
 TEST_F(PostgresEngine, ASchemaMadeOverTheConnectionIsKnownAtOnce) {
     database_.Run("create table kvt (a text); insert into kvt values ('public')");
     manager_.Connect();

@@ -21,6 +21,29 @@ inline std::string SharedPostgresUrl() {
     return url;
 }
 
+/// The sample dataset on that server: to be read, and the same to make copies of, to which nobody
+/// connects.
+inline constexpr const char* kSampleDatabase = "kv_sample";
+inline constexpr const char* kSampleTemplate = "kv_sample_template";
+
+/// The URL with another database in the place of its own.
+inline std::string WithDatabase(const std::string& url, const std::string& name) {
+    return url.substr(0, url.rfind('/') + 1) + name;
+}
+
+inline std::string SamplePostgresUrl() {
+    return WithDatabase(SharedPostgresUrl(), kSampleDatabase);
+}
+
+/// Folder of the server's socket.
+inline std::string SocketFolderOf(const std::string& url) {
+    const std::size_t begin = url.find('@') + 1;
+    std::string folder = url.substr(begin, url.rfind('/') - begin);
+    for (std::size_t at; (at = folder.find("%2F")) != std::string::npos;)
+        folder.replace(at, 3, "/");
+    return folder;
+}
+
 /// A connection that goes past the library.
 class PostgresClient {
 public:
@@ -66,15 +89,8 @@ public:
 
     const std::string& Name() const { return name_; }
     /// The server's URL up to the slash ahead of the database, with this one behind it.
-    std::string Url() const { return server_.substr(0, server_.rfind('/') + 1) + name_; }
-    /// Folder of the server's socket.
-    std::string SocketFolder() const {
-        const std::size_t begin = server_.find('@') + 1;
-        std::string folder = server_.substr(begin, server_.rfind('/') - begin);
-        for (std::size_t at; (at = folder.find("%2F")) != std::string::npos;)
-            folder.replace(at, 3, "/");
-        return folder;
-    }
+    std::string Url() const { return WithDatabase(server_, name_); }
+    std::string SocketFolder() const { return SocketFolderOf(server_); }
     std::string Run(const std::string& sql) const { return PostgresClient(Url()).Run(sql); }
 
 private:

@@ -30,7 +30,7 @@ TEST(TemplateCheck, FindsNothingInASoundDialog) {
 TEST(TemplateCheck, FindsAVisibleControlOutsideItsDialog) {
     EXPECT_THAT(Check({{11, kEdit, "", {160, 7, 50, 12}},
                        {12, kEdit, "", {7, 95, 50, 12}},
-                       {13, kEdit, "", {-1, 97, 5, 4}}}),
+                       {13, kEdit, "", {-1, 110, 5, 4}}}),
                 ElementsAre("dialog 7: 11 lies outside", "dialog 7: 12 lies outside",
                             "dialog 7: 13 lies outside"));
     EXPECT_THAT(Check({{11, kEdit, "", {160, 7, 50, 12}, kv::kHidden}}), IsEmpty());

@@ -27,7 +27,8 @@ void FeatureLayer::Add(const Point& point) {
 void FeatureLayer::Finish() {
     points_.shrink_to_fit();
     bounds_ = {};
-    for (const Box& box : boxes_) bounds_.Include(box);
+    for (const Box& box : boxes_)
+        bounds_.Include(box);
     index_ = GridIndex(boxes_);
 }
 

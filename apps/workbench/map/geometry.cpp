@@ -40,8 +40,8 @@ double SquaredDistance(const Point& point, const Segment& segment) {
 double NauticalMiles(const Place& a, const Place& b) {
     const double sinLat = std::sin((b.lat - a.lat) * kDegree / 2);
     const double sinLon = std::sin((b.lon - a.lon) * kDegree / 2);
-    const double h = sinLat * sinLat +
-                     std::cos(a.lat * kDegree) * std::cos(b.lat * kDegree) * sinLon * sinLon;
+    const double h =
+        sinLat * sinLat + std::cos(a.lat * kDegree) * std::cos(b.lat * kDegree) * sinLon * sinLon;
     return 2 * kEarthRadiusKm * std::asin(std::sqrt(std::min(1.0, h))) / kKmPerNauticalMile;
 }
 

@@ -12,7 +12,8 @@ constexpr double kSmallestExtent = 1e-9;
 }  // namespace
 
 GridIndex::GridIndex(std::span<const Box> boxes) {
-    for (const Box& box : boxes) bounds_.Include(box);
+    for (const Box& box : boxes)
+        bounds_.Include(box);
     if (bounds_.Empty()) return;
 
     const double width = std::max(bounds_.Width(), kSmallestExtent);
@@ -38,7 +39,8 @@ GridIndex::GridIndex(std::span<const Box> boxes) {
     for (const Box& box : boxes) {
         forEachCell(box, [this](std::size_t cell) { ++starts_[cell + 1]; });
     }
-    for (std::size_t cell = 1; cell < starts_.size(); ++cell) starts_[cell] += starts_[cell - 1];
+    for (std::size_t cell = 1; cell < starts_.size(); ++cell)
+        starts_[cell] += starts_[cell - 1];
     numbers_.resize(starts_.back());
     std::vector<std::uint32_t> next(starts_.begin(), starts_.end() - 1);
     for (std::uint32_t number = 0; number < boxes.size(); ++number) {

@@ -13,7 +13,8 @@ namespace workbench {
 class GridIndex {
 public:
     GridIndex() = default;
-    /// Keeps nothing of `boxes` but what cells they reach; they stay where they are and as they are.
+    /// Keeps nothing of `boxes` but what cells they reach; they stay where they are and as they
+    /// are.
     explicit GridIndex(std::span<const Box> boxes);
 
     /// Calls `visit(number)` once for each of the boxes that meets `query`, in no given order.

@@ -34,7 +34,8 @@ QPixmap LabelArt::Draw(const QString& label) const {
     const QFontMetricsF metrics(font_);
     const QStringList lines = label.split(u'\n');
     double width = 1;
-    for (const QString& line : lines) width = std::max(width, metrics.horizontalAdvance(line));
+    for (const QString& line : lines)
+        width = std::max(width, metrics.horizontalAdvance(line));
     const double lineHeight = metrics.ascent() + metrics.descent();
     const QSizeF size(std::ceil(width + 2 * kMargin),
                       std::ceil(lineHeight * static_cast<double>(lines.size()) + 2 * kMargin));
@@ -47,8 +48,8 @@ QPixmap LabelArt::Draw(const QString& label) const {
     painter.setFont(font_);
     double baseline = kMargin + metrics.ascent();
     for (const QString& line : lines) {
-        const QPointF at(
-            std::round((size.width() - metrics.horizontalAdvance(line)) / 2), baseline);
+        const QPointF at(std::round((size.width() - metrics.horizontalAdvance(line)) / 2),
+                         baseline);
         QPainterPath letters;
         letters.addText(at, font_, line);
         painter.strokePath(letters,

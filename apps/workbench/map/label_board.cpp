@@ -18,7 +18,8 @@ void LabelBoard::Reset(int width, int height) {
 }
 
 bool LabelBoard::Take(double left, double top, double width, double height) {
-    if (left < 0 || top < 0 || left + width > columns_ * kSquare || top + height > rows_ * kSquare) {
+    if (left < 0 || top < 0 || left + width > columns_ * kSquare ||
+        top + height > rows_ * kSquare) {
         return false;
     }
     const int first = static_cast<int>(left / kSquare);

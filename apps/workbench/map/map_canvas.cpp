@@ -19,7 +19,8 @@ constexpr double kPanPerKey = 80;  ///< pixels
 /// How much of the view's extent stays around a pick at each side.
 constexpr double kRoomAroundBlock = 0.38;
 constexpr double kRoomAroundAreas = 0.08;
-constexpr double kReach = 8;  ///< pixels around the mouse
+constexpr double kPlaceScale = 1'500;  ///< pixels for a degree
+constexpr double kReach = 8;           ///< pixels around the mouse
 constexpr int kDark = 128;
 
 QString Text(std::string_view text) {
@@ -74,8 +75,8 @@ void MapCanvas::ShowAll() {
     update();
 }
 
-void MapCanvas::ShowBox(const Box& box) {
-    view_.Show(box);
+void MapCanvas::ShowPlace(const Place& place) {
+    view_.SetMiddle(ToMap(place), std::max(view_.Scale(), kPlaceScale));
     Moved();
 }
 

@@ -28,7 +28,8 @@ public:
     void MarkPick(const Pick& pick);
     const Pick& GetPick() const { return marks_.pick; }
     void ShowAll();
-    void ShowBox(const Box& box);
+    /// Brings a place to the middle, near enough for its block to be told.
+    void ShowPlace(const Place& place);
 
     const MapLayers& Layers() const { return layers_; }
     void SetLayers(const MapLayers& layers);

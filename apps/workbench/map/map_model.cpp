@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 namespace workbench {
@@ -28,6 +29,34 @@ Point Middle(const FeatureLayer& blocks) {
         x += middle.x * area, y += middle.y * area, sum += area;
     }
     return sum > 0 ? Point{x / sum, y / sum} : blocks.Bounds().Middle();
+}
+
+/// The part of a line through the outline that holds `at`; empty where none does. The line lies at
+/// `across`, and `along` and `off` give a point's place on it and beside it.
+std::pair<double, double> Stretch(const Outline& outline, double at, double across,
+                                  double Point::*along, double Point::*off) {
+    double before = std::numeric_limits<double>::lowest();
+    double behind = std::numeric_limits<double>::max();
+    int crossings = 0;
+    for (const auto& ring : outline.rings) {
+        for (std::size_t i = 0, j = ring.size() - 1; i < ring.size(); j = i++) {
+            const Point& a = ring[i];
+            const Point& b = ring[j];
+            if ((a.*off > across) == (b.*off > across)) continue;
+            const double place =
+                a.*along + (b.*along - a.*along) * (across - a.*off) / (b.*off - a.*off);
+            (place <= at)               ? before = std::max(before, place),
+                            ++crossings : behind = std::min(behind, place);
+        }
+    }
+    if (crossings % 2 == 0) return {at, at};
+    return {before, behind};
+}
+
+Box RoomAt(const Outline& outline, const Point& at) {
+    const auto [left, right] = Stretch(outline, at.x, at.y, &Point::x, &Point::y);
+    const auto [bottom, top] = Stretch(outline, at.y, at.x, &Point::y, &Point::x);
+    return {left, bottom, right, top};
 }
 
 double UsualSize(const FeatureLayer& blocks) {
@@ -80,17 +109,20 @@ Water WaterOf(std::string_view areaCode) {
 }
 
 void AreaMap::Finish() {
-    for (FeatureLayer* layer : {&blocks, &wells, &platforms, &pipelines}) layer->Finish();
+    for (FeatureLayer* layer : {&blocks, &wells, &platforms, &pipelines})
+        layer->Finish();
     water = WaterOf(code);
     outline = Unite(blocks);
     labelAt = Middle(blocks);
+    labelRoom = RoomAt(outline, labelAt);
     blockSize = UsualSize(blocks);
 }
 
 Box Pick::Bounds() const {
     if (block) return block->Bounds();
     Box box;
-    for (const AreaMap* area : areas) box.Include(area->blocks.Bounds());
+    for (const AreaMap* area : areas)
+        box.Include(area->blocks.Bounds());
     return box;
 }
 
@@ -108,7 +140,9 @@ void MapModel::Add(std::unique_ptr<const AreaMap> area) {
     areas_.push_back(std::move(area));
 }
 
-void MapModel::Clear() { *this = {}; }
+void MapModel::Clear() {
+    *this = {};
+}
 
 const AreaMap* MapModel::FindArea(std::string_view code) const {
     for (const auto& area : areas_) {

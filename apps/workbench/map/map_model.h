@@ -49,6 +49,7 @@ struct AreaMap {
     Water water = Water::kShelf;
     Outline outline;
     Point labelAt;         ///< a good place for the name: the middle of the blocks
+    Box labelRoom;         ///< how far the area reaches from there, to all sides
     double blockSize = 0;  ///< side of a usual block, map units
 
     void Finish();
@@ -85,13 +86,15 @@ struct Pick {
 /// All areas of the map. Areas come one by one and stay where they are.
 class MapModel {
 public:
+    /// The map will cover this box, in the end.
+    void Expect(const Box& bounds) { bounds_.Include(bounds); }
     /// The area must be finished.
     void Add(std::unique_ptr<const AreaMap> area);
     void Clear();
 
     const std::vector<std::unique_ptr<const AreaMap>>& Areas() const { return areas_; }
     std::size_t BlockCount() const { return blocks_; }
-    /// Of all blocks.
+    /// Of all blocks, those included that are expected.
     const Box& Bounds() const { return bounds_; }
 
     /// Null for an unknown code.

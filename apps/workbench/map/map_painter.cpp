@@ -14,15 +14,22 @@ namespace {
 constexpr double kBlockLinesFrom = 5;
 constexpr double kBlockLinesFull = 12;
 constexpr double kBlockLabelsFrom = 30;
+constexpr double kCornerLabelsFrom = 80;
 
 // From how many pixels for a degree on.
+constexpr double kGraticuleUntil = 160;
 constexpr double kDotsFrom = 320;
 constexpr double kPipelinesFrom = 800;
 constexpr double kWidePipelinesFrom = 2'000;
-constexpr double kSymbolsFrom = 1'100;
+constexpr double kSymbolsFrom = 1'400;
 constexpr double kSpotLabelsFrom = 4'200;
 
 constexpr double kMargin = 10;
+constexpr double kTick = 8;
+constexpr double kEdge = 16;  ///< from the lower edge to the middle of its labels
+
+/// Where an area's name is put, in parts of the room there is, until it is in nobody's way.
+constexpr QPointF kAreaLabelShifts[] = {{0, 0}, {0, -0.25}, {0, 0.25}, {-0.25, 0}, {0.25, 0}};
 
 struct LegendRow {
     const char* text;
@@ -76,7 +83,8 @@ QPointF MapPainter::At(const Point& point) const {
 QPolygonF MapPainter::Ring(std::span<const Point> points) const {
     QPolygonF ring;
     ring.reserve(static_cast<qsizetype>(points.size()));
-    for (const Point& point : points) ring.append(At(point));
+    for (const Point& point : points)
+        ring.append(At(point));
     return ring;
 }
 
@@ -89,7 +97,9 @@ QPainterPath MapPainter::Outline(const AreaMap& area) const {
     return path;
 }
 
-bool MapPainter::ShowsSpots(const MapView& view) { return view.Scale() >= kSymbolsFrom; }
+bool MapPainter::ShowsSpots(const MapView& view) {
+    return view.Scale() >= kSymbolsFrom;
+}
 
 void MapPainter::Draw(QPainter& painter, const MapModel& model, const MapView& view,
                       const MapLayers& layers, const MapMarks& marks) {
@@ -116,6 +126,7 @@ void MapPainter::Draw(QPainter& painter, const MapModel& model, const MapView& v
     if (layers.legend) DrawLegend();
     if (layers.graticule) DrawEdgeLabels();
     if (layers.labels) {
+        DrawPickLabel(marks.pick);
         DrawAreaLabels();
         DrawBlockLabels();
         if (layers.platforms) DrawSpotLabels(true);
@@ -170,8 +181,8 @@ void MapPainter::DrawBlockLines() {
         for (const Segment& line : area->outline.inner) {
             AddLine(line, seen);
         }
-        const double part = 0.35 + 0.65 * (size - kBlockLinesFrom) /
-                                       (kBlockLinesFull - kBlockLinesFrom);
+        const double part =
+            0.35 + 0.65 * (size - kBlockLinesFrom) / (kBlockLinesFull - kBlockLinesFrom);
         painter_->setPen(QPen(WithAlpha(look_.blockLine, part), 0));
         painter_->drawLines(lines_.data(), static_cast<int>(lines_.size()));
     }
@@ -250,8 +261,8 @@ void MapPainter::DrawDots(bool platforms) {
             });
         }
         const auto color = static_cast<std::uint8_t>(kind);
-        painter_->setBrush(WithAlpha(
-            platforms ? PlatformColor(look_, color) : WellColor(look_, color), 0.75));
+        painter_->setBrush(
+            WithAlpha(platforms ? PlatformColor(look_, color) : WellColor(look_, color), 0.75));
         painter_->drawRects(dots_.data(), static_cast<int>(dots_.size()));
     }
     painter_->setRenderHint(QPainter::Antialiasing);
@@ -270,7 +281,8 @@ void MapPainter::DrawMarks(const MapMarks& marks) {
         path.addPolygon(Ring(block.area->blocks.Points(block.block)));
         path.closeSubpath();
     } else {
-        for (const AreaMap* area : marks.pick.areas) path.addPath(Outline(*area));
+        for (const AreaMap* area : marks.pick.areas)
+            path.addPath(Outline(*area));
     }
     QColor fill = look_.pick;
     fill.setAlphaF(marks.pick.block ? 0.20F : 0.10F);
@@ -282,18 +294,24 @@ void MapPainter::DrawMarks(const MapMarks& marks) {
     painter_->drawPath(path);
 }
 
+/// Whole lines from afar; among the lines of blocks only marks at the edges.
 void MapPainter::DrawGraticule() {
     const Graticule lines = GraticuleOf(*view_);
+    const double width = view_->Width();
+    const double height = view_->Height();
+    const bool whole = view_->Scale() < kGraticuleUntil;
     lines_.clear();
     for (const double lon : lines.longitudes) {
         const double x = At(workbench::ToMap({0, lon})).x();
-        lines_.emplace_back(x, 0, x, view_->Height());
+        lines_.emplace_back(x, 0, x, whole ? height : kTick);
+        if (!whole) lines_.emplace_back(x, height - kTick, x, height);
     }
     for (const double lat : lines.latitudes) {
         const double y = At(workbench::ToMap({lat, 0})).y();
-        lines_.emplace_back(0, y, view_->Width(), y);
+        lines_.emplace_back(0, y, whole ? width : kTick, y);
+        if (!whole) lines_.emplace_back(width - kTick, y, width, y);
     }
-    painter_->setPen(QPen(look_.graticule, 0));
+    painter_->setPen(QPen(whole ? look_.graticule : look_.edgeText, 0));
     painter_->drawLines(lines_.data(), static_cast<int>(lines_.size()));
 }
 
@@ -301,33 +319,18 @@ void MapPainter::DrawEdgeLabels() {
     const Graticule lines = GraticuleOf(*view_);
     for (const double lon : lines.longitudes) {
         const double x = At(workbench::ToMap({0, lon})).x();
-        PutLabel(edgeLabels_, ShortAngle(lon, 'E', 'W'), {x, view_->Height() - kMargin});
+        PutLabel(edgeLabels_, ShortAngle(lon, 'E', 'W'), {x, view_->Height() - kEdge});
     }
     for (const double lat : lines.latitudes) {
         const std::string label = ShortAngle(lat, 'N', 'S');
         const double half = edgeLabels_.SizeOf(label).width() / 2;
-        PutLabel(edgeLabels_, label, {2 + half, At(workbench::ToMap({lat, 0})).y()});
+        PutLabel(edgeLabels_, label, {kTick + half, At(workbench::ToMap({lat, 0})).y()});
     }
 }
 
-void MapPainter::PutLabel(LabelArt& art, std::string_view label, QPointF middle) {
+bool MapPainter::PutLabel(LabelArt& art, std::string_view label, QPointF middle) {
     const QPixmap& pixmap = art.Of(label);
     const QSizeF size = pixmap.deviceIndependentSize();
-    const QPointF corner(std::round(middle.x() - size.width() / 2),
-                         std::round(middle.y() - size.height() / 2));
-    if (!board_.Take(corner.x(), corner.y(), size.width(), size.height())) return;
-    painter_->drawPixmap(corner, pixmap);
-}
-
-bool MapPainter::PutAreaLabel(const AreaMap& area, const std::string& label, const QRectF& room,
-                              QPointF middle) {
-    if (label.empty()) return false;
-    const QPixmap& pixmap = areaLabels_.Of(label);
-    const QSizeF size = pixmap.deviceIndependentSize();
-    const bool small = BlockPixels(area) < kBlockLabelsFrom;
-    if (small && (size.width() > room.width() * 1.05 || size.height() > room.height() * 1.05)) {
-        return false;
-    }
     const QPointF corner(std::round(middle.x() - size.width() / 2),
                          std::round(middle.y() - size.height() / 2));
     if (!board_.Take(corner.x(), corner.y(), size.width(), size.height())) return false;
@@ -335,34 +338,68 @@ bool MapPainter::PutAreaLabel(const AreaMap& area, const std::string& label, con
     return true;
 }
 
+bool MapPainter::PutAreaLabel(std::string_view label, const QSizeF& room, QPointF middle) {
+    if (label.empty()) return false;
+    const QSizeF size = areaLabels_.SizeOf(label);
+    if (size.width() > room.width() || size.height() > room.height()) return false;
+    return PutLabel(areaLabels_, label, middle);
+}
+
 void MapPainter::DrawAreaLabels() {
     const QRectF screen(0, 0, view_->Width(), view_->Height());
     for (const AreaMap* area : visible_) {
         const Box& box = area->blocks.Bounds();
         if (box.Empty()) continue;
-        const QRectF room(At({box.minX, box.maxY}), At({box.maxX, box.minY}));
-        const QRectF seen = room.intersected(screen);
+        const QRectF seen =
+            QRectF(At({box.minX, box.maxY}), At({box.maxX, box.minY})).intersected(screen);
         if (seen.isEmpty()) continue;
-        // The name stays in sight when the middle of the area is not.
         QPointF middle = At(area->labelAt);
-        if (!screen.contains(middle)) middle = seen.center();
-        PutAreaLabel(*area, area->name, seen, middle) ||
-            PutAreaLabel(*area, Wrapped(area->name), seen, middle) ||
-            PutAreaLabel(*area, area->mmsCode, seen, middle);
+        QSizeF room(area->labelRoom.Width() * view_->Scale(),
+                    area->labelRoom.Height() * view_->Scale());
+        // The name stays in sight when the middle of the area is not.
+        if (!screen.contains(middle)) middle = seen.center(), room = seen.size();
+        const bool near = BlockPixels(*area) >= kBlockLabelsFrom;
+        for (const QPointF& shift : kAreaLabelShifts) {
+            const QPointF at =
+                middle + QPointF(shift.x() * room.width(), shift.y() * room.height());
+            if (PutAreaLabel(area->name, room, at) || PutAreaLabel(Wrapped(area->name), room, at) ||
+                PutAreaLabel(area->mmsCode, room, at) || !near) {
+                break;
+            }
+        }
     }
+}
+
+void MapPainter::DrawPickLabel(const Pick& pick) {
+    if (!pick.block || BlockPixels(*pick.block->area) < kBlockLabelsFrom) return;
+    DrawBlockLabel(*pick.block);
+    // No other name is put over the pick.
+    const Box& box = pick.block->Bounds();
+    const QRectF room(At({box.minX, box.maxY}), At({box.maxX, box.minY}));
+    board_.Take(room.x(), room.y() + room.height() / 4, room.width(), room.height() * 3 / 4);
 }
 
 void MapPainter::DrawBlockLabels() {
     const Box seen = view_->Visible();
     for (const AreaMap* area : visible_) {
         if (BlockPixels(*area) < kBlockLabelsFrom) continue;
-        area->blocks.ForEachIn(seen, [&](std::size_t number) {
-            const Box& box = area->blocks.BoxOf(number);
-            const std::string_view label = area->blocks.Label(number);
-            if (blockLabels_.SizeOf(label).width() > box.Width() * view_->Scale()) return;
-            PutLabel(blockLabels_, label, At(box.Middle()));
-        });
+        area->blocks.ForEachIn(seen, [&](std::size_t number) { DrawBlockLabel({area, number}); });
     }
+}
+
+/// In the middle of a small block, in the corner of a large one, where it is out of the way.
+void MapPainter::DrawBlockLabel(const BlockRef& block) {
+    const Box& box = block.Bounds();
+    const QSizeF size = blockLabels_.SizeOf(block.Label());
+    if (size.width() > box.Width() * view_->Scale()) return;
+    QPointF middle = At(box.Middle());
+    if (box.Width() * view_->Scale() >= kCornerLabelsFrom) {
+        const QPointF corner =
+            At({box.minX, box.maxY}) + QPointF(size.width() / 2 + 5, size.height() / 2 + 4);
+        const Point inner = view_->ToMap({corner.x() - size.width() / 2, corner.y()});
+        if (Inside(block.area->blocks.Points(block.block), inner)) middle = corner;
+    }
+    PutLabel(blockLabels_, block.Label(), middle);
 }
 
 void MapPainter::DrawSpotLabels(bool platforms) {
@@ -388,7 +425,7 @@ void MapPainter::DrawScaleBar() {
     const QString text = QString::fromStdString(bar.label);
     const double width = std::max(bar.pixels, metrics.horizontalAdvance(text)) + 2 * kMargin;
     const double height = metrics.height() + 14;
-    const QRectF panel(view_->Width() - kMargin - width, view_->Height() - 2 * kMargin - height - 8,
+    const QRectF panel(view_->Width() - kMargin - width, view_->Height() - 2 * kEdge - height,
                        width, height);
     board_.Take(panel.x(), panel.y(), panel.width(), panel.height());
     painter_->setPen(QPen(look_.panelLine, 1));
@@ -438,7 +475,8 @@ void MapPainter::DrawLegend() {
     const QFont font = Sized(font_, 0.82, QFont::Normal);
     const QFontMetricsF metrics(font);
     double width = 0;
-    for (const Row& row : rows) width = std::max(width, metrics.horizontalAdvance(row.text));
+    for (const Row& row : rows)
+        width = std::max(width, metrics.horizontalAdvance(row.text));
     const double line = std::max(metrics.height() + 2, MapSymbols::kSize + 2);
     const QRectF panel(view_->Width() - kMargin - (width + 44), kMargin, width + 44,
                        line * static_cast<double>(rows.size()) + 12);

@@ -69,9 +69,11 @@ private:
     void DrawAreaLabels();
     void DrawBlockLabels();
     void DrawSpotLabels(bool platforms);
-    void PutLabel(LabelArt& art, std::string_view label, QPointF middle);
-    bool PutAreaLabel(const AreaMap& area, const std::string& label, const QRectF& room,
-                      QPointF middle);
+    void DrawPickLabel(const Pick& pick);
+    void DrawBlockLabel(const BlockRef& block);
+    /// False when it would lie over another label, or not wholly on the screen.
+    bool PutLabel(LabelArt& art, std::string_view label, QPointF middle);
+    bool PutAreaLabel(std::string_view label, const QSizeF& room, QPointF middle);
     void DrawLegend();
     void DrawScaleBar();
 

@@ -38,8 +38,8 @@ double MapView::ScaleFor(const Box& box, double room) const {
 }
 
 void MapView::Limit() {
-    scale_ = std::clamp(scale_, std::min(ScaleFor(bounds_, kMostRoom), kLargestScale),
-                        kLargestScale);
+    scale_ =
+        std::clamp(scale_, std::min(ScaleFor(bounds_, kMostRoom), kLargestScale), kLargestScale);
     middle_.x = std::clamp(middle_.x, bounds_.minX, bounds_.maxX);
     middle_.y = std::clamp(middle_.y, bounds_.minY, bounds_.maxY);
 }

@@ -125,7 +125,8 @@ std::vector<Point> Straightened(const std::vector<Point>& ring) {
 
 std::vector<std::vector<Point>> Chain(const std::vector<Side>& sides, const Corners& corners) {
     std::unordered_multimap<Corner, Corner> next;
-    for (const Side& side : sides) next.emplace(side.from, side.to);
+    for (const Side& side : sides)
+        next.emplace(side.from, side.to);
     std::vector<std::vector<Point>> rings;
     while (!next.empty()) {
         const Corner first = next.begin()->first;

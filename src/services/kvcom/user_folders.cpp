@@ -10,8 +10,10 @@ namespace kv {
 namespace {
 
 std::string HomeFolder() {
+    const std::string home = FromEnvironment("HOME", "");
+    if (!home.empty()) return home;
     const passwd* user = getpwuid(getuid());
-    return FromEnvironment("HOME", user && user->pw_dir ? user->pw_dir : "/tmp");
+    return user && user->pw_dir ? user->pw_dir : "/tmp";
 }
 
 /// A folder of the base directory rules, which leave out a variable that is no absolute path.

@@ -62,7 +62,7 @@ public:
         } catch (const TooLong&) {
             return AsItStands("it would become too long");
         }
-        if (surplus && context_.target != Target::kOracle) result_.notes.push_back(kSurplusBracket);
+        if (surplus) result_.notes.push_back(kSurplusBracket);
         return std::move(result_);
     }
 
@@ -101,6 +101,7 @@ private:
         while (list.size() > 1) {
             const Token& last = list[list.size() - 2];
             if (!last.Is(')') || last.partner != Token::kNoPartner) break;
+            readEnd_ = static_cast<std::size_t>(last.text.data() - sql_.data());
             list.erase(list.end() - 2);
         }
         return list.size() < before;
@@ -109,7 +110,7 @@ private:
     void Print(const Statement& statement) {
         const bool untranslated = std::holds_alternative<OtherDefinition>(statement);
         if (context_.target == Target::kOracle || untranslated) {
-            result_.text = sql_.substr(0, statementEnd_);
+            result_.text = sql_.substr(0, std::min(statementEnd_, readEnd_));
             if (context_.target != Target::kOracle) Note(kOtherDefinition);
             return;
         }
@@ -149,7 +150,9 @@ private:
     const Context& context_;
     Tokens tokens_;
     Arena arena_;
+    /// Where the closing semicolons begin, and where the surplus brackets.
     std::size_t statementEnd_ = std::string_view::npos;
+    std::size_t readEnd_ = std::string_view::npos;
     Translation result_;
 };
 

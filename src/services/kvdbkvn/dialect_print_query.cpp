@@ -233,13 +233,19 @@ void Printer::PutTableRef(const TableRef& ref) {
 }
 
 void Printer::PutTableDictionary() {
-    if (ForPostgres())
+    const bool hasOwner = HasSchema("NORVADON");
+    if (ForPostgres()) {
+        Put("(select ");
+        Put(hasOwner ? "upper(table_schema)"
+                     : "case when table_schema = current_schema() then 'NORVADON' "
+                       "else upper(table_schema) end");
         return Put(
-            "(select upper(table_schema) as owner, upper(table_name) as table_name "
+            " as owner, upper(table_name) as table_name "
             "from information_schema.tables where table_type = 'BASE TABLE')");
+    }
     // The one owner of a database without owners.
     Put("(select 'NORVADON' as owner, upper(name) as table_name from ");
-    if (HasSchema("NORVADON")) Put("NORVADON.");
+    if (hasOwner) Put("NORVADON.");
     Put("sqlite_master where type = 'table' and substr(name, 1, 7) <> 'sqlite_')");
 }
 

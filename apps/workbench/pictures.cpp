@@ -1,0 +1,129 @@
+#include "workbench/pictures.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QDir>
+#include <QTimer>
+#include <cstdio>
+
+#include "pickers/abe_bar_ids.h"
+#include "qt/qt_desktop.h"
+#include "window/button.h"
+#include "window/combo_box.h"
+#include "window/input.h"
+#include "window/window_system.h"
+
+namespace workbench {
+
+namespace {
+
+constexpr const char* kSampleArea = "43113";
+constexpr const char* kSampleBlock = "391";
+constexpr const char* kSampleLayer = "Wells";
+
+/// How many times something is looked for that does not open, or does not close.
+constexpr int kMostTurns = 200;
+
+void PressRun(MainFrame& frame) {
+    kv::WindowSystem::Get().Settle();
+    kv::input::Click(*frame.m_bar.GetDlgItem(kv::abe_bar::kRun)->m_hWnd);
+}
+
+/// The window in front that is not the main window: the innermost modal one, else the newest one
+/// that is shown.
+kv::Node* Opened(const kv::Node& mainWindow) {
+    auto& windows = kv::WindowSystem::Get();
+    if (!windows.Modals().empty()) return windows.Modals().back();
+    kv::Node* newest = nullptr;
+    for (const auto& window : windows.TopLevels()) {
+        if (window.get() != &mainWindow && window->Visible() && !window->Destroyed()) {
+            newest = window.get();
+        }
+    }
+    return newest;
+}
+
+/// Waits inside a dialog's loop, takes its picture, and closes all that is open.
+class Photographer : public QObject {
+public:
+    Photographer(kv::Node& mainWindow, std::string path)
+        : mainWindow_(mainWindow), path_(std::move(path)) {
+        connect(&timer_, &QTimer::timeout, this, &Photographer::Look);
+        timer_.start(0);
+    }
+    bool Taken() const { return taken_; }
+
+private:
+    void Look() {
+        kv::Node* window = Opened(mainWindow_);
+        if (!taken_ && window) {
+            kv::WindowSystem::Get().Settle();
+            taken_ = kv::qt::SavePicture(*window, path_);
+        }
+        if (taken_ || ++turns_ > kMostTurns) Close(window);
+    }
+    void Close(kv::Node* window) {
+        if (QWidget* box = QApplication::activeModalWidget(); box && !window) {
+            box->close();
+        } else if (window) {
+            kv::input::CloseWindow(*window);
+            kv::WindowSystem::Get().GetDesktop().Wake();
+        }
+    }
+
+    kv::Node& mainWindow_;
+    std::string path_;
+    QTimer timer_;
+    bool taken_ = false;
+    int turns_ = 0;
+};
+
+bool SaveDialog(Workbench& host, const adaptors::Adaptor& adaptor, const QDir& folder) {
+    const QString path =
+        folder.filePath(QString::fromStdString(adaptor.className) + QStringLiteral(".png"));
+    Photographer photographer(*host.Frame().m_hWnd, path.toStdString());
+    host.RunDialog(adaptor);
+    if (photographer.Taken()) return true;
+    std::fprintf(stderr, "workbench: no picture of %s\n", adaptor.className.c_str());
+    return false;
+}
+
+}  // namespace
+
+void PlaySample(Workbench& host) {
+    host.Runner().Finish();
+    CVZABEBar& bar = host.Frame().m_bar;
+    bar.SetArea(kSampleArea);
+    bar.SetBlkExt(kSampleBlock);
+    bar.SetRadioState(false);
+    PressRun(host.Frame());
+    bar.SetRadioState(true);
+    auto& layers = bar.Control<CComboBox>(kv::abe_bar::kLayer);
+    layers.SetCurSel(layers.FindStringExact(-1, kSampleLayer));
+    PressRun(host.Frame());
+    host.Runner().Finish();
+}
+
+bool SaveWindow(Workbench& host, const std::string& path) {
+    QApplication::processEvents();
+    if (kv::qt::SavePicture(*host.Frame().m_hWnd, path)) return true;
+    std::fprintf(stderr, "workbench: %s cannot be written\n", path.c_str());
+    return false;
+}
+
+bool SavePictures(Workbench& host, const std::string& folder) {
+    const QDir place(QString::fromStdString(folder));
+    if (!place.mkpath(QStringLiteral("."))) {
+        std::fprintf(stderr, "workbench: the folder %s cannot be made\n", folder.c_str());
+        return false;
+    }
+    bool all = true;
+    for (const adaptors::Adaptor* adaptor : adaptors::All()) {
+        all = SaveDialog(host, *adaptor, place) && all;
+    }
+    host.Outcome().clear();
+    PlaySample(host);
+    return SaveWindow(host, place.filePath("workbench.png").toStdString()) && all;
+}
+
+}  // namespace workbench

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+
+#include "workbench/workbench.h"
+
+namespace workbench {
+
+/// Shows a pick on the map and a report about it, as a user would who presses Run twice.
+void PlaySample(Workbench& host);
+
+/// Writes PNG files into a folder, which is made if it is not there: one of every dialog, each with
+/// its sample inputs and named by its class, and "workbench.png". False, with the reason on the
+/// standard error output, when one could not be made.
+bool SavePictures(Workbench& host, const std::string& folder);
+
+/// Writes a PNG file of the main window.
+bool SaveWindow(Workbench& host, const std::string& path);
+
+}  // namespace workbench

@@ -1,0 +1,189 @@
+#include "workbench/report_layers.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "window/text.h"
+#include "workbench/dataset.h"
+
+namespace workbench {
+
+namespace {
+
+using Column = ReportLayer::Column;
+
+constexpr std::string_view kAreaName = "a.areaname";
+constexpr std::string_view kBlockName = "t.lbnum||t.lbext";
+constexpr std::string_view kOfArea = "t.areacode = {area}";
+constexpr std::string_view kOfBlock = "t.lbnum||t.lbext = {block}";
+
+constexpr Column kWells[] = {
+    {"t.api_no", "API number"},
+    {"t.well_name", "Well"},
+    {kAreaName, "Area"},
+    {kBlockName, "Block", true},
+    {"t.lease_no", "Lease"},
+    {"t.operator", "Operator"},
+    {"t.status", "Status"},
+    {"t.total_depth", "Total depth (ft)", true},
+    {"t.water_depth", "Water depth (ft)", true},
+    {"t.spud_date", "Spudded"},
+    {"t.surf_lat", "Latitude", true},
+    {"t.surf_lon", "Longitude", true},
+};
+constexpr Column kLeases[] = {
+    {"t.lease_no", "Lease"},        {kAreaName, "Area"},
+    {kBlockName, "Block", true},    {"t.status", "Status"},
+    {"t.lessee", "Lessee"},         {"t.operator", "Operator"},
+    {"t.lease_date", "Leased"},     {"t.expire_date", "Expires"},
+    {"t.acres", "Acres", true},     {"t.royalty_pct", "Royalty (%)", true},
+    {"t.bonus", "Bonus ($)", true},
+};
+constexpr Column kApds[] = {
+    {"t.apd_no", "APD", true},   {"t.well_name", "Well"},      {kAreaName, "Area"},
+    {kBlockName, "Block", true}, {"t.operator", "Operator"},   {"t.received_date", "Received"},
+    {"t.lat", "Latitude", true}, {"t.lon", "Longitude", true},
+};
+constexpr Column kPlatforms[] = {
+    {"t.complex_id", "Complex", true},
+    {"t.structure", "Structure"},
+    {kAreaName, "Area"},
+    {kBlockName, "Block", true},
+    {"t.operator", "Operator"},
+    {"t.water_depth", "Water depth (ft)", true},
+    {"t.install_date", "Installed"},
+    {"t.removal_date", "Removed"},
+    {"t.lat", "Latitude", true},
+    {"t.lon", "Longitude", true},
+};
+constexpr Column kPlans[] = {
+    {"t.plan_no", "Plan"},       {"t.plan_type", "Type"},      {kAreaName, "Area"},
+    {kBlockName, "Block", true}, {"t.operator", "Operator"},   {"t.received_date", "Received"},
+    {"t.lat", "Latitude", true}, {"t.lon", "Longitude", true},
+};
+constexpr Column kPipelines[] = {
+    {"t.segment_no", "Segment", true},
+    {kAreaName, "From area"},
+    {kBlockName, "From block", true},
+    {"t.to_areacode", "To area code"},
+    {"t.to_lbnum||t.to_lbext", "To block", true},
+    {"t.operator", "Operator"},
+    {"t.status", "Status"},
+    {"t.product", "Product"},
+    {"t.size_in", "Size (in)", true},
+    {"t.approval_date", "Approved"},
+};
+constexpr Column kProspects[] = {
+    {"t.prospect", "Prospect"}, {kAreaName, "Area"},         {kBlockName, "Block", true},
+    {"t.company", "Company"},   {"t.lat", "Latitude", true}, {"t.lon", "Longitude", true},
+};
+constexpr Column kFields[] = {
+    {"t.field", "Field"},        {kAreaName, "Area"},
+    {kBlockName, "Block", true}, {"t.discovery_date", "Discovered"},
+    {"t.lat", "Latitude", true}, {"t.lon", "Longitude", true},
+};
+constexpr Column kShotpoints[] = {
+    {"t.line", "Line"},          {"t.shotpoint", "Shotpoint", true}, {kAreaName, "Area"},
+    {kBlockName, "Block", true}, {"t.lat", "Latitude", true},        {"t.lon", "Longitude", true},
+};
+
+/// A pipeline belongs to the block it begins in and to the one it ends in.
+constexpr std::string_view kPipelineOfArea = "(t.areacode = {area} or t.to_areacode = {area})";
+constexpr std::string_view kPipelineOfBlock =
+    "(t.areacode = {area} and t.lbnum||t.lbext = {block} or "
+    "t.to_areacode = {area} and t.to_lbnum||t.to_lbext = {block})";
+
+constexpr ReportLayer kLayers[] = {
+    {KV_LAYER_WELLS, "Wells", "_well_hdr", kOfArea, kOfBlock, "t.api_no", kWells},
+    {KV_LAYER_LEASES, "Leases", "_lease", kOfArea, kOfBlock, "t.lease_no", kLeases},
+    {KV_LAYER_APDS, "APDs", "_apd", kOfArea, kOfBlock, "t.apd_no", kApds},
+    {KV_LAYER_PLATFORMS, "Platforms", "_platform", kOfArea, kOfBlock, "t.complex_id", kPlatforms},
+    {KV_LAYER_PLANS, "Plans", "_plan", kOfArea, kOfBlock, "t.plan_no", kPlans},
+    {KV_LAYER_PIPELINES, "Pipelines", "_pipeline", kPipelineOfArea, kPipelineOfBlock,
+     "t.segment_no", kPipelines, true},
+    {KV_LAYER_PROSPECTS, "Prospects", "_prospect", kOfArea, kOfBlock, "t.prospect", kProspects},
+    {KV_LAYER_FIELDS, "Fields", "_field", kOfArea, kOfBlock, "t.field", kFields},
+    {KV_LAYER_2D_SHOTPOINTS, "2D Shotpoints", "_shotpoint2d", kOfArea, kOfBlock,
+     "t.line, t.shotpoint", kShotpoints},
+};
+
+}  // namespace
+
+std::span<const ReportLayer> ReportLayers() {
+    return kLayers;
+}
+
+const ReportLayer* FindReportLayer(E_Layer layer) {
+    const auto* found = std::find_if(std::begin(kLayers), std::end(kLayers),
+                                     [&](const ReportLayer& each) { return each.layer == layer; });
+    return found == std::end(kLayers) ? nullptr : found;
+}
+
+std::string ReportStatement(const ReportLayer& layer, const std::string& quotedArea,
+                            const std::string& block) {
+    std::string statement = "select ";
+    for (const Column& column : layer.columns) {
+        statement.append(column.expression).append(", ");
+    }
+    statement.append("t.areacode, ").append(kBlockName);
+    statement += " from " + TableName(std::string(layer.table)) + " t, " +
+                 TableName(kv::catalogue::kAreaTable) + " a where a.stcode = t.areacode and ";
+    std::string condition(layer.ofArea);
+    if (block != kv::catalogue::kAllBlocks) condition.append(" and ").append(layer.ofBlock);
+    condition = kv::ReplaceAll(condition, "{area}", quotedArea);
+    statement += kv::ReplaceAll(condition, "{block}", Quoted(block));
+    return statement.append(" order by ").append(layer.order);
+}
+
+std::vector<std::string> AreaLiterals(const std::string& areacode) {
+    std::string list = areacode;
+    if (list.starts_with('(') && list.ends_with(')')) list = list.substr(1, list.size() - 2);
+    if (list.empty()) return {};
+    return kv::Split(list, ',');
+}
+
+ReportLoader::ReportLoader(const ReportLayer& layer, std::vector<std::string> areaLiterals,
+                           std::string block, std::function<void(ResultTable)> finished)
+    : layer_(layer),
+      areas_(std::move(areaLiterals)),
+      block_(std::move(block)),
+      finished_(std::move(finished)) {
+    table_.title = layer.title;
+    for (const Column& column : layer.columns) {
+        table_.columns.push_back({std::string(column.heading), column.number});
+    }
+}
+
+std::string ReportLoader::Title() const {
+    return "Reading " + std::string(layer_.title);
+}
+
+bool ReportLoader::Step() {
+    if (next_ == areas_.size()) return false;
+    const Rows rows(ReportStatement(layer_, areas_[next_++], block_));
+    std::vector<std::string> fresh;
+    for (int row = 0; row < rows.Count(); ++row) {
+        if (!Read(rows.Cell(row, 0))) AddRow(rows, row);
+        fresh.emplace_back(rows.Cell(row, 0));
+    }
+    read_.insert(fresh.begin(), fresh.end());
+    return next_ < areas_.size();
+}
+
+bool ReportLoader::Read(const std::string& first) const {
+    return layer_.reachesOut && read_.count(first) > 0;
+}
+
+void ReportLoader::AddRow(const Rows& rows, int row) {
+    const int columns = table_.ColumnCount();
+    for (int column = 0; column < columns; ++column) {
+        table_.cells.emplace_back(rows.Cell(row, column));
+    }
+    table_.keys.push_back({rows.Cell(row, columns), rows.Cell(row, columns + 1)});
+}
+
+void ReportLoader::Finished() {
+    finished_(std::move(table_));
+}
+
+}  // namespace workbench

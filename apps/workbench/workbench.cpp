@@ -1,0 +1,264 @@
+#include "workbench/workbench.h"
+
+#include <QApplication>
+#include <QDockWidget>
+#include <QStatusBar>
+#include <QTimer>
+
+#include "frame/profile.h"
+#include "qt/qt_desktop.h"
+#include "window/text.h"
+#include "window/window_system.h"
+#include "workbench/dataset.h"
+
+namespace workbench {
+
+namespace {
+
+constexpr const char* kSection = "Workbench";
+constexpr const char* kGeometry = "Geometry";
+constexpr const char* kState = "State";
+constexpr int kStateVersion = 1;
+constexpr int kPaneHeight = 230;
+
+QString Text(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+QByteArray Remembered(const char* entry) {
+    return QByteArray::fromBase64(
+        QByteArray::fromStdString(kv::profile::GetString(kSection, entry, "")));
+}
+
+void Remember(const char* entry, const QByteArray& value) {
+    kv::profile::WriteString(kSection, entry, value.toBase64().toStdString());
+}
+
+/// Tells when a widget was painted for the first time.
+class FirstPaint : public QObject {
+public:
+    FirstPaint(QWidget& widget, std::function<void()> painted)
+        : QObject(&widget), painted_(std::move(painted)) {
+        widget.installEventFilter(this);
+    }
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() != QEvent::Paint) return false;
+        // Behind the painting itself.
+        QTimer::singleShot(0, this, [this] {
+            painted_();
+            deleteLater();
+        });
+        parent()->removeEventFilter(this);
+        return false;
+    }
+
+private:
+    std::function<void()> painted_;
+};
+
+QString Counted(const ResultTable& table) {
+    return QStringLiteral("%1: %L2").arg(QString::fromStdString(table.title)).arg(table.RowCount());
+}
+
+}  // namespace
+
+Workbench::Workbench(CKvDbInfo database) : database_(std::move(database)) {
+    app_.m_pMainWnd = &frame_;
+    if (!frame_.CreateWithBar()) qFatal("The bar has no template: was InitControlDll called?");
+    window_ = kv::qt::MainWindowOf(*frame_.m_hWnd);
+    MakePanes();
+    status_ = new StatusLine(*window_->statusBar());
+    MakeMenus();
+    ConnectAll();
+    Restore();
+}
+
+Workbench::~Workbench() {
+    frame_.m_onClosed = nullptr;
+    frame_.DestroyWindow();
+}
+
+void Workbench::MakePanes() {
+    canvas_ = new MapCanvas(model_, window_);
+    window_->setCentralWidget(canvas_);
+    window_->setDockOptions(QMainWindow::AnimatedDocks | QMainWindow::AllowTabbedDocks |
+                            QMainWindow::AllowNestedDocks);
+    results_ = new ResultsPane;
+    outcome_ = new OutcomePane;
+    resultsDock_ = MakePane(tr("Results"), "results", results_);
+    outcomeDock_ = MakePane(tr("Dialog outcome"), "outcome", outcome_);
+    window_->tabifyDockWidget(resultsDock_, outcomeDock_);
+    resultsDock_->raise();
+    window_->resizeDocks({resultsDock_}, {kPaneHeight}, Qt::Vertical);
+}
+
+QDockWidget* Workbench::MakePane(const QString& title, const char* name, QWidget* widget) {
+    auto* dock = new QDockWidget(title, window_);
+    dock->setObjectName(QString::fromLatin1(name));
+    dock->setWidget(widget);
+    window_->addDockWidget(Qt::BottomDockWidgetArea, dock);
+    return dock;
+}
+
+void Workbench::ConnectAll() {
+    frame_.m_onRun = [this] { OnRun(); };
+    frame_.m_onClosing = [this] { Save(); };
+    frame_.m_onClosed = [] { QCoreApplication::quit(); };
+
+    connect(canvas_, &MapCanvas::Pointed, status_, [this](const Place& place) {
+        status_->ShowPlace(place, model_.BlockAt(ToMap(place)));
+    });
+    connect(canvas_, &MapCanvas::PointedNowhere, status_, &StatusLine::ShowNoPlace);
+    connect(canvas_, &MapCanvas::BlockClicked, this, [this](const BlockRef& block) {
+        canvas_->MarkPick({{}, block});
+        PickInBar(block);
+    });
+    connect(results_, &ResultsPane::BlockWanted, this,
+            [this](const QString& area, const QString& block) {
+                ShowOnMap({area.toStdString()}, block.toStdString());
+            });
+    connect(&runner_, &WorkRunner::Progress, status_, &StatusLine::ShowProgress);
+    connect(&runner_, &WorkRunner::Idle, status_, &StatusLine::HideProgress);
+    connect(&runner_, &WorkRunner::Failed, this, &Workbench::Fail);
+    connect(status_, &StatusLine::CancelPressed, &runner_, &WorkRunner::Cancel);
+}
+
+void Workbench::Restore() {
+    window_->restoreGeometry(Remembered(kGeometry));
+    window_->restoreState(Remembered(kState), kStateVersion);
+}
+
+void Workbench::Save() {
+    if (!window_) return;
+    Remember(kGeometry, window_->saveGeometry());
+    Remember(kState, window_->saveState(kStateVersion));
+}
+
+void Workbench::Show() {
+    new FirstPaint(*canvas_, [this] {
+        emit FirstPainted();
+        LoadMap();
+    });
+    frame_.ShowWindow(SW_SHOW);
+    canvas_->setFocus();
+}
+
+void Workbench::LoadMap() {
+    if (loader_) runner_.Drop(loader_);
+    canvas_->ModelGoes();
+    model_.Clear();
+    loader_ = std::make_shared<MapLoader>(model_, [this] {
+        if (canvas_) canvas_->ModelChanged();
+    });
+    runner_.Begin(loader_);
+}
+
+bool Workbench::UseDatabase(const CKvDbInfo& info, QString& failure) {
+    CKvDbInfo wanted = info;
+    CKvDbAbsDataMgr(KV_CONNECT_DEFAULT).SetDbInfo(wanted);
+    try {
+        const Rows areas("select count(*) from " + TableName(kv::catalogue::kAreaTable));
+    } catch (const CKvException& e) {
+        failure = QString::fromStdString(e.GetErrorMessage(true, true));
+        CKvDbAbsDataMgr(KV_CONNECT_DEFAULT).SetDbInfo(database_);
+        return false;
+    }
+    database_ = wanted;
+    frame_.m_bar.GetAreaCombo()->SetWindowText("");
+    frame_.m_bar.SetBlkExt("");
+    frame_.m_bar.GetAreaCombo()->V_InitializeCombo();
+    results_->SetTable({});
+    LoadMap();
+    return true;
+}
+
+void Workbench::Fail(const QString& message) {
+    if (failure_) {
+        failure_(message);
+    } else {
+        frame_.MessageBox(message.toUtf8().constData(), "Workbench", MB_OK | MB_ICONEXCLAMATION);
+    }
+}
+
+void Workbench::OnRun() {
+    if (frame_.m_bar.IsMapSelected()) {
+        RunMap();
+    } else {
+        RunReport();
+    }
+}
+
+void Workbench::RunMap() {
+    ShowOnMap(kv::Split(frame_.m_bar.GetAreacode(false), ','), frame_.m_bar.GetBlk(true));
+}
+
+void Workbench::ShowOnMap(const std::vector<std::string>& areaCodes, const std::string& block) {
+    try {
+        if (loader_) loader_->Need(areaCodes);
+    } catch (const CKvException& e) {
+        Fail(QString::fromStdString(e.GetErrorMessage(true, true)));
+        return;
+    }
+    const Pick pick = model_.FindPick(areaCodes, block);
+    if (pick.Empty()) {
+        Fail(tr("There is no block \"%1\" there on the map.").arg(QString::fromStdString(block)));
+        return;
+    }
+    canvas_->ShowPick(pick);
+    status_->Say(
+        pick.block ? tr("%1, block %2").arg(Text(pick.block->area->name), Text(pick.block->Label()))
+                   : tr("%1, all blocks").arg(Text(pick.areas.front()->name)));
+}
+
+void Workbench::RunReport() {
+    const ReportLayer* layer = FindReportLayer(frame_.m_bar.GetLayer());
+    if (!layer) {
+        Fail(tr("There is no report of this layer."));
+        return;
+    }
+    runner_.Begin(std::make_shared<ReportLoader>(
+        *layer, AreaLiterals(frame_.m_bar.GetAreacode(true)), frame_.m_bar.GetBlk(true),
+        [this](ResultTable table) { ShowTable(std::move(table)); }));
+}
+
+void Workbench::ShowTable(ResultTable table) {
+    if (!results_) return;
+    status_->Say(Counted(table));
+    results_->SetTable(std::move(table));
+    resultsDock_->show();
+    resultsDock_->raise();
+}
+
+void Workbench::PickInBar(const BlockRef& block) {
+    CVZABEBar& bar = frame_.m_bar;
+    const bool named = bar.GetAreaMode() != kv::catalogue::kMmsCode || !block.area->mmsCode.empty();
+    if (!named || !bar.GetEnableABE()) return;
+    try {
+        // The block box shows the water behind the number.
+        const Rows label(kv::catalogue::BlockLabelExpression() + "lbnum||lbext) from " +
+                         TableName(kv::catalogue::kBlockTable) +
+                         " where areacode = " + Quoted(block.area->code) +
+                         " and lbnum||lbext = " + Quoted(std::string(block.Label())));
+        bar.SetArea(block.area->code);
+        bar.SetBlkExt(label.Cell(0, 0));
+    } catch (const CKvException& e) {
+        Fail(QString::fromStdString(e.GetErrorMessage(true, true)));
+    }
+    kv::WindowSystem::Get().Settle();
+}
+
+void Workbench::RunDialog(const adaptors::Adaptor& adaptor) {
+    adaptors::Run run(adaptor.SampleInputs());
+    try {
+        adaptor.run(run);
+    } catch (const std::exception& e) {
+        Fail(QString::fromUtf8(e.what()));
+        return;
+    }
+    if (!outcome_) return;
+    outcome_->Add(adaptor, run);
+    outcomeDock_->show();
+    outcomeDock_->raise();
+}
+
+}  // namespace workbench

@@ -1,0 +1,110 @@
+#pragma once
+
+#include <QMainWindow>
+#include <QObject>
+#include <QPointer>
+#include <functional>
+#include <memory>
+
+#include "adaptors/adaptor.h"
+#include "frame/db_info.h"
+#include "workbench/main_frame.h"
+#include "workbench/map/map_canvas.h"
+#include "workbench/map_loader.h"
+#include "workbench/outcome_pane.h"
+#include "workbench/report_layers.h"
+#include "workbench/results_pane.h"
+#include "workbench/status_line.h"
+#include "workbench/work_runner.h"
+
+class QDockWidget;
+class QMenu;
+
+namespace workbench {
+
+/// The desktop host: a frame with the bar, the map in the middle, and panes for results. Needs a
+/// `QtDesktop` and `InitControlDll`.
+class Workbench : public QObject {
+    Q_OBJECT
+public:
+    /// Makes the window; the connection record in force must be `database`.
+    explicit Workbench(CKvDbInfo database = {});
+    ~Workbench() override;
+
+    /// Shows the window as the user left it, and reads the map once it is painted.
+    void Show();
+    /// Reads the map anew.
+    void LoadMap();
+    /// Works on another database. False, with the words of the failure, when it holds no areas; the
+    /// one before is then still in force.
+    bool UseDatabase(const CKvDbInfo& info, QString& failure);
+
+    /// Runs a dialog with its sample inputs, and shows its outcome.
+    void RunDialog(const adaptors::Adaptor& adaptor);
+
+    /// Shows an area's block, or all of its blocks, on the map.
+    void ShowOnMap(const std::vector<std::string>& areaCodes, const std::string& block);
+    /// Puts a block into the bar's boxes.
+    void PickInBar(const BlockRef& block);
+
+    /// What is told of failures: a message box, unless this is set.
+    void SetFailureShown(std::function<void(const QString&)> shown) { failure_ = std::move(shown); }
+    void SetProjected(ProjectedText projected) { status_->SetProjected(std::move(projected)); }
+
+    MainFrame& Frame() { return frame_; }
+    QMainWindow& Window() { return *window_; }
+    MapCanvas& Canvas() { return *canvas_; }
+    const MapModel& Model() const { return model_; }
+    ResultsPane& Results() { return *results_; }
+    OutcomePane& Outcome() { return *outcome_; }
+    WorkRunner& Runner() { return runner_; }
+
+signals:
+    void FirstPainted();
+
+private:
+    void MakePanes();
+    QDockWidget* MakePane(const QString& title, const char* name, QWidget* widget);
+    void ConnectAll();
+    void Restore();
+    void Save();
+
+    void MakeMenus();
+    void MakeFileMenu();
+    void MakeEditMenu();
+    void MakeViewMenu();
+    void MakeLayersMenu(QMenu& view);
+    void MakeDialogsMenu();
+    void MakeHelpMenu();
+
+    void OnRun();
+    void RunMap();
+    void RunReport();
+    void ShowTable(ResultTable table);
+    void Fail(const QString& message);
+
+    void OpenDatabase();
+    void SaveResults();
+    void ZoomTo();
+    void ZoomToPick();
+    void ExplainKeys();
+
+    CWinApp app_;
+    MainFrame frame_;
+    CKvDbInfo database_;
+    MapModel model_;
+    WorkRunner runner_;
+    std::shared_ptr<MapLoader> loader_;
+    std::function<void(const QString&)> failure_;
+
+    // Of the main window, and gone with it.
+    QPointer<QMainWindow> window_;
+    QPointer<MapCanvas> canvas_;
+    QPointer<ResultsPane> results_;
+    QPointer<OutcomePane> outcome_;
+    QPointer<QDockWidget> resultsDock_;
+    QPointer<QDockWidget> outcomeDock_;
+    QPointer<StatusLine> status_;
+};
+
+}  // namespace workbench

@@ -1,0 +1,352 @@
+#include <gmock/gmock.h>
+
+#include <QImage>
+#include <QPainter>
+#include <cmath>
+#include <random>
+
+#include "support/small_database.h"
+#include "workbench/map/angle_text.h"
+#include "workbench/map/graticule.h"
+#include "workbench/map/label_board.h"
+#include "workbench/map/map_painter.h"
+#include "workbench/map_search.h"
+#include "workbench_fixture.h"
+
+namespace workbench {
+namespace {
+
+using testing::ElementsAre;
+using testing::UnorderedElementsAreArray;
+
+FeatureLayer Layer(const std::vector<std::vector<Point>>& outlines) {
+    FeatureLayer layer;
+    for (std::size_t number = 0; number < outlines.size(); ++number) {
+        layer.Begin(std::to_string(number + 1));
+        for (const Point& point : outlines[number])
+            layer.Add(point);
+    }
+    layer.Finish();
+    return layer;
+}
+
+/// A square of a hundredth of a map unit, clockwise.
+std::vector<Point> Square(int column, int row) {
+    constexpr double kSide = 0.01;
+    const double x = column * kSide;
+    const double y = row * kSide;
+    return {{x, y + kSide}, {x + kSide, y + kSide}, {x + kSide, y}, {x, y}};
+}
+
+double AreaOf(const Outline& outline) {
+    double area = 0;
+    for (const auto& ring : outline.rings)
+        area += SignedArea(ring);
+    return std::abs(area);
+}
+
+TEST(GridIndex, FindsEachBoxThatMeetsAQueryOnce) {
+    std::mt19937 random(7);
+    std::uniform_real_distribution<double> place(-10, 10);
+    std::exponential_distribution<double> size(2);
+    std::vector<Box> boxes(2000);
+    for (Box& box : boxes) {
+        const double x = place(random);
+        const double y = place(random);
+        box = {x, y, x + size(random), y + size(random)};
+    }
+    const GridIndex index(boxes);
+    int found = 0;
+    for (int query = 0; query < 300; ++query) {
+        const double x = place(random) * 1.3;
+        const double y = place(random) * 1.3;
+        const Box asked{x, y, x + size(random), y + size(random)};
+        std::vector<std::uint32_t> expected;
+        for (std::uint32_t number = 0; number < boxes.size(); ++number) {
+            if (boxes[number].Meets(asked)) expected.push_back(number);
+        }
+        std::vector<std::uint32_t> got;
+        index.ForEach(boxes, asked, [&](std::uint32_t number) { got.push_back(number); });
+        EXPECT_THAT(got, UnorderedElementsAreArray(expected));
+        found += static_cast<int>(got.size());
+    }
+    EXPECT_GT(found, 300);
+}
+
+TEST(GridIndex, OfNothingFindsNothing) {
+    const std::vector<Box> none;
+    GridIndex(none).ForEach(none, {-1, -1, 1, 1}, [](std::uint32_t) { FAIL(); });
+}
+
+TEST(Geometry, MapAndEarthAreInversesOfEachOther) {
+    for (const Place& place : {Place{28.5, -91.25}, Place{0, 0}, Place{-60, 179}}) {
+        const Place back = ToPlace(ToMap(place));
+        EXPECT_NEAR(back.lat, place.lat, 1e-12);
+        EXPECT_NEAR(back.lon, place.lon, 1e-12);
+    }
+}
+
+TEST(Geometry, AMinuteOfLatitudeIsANauticalMile) {
+    EXPECT_NEAR(NauticalMiles({28, -91}, {28 + 1.0 / 60, -91}), 1, 0.001);
+}
+
+TEST(Outline, OfNeighboursHasNoLineBetweenThem) {
+    const Outline outline = Unite(Layer({Square(0, 0), Square(1, 0)}));
+    ASSERT_EQ(outline.rings.size(), 1U);
+    EXPECT_EQ(outline.rings[0].size(), 4U);
+    EXPECT_EQ(outline.inner.size(), 1U);
+    EXPECT_NEAR(AreaOf(outline), 2e-4, 1e-9);
+}
+
+TEST(Outline, CountsCornersThatDifferByRoundingAsOne) {
+    auto right = Square(1, 0);
+    for (Point& corner : right)
+        corner.x += 1.5e-7, corner.y -= 1.5e-7;
+    const Outline outline = Unite(Layer({Square(0, 0), right}));
+    ASSERT_EQ(outline.rings.size(), 1U);
+    EXPECT_EQ(outline.rings[0].size(), 4U);
+}
+
+TEST(Outline, TakesShorterSidesIntoALongOne) {
+    const std::vector<Point> tall = {{0, 0.02}, {0.01, 0.02}, {0.01, 0}, {0, 0}};
+    const Outline outline = Unite(Layer({tall, Square(1, 0), Square(1, 1)}));
+    ASSERT_EQ(outline.rings.size(), 1U);
+    EXPECT_EQ(outline.rings[0].size(), 4U);
+    EXPECT_EQ(outline.inner.size(), 3U);
+}
+
+TEST(Outline, KeepsAHole) {
+    std::vector<std::vector<Point>> around;
+    for (int column = 0; column < 3; ++column) {
+        for (int row = 0; row < 3; ++row) {
+            if (column != 1 || row != 1) around.push_back(Square(column, row));
+        }
+    }
+    const Outline outline = Unite(Layer(around));
+    EXPECT_EQ(outline.rings.size(), 2U);
+    EXPECT_NEAR(AreaOf(outline), 8e-4, 1e-9);
+}
+
+TEST(MapView, ZoomKeepsThePlaceUnderTheMouse) {
+    MapView view;
+    view.Resize(800, 600);
+    view.SetBounds({-98, 26, -83, 32});
+    view.ShowAll();
+    const ScreenPoint mouse{250, 380};
+    const Point before = view.ToMap(mouse);
+    const double scale = view.Scale();
+    view.Zoom(mouse, 3);
+    EXPECT_NEAR(view.ToMap(mouse).x, before.x, 1e-9);
+    EXPECT_NEAR(view.ToMap(mouse).y, before.y, 1e-9);
+    EXPECT_NEAR(view.Scale(), 3 * scale, 1e-9);
+}
+
+TEST(MapView, ShowsAllOfABox) {
+    MapView view;
+    view.Resize(800, 300);
+    const Box box{-92, 28, -91, 29};
+    view.SetBounds(box);
+    view.Show(box);
+    EXPECT_LT(view.Visible().minX, box.minX);
+    EXPECT_GT(view.Visible().maxX, box.maxX);
+    EXPECT_NEAR(view.Visible().Middle().x, -91.5, 1e-9);
+    EXPECT_NEAR(view.Visible().Height() * 0.9, box.Height(), 1e-9);
+}
+
+TEST(MapView, NeitherLosesTheMapNorZoomsWithoutEnd) {
+    MapView view;
+    view.Resize(800, 600);
+    const Box bounds{-98, 26, -83, 32};
+    view.SetBounds(bounds);
+    view.Pan(-1e9, 1e9);
+    EXPECT_TRUE(bounds.Contains(view.Middle()));
+    view.Zoom({0, 0}, 1e-9);
+    EXPECT_LT(view.Visible().Width(), 5 * bounds.Width());
+    view.Zoom({0, 0}, 1e30);
+    EXPECT_GT(view.Visible().Width(), 1e-4);
+}
+
+TEST(LabelBoard, GivesAPlaceOnce) {
+    LabelBoard board;
+    board.Reset(200, 100);
+    EXPECT_TRUE(board.Take(10, 10, 50, 12));
+    EXPECT_FALSE(board.Take(55, 15, 50, 12));
+    EXPECT_TRUE(board.Take(80, 40, 50, 12));
+    EXPECT_FALSE(board.Take(-3, 60, 20, 10));
+    EXPECT_FALSE(board.Take(190, 60, 20, 10));
+    board.Reset(200, 100);
+    EXPECT_TRUE(board.Take(55, 15, 50, 12));
+}
+
+TEST(AngleText, CarriesSecondsThatRoundUp) {
+    EXPECT_EQ(DegreesMinutesSeconds({28.5042361, -89.125}), "28°30'15.25\"N 89°07'30.00\"W");
+    EXPECT_EQ(DegreesMinutesSeconds({28.99999999, -89.99999999}), "29°00'00.00\"N 90°00'00.00\"W");
+    EXPECT_EQ(DegreesMinutesSeconds({-0.5, 0}), "0°30'00.00\"S 0°00'00.00\"E");
+    EXPECT_EQ(DecimalDegrees({28.5042361, -89.125}), "28.504236 -89.125000");
+    EXPECT_EQ(ShortAngle(-91.5, 'E', 'W'), "91°30'W");
+    EXPECT_EQ(ShortAngle(28, 'N', 'S'), "28°N");
+}
+
+TEST(Graticule, LiesAtRoundDegreesThroughTheView) {
+    MapView view;
+    view.Resize(1000, 500);
+    view.SetBounds({-98, 26, -83, 32});
+    view.SetMiddle(ToMap({28.2, -91}), 120);
+    EXPECT_THAT(GraticuleOf(view).longitudes,
+                ElementsAre(-95, -94, -93, -92, -91, -90, -89, -88, -87));
+    EXPECT_THAT(GraticuleOf(view).latitudes, ElementsAre(27, 28, 29, 30));
+}
+
+TEST(ScaleBar, IsAsLongAsItSays) {
+    MapView view;
+    view.Resize(1000, 500);
+    view.SetBounds({-98, 26, -83, 32});
+    view.SetMiddle(ToMap({28, -91}), 120);
+    const ScaleBar bar = ScaleBarOf(view, {500, 250}, 140);
+    EXPECT_EQ(bar.label, "100 km");
+    // A degree of longitude has 98.2 km at 28 degrees of latitude on the sphere of 6,371 km.
+    EXPECT_NEAR(bar.pixels, 120 * 100 / 98.18, 0.1);
+}
+
+class SampleMapTest : public test::SampleTest {
+protected:
+    SampleMapTest() {
+        MapLoader loader(model, [this] { ++added; });
+        test::ReadAll(loader);
+    }
+    std::size_t Things(FeatureLayer AreaMap::*layer) const {
+        std::size_t count = 0;
+        for (const auto& area : model.Areas())
+            count += (*area.*layer).Size();
+        return count;
+    }
+
+    MapModel model;
+    int added = 0;
+};
+
+TEST_F(SampleMapTest, HoldsWhatTheTablesHold) {
+    const auto rows = [](const char* table) {
+        return static_cast<std::size_t>(Count(TableName(table)));
+    };
+    EXPECT_EQ(model.Areas().size(), rows("_connam2"));
+    EXPECT_EQ(static_cast<std::size_t>(added), rows("_connam2"));
+    EXPECT_EQ(model.BlockCount(), rows("_lbi"));
+    EXPECT_EQ(Things(&AreaMap::wells), rows("_well_hdr"));
+    EXPECT_EQ(Things(&AreaMap::platforms), rows("_platform"));
+    EXPECT_EQ(Things(&AreaMap::pipelines), rows("_pipeline"));
+}
+
+TEST_F(SampleMapTest, OutlinesCoverWhatTheirBlocksCover) {
+    for (const auto& area : model.Areas()) {
+        double blocks = 0;
+        for (std::size_t block = 0; block < area->blocks.Size(); ++block) {
+            blocks += std::abs(SignedArea(area->blocks.Points(block)));
+        }
+        EXPECT_NEAR(AreaOf(area->outline) / blocks, 1, 0.002) << area->name;
+        EXPECT_EQ(area->outline.rings.size(), 1U) << area->name;
+    }
+}
+
+TEST_F(SampleMapTest, BlockUnderAPointIsTheOneThatHoldsIt) {
+    std::mt19937 random(11);
+    std::uniform_real_distribution<double> x(model.Bounds().minX, model.Bounds().maxX);
+    std::uniform_real_distribution<double> y(model.Bounds().minY, model.Bounds().maxY);
+    int hits = 0;
+    for (int i = 0; i < 400; ++i) {
+        const Point point{x(random), y(random)};
+        bool inside = false;
+        for (const auto& area : model.Areas()) {
+            for (std::size_t block = 0; block < area->blocks.Size(); ++block) {
+                inside = inside || (area->blocks.BoxOf(block).Contains(point) &&
+                                    Inside(area->blocks.Points(block), point));
+            }
+        }
+        const auto found = model.BlockAt(point);
+        ASSERT_EQ(found.has_value(), inside);
+        if (!found) continue;
+        ++hits;
+        EXPECT_TRUE(Inside(found->area->blocks.Points(found->block), point));
+    }
+    EXPECT_GT(hits, 100);
+}
+
+TEST_F(SampleMapTest, SpotsUnderTheMouseAreTheNearest) {
+    const AreaMap& area = *model.FindArea("43113");
+    const Point well = area.wells.Points(5).front();
+    const auto found = model.SpotAt({well.x + 1e-6, well.y}, 1e-5);
+    ASSERT_TRUE(found);
+    EXPECT_FALSE(model.SpotAt({-70, 10}, 0.01));
+    if (!found->platform) {
+        const Point at = found->Layer().Points(found->number).front();
+        EXPECT_NEAR(at.x, well.x, 2e-6);
+    }
+}
+
+TEST_F(SampleMapTest, PicksABlockOrAllBlocksOfAreas) {
+    const Pick block = model.FindPick({"43112", "43113"}, "391");
+    ASSERT_TRUE(block.block);
+    EXPECT_EQ(block.block->area->code, "43113");
+    EXPECT_EQ(block.block->Label(), "391");
+
+    const Pick areas = model.FindPick({"43112", "43113"}, "ALL");
+    EXPECT_EQ(areas.areas.size(), 2U);
+    EXPECT_FALSE(areas.block);
+    EXPECT_TRUE(model.FindPick({"43113"}, "NONE").Empty());
+    EXPECT_TRUE(model.FindPick({"99999"}, "ALL").Empty());
+}
+
+TEST_F(SampleMapTest, SearchUnderstandsAreasBlocksAndPlaces) {
+    EXPECT_EQ(Search(model, "green canyon")->pick.areas.front()->code, "43608");
+    EXPECT_EQ(Search(model, " gc 200 ")->pick.block->area->code, "43608");
+    EXPECT_EQ(Search(model, "GC#200")->pick.block->Label(), "200");
+    EXPECT_GT(Search(model, "EI")->pick.areas.size(), 1U);
+    EXPECT_DOUBLE_EQ(Search(model, "28.5, -89.125")->place->lon, -89.125);
+    EXPECT_FALSE(Search(model, "ATLANTIS 1"));
+    EXPECT_FALSE(Search(model, "GC 99999"));
+    EXPECT_FALSE(Search(model, ""));
+    EXPECT_FALSE(Search(model, "91 0"));
+}
+
+TEST_F(SampleMapTest, ThePickStandsOutInTheMiddleOfTheMap) {
+    const Pick pick = model.FindPick({"43113"}, "391");
+    MapView view;
+    view.Resize(400, 300);
+    view.SetBounds(model.Bounds());
+    view.Show(pick.Bounds(), 0.4);
+    const auto middle = [&](const Pick& marked) {
+        QImage image(400, 300, QImage::Format_RGB32);
+        QPainter painter(&image);
+        MapLayers none{false, false, false, false, false, false};
+        MapPainter().Draw(painter, model, view, none, {marked, {}});
+        return image.pixelColor(200, 150);
+    };
+    EXPECT_EQ(middle({}), LightLook().shelf);
+    EXPECT_NE(middle(pick), LightLook().shelf);
+}
+
+TEST(MapLoader, GoesWithoutLayersThatTheDatabaseLacks) {
+    const test::TempFolder folder;
+    test::ConnectTo({"", "", ("sqlite:" + test::MakeSmallDatabase(folder.Native("s.db"))).c_str()});
+    MapModel model;
+    MapLoader loader(model, [] {});
+    test::ReadAll(loader);
+    EXPECT_EQ(model.Areas().size(), 8U);
+    EXPECT_THAT(folder.Read("log.txt"), testing::HasSubstr("gulf_mexico_well_hdr"));
+    test::ConnectTo({});
+}
+
+TEST_F(SampleMapTest, AreasThatAreNeededAreReadAtOnce) {
+    MapModel other;
+    MapLoader loader(other, [] {});
+    loader.Need({"43113"});
+    ASSERT_EQ(other.Areas().size(), 1U);
+    EXPECT_EQ(other.Areas()[0]->name, "EUGENE ISLAND SOUTH ADDITION");
+    loader.Need({"43113"});
+    EXPECT_EQ(other.Areas().size(), 1U);
+    test::ReadAll(loader);
+    EXPECT_EQ(other.Areas().size(), model.Areas().size());
+}
+
+}  // namespace
+}  // namespace workbench

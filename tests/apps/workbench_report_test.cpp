@@ -1,0 +1,121 @@
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <set>
+
+#include "workbench/report_layers.h"
+#include "workbench_fixture.h"
+
+namespace workbench {
+namespace {
+
+using testing::ElementsAre;
+
+class ReportTest : public test::SampleTest {
+protected:
+    static ResultTable Report(const ReportLayer& layer, std::vector<std::string> areas,
+                              const std::string& block) {
+        ResultTable result;
+        ReportLoader loader(layer, std::move(areas), block,
+                            [&](ResultTable table) { result = std::move(table); });
+        test::ReadAll(loader);
+        return result;
+    }
+    static const ReportLayer& Of(E_Layer layer) { return *FindReportLayer(layer); }
+};
+
+TEST(ReportLayers, HaveTheTitlesOfTheBar) {
+    std::vector<std::string> titles;
+    for (const ReportLayer& layer : ReportLayers()) {
+        titles.emplace_back(layer.title);
+        EXPECT_EQ(kv::catalogue::LayerFromTitle(layer.title), layer.layer);
+    }
+    EXPECT_THAT(titles, ElementsAre("Wells", "Leases", "APDs", "Platforms", "Plans", "Pipelines",
+                                    "Prospects", "Fields", "2D Shotpoints"));
+    EXPECT_EQ(FindReportLayer(KV_LAYER_BIDS), nullptr);
+}
+
+TEST(ReportLayers, AreaLiteralsAreThoseOfTheBar) {
+    EXPECT_THAT(AreaLiterals("('43112','43113')"), ElementsAre("'43112'", "'43113'"));
+    EXPECT_THAT(AreaLiterals("'43112'"), ElementsAre("'43112'"));
+    EXPECT_THAT(AreaLiterals(""), ElementsAre());
+}
+
+TEST_F(ReportTest, StatementNamesTableColumnsAreaAndBlock) {
+    EXPECT_EQ(ReportStatement(Of(KV_LAYER_FIELDS), "'43113'", "12A"),
+              "select t.field, a.areaname, t.lbnum||t.lbext, t.discovery_date, t.lat, t.lon, "
+              "t.areacode, t.lbnum||t.lbext from NORVADON.GULF_MEXICO_field t, "
+              "NORVADON.GULF_MEXICO_connam2 a where a.stcode = t.areacode and "
+              "t.areacode = '43113' and t.lbnum||t.lbext = '12A' order by t.field");
+}
+
+TEST_F(ReportTest, AQuotationMarkInABlockStaysInItsLiteral) {
+    const std::string statement = ReportStatement(Of(KV_LAYER_FIELDS), "'43113'", "1' or '1'='1");
+    EXPECT_THAT(statement, testing::HasSubstr("= '1'' or ''1''=''1' order by"));
+    EXPECT_EQ(Rows(statement).Count(), 0);
+}
+
+TEST_F(ReportTest, OfAllBlocksHasEveryRowOfTheArea) {
+    for (const ReportLayer& layer : ReportLayers()) {
+        const std::string table = TableName(std::string(layer.table));
+        const std::string area =
+            Single("select areacode from " + table + " group by areacode order by count(*) desc");
+        std::string where = " where areacode = '" + area + "'";
+        if (layer.layer == KV_LAYER_PIPELINES) where += " or to_areacode = '" + area + "'";
+        const int expected = Count(table + where);
+        EXPECT_GT(expected, 0) << layer.title;
+        const ResultTable report = Report(layer, {Quoted(area)}, "ALL");
+        EXPECT_EQ(report.RowCount(), expected) << layer.title;
+        EXPECT_EQ(report.title, layer.title);
+        EXPECT_EQ(report.ColumnCount(), static_cast<int>(layer.columns.size()));
+    }
+}
+
+TEST_F(ReportTest, OfABlockHasItsRowsAlone) {
+    for (const ReportLayer& layer : ReportLayers()) {
+        const std::string table = TableName(std::string(layer.table));
+        const Rows some("select areacode, lbnum||lbext from " + table +
+                        " where lbext is not null order by 1, 2");
+        ASSERT_GT(some.Count(), 0) << layer.title;
+        const std::string area = some.Cell(0, 0);
+        const std::string block = some.Cell(0, 1);
+        const std::string own = "areacode = '" + area + "' and lbnum||lbext = '" + block + "'";
+        const std::string other =
+            " or to_areacode = '" + area + "' and to_lbnum||to_lbext = '" + block + "'";
+        const bool pipelines = layer.layer == KV_LAYER_PIPELINES;
+        const int expected = Count(table + " where " + own + (pipelines ? other : ""));
+
+        const ResultTable report = Report(layer, {Quoted(area)}, block);
+        EXPECT_EQ(report.RowCount(), expected) << layer.title;
+        for (const ResultTable::Key& key : report.keys) {
+            if (!pipelines) EXPECT_EQ(key.areaCode + key.block, area + block) << layer.title;
+        }
+    }
+}
+
+TEST_F(ReportTest, APipelineBetweenTwoAreasIsListedOnce) {
+    const Rows between("select areacode, to_areacode from " + TableName("_pipeline") +
+                       " where areacode <> to_areacode order by segment_no");
+    ASSERT_GT(between.Count(), 0);
+    const std::vector<std::string> areas = {Quoted(between.Cell(0, 0)), Quoted(between.Cell(0, 1))};
+    const ResultTable report = Report(Of(KV_LAYER_PIPELINES), areas, "ALL");
+    std::set<std::string> segments;
+    for (int row = 0; row < report.RowCount(); ++row)
+        segments.insert(report.Cell(row, 0));
+    EXPECT_EQ(static_cast<int>(segments.size()), report.RowCount());
+    const std::string in = "(" + areas[0] + "," + areas[1] + ")";
+    EXPECT_EQ(report.RowCount(), Count(TableName("_pipeline") + " where areacode in " + in +
+                                       " or to_areacode in " + in));
+}
+
+TEST_F(ReportTest, TellsHowFarItIs) {
+    ReportLoader loader(Of(KV_LAYER_WELLS), {"'43112'", "'43113'"}, "ALL", [](ResultTable) {});
+    EXPECT_EQ(loader.Title(), "Reading Wells");
+    EXPECT_EQ(loader.Total(), 2);
+    EXPECT_TRUE(loader.Step());
+    EXPECT_EQ(loader.Done(), 1);
+    EXPECT_FALSE(loader.Step());
+}
+
+}  // namespace
+}  // namespace workbench

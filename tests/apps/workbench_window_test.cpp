@@ -1,0 +1,308 @@
+#include <gmock/gmock.h>
+
+#include <QApplication>
+#include <QMenuBar>
+#include <QSignalSpy>
+#include <QTest>
+#include <QToolBar>
+
+#include "frame/module.h"
+#include "frame/profile.h"
+#include "pickers/abe_bar_ids.h"
+#include "qt/qt_desktop.h"
+#include "support/sqlite_file.h"
+#include "window/input.h"
+#include "window/user.h"
+#include "window/window_system.h"
+#include "workbench/workbench.h"
+#include "workbench_fixture.h"
+
+namespace workbench {
+namespace {
+
+using namespace kv::abe_bar;
+
+/// The workbench on the sample database, and a person at its bar.
+class WorkbenchTest : public test::SampleTest {
+protected:
+    WorkbenchTest() { InitControlDll(); }
+    ~WorkbenchTest() override {
+        host.reset();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    /// Opens the window and reads the map.
+    void Open(const std::string& server = test::SampleServer()) {
+        CKvDbInfo info("", "", server.c_str());
+        test::ConnectTo(info);
+        host = std::make_unique<Workbench>(info);
+        host->SetFailureShown(
+            [this](const QString& message) { failures.push_back(message.toStdString()); });
+        QSignalSpy painted(host.get(), &Workbench::FirstPainted);
+        host->Show();
+        while (painted.isEmpty())
+            QApplication::processEvents();
+        host->Runner().Finish();
+        user = std::make_unique<kv::User>(*host->Frame().m_bar.m_hWnd,
+                                          [](const std::string& words) { FAIL() << words; });
+    }
+    void Pick(const char* area, const char* block) {
+        user->Select(kArea, area);
+        user->Select(kBlock, block);
+    }
+    QAction* MenuAction(const QString& text) {
+        for (QAction* action : host->Window().findChildren<QAction*>()) {
+            if (action->text().remove(u'&') == text) return action;
+        }
+        return nullptr;
+    }
+
+    kv::qt::QtDesktop desktop;
+    std::vector<std::string> failures;
+    std::unique_ptr<Workbench> host;
+    std::unique_ptr<kv::User> user;
+};
+
+TEST_F(WorkbenchTest, RunWithMapCentersOnThePickAndHighlightsIt) {
+    Open();
+    Pick("EI", "391");
+    user->Click(kRun);
+    const Pick& pick = host->Canvas().GetPick();
+    ASSERT_TRUE(pick.block);
+    EXPECT_EQ(pick.block->area->name, "EUGENE ISLAND SOUTH ADDITION");
+    EXPECT_EQ(pick.block->Label(), "391");
+    const Point middle = host->Canvas().View().Middle();
+    EXPECT_NEAR(middle.x, pick.Bounds().Middle().x, 1e-9);
+    EXPECT_NEAR(middle.y, pick.Bounds().Middle().y, 1e-9);
+    EXPECT_TRUE(failures.empty());
+}
+
+TEST_F(WorkbenchTest, RunWithMapOnAllBlocksShowsEveryAreaOfTheCode) {
+    Open();
+    Pick("EI", "ALL");
+    user->Click(kRun);
+    const Pick& pick = host->Canvas().GetPick();
+    EXPECT_EQ(pick.areas.size(), 3U);
+    const Box seen = host->Canvas().View().Visible();
+    EXPECT_LT(seen.minX, pick.Bounds().minX);
+    EXPECT_GT(seen.maxY, pick.Bounds().maxY);
+}
+
+TEST_F(WorkbenchTest, RunWithMapDoesNotWaitForTheRestOfTheMap) {
+    Open();
+    host->LoadMap();
+    ASSERT_TRUE(host->Model().Areas().empty());
+    Pick("GC", "200");
+    user->Click(kRun);
+    ASSERT_TRUE(host->Canvas().GetPick().block);
+    EXPECT_EQ(host->Model().Areas().size(), 1U);
+    host->Runner().Finish();
+    EXPECT_EQ(host->Canvas().GetPick().block->area, host->Model().FindArea("43608"));
+}
+
+TEST_F(WorkbenchTest, RunWithReportFillsTheTable) {
+    Open();
+    Pick("EI", "391");
+    user->Click(kReport);
+    user->Select(kLayer, "Wells");
+    user->Click(kRun);
+    host->Runner().Finish();
+    const ResultTable& table = host->Results().Model().Table();
+    EXPECT_EQ(table.title, "Wells");
+    EXPECT_EQ(table.RowCount(),
+              Count(TableName("_well_hdr") + " where areacode = '43113' and lbnum||lbext = '391'"));
+    EXPECT_GT(table.RowCount(), 0);
+}
+
+TEST_F(WorkbenchTest, RunWithReportOnAllBlocksTakesEveryAreaOfTheCode) {
+    Open();
+    Pick("EI", "ALL");
+    user->Click(kReport);
+    user->Select(kLayer, "Platforms");
+    user->Click(kRun);
+    host->Runner().Finish();
+    EXPECT_EQ(host->Results().Model().Table().RowCount(),
+              Count(TableName("_platform") + " where areacode in ('43112','43113','43405')"));
+}
+
+TEST_F(WorkbenchTest, ARowOfTheReportLeadsToItsBlock) {
+    Open();
+    Pick("EI", "ALL");
+    user->Click(kReport);
+    user->Select(kLayer, "Platforms");
+    user->Click(kRun);
+    host->Runner().Finish();
+    const ResultTable::Key key = host->Results().Model().Table().keys.at(7);
+    host->Results().View().setCurrentIndex(host->Results().Model().index(7, 0));
+    QTest::keyClick(&host->Results().View(), Qt::Key_Return);
+    const Pick& pick = host->Canvas().GetPick();
+    ASSERT_TRUE(pick.block);
+    EXPECT_EQ(pick.block->area->code, key.areaCode);
+    EXPECT_EQ(pick.block->Label(), key.block);
+}
+
+TEST_F(WorkbenchTest, AClickOnTheMapPicksTheBlockInTheBar) {
+    Open();
+    MapCanvas& canvas = host->Canvas();
+    canvas.ShowPick(host->Model().FindPick({"43113"}, "391"));
+    QTest::mouseClick(&canvas, Qt::LeftButton, {}, canvas.rect().center());
+    EXPECT_EQ(user->Text(kArea), "EI");
+    EXPECT_EQ(user->Text(kBlock), "391");
+    EXPECT_TRUE(user->Enabled(kRun));
+}
+
+TEST_F(WorkbenchTest, ABlockInStateWaterIsPickedWithItsSuffix) {
+    Open();
+    const auto& block = *host->Model().FindPick({"42601"}, "9").block;
+    host->PickInBar(block);
+    EXPECT_EQ(user->Text(kArea), "PS");
+    EXPECT_EQ(user->Text(kBlock), "9-S");
+    EXPECT_EQ(host->Frame().m_bar.GetAreacode(false), "42601");
+}
+
+TEST_F(WorkbenchTest, DraggingWheelAndKeysMoveTheMap) {
+    Open();
+    MapCanvas& canvas = host->Canvas();
+    QTest::keyClick(&canvas, Qt::Key_Home);
+    const double all = canvas.View().Scale();
+    QTest::keyClick(&canvas, Qt::Key_Plus);
+    EXPECT_GT(canvas.View().Scale(), all);
+    QTest::mouseDClick(&canvas, Qt::LeftButton, {}, canvas.rect().center());
+    EXPECT_NEAR(canvas.View().Scale(), all * 3, all * 0.01);
+
+    const Point before = canvas.View().Middle();
+    QTest::mousePress(&canvas, Qt::LeftButton, {}, QPoint(200, 200));
+    QMouseEvent move(QEvent::MouseMove, QPointF(260, 200), canvas.mapToGlobal(QPointF(260, 200)),
+                     Qt::NoButton, Qt::LeftButton, {});
+    QApplication::sendEvent(&canvas, &move);
+    QTest::mouseRelease(&canvas, Qt::LeftButton, {}, QPoint(260, 200));
+    EXPECT_NEAR(canvas.View().Middle().x, before.x - 60 / canvas.View().Scale(), 1e-9);
+
+    QWheelEvent wheel(QPointF(10, 10), canvas.mapToGlobal(QPointF(10, 10)), {}, {0, -240},
+                      Qt::NoButton, {}, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&canvas, &wheel);
+    EXPECT_NEAR(canvas.View().Scale(), all * 3 / 1.5625, all * 0.01);
+    QTest::keyClick(&canvas, Qt::Key_Home);
+    EXPECT_NEAR(canvas.View().Scale(), all, 1e-9);
+}
+
+TEST_F(WorkbenchTest, ABlockThatIsNotThereIsSaid) {
+    Open();
+    host->ShowOnMap({"43113"}, "9999");
+    EXPECT_THAT(failures, testing::ElementsAre("There is no block \"9999\" there on the map."));
+}
+
+TEST_F(WorkbenchTest, AFailedDatabaseIsSaidAndAnotherOneWorks) {
+    Open("sqlite:" + folder.Native("missing.db"));
+    ASSERT_EQ(failures.size(), 1U);
+    EXPECT_THAT(failures[0], testing::HasSubstr("missing.db"));
+    EXPECT_TRUE(host->Model().Areas().empty());
+
+    QString failure;
+    ASSERT_TRUE(host->UseDatabase({"", "", test::SampleServer().c_str()}, failure));
+    host->Runner().Finish();
+    EXPECT_FALSE(host->Model().Areas().empty());
+    Pick("EI", "391");
+    user->Click(kRun);
+    EXPECT_TRUE(host->Canvas().GetPick().block);
+}
+
+TEST_F(WorkbenchTest, ADatabaseThatCannotBeOpenedLeavesTheOneBefore) {
+    Open();
+    test::MakeSqliteFile(folder.Native("empty.db"));
+    QString failure;
+    EXPECT_FALSE(
+        host->UseDatabase({"", "", ("sqlite:" + folder.Native("empty.db")).c_str()}, failure));
+    EXPECT_THAT(failure.toStdString(), testing::HasSubstr("connam2"));
+    EXPECT_FALSE(host->Model().Areas().empty());
+    EXPECT_GT(Count(TableName("_lbi")), 0);
+}
+
+TEST_F(WorkbenchTest, CancelEndsTheReadingOfTheMap) {
+    Open();
+    host->LoadMap();
+    QSignalSpy progress(&host->Runner(), &WorkRunner::Progress);
+    while (progress.isEmpty())
+        QApplication::processEvents();
+    host->Runner().Cancel();
+    EXPECT_FALSE(host->Runner().Busy());
+    const std::size_t areas = host->Model().Areas().size();
+    QApplication::processEvents();
+    EXPECT_EQ(host->Model().Areas().size(), areas);
+}
+
+TEST_F(WorkbenchTest, EveryDialogIsInTheMenuOfItsFamily) {
+    Open();
+    for (const adaptors::Adaptor* adaptor : adaptors::All()) {
+        const auto* action =
+            host->Window().findChild<QAction*>(QString::fromStdString(adaptor->className));
+        ASSERT_TRUE(action) << adaptor->className;
+        const auto menus = action->associatedObjects();
+        ASSERT_EQ(menus.size(), 1);
+        EXPECT_EQ(qobject_cast<QMenu*>(menus[0])->title().toStdString(), adaptor->family);
+    }
+}
+
+TEST_F(WorkbenchTest, ADialogsOutcomeIsShown) {
+    Open();
+    const adaptors::Adaptor* adaptor = adaptors::Find("CKvGuiPipeStatusDlg");
+    ASSERT_TRUE(adaptor);
+    QTimer close;
+    QObject::connect(&close, &QTimer::timeout, [] {
+        auto& modals = kv::WindowSystem::Get().Modals();
+        if (!modals.empty()) kv::input::CloseWindow(*modals.back());
+    });
+    close.start(0);
+    host->RunDialog(*adaptor);
+    EXPECT_THAT(host->Outcome().toPlainText().toStdString(),
+                testing::StartsWith("CKvGuiPipeStatusDlg (IDCANCEL)\n"));
+}
+
+TEST_F(WorkbenchTest, TheBarWorksOnWhenAnotherBarWasRun) {
+    Open();
+    QTimer close;
+    QObject::connect(&close, &QTimer::timeout, [this] {
+        for (const auto& window : kv::WindowSystem::Get().TopLevels()) {
+            if (window.get() == host->Frame().m_hWnd) continue;
+            kv::input::CloseWindow(*window);
+            return;
+        }
+    });
+    close.start(0);
+    host->RunDialog(*adaptors::Find("CVZABEBar"));
+    close.stop();
+    Pick("EI", "391");
+    user->Click(kRun);
+    EXPECT_TRUE(host->Canvas().GetPick().block);
+}
+
+TEST_F(WorkbenchTest, TheWindowComesBackAsItWasLeft) {
+    Open();
+    host->Window().resize(777, 555);
+    QAction* outcome = MenuAction("Dialog outcome");
+    ASSERT_TRUE(outcome);
+    ASSERT_TRUE(outcome->isChecked());
+    outcome->trigger();
+    kv::input::CloseWindow(*host->Frame().m_hWnd);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_NE(kv::profile::GetString("Workbench", "Geometry", ""), "");
+    host.reset();
+
+    Open();
+    EXPECT_EQ(host->Window().size(), QSize(777, 555));
+    EXPECT_FALSE(MenuAction("Dialog outcome")->isChecked());
+    EXPECT_TRUE(MenuAction("Results")->isChecked());
+}
+
+TEST(Readable, IndentsWhatLiesWithin) {
+    const adaptors::Json value = {{"result", "IDOK"},
+                                  {"empty", ""},
+                                  {"list", {"a", "b c"}},
+                                  {"inner", {{"count", 3}, {"rows", adaptors::Json::array()}}}};
+    EXPECT_EQ(
+        Readable(value).toStdString(),
+        "result: IDOK\nempty: \"\"\nlist:\n    a\n    b c\ninner:\n    count: 3\n    rows: []\n");
+}
+
+}  // namespace
+}  // namespace workbench

@@ -1,0 +1,119 @@
+#include "controls/mask_format.h"
+
+#include <gtest/gtest.h>
+
+#include "support/comma_locale.h"
+
+namespace {
+
+struct Row {
+    const char* format;
+    const char* text;
+    const char* shown;
+};
+
+void Check(std::initializer_list<Row> rows) {
+    for (const Row& row : rows) {
+        EXPECT_EQ(kv::FormatMasked(row.format, row.text), row.shown)
+            << row.format << " of " << row.text;
+    }
+}
+
+TEST(MaskFormat, AnEmptyFormatLeavesTheText) {
+    Check({{"", "abc", "abc"}, {"", "12", "12"}});
+}
+
+TEST(MaskFormat, NumbersHaveTheDigitsThatTheFormatAsksFor) {
+    Check({{"0", "12.6", "13"},
+           {"0", "", ""},
+           {"0.00", "12.6", "12.60"},
+           {"#.##", "12.6", "12.6"},
+           {"#.##", "0", "."},
+           {"0.0#", "12", "12.0"},
+           {"0000", "12", "0012"},
+           {"#,##0", "1234567", "1,234,567"},
+           {"#,##0", "12", "12"},
+           {"#,##0.00", "1,234.5", "1,234.50"}});
+}
+
+TEST(MaskFormat, SectionsAreForPositiveNegativeAndZero) {
+    Check({{"$#,##0.00;($#,##0.00)", "1234.5", "$1,234.50"},
+           {"$#,##0.00;($#,##0.00)", "-1234.5", "($1,234.50)"},
+           {"0.0", "-3", "-3.0"},
+           {"0;-0;\"none\"", "0", "none"},
+           {"0;;\"none\"", "-4", "-4"},
+           {"0;-0;", "0", "0"}});
+}
+
+TEST(MaskFormat, PercentAndExponentScaleTheNumber) {
+    Check({{"0%", "0.125", "13%"},
+           {"0.0%", "0.125", "12.5%"},
+           {"0.00E+00", "12345", "1.23E+04"},
+           {"0.00E+00", "0.00012345", "1.23E-04"},
+           {"0.00E-00", "12345", "1.23E04"},
+           {"0.00E+00", "0", "0.00E+00"},
+           {"0.0E+0", "9.99", "1.0E+1"},
+           {"0.0E+0", "1e-310", "1.0E-310"},
+           {"0.0", "0.25", "0.3"},
+           {"0", "2.5", "3"},
+           {"0;(0)", "-2.5", "(3)"}});
+}
+
+TEST(MaskFormat, QuotedTextStandsForItself) {
+    Check({{"0 \"ft\"", "12", "12 ft"}, {"\\#0", "7", "#7"}, {"\"0;0\"0", "7", "0;07"}});
+}
+
+TEST(MaskFormat, ATextThatIsNoNumberStaysAsItIs) {
+    Check({{"0.00", "abc", "abc"},
+           {"0.00", "12a", "12a"},
+           {"0.00", "1e999", "1e999"},
+           {"0%", "1e308", "1e308"}});
+}
+
+TEST(MaskFormat, AnotherLocaleChangesNothing) {
+    const test::CommaLocale locale;
+    Check({{"#,##0.00", "1234.5", "1,234.50"}});
+}
+
+TEST(MaskFormat, DatesAreShownByTheirParts) {
+    Check({{"dd-mmm-yy", "7/4/2024", "04-Jul-24"},
+           {"d/m/yyyy", "07/04/2024", "4/7/2024"},
+           {"dddd, mmmm dd, yyyy", "2/29/2024", "Thursday, February 29, 2024"},
+           {"ddd", "1/1/2000", "Sat"},
+           {"yyyy", "1/1/29", "2029"},
+           {"yyyy", "1/1/30", "1930"},
+           {"mm.dd", "12-31-1999", "12.31"}});
+}
+
+TEST(MaskFormat, TimesAreShownByTheirParts) {
+    Check({{"hh:mm", "7:05:09", "07:05"},
+           {"h:nn:ss", "7:05:09", "7:05:09"},
+           {"hh:mm AM/PM", "19:05", "07:05 PM"},
+           {"h AM/PM", "0:30", "12 AM"},
+           {"h", "7:30 PM", "19"},
+           {"h", "12:30 AM", "0"},
+           {"mm/dd hh:mm", "7/4/2024 9:08", "07/04 09:08"}});
+}
+
+TEST(MaskFormat, NamedFormatsShowDatesAndTimes) {
+    Check({{"c", "07/04/2024 19:05", "7/4/2024 7:05:00 PM"},
+           {"c", "07/04/2024", "7/4/2024"},
+           {"c", "19:05:06", "7:05:06 PM"},
+           {"ddddd", "07/04/2024", "7/4/2024"},
+           {"dddddd", "07/04/2024", "Thursday, July 04, 2024"},
+           {"ttttt", "19:05", "7:05:00 PM"}});
+}
+
+TEST(MaskFormat, ATextThatIsNoDateStaysAsItIs) {
+    Check({{"dd-mmm-yy", "2/30/2024", "2/30/2024"},
+           {"dd-mmm-yy", "13/1/2024", "13/1/2024"},
+           {"dd-mmm-yy", "19:05", "19:05"},
+           {"dd-mmm-yy", "abc", "abc"},
+           {"hh:mm", "25:00", "25:00"},
+           {"hh:mm", "7:05 XM", "7:05 XM"},
+           {"hh:mm", "13:05 PM", "13:05 PM"},
+           {"hh:mm", "99999:1", "99999:1"},
+           {"c", " ", " "}});
+}
+
+}  // namespace

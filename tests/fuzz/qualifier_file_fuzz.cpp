@@ -1,0 +1,39 @@
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "qualifiers/qualifier_file.h"
+#include "window/text.h"
+
+namespace {
+
+void Check(bool holds) {
+    if (!holds) std::abort();
+}
+
+void CheckValue(const std::string& value) {
+    Check(!value.empty() && value.size() <= kv::kLongestQualifier);
+    Check(kv::TrimSpace(value) == value);
+    Check(kv::ToUpper(value) == value);
+    Check(value.find('\n') == std::string::npos && value.find('\0') == std::string::npos);
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const std::string_view text(reinterpret_cast<const char*>(data), size);
+    int cut = -1;
+    std::vector<std::string> values = kv::ParseQualifiers(text, &cut);
+    const auto lines = static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')) + 1;
+    Check(cut >= 0 && static_cast<std::size_t>(cut) <= lines && values.size() <= lines);
+    std::for_each(values.begin(), values.end(), CheckValue);
+
+    // What was read once and written is read the same again, but for what now looks like a comment.
+    std::erase_if(values, [](const std::string& value) { return value.front() == '#'; });
+    Check(kv::ParseQualifiers(kv::JoinLines(values), &cut) == values && cut == 0);
+    return 0;
+}

@@ -1,0 +1,163 @@
+#include <QAbstractItemView>
+#include <QClipboard>
+#include <QComboBox>
+#include <QFrame>
+
+#include "qt_fixture.h"
+#include "window/combo_box_node.h"
+
+using enum kv::ControlKind;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+constexpr int kEditable = 16;
+constexpr int kList = 17;
+
+class ComboView : public test::QtDialogTest {
+protected:
+    void SetUp() override {
+        Show({{11, kEdit, "", {7, 7, 80, 12}},
+              {kEditable, kDropDown, "", {7, 24, 80, 12}},
+              {kList, kDropList, "", {7, 41, 80, 12}}});
+        for (const char* text : {"EAST CAMERON", "VERMILION", "WEST CAMERON", "WEST DELTA"}) {
+            dialog.SendDlgItemMessage(kEditable, CB_ADDSTRING, 0, kv::AsParam(text));
+            dialog.SendDlgItemMessage(kList, CB_ADDSTRING, 0, kv::AsParam(text));
+        }
+        Told();
+    }
+
+    kv::ComboBoxNode& Combo(int id) { return static_cast<kv::ComboBoxNode&>(NodeOf(id)); }
+    QComboBox* Box(int id) { return WidgetOf<QComboBox>(id); }
+    QLineEdit* Line() { return Box(kEditable)->findChild<QLineEdit*>(); }
+    QAbstractItemView* Popup() {
+        QWidget* popup = QApplication::activePopupWidget();
+        return popup ? popup->findChild<QAbstractItemView*>() : nullptr;
+    }
+    void ClickArrow(int id) {
+        QTest::mouseClick(Box(id), Qt::LeftButton, {},
+                          QPoint(Box(id)->width() - 6, Box(id)->height() / 2));
+        Process();
+    }
+    void ClickPopupRow(int row) {
+        const QRect place = Popup()->visualRect(Popup()->model()->index(row, 0));
+        QTest::mouseClick(Popup()->viewport(), Qt::LeftButton, {}, place.center());
+        Process();
+    }
+};
+
+TEST_F(ComboView, APickFromTheDroppedListComesInThePlatformsOrder) {
+    ClickArrow(kEditable);
+    ASSERT_NE(Popup(), nullptr);
+    EXPECT_EQ(Popup()->model()->rowCount(), 4);
+    EXPECT_EQ(Popup()->model()->index(1, 0).data().toString(), "VERMILION");
+    ClickPopupRow(1);
+    EXPECT_EQ(Popup(), nullptr);
+    EXPECT_THAT(Told(), ElementsAre("11 lost", "16 gained", "16 sent 7", "16 sent 9", "16 sent 8",
+                                    "16 sent 1"));
+    EXPECT_EQ(Text(kEditable), "VERMILION");
+    EXPECT_EQ(Line()->text(), "VERMILION");
+    EXPECT_EQ(Line()->selectedText(), "VERMILION");
+}
+
+TEST_F(ComboView, ADropListShowsItsRow) {
+    ClickArrow(kList);
+    ASSERT_NE(Popup(), nullptr);
+    ClickPopupRow(2);
+    EXPECT_EQ(Combo(kList).CurrentRow(), 2);
+    EXPECT_EQ(Box(kList)->currentText(), "WEST CAMERON");
+    dialog.SendDlgItemMessage(kList, CB_SETCURSEL, 0);
+    EXPECT_EQ(Box(kList)->currentText(), "EAST CAMERON");
+    dialog.SendDlgItemMessage(kList, CB_RESETCONTENT);
+    EXPECT_EQ(Box(kList)->currentText(), "");
+}
+
+TEST_F(ComboView, TypingIntoItsEditTellsTheParentOnce) {
+    Key(Qt::Key_Tab);
+    EXPECT_EQ(Window()->focusWidget(), Line());
+    Told();
+    Type("V");
+    EXPECT_EQ(Text(kEditable), "V");
+    EXPECT_THAT(Told(), ElementsAre("16 sent 6", "16 sent 5"));
+    EXPECT_EQ(Line()->text(), "V");
+}
+
+TEST_F(ComboView, ArrowsMoveTheRowAndEnterPicksInTheOpenList) {
+    Key(Qt::Key_Tab);
+    Key(Qt::Key_Tab);
+    Key(Qt::Key_Down);
+    EXPECT_EQ(Box(kList)->currentText(), "EAST CAMERON");
+    Told();
+    Key(Qt::Key_F4);
+    ASSERT_NE(Popup(), nullptr);
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Down);
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
+    EXPECT_EQ(Popup(), nullptr);
+    EXPECT_EQ(Combo(kList).CurrentRow(), 1);
+    EXPECT_TRUE(dialog.IsWindowVisible());
+}
+
+TEST_F(ComboView, EscapeClosesTheListAndNotTheDialog) {
+    ClickArrow(kList);
+    ASSERT_NE(Popup(), nullptr);
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+    EXPECT_EQ(Popup(), nullptr);
+    EXPECT_FALSE(Combo(kList).Dropped());
+    EXPECT_TRUE(dialog.IsWindowVisible());
+}
+
+TEST_F(ComboView, AClickElsewhereClosesTheList) {
+    ClickArrow(kList);
+    QWidget* popup = QApplication::activePopupWidget();
+    ASSERT_NE(popup, nullptr);
+    QTest::mouseClick(popup, Qt::LeftButton, {}, QPoint(-20, -200));
+    EXPECT_FALSE(Combo(kList).Dropped());
+    EXPECT_EQ(Combo(kList).CurrentRow(), -1);
+    EXPECT_EQ(Popup(), nullptr);
+}
+
+TEST_F(ComboView, TypingInADropListFindsARow) {
+    Key(Qt::Key_Tab);
+    Key(Qt::Key_Tab);
+    Type("west d");
+    EXPECT_EQ(Box(kList)->currentText(), "WEST DELTA");
+}
+
+TEST_F(ComboView, TheWheelTurnsTheRowOfTheOneWithTheFocusOnly) {
+    dialog.SendDlgItemMessage(kList, CB_SETCURSEL, 1);
+    const auto turn = [&](int delta) {
+        QWheelEvent event(QPointF(5, 5), Box(kList)->mapToGlobal(QPointF(5, 5)), {}, {0, delta},
+                          Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(Box(kList), &event);
+    };
+    turn(-120);
+    EXPECT_EQ(Combo(kList).CurrentRow(), 1);
+    Key(Qt::Key_Tab);
+    Key(Qt::Key_Tab);
+    turn(-120);
+    EXPECT_EQ(Combo(kList).CurrentRow(), 2);
+    turn(240);
+    EXPECT_EQ(Combo(kList).CurrentRow(), 0);
+}
+
+TEST_F(ComboView, RowsThatAHandlerAddsAtTheDropAreInTheList) {
+    dialog.when["17 sent 7"] = [&] {
+        dialog.SendDlgItemMessage(kList, CB_RESETCONTENT);
+        dialog.SendDlgItemMessage(kList, CB_ADDSTRING, 0, kv::AsParam("filled late"));
+    };
+    ClickArrow(kList);
+    ASSERT_NE(Popup(), nullptr);
+    EXPECT_EQ(Popup()->model()->rowCount(), 1);
+    EXPECT_EQ(Popup()->model()->index(0, 0).data().toString(), "filled late");
+}
+
+TEST_F(ComboView, ItsTextIsCopied) {
+    dialog.SendDlgItemMessage(kList, CB_SETCURSEL, 1);
+    Key(Qt::Key_Tab);
+    Key(Qt::Key_Tab);
+    Key(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), "VERMILION");
+}
+
+}  // namespace

@@ -1,0 +1,268 @@
+#include <QAction>
+#include <QComboBox>
+#include <QMainWindow>
+#include <QProgressBar>
+#include <QToolBar>
+#include <QToolButton>
+
+#include "qt/binding.h"
+#include "qt_fixture.h"
+#include "window/combo_box.h"
+#include "window/control_bar.h"
+#include "window/edit.h"
+#include "window/frame_wnd.h"
+#include "window/progress_node.h"
+#include "window/spin_node.h"
+#include "window/tool_bar.h"
+
+using enum kv::ControlKind;
+using test::kTestTemplate;
+using test::TestTemplate;
+using testing::Contains;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+class SmallViews : public test::QtDialogTest {};
+
+TEST_F(SmallViews, AProgressBarFollows) {
+    Show({{46, kProgress, "", {7, 7, 80, 12}}});
+    dialog.SendDlgItemMessage(46, PBM_SETRANGE32, 10, 30);
+    dialog.SendDlgItemMessage(46, PBM_SETPOS, 25);
+    EXPECT_EQ(WidgetOf<QProgressBar>(46)->minimum(), 10);
+    EXPECT_EQ(WidgetOf<QProgressBar>(46)->value(), 25);
+}
+
+TEST_F(SmallViews, TheArrowsOfASpinButtonStepOnce) {
+    Show({{11, kEdit, "5", {7, 7, 40, 12}},
+          {42, kSpin, "", {47, 7, 10, 12}, {UDS_AUTOBUDDY | UDS_SETBUDDYINT, 0}}});
+    dialog.SendDlgItemMessage(42, UDM_SETRANGE32, 0, 10);
+    dialog.SendDlgItemMessage(42, UDM_SETPOS32, 0, 5);
+    const auto arrows = WidgetOf(42)->findChildren<QToolButton*>();
+    ASSERT_EQ(arrows.size(), 2);
+    QTest::mouseClick(arrows.at(0), Qt::LeftButton);
+    EXPECT_EQ(dialog.SendDlgItemMessage(42, UDM_GETPOS32), 6);
+    EXPECT_EQ(WidgetOf<QLineEdit>(11)->text(), "6");
+    QTest::mouseClick(arrows.at(1), Qt::LeftButton);
+    QTest::mouseClick(arrows.at(1), Qt::LeftButton);
+    EXPECT_EQ(Text(11), "4");
+    QWheelEvent wheel(QPointF(3, 3), WidgetOf(42)->mapToGlobal(QPointF(3, 3)), {}, {0, 120},
+                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(WidgetOf(42), &wheel);
+    EXPECT_EQ(Text(11), "5");
+}
+
+constexpr int kBarTemplate = 150;
+constexpr UINT kRun = 20;
+constexpr UINT kZoom = 301;
+constexpr UINT kPan = 302;
+
+/// A host's frame with a dialog bar and a tool bar in it.
+class HostFrame : public CFrameWnd {
+public:
+    std::vector<UINT> commands;
+    bool canZoom = true;
+
+    BOOL OnCmdMsg(UINT id, int code, void* extra, void* info) override {
+        if (code == CN_UPDATE_COMMAND_UI) {
+            if (id == kZoom) static_cast<CCmdUI*>(extra)->Enable(canZoom);
+            if (id == kPan) static_cast<CCmdUI*>(extra)->SetCheck(1);
+            return id == kZoom || id == kPan || id == kRun;
+        }
+        const bool own = id == kZoom || id == kPan || id == kRun;
+        if (own && code == CN_COMMAND && !info) commands.push_back(id);
+        return own || CFrameWnd::OnCmdMsg(id, code, extra, info);
+    }
+};
+
+class Frame : public testing::Test {
+protected:
+    Frame() {
+        frame_.Create("Host");
+        frame_.EnableDocking(CBRS_ALIGN_ANY);
+        bar_.Create(&frame_, kBarTemplate, CBRS_TOP, kBarTemplate);
+        bar_.EnableDocking(CBRS_ALIGN_ANY);
+        frame_.DockControlBar(&bar_);
+        frame_.ShowWindow(SW_SHOW);
+        Process();
+    }
+    ~Frame() override {
+        if (frame_.m_hWnd) frame_.DestroyWindow();
+        Process();
+    }
+    static void Process() { QApplication::processEvents(); }
+
+    QMainWindow* Main() { return kv::qt::MainWindowOf(*frame_.m_hWnd); }
+    QToolBar* BarOf(const CWnd& bar) {
+        return dynamic_cast<QToolBar*>(kv::qt::WidgetOf(*bar.m_hWnd));
+    }
+    QWidget* WidgetOf(int id) { return kv::qt::WidgetOf(*bar_.m_hWnd->FindChild(id)); }
+
+    kv::qt::QtDesktop desktop_;
+    TestTemplate template_{{{11, kEdit, "", {4, 3, 60, 12}},
+                            {static_cast<int>(kRun), kPushButton, "&Run", {68, 2, 40, 14}}},
+                           kBarTemplate,
+                           "Pick",
+                           150,
+                           18};
+    HostFrame frame_;
+    CDialogBar bar_;
+};
+
+TEST_F(Frame, HoldsTheHostsCentralWidgetBesideItsBars) {
+    ASSERT_NE(Main(), nullptr);
+    auto* canvas = new QWidget;
+    Main()->setCentralWidget(canvas);
+    Process();
+    EXPECT_TRUE(canvas->isVisible());
+    EXPECT_EQ(Main()->windowTitle(), "Host");
+    EXPECT_EQ(Main()->toolBarArea(BarOf(bar_)), Qt::TopToolBarArea);
+    EXPECT_GT(WidgetOf(11)->width(), 0);
+}
+
+TEST_F(Frame, ItsBarsControlsReachIt) {
+    QTest::mouseClick(WidgetOf(11), Qt::LeftButton);
+    QTest::keyClick(WidgetOf(11), Qt::Key_V);
+    EXPECT_EQ(bar_.DlgItemText(11), "v");
+    QTest::mouseClick(WidgetOf(kRun), Qt::LeftButton);
+    EXPECT_THAT(frame_.commands, ElementsAre(kRun));
+    QTest::mouseClick(WidgetOf(11), Qt::LeftButton);
+    QTest::keyClick(WidgetOf(11), Qt::Key_R, Qt::AltModifier);
+    EXPECT_THAT(frame_.commands, ElementsAre(kRun, kRun));
+}
+
+TEST_F(Frame, TheHostsOwnWidgetTakesTheFocusFromTheBar) {
+    auto* canvas = new QLineEdit;
+    Main()->setCentralWidget(canvas);
+    Process();
+    QTest::mouseClick(WidgetOf(11), Qt::LeftButton);
+    EXPECT_EQ(test::FocusedId(), 11);
+    canvas->setFocus(Qt::MouseFocusReason);
+    Process();
+    EXPECT_EQ(test::FocusedId(), 0);
+    QTest::keyClick(canvas, Qt::Key_X);
+    EXPECT_EQ(canvas->text(), "x");
+    EXPECT_EQ(bar_.DlgItemText(11), "");
+}
+
+TEST_F(Frame, AMenusShortcutsWorkWithTheFocusInTheBar) {
+    int saved = 0;
+    QAction save;
+    save.setShortcut(Qt::CTRL | Qt::Key_S);
+    QObject::connect(&save, &QAction::triggered, [&] { ++saved; });
+    Main()->addAction(&save);
+    Main()->activateWindow();
+    QTest::mouseClick(WidgetOf(11), Qt::LeftButton);
+    QTest::keyClick(WidgetOf(11), Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(saved, 1);
+    EXPECT_EQ(bar_.DlgItemText(11), "");
+}
+
+TEST_F(Frame, ABarDocksFloatsAndRemembers) {
+    QToolBar* bar = BarOf(bar_);
+    EXPECT_TRUE(bar->isMovable());
+    EXPECT_TRUE(bar->isFloatable());
+    Main()->addToolBar(Qt::BottomToolBarArea, bar);
+    const QByteArray state = Main()->saveState();
+    Main()->addToolBar(Qt::TopToolBarArea, bar);
+    EXPECT_TRUE(Main()->restoreState(state));
+    EXPECT_EQ(Main()->toolBarArea(bar), Qt::BottomToolBarArea);
+    frame_.ShowControlBar(&bar_, FALSE, FALSE);
+    EXPECT_FALSE(bar->isVisible());
+    frame_.ShowControlBar(&bar_, TRUE, FALSE);
+    EXPECT_TRUE(bar->isVisible());
+    bar->toggleViewAction()->trigger();
+    Process();
+    EXPECT_FALSE(bar_.IsWindowVisible());
+}
+
+TEST_F(Frame, AToolBarSendsCommandsAndShowsTheirState) {
+    CToolBar tools;
+    tools.Create(&frame_);
+    const UINT ids[] = {kZoom, ID_SEPARATOR, kPan};
+    tools.SetButtons(ids, 3);
+    tools.SetButtonText(0, "Zoom");
+    tools.SetButtonText(2, "Pan");
+    kv::WindowSystem::Get().Settle();
+    QToolBar* bar = BarOf(tools);
+    ASSERT_NE(bar, nullptr);
+    ASSERT_EQ(bar->actions().size(), 3);
+    EXPECT_EQ(bar->actions().at(0)->text(), "Zoom");
+    EXPECT_TRUE(bar->actions().at(2)->isChecked());
+    Process();
+    QTest::mouseClick(bar->widgetForAction(bar->actions().at(0)), Qt::LeftButton);
+    EXPECT_THAT(frame_.commands, ElementsAre(kZoom));
+    QTest::mouseClick(bar->widgetForAction(bar->actions().at(2)), Qt::LeftButton);
+    EXPECT_TRUE(bar->actions().at(2)->isChecked()) << "the command's update says so";
+    frame_.canZoom = false;
+    kv::WindowSystem::Get().Settle();
+    EXPECT_FALSE(bar->actions().at(0)->isEnabled());
+}
+
+TEST_F(Frame, ClosesThroughTheLayer) {
+    QPointer<QWidget> window = Main();
+    window->close();
+    EXPECT_EQ(frame_.m_hWnd, nullptr);
+    EXPECT_TRUE(window.isNull() || !window->isVisible());
+}
+
+class Binding : public testing::Test {
+protected:
+    kv::qt::QtDesktop desktop_;
+};
+
+TEST_F(Binding, AComboBoxOfTheHostsIsTheControlsBothWays) {
+    QComboBox box;
+    box.addItems({"one", "two"});
+    box.setEditable(true);
+    CComboBox control;
+    ASSERT_TRUE(kv::qt::BindComboBox(box, control));
+    EXPECT_FALSE(kv::qt::BindComboBox(box, control)) << "it is bound";
+    EXPECT_EQ(control.GetCount(), 2);
+    EXPECT_EQ(control.GetCurSel(), 0);
+    control.AddString("three");
+    EXPECT_EQ(box.count(), 3);
+    EXPECT_EQ(box.itemText(2), "three");
+    control.SetCurSel(2);
+    EXPECT_EQ(box.currentText(), "three");
+    box.setEditText("typed");
+    EXPECT_EQ(control.WindowText(), "typed");
+    control.SetWindowText("<LIST>");
+    EXPECT_EQ(box.currentText(), "<LIST>");
+    control.ResetContent();
+    EXPECT_EQ(box.count(), 0);
+    EXPECT_EQ(box.currentText(), "");
+}
+
+TEST_F(Binding, APickInTheHostsComboBoxIsTheControls) {
+    QComboBox box;
+    box.addItems({"one", "two", "three"});
+    CComboBox control;
+    ASSERT_TRUE(kv::qt::BindComboBox(box, control));
+    box.show();
+    QTest::keyClick(&box, Qt::Key_Down);
+    EXPECT_EQ(control.GetCurSel(), 1);
+    EXPECT_EQ(control.WindowText(), "two");
+    control.SetCurSel(-1);
+    EXPECT_EQ(box.currentIndex(), -1);
+}
+
+TEST_F(Binding, ALineEditOfTheHostsIsTheControlsBothWays) {
+    CEdit control;
+    {
+        QLineEdit line;
+        line.setText("before");
+        ASSERT_TRUE(kv::qt::BindLineEdit(line, control));
+        EXPECT_EQ(control.WindowText(), "before");
+        control.SetWindowText("after");
+        EXPECT_EQ(line.text(), "after");
+        QTest::keyClicks(&line, "!");
+        EXPECT_EQ(control.WindowText(), "after!");
+        control.EnableWindow(FALSE);
+        EXPECT_FALSE(line.isEnabled());
+    }
+    EXPECT_EQ(control.m_hWnd, nullptr) << "the widget has gone";
+}
+
+}  // namespace

@@ -1,0 +1,270 @@
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include "qt_fixture.h"
+#include "window/message_box.h"
+
+using enum kv::ControlKind;
+using test::kTestTemplate;
+using test::RecordingDialog;
+using test::TestTemplate;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+kv::ControlRow At(int id, kv::ControlKind kind, int y, const char* text = "") {
+    return {id, kind, text, {7, y, 80, 14}, {}};
+}
+
+constexpr int kInnerTemplate = 101;
+
+class Windows : public test::QtDialogTest {
+protected:
+    static QWidget* WidgetOf(const CWnd& window) { return kv::qt::WidgetOf(*window.m_hWnd); }
+    static QWidget* WidgetOf(const CWnd& window, int id) {
+        return kv::qt::WidgetOf(*window.m_hWnd->FindChild(id));
+    }
+
+    /// As soon as a message box stands open, presses that button of it.
+    void AnswerNextMessage(QMessageBox::StandardButton button) {
+        Then([this, button] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_NE(box, nullptr);
+            messages_.push_back(box->text().toStdString());
+            QTest::mouseClick(box->button(button), Qt::LeftButton);
+        });
+    }
+
+    TestTemplate inner_{{At(41, kEdit, 7), At(IDOK, kDefaultButton, 24, "OK"),
+                         At(IDCANCEL, kPushButton, 41, "Cancel")},
+                        kInnerTemplate,
+                        "Inner"};
+    std::vector<std::string> messages_;
+};
+
+TEST_F(Windows, AModalDialogRunsUntilItsButtonIsPressed) {
+    RecordingDialog modal(kInnerTemplate);
+    Then([&] {
+        ASSERT_TRUE(WidgetOf(modal)->isVisible());
+        EXPECT_EQ(WidgetOf(modal)->windowTitle(), "Inner");
+        EXPECT_EQ(test::FocusedId(), 41);
+        QTest::keyClick(WidgetOf(modal)->focusWidget(), Qt::Key_A);
+        EXPECT_EQ(modal.DlgItemText(41), "a");
+        QTest::mouseClick(WidgetOf(modal, IDOK), Qt::LeftButton);
+    });
+    EXPECT_EQ(modal.DoModal(), IDOK);
+    EXPECT_EQ(modal.m_hWnd, nullptr);
+}
+
+TEST_F(Windows, EscapeEnterAndTheWindowButtonEndIt) {
+    RecordingDialog modal(kInnerTemplate);
+    Then([&] { QTest::keyClick(WidgetOf(modal)->focusWidget(), Qt::Key_Escape); });
+    EXPECT_EQ(modal.DoModal(), IDCANCEL);
+    Then([&] { QTest::keyClick(WidgetOf(modal)->focusWidget(), Qt::Key_Return); });
+    EXPECT_EQ(modal.DoModal(), IDOK);
+    Then([&] { WidgetOf(modal)->close(); });
+    EXPECT_EQ(modal.DoModal(), IDCANCEL);
+}
+
+TEST_F(Windows, AModalDialogBlocksItsOwnerAndGivesTheFocusBack) {
+    Show({At(11, kEdit, 7), At(20, kPushButton, 24, "Go")});
+    RecordingDialog modal(kInnerTemplate, &dialog);
+    Told();
+    Then([&] {
+        EXPECT_FALSE(dialog.IsWindowEnabled());
+        EXPECT_TRUE(Window()->isEnabled()) << "an owner is not greyed";
+        EXPECT_EQ(WidgetOf(modal)->windowModality(), Qt::WindowModal);
+        QTest::mouseClick(test::QtDialogTest::WidgetOf(20), Qt::LeftButton);
+        EXPECT_THAT(dialog.told, ElementsAre("11 lost"));
+        modal.EndDialog(7);
+    });
+    EXPECT_EQ(modal.DoModal(), 7);
+    EXPECT_TRUE(dialog.IsWindowEnabled());
+    EXPECT_EQ(test::FocusedId(), 11);
+    EXPECT_THAT(Told(), ElementsAre("11 lost", "11 gained"));
+}
+
+TEST_F(Windows, ModalDialogsStack) {
+    RecordingDialog outer(kInnerTemplate);
+    RecordingDialog inner(kInnerTemplate);
+    int innerResult = 0;
+    outer.when["1 clicked"] = [&] {
+        Then([&] {
+            EXPECT_FALSE(outer.IsWindowEnabled());
+            // The outer one ends first, and goes when the inner one has gone.
+            outer.EndDialog(8);
+            QTest::mouseClick(WidgetOf(inner, IDCANCEL), Qt::LeftButton);
+        });
+        innerResult = inner.DoModal();
+    };
+    Then([&] { QTest::mouseClick(WidgetOf(outer, IDOK), Qt::LeftButton); });
+    EXPECT_EQ(outer.DoModal(), IDOK);
+    EXPECT_EQ(innerResult, IDCANCEL);
+}
+
+TEST_F(Windows, AMessageBoxShowsItsTextAndAnswers) {
+    Show({At(11, kEdit, 7)});
+    AnswerNextMessage(QMessageBox::Ok);
+    EXPECT_EQ(AfxMessageBox("No Matches found!"), IDOK);
+    AnswerNextMessage(QMessageBox::Yes);
+    EXPECT_EQ(AfxMessageBox("Replace?", MB_YESNO), IDYES);
+    AnswerNextMessage(QMessageBox::No);
+    EXPECT_EQ(AfxMessageBox("Replace?", MB_YESNO | MB_ICONQUESTION), IDNO);
+    AnswerNextMessage(QMessageBox::Cancel);
+    EXPECT_EQ(AfxMessageBox("Save?", MB_YESNOCANCEL), IDCANCEL);
+    EXPECT_THAT(messages_, ElementsAre("No Matches found!", "Replace?", "Replace?", "Save?"));
+}
+
+TEST_F(Windows, TheTextOfAMessageBoxCanBeSelected) {
+    Then([] {
+        QWidget* box = QApplication::activeModalWidget();
+        auto* label = box->findChild<QLabel*>("qt_msgbox_label");
+        EXPECT_TRUE(label->textInteractionFlags() & Qt::TextSelectableByMouse);
+        box->close();
+    });
+    AfxMessageBox("Copy me");
+}
+
+TEST_F(Windows, AMessageBoxInAFocusLostHandlerSwallowsTheClickThatCausedIt) {
+    Show({At(11, kEdit, 7), At(12, kEdit, 24), At(20, kPushButton, 41, "Go")});
+    int shown = 0;
+    dialog.when["11 lost"] = [&] {
+        if (shown++ > 0) return;
+        AnswerNextMessage(QMessageBox::Ok);
+        AfxMessageBox("Wrong value");
+        dialog.GetDlgItem(11)->SetFocus();
+    };
+    Told();
+    Click(20);
+    Process();
+    EXPECT_THAT(messages_, ElementsAre("Wrong value"));
+    EXPECT_FALSE(dialog.WasTold("20 clicked"));
+    EXPECT_EQ(test::FocusedId(), 11);
+    EXPECT_EQ(Window()->focusWidget(), test::QtDialogTest::WidgetOf(11));
+    Type("5");
+    EXPECT_EQ(Text(11), "5");
+}
+
+TEST_F(Windows, AModelessToolIsClosedByItsWindowButton) {
+    Show({At(11, kEdit, 7)});
+    dialog.when["2 clicked"] = [&] { dialog.ShowWindow(SW_HIDE); };
+    QWidget* window = Window();
+    EXPECT_FALSE(window->close());
+    EXPECT_THAT(dialog.told, testing::Contains("2 clicked"));
+    EXPECT_FALSE(window->isVisible());
+    dialog.ShowWindow(SW_SHOW);
+    EXPECT_TRUE(window->isVisible());
+}
+
+/// A tool that goes when it is closed, as hosts write them.
+class SelfDeleting : public RecordingDialog {
+public:
+    using RecordingDialog::RecordingDialog;
+    bool* gone = nullptr;
+    void OnOK() override { DestroyWindow(); }
+
+protected:
+    void PostNcDestroy() override {
+        *gone = true;
+        delete this;
+    }
+};
+
+TEST_F(Windows, ADialogMayBeDestroyedWhileItsHandlerRuns) {
+    bool gone = false;
+    auto* tool = new SelfDeleting(kInnerTemplate);
+    tool->gone = &gone;
+    ASSERT_TRUE(tool->Create(kInnerTemplate));
+    Process();
+    const QPointer<QWidget> widget = WidgetOf(*tool);
+    QTest::mouseClick(WidgetOf(*tool, IDOK), Qt::LeftButton);
+    EXPECT_TRUE(gone);
+    Process();
+    EXPECT_TRUE(widget.isNull());
+}
+
+TEST_F(Windows, ADialogMayBeDestroyedFromAModalOneOverIt) {
+    bool gone = false;
+    auto* tool = new SelfDeleting(kInnerTemplate);
+    tool->gone = &gone;
+    ASSERT_TRUE(tool->Create(kInnerTemplate));
+    RecordingDialog modal(kInnerTemplate);
+    tool->when["2 clicked"] = [&] {
+        Then([&] {
+            tool->DestroyWindow();
+            Process();
+            modal.EndDialog(IDOK);
+        });
+        modal.DoModal();
+    };
+    QTest::mouseClick(WidgetOf(*tool, IDCANCEL), Qt::LeftButton);
+    EXPECT_TRUE(gone);
+}
+
+TEST_F(Windows, ControlsThatAreMadeLaterShow) {
+    Show({At(11, kEdit, 7)});
+    auto late = kv::MakeNode(kv::NodeClass::kButton, 99, WS_CHILD | WS_VISIBLE | WS_TABSTOP);
+    late->SetText("Late");
+    late->SetRect({60, 60, 120, 80});
+    dialog.m_hWnd->AddChild(late);
+    auto* button = dynamic_cast<QPushButton*>(test::QtDialogTest::WidgetOf(99));
+    ASSERT_NE(button, nullptr);
+    EXPECT_TRUE(button->isVisible());
+    kv::WindowSystem::Get().Destroy(*late);
+    EXPECT_FALSE(button->isVisible());
+}
+
+TEST_F(Windows, MovingTheWindowIsKnownToTheNode) {
+    Show({At(11, kEdit, 7)});
+    const CRect before = dialog.m_hWnd->Rect();
+    Window()->move(Window()->pos() + QPoint(100, 50));
+    Process();
+    EXPECT_GT(dialog.m_hWnd->Rect().left, before.left);
+    EXPECT_EQ(dialog.m_hWnd->Rect().Width(), before.Width());
+    const QPoint at = Window()->pos();
+    dialog.SetWindowPos(nullptr, 10, 10, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    EXPECT_NE(Window()->pos(), at);
+    EXPECT_EQ(dialog.m_hWnd->Rect().left, 10);
+}
+
+TEST_F(Windows, FocusIsTheLayers) {
+    Show({At(11, kEdit, 7), At(12, kEdit, 24)});
+    dialog.GetDlgItem(12)->SetFocus();
+    EXPECT_EQ(Window()->focusWidget(), test::QtDialogTest::WidgetOf(12));
+    Key(Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(test::FocusedId(), 11);
+    EXPECT_EQ(Window()->focusWidget(), test::QtDialogTest::WidgetOf(11));
+    Told();
+    dialog.GetDlgItem(11)->EnableWindow(FALSE);
+    Process();
+    Type("x");
+    EXPECT_EQ(Text(12), "x");
+    EXPECT_EQ(test::FocusedId(), 12);
+}
+
+TEST_F(Windows, WhatIsPostedComesWithoutFurtherInput) {
+    Show({At(11, kEdit, 7), At(20, kPushButton, 24, "Go")});
+    Told();
+    dialog.PostMessage(WM_COMMAND, MAKEWPARAM(20, BN_CLICKED),
+                       reinterpret_cast<LPARAM>(&NodeOf(20)));
+    EXPECT_THAT(dialog.told, IsEmpty());
+    Process();
+    EXPECT_THAT(Told(), ElementsAre("20 clicked"));
+}
+
+TEST_F(Windows, APumpInsideLongWorkTakesClicks) {
+    Show({At(11, kEdit, 7), At(IDCANCEL, kPushButton, 24, "Cancel")});
+    bool cancelled = false;
+    dialog.when["2 clicked"] = [&] {
+        cancelled = true;
+        dialog.told.clear();
+    };
+    Then([&] { Click(IDCANCEL); });
+    for (int step = 0; step < 10 && !cancelled; ++step)
+        kv::WindowSystem::Get().Pump();
+    EXPECT_TRUE(cancelled);
+}
+
+}  // namespace
