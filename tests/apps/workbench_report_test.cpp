@@ -88,22 +88,22 @@ TEST_F(ReportTest, OfABlockHasItsRowsAlone) {
         const ResultTable report = Report(layer, {Quoted(area)}, block);
         EXPECT_EQ(report.RowCount(), expected) << layer.title;
         for (const ResultTable::Key& key : report.keys) {
-            if (!pipelines) EXPECT_EQ(key.areaCode + key.block, area + block) << layer.title;
+            if (!pipelines) {
+                EXPECT_EQ(key.areaCode + key.block, area + block) << layer.title;
+            }
         }
     }
 }
 
-TEST_F(ReportTest, APipelineBetweenTwoAreasIsListedOnce) {
-    const Rows between("select areacode, to_areacode from " + TableName("_pipeline") +
-                       " where areacode <> to_areacode order by segment_no");
-    ASSERT_GT(between.Count(), 0);
-    const std::vector<std::string> areas = {Quoted(between.Cell(0, 0)), Quoted(between.Cell(0, 1))};
+TEST_F(ReportTest, APipelineIsListedOnceWhereSeveralAreasAreReported) {
+    const std::vector<std::string> areas = {"'43112'", "'43113'"};
     const ResultTable report = Report(Of(KV_LAYER_PIPELINES), areas, "ALL");
     std::set<std::string> segments;
     for (int row = 0; row < report.RowCount(); ++row)
         segments.insert(report.Cell(row, 0));
     EXPECT_EQ(static_cast<int>(segments.size()), report.RowCount());
     const std::string in = "(" + areas[0] + "," + areas[1] + ")";
+    EXPECT_GT(report.RowCount(), 0);
     EXPECT_EQ(report.RowCount(), Count(TableName("_pipeline") + " where areacode in " + in +
                                        " or to_areacode in " + in));
 }

@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <filesystem>
 
 #include "frame/table_owner.h"
@@ -54,55 +53,6 @@ TEST(Registry, AFreshMachineHasFoldersOfTheUsers) {
     EXPECT_TRUE(kv::ChangeFolder(Home() + "\\app"));
     EXPECT_TRUE(kv::IsFolder(Work() + "\\REPORT"));
     EXPECT_FALSE(folder.Has("registry.ini"));
-}
-
-TEST(Registry, AChangeOfAFileThatWasReadIsSeenAtOnce) {
-    const TempFolder folder;
-    const fs::path file = folder.Native("registry.ini");
-    const auto longAgo = fs::file_time_type::clock::now() - std::chrono::hours(5);
-    const auto write = [&](const std::string& name, const std::string& dataset) {
-        folder.Write(name, "[SOFTWARE\\KVI]\nDATASET=" + dataset + "\n");
-        fs::last_write_time(folder.Native(name), longAgo);
-    };
-    write("registry.ini", "ONE");
-    EXPECT_EQ(Get("DATASET"), "ONE");
-    EXPECT_EQ(Get("DATASET"), "ONE");
-    EXPECT_EQ(Get("DATASET_OWNER"), "NORVADON");
-    folder.Write("registry.ini", "[SOFTWARE\\KVI]\nDATASET=TWO\n");
-    EXPECT_EQ(Get("DATASET"), "TWO");
-    fs::last_write_time(file, longAgo);
-    EXPECT_EQ(Get("DATASET"), "TWO");
-    write("other.ini", "SIX");
-    fs::rename(folder.Native("other.ini"), file);
-    EXPECT_EQ(Get("DATASET"), "SIX");
-    EXPECT_TRUE(CKvUtRegistry().SetRegistry(kPath, "DATASET", "TEN"));
-    EXPECT_EQ(Get("DATASET"), "TEN");
-    fs::last_write_time(file, longAgo);
-    EXPECT_EQ(Get("DATASET"), "TEN");
-    fs::remove(file);
-    EXPECT_EQ(Get("DATASET"), "GULF_MEXICO");
-}
-
-TEST(Registry, AFileThatComesIsSeenAtOnce) {
-    const TempFolder folder;
-    const auto longAgo = fs::file_time_type::clock::now() - std::chrono::hours(5);
-    const auto write = [&](const std::string& name, const std::string& dataset) {
-        folder.Write(name, "[SOFTWARE\\KVI]\nDATASET=" + dataset + "\n");
-        fs::last_write_time(folder.Native(name), longAgo);
-    };
-    folder.Set("KVGUICTL_REGISTRY", folder.Native("new/settings/registry.ini"));
-    fs::last_write_time(folder.Native(), longAgo);
-    EXPECT_EQ(Get("DATASET"), "GULF_MEXICO");
-    fs::create_directories(folder.Native("new/settings"));
-    fs::last_write_time(folder.Native("new/settings"), longAgo);
-    EXPECT_EQ(Get("DATASET"), "GULF_MEXICO");
-    write("new/settings/Registry.INI", "ONE");
-    fs::last_write_time(folder.Native("new/settings"), longAgo);
-    EXPECT_EQ(Get("DATASET"), "ONE");
-    write("new/settings/Registry.INI", "TWO");
-    EXPECT_EQ(Get("DATASET"), "TWO");
-    write("new/settings/registry.ini", "SIX");
-    EXPECT_EQ(Get("DATASET"), "SIX");
 }
 
 TEST(Registry, AnEmptyFolderCountsAsNone) {

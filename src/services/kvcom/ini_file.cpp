@@ -1,12 +1,6 @@
 #include "services/kvcom/ini_file.h"
 
-#include <sys/stat.h>
-
 #include <algorithm>
-#include <array>
-#include <cstdint>
-#include <ctime>
-#include <map>
 #include <set>
 
 #include "frame/log.h"
@@ -96,42 +90,6 @@ std::optional<IniFile> Load(const std::string& path) {
     return std::nullopt;
 }
 
-/// What tells that a file was changed, or has come: its own state, or while there is none that of
-/// the nearest folder above it.
-struct FileState {
-    bool isFile;
-    dev_t device;
-    ino_t inode;
-    off_t size;
-    std::array<std::int64_t, 4> times;
-    bool operator==(const FileState&) const = default;
-};
-
-std::optional<FileState> StateOf(const std::string& path) {
-    struct stat status {};
-    std::string place = path;
-    while (!place.empty() && stat(place.c_str(), &status) != 0)
-        place = place == "/" ? "" : FolderOf(place);
-    if (place.empty()) return std::nullopt;
-    return FileState{place == path,
-                     status.st_dev,
-                     status.st_ino,
-                     status.st_size,
-                     {status.st_mtim.tv_sec, status.st_mtim.tv_nsec, status.st_ctim.tv_sec,
-                      status.st_ctim.tv_nsec}};
-}
-
-/// Whether a further change would show in the file's times: their clock may be a coarse one.
-bool IsSettled(const FileState& state) {
-    constexpr std::int64_t kCoarsestClock = 3;
-    return std::time(nullptr) - state.times[0] > kCoarsestClock;
-}
-
-struct KeptFile {
-    std::optional<FileState> state;
-    std::shared_ptr<const IniFile> settings;
-};
-
 }  // namespace
 
 IniFile::IniFile(std::string_view text) : lines_(SplitLines(text)) {}
@@ -179,18 +137,8 @@ std::string IniFile::Text() const {
     return JoinLines(lines_);
 }
 
-std::shared_ptr<const IniFile> SettingsFile::Read() const {
-    static std::map<std::string, KeptFile> keptFiles;
-    KeptFile& kept = keptFiles[path_];
-    const std::optional<FileState> state = StateOf(path_);
-    if (kept.settings && kept.state == state) return kept.settings;
-    kept = {};
-    const std::optional<IniFile> settings = Load(path_);
-    auto read = std::make_shared<const IniFile>(settings.value_or(IniFile()));
-    // A file under the same name in other letters changes unseen by its folder.
-    const bool told = state && (state->isFile || !Exists(path_));
-    if (told && settings && IsSettled(*state)) kept = {state, read};
-    return read;
+IniFile SettingsFile::Read() const {
+    return Load(path_).value_or(IniFile());
 }
 
 bool SettingsFile::Write(std::string_view section, std::string_view key,

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -38,8 +37,8 @@ public:
     explicit SettingsFile(std::string path) : path_(std::move(path)) {}
 
     /// Empty when there is no file; also, with a line in the log once in the life of the process,
-    /// when there is one that cannot be read. Never null. Read anew only when the file has changed.
-    std::shared_ptr<const IniFile> Read() const;
+    /// when there is one that cannot be read.
+    IniFile Read() const;
     /// Changes one value. False, with a line in the log, when that cannot be done; the file is then
     /// what it was. A file that cannot be read is never written over.
     bool Write(std::string_view section, std::string_view key, std::string_view value) const;

@@ -15,13 +15,13 @@ SettingsFile File() {
 }  // namespace
 
 int GetInt(const std::string& section, const std::string& entry, int fallback) {
-    const auto stored = File().Read()->Get(section, entry);
+    const auto stored = File().Read().Get(section, entry);
     return stored ? ScanInteger(*stored).value_or(fallback) : fallback;
 }
 
 std::string GetString(const std::string& section, const std::string& entry,
                       const std::string& fallback) {
-    return File().Read()->Get(section, entry).value_or(fallback);
+    return File().Read().Get(section, entry).value_or(fallback);
 }
 
 bool WriteInt(const std::string& section, const std::string& entry, int value) {

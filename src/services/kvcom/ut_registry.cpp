@@ -65,7 +65,7 @@ std::string FolderPath(const Folder& folder, const std::string& stored) {
 }
 
 void MapDrives() {
-    for (const auto& [name, root] : File().Read()->Entries(kDrivesPath)) {
+    for (const auto& [name, root] : File().Read().Entries(kDrivesPath)) {
         const bool letter = name.size() == 1 || (name.size() == 2 && name[1] == ':');
         if (letter && root.starts_with('/')) {
             kv::MapDrive(name[0], root);
@@ -98,7 +98,7 @@ std::string CKvUtRegistry::S_GetWorkKey() {
 
 std::string CKvUtRegistry::GetRegistry(const std::string& path, const std::string& key,
                                        bool /*user*/) const {
-    const std::string stored = File().Read()->Get(path, key).value_or("");
+    const std::string stored = File().Read().Get(path, key).value_or("");
     if (const Folder* folder = FindFolder(path, key)) return FolderPath(*folder, stored);
     return stored.empty() ? DefaultValue(path, key) : stored;
 }
