@@ -154,7 +154,7 @@ TEST_F(WorkbenchTest, AClickOnTheMapPicksTheBlockInTheBar) {
 
 TEST_F(WorkbenchTest, ABlockInStateWaterIsPickedWithItsSuffix) {
     Open();
-    const auto& block = *host->Model().FindPick({"42601"}, "9").block;
+    const auto block = *host->Model().FindPick({"42601"}, "9").block;
     host->PickInBar(block);
     EXPECT_EQ(user->Text(kArea), "PS");
     EXPECT_EQ(user->Text(kBlock), "9-S");
