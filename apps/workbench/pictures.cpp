@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QTimer>
 #include <cstdio>
+#include <optional>
 
 #include "pickers/abe_bar_ids.h"
 #include "qt/qt_desktop.h"
@@ -23,6 +24,17 @@ constexpr const char* kSampleLayer = "Wells";
 
 /// How many times something is looked for that does not open, or does not close.
 constexpr int kMostTurns = 200;
+
+/// A block with much in it; of a dataset without it, the first that there is.
+std::optional<BlockRef> BlockToShow(const MapModel& model) {
+    if (const auto pick = model.FindPick({kSampleArea}, kSampleBlock); pick.block) {
+        return pick.block;
+    }
+    for (const auto& area : model.Areas()) {
+        if (area->blocks.Size() > 0) return BlockRef{area.get(), 0};
+    }
+    return {};
+}
 
 void PressRun(MainFrame& frame) {
     kv::WindowSystem::Get().Settle();
@@ -93,8 +105,7 @@ bool SaveDialog(Workbench& host, const adaptors::Adaptor& adaptor, const QDir& f
 void PlaySample(Workbench& host) {
     host.Runner().Finish();
     CVZABEBar& bar = host.Frame().m_bar;
-    bar.SetArea(kSampleArea);
-    bar.SetBlkExt(kSampleBlock);
+    if (const auto block = BlockToShow(host.Model())) host.PickInBar(*block);
     bar.SetRadioState(false);
     PressRun(host.Frame());
     bar.SetRadioState(true);

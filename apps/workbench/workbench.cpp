@@ -56,6 +56,17 @@ private:
     std::function<void()> painted_;
 };
 
+QString Described(const Pick& pick) {
+    if (pick.block) {
+        return QStringLiteral("%1, block %2")
+            .arg(Text(pick.block->area->name), Text(pick.block->Label()));
+    }
+    QStringList names;
+    for (const AreaMap* area : pick.areas)
+        names << Text(area->name);
+    return QStringLiteral("%1, all blocks").arg(names.join(QStringLiteral(", ")));
+}
+
 QString Counted(const ResultTable& table) {
     return QStringLiteral("%1: %L2").arg(QString::fromStdString(table.title)).arg(table.RowCount());
 }
@@ -189,7 +200,17 @@ void Workbench::OnRun() {
 }
 
 void Workbench::RunMap() {
-    ShowOnMap(kv::Split(frame_.m_bar.GetAreacode(false), ','), frame_.m_bar.GetBlk(true));
+    const std::string codes = frame_.m_bar.GetAreacode(false);
+    if (codes.empty()) {
+        Fail(UnknownArea());
+        return;
+    }
+    ShowOnMap(kv::Split(codes, ','), frame_.m_bar.GetBlk(true));
+}
+
+QString Workbench::UnknownArea() const {
+    return tr("The database knows no such block of the area \"%1\".")
+        .arg(Text(frame_.m_bar.GetArea()));
 }
 
 void Workbench::ShowOnMap(const std::vector<std::string>& areaCodes, const std::string& block) {
@@ -205,9 +226,7 @@ void Workbench::ShowOnMap(const std::vector<std::string>& areaCodes, const std::
         return;
     }
     canvas_->ShowPick(pick);
-    status_->Say(
-        pick.block ? tr("%1, block %2").arg(Text(pick.block->area->name), Text(pick.block->Label()))
-                   : tr("%1, all blocks").arg(Text(pick.areas.front()->name)));
+    status_->Say(Described(pick));
 }
 
 void Workbench::RunReport() {
@@ -216,9 +235,14 @@ void Workbench::RunReport() {
         Fail(tr("There is no report of this layer."));
         return;
     }
-    runner_.Begin(std::make_shared<ReportLoader>(
-        *layer, AreaLiterals(frame_.m_bar.GetAreacode(true)), frame_.m_bar.GetBlk(true),
-        [this](ResultTable table) { ShowTable(std::move(table)); }));
+    auto areas = AreaLiterals(frame_.m_bar.GetAreacode(true));
+    if (areas.empty()) {
+        Fail(UnknownArea());
+        return;
+    }
+    runner_.Begin(
+        std::make_shared<ReportLoader>(*layer, std::move(areas), frame_.m_bar.GetBlk(true),
+                                       [this](ResultTable table) { ShowTable(std::move(table)); }));
 }
 
 void Workbench::ShowTable(ResultTable table) {

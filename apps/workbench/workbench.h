@@ -80,6 +80,7 @@ private:
     void OnRun();
     void RunMap();
     void RunReport();
+    QString UnknownArea() const;
     void ShowTable(ResultTable table);
     void Fail(const QString& message);
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -17,6 +18,10 @@ struct DialectForm {
     /// Empty for a query.
     std::string shows = {};
 };
+
+inline void PrintTo(const DialectForm& form, std::ostream* out) {
+    *out << form.name;
+}
 
 /// Statements for an empty database that make small tables and fill them. Plain enough for every
 /// engine. The tables stand in the schema in force.

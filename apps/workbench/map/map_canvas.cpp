@@ -98,6 +98,23 @@ void MapCanvas::ZoomBy(double factor) {
 void MapCanvas::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter_.Draw(painter, model_, view_, layers_, marks_);
+    if (!reachedByKey_) return;
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+    painter.drawRect(rect().adjusted(1, 1, -1, -1));
+}
+
+/// The frame that tells where the keys go is for those who got there by keys.
+void MapCanvas::focusInEvent(QFocusEvent* event) {
+    reachedByKey_ =
+        event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    update();
+}
+
+void MapCanvas::focusOutEvent(QFocusEvent*) {
+    reachedByKey_ = false;
+    update();
 }
 
 void MapCanvas::resizeEvent(QResizeEvent*) {

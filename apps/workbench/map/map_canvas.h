@@ -58,6 +58,8 @@ protected:
     void leaveEvent(QEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void changeEvent(QEvent* event) override;
     bool event(QEvent* event) override;
 
@@ -74,6 +76,7 @@ private:
     MapMarks marks_;
     bool movedByUser_ = false;
     bool dragging_ = false;
+    bool reachedByKey_ = false;
     QPointF pressedAt_;
     QPointF lastAt_;
 };
