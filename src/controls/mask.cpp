@@ -8,7 +8,7 @@ namespace kv {
 
 namespace {
 
-constexpr std::string_view kPlaceholders = "#9?Aa&C";
+constexpr std::string_view kSlots = "#9?Aa&C";
 constexpr std::string_view kRequired = "#?A&";
 
 bool IsLetter(char ch) {
@@ -54,8 +54,8 @@ std::optional<std::vector<Mask::Place>> Mask::Parse(std::string_view pattern) {
         const bool escaped = first == '\\' && pattern.size() > 1;
         if (escaped) pattern.remove_prefix(1);
         const std::size_t size = CharacterSize(pattern);
-        const bool placeholder = !escaped && kPlaceholders.find(first) != std::string_view::npos;
-        if (placeholder) {
+        const bool slot = !escaped && kSlots.find(first) != std::string_view::npos;
+        if (slot) {
             places.push_back({first, letters, ""});
         } else {
             places.push_back({0, letters, std::string(pattern.substr(0, size))});

@@ -12,7 +12,7 @@ namespace kv {
 
 /// A text that is entered place by place by the rules of a mask: what a masked edit holds.
 ///
-/// Each place of the mask is a placeholder or a literal:
+/// Each place of the mask is a slot or a literal:
 ///
 ///     #  a digit                     9  a digit, may stay empty
 ///     ?  a letter                    A  a letter or digit
@@ -51,9 +51,9 @@ public:
     /// The part of the shown text between two offsets, with or without its literals and prompts.
     std::string Clip(int first, int last, bool literals, bool prompts) const;
     bool AnythingEntered() const;
-    /// Whether every placeholder that may not stay empty is filled.
+    /// Whether every slot that may not stay empty is filled.
     bool Complete() const;
-    /// Whether it is complete, and there is no placeholder left at or behind the offset.
+    /// Whether it is complete, and there is no slot left at or behind the offset.
     bool FullAt(int offset) const;
 
     void Clear();
@@ -61,25 +61,25 @@ public:
     /// nothing changed, for any other.
     bool Assign(std::string_view text);
 
-    /// Enters one character at an offset, or in the next placeholder behind it. One that is the
+    /// Enters one character at an offset, or in the next slot behind it. One that is the
     /// next literal leads behind that. Returns the offset behind it, or none when the mask does not
     /// take it.
     std::optional<int> Enter(int offset, std::string_view character);
     /// Enters what the mask takes of a text, and leaves out the rest. Returns the offset behind it.
     int Paste(int offset, std::string_view text);
-    /// Empties the placeholders between two offsets.
+    /// Empties the slots between two offsets.
     void Erase(int first, int last);
-    /// Empties the placeholder that ends at the offset, or the last one ahead of it; returns the
+    /// Empties the slot that ends at the offset, or the last one ahead of it; returns the
     /// offset at which it begins, or the given one where there is none.
     int EraseAhead(int offset);
-    /// Empties the placeholder at the offset, or the first one behind it; returns the offset at
+    /// Empties the slot at the offset, or the first one behind it; returns the offset at
     /// which it ends, or the given one where there is none.
     int EraseBehind(int offset);
 
 private:
     enum class Case { kKept, kUpper, kLower };
     struct Place {
-        char kind = 0;  ///< the placeholder; 0 for a literal
+        char kind = 0;  ///< the slot; 0 for a literal
         Case letters = Case::kKept;
         std::string text;  ///< the literal, or what was entered
     };

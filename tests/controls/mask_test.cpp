@@ -21,7 +21,7 @@ std::string Typed(kv::Mask mask, const std::string& characters) {
     return mask.Shown();
 }
 
-TEST(Mask, EachPlaceholderTakesItsOwnCharacters) {
+TEST(Mask, EachSlotTakesItsOwnCharacters) {
     struct Row {
         const char* pattern;
         const char* taken;
@@ -135,7 +135,7 @@ TEST(Mask, PasteLeavesOutWhatDoesNotFit) {
     EXPECT_EQ(mask.Shown(), "(996) 555-0000");
 }
 
-TEST(Mask, EraseEmptiesPlaceholdersAlone) {
+TEST(Mask, EraseEmptiesSlotsAlone) {
     kv::Mask mask = Of("##-##");
     mask.Assign("12-34");
     mask.Erase(1, 4);
@@ -173,7 +173,7 @@ TEST(Mask, CompleteAsksForWhatMayNotStayEmpty) {
     EXPECT_FALSE(Of("999").FullAt(3));
 }
 
-TEST(Mask, FullAtAsksForAPlaceBehindAllPlaceholders) {
+TEST(Mask, FullAtAsksForAPlaceBehindAllSlots) {
     kv::Mask mask = Of("##-#)");
     mask.Assign("12-3)");
     EXPECT_TRUE(mask.FullAt(4));

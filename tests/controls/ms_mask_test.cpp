@@ -76,7 +76,7 @@ TEST_F(MsMask, ShowsItsMask) {
     });
 }
 
-TEST_F(MsMask, TypingFillsThePlaceholders) {
+TEST_F(MsMask, TypingFillsTheSlots) {
     RunWith("(###) ###-####", [&](kv::User& user) {
         user.Type(kMask, "555x1234567");
         EXPECT_EQ(mask.GetText(), "(555) 123-4567");
@@ -255,7 +255,7 @@ TEST_F(MsMask, SetTextHasToFit) {
     });
 }
 
-TEST_F(MsMask, SetClipTextFillsThePlaceholders) {
+TEST_F(MsMask, SetClipTextFillsTheSlots) {
     RunWith("##-##", [&](kv::User& user) {
         mask.SetText("98-76");
         mask.SetClipText("123");
