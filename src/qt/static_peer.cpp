@@ -40,7 +40,8 @@ bool IsPicture(const Node& node) {
     return kind == SS_ICON || kind == SS_BITMAP;
 }
 
-constexpr int kLeastStretch = 80;
+/// How much narrower a text that finds no room may be drawn before it is cut.
+constexpr double kLeastStretch = 0.8;
 
 class LabelView : public QLabel {
 public:
@@ -84,14 +85,15 @@ private:
         flags |= severalLines ? Qt::AlignTop | Qt::TextWordWrap : Qt::AlignVCenter;
         if (!node.HasStyle(SS_NOPREFIX)) flags |= Qt::TextShowMnemonic;
         QString text = ToQString(node.Text());
+        QRect place = rect();
         const int wanted = severalLines ? 0 : metrics.size(flags, text).width();
         if (wanted > width()) {
-            QFont narrow = font();
-            narrow.setStretch(std::max(kLeastStretch, 100 * width() / wanted));
-            painter.setFont(narrow);
-            text = QFontMetrics(narrow).elidedText(text, Qt::ElideRight, width(), flags);
+            const double narrower = std::max(kLeastStretch, 1.0 * width() / wanted);
+            painter.scale(narrower, 1);
+            place.setWidth(static_cast<int>(width() / narrower) + 1);
+            text = metrics.elidedText(text, Qt::ElideRight, place.width(), flags);
         }
-        style()->drawItemText(&painter, rect(), flags, palette(), isEnabled(), text,
+        style()->drawItemText(&painter, place, flags, palette(), isEnabled(), text,
                               foregroundRole());
     }
 
