@@ -1,9 +1,8 @@
 #include "qualifiers/list_sel.h"
 
-#include <algorithm>
-
 #include "frame/catalogue.h"
 #include "frame/db_abs_data_mgr.h"
+#include "qualifiers/list_rows.h"
 #include "qualifiers/list_sel_ids.h"
 #include "window/combo_box.h"
 #include "window/edit.h"
@@ -175,10 +174,11 @@ void CKvGuiListSel::Search() {
             const int rows = manager.NumberOfRows();
             if (rows == 0) AfxMessageBox("No Matches found!", 0, 0);
             available.ResetContent();
+            RowBeginnings selected(Selected());
             for (int row = 0; row < rows; ++row) {
                 // A row that some row of Selected merely begins with is held back, too.
                 const char* text = manager.GetItem(row, 0);
-                if (Selected().FindString(-1, text) == LB_ERR) available.AddString(text);
+                if (!selected.AnyBeginsWith(text)) available.AddString(text);
             }
         }
     } catch (const CKvException& e) {
@@ -204,34 +204,6 @@ void CKvGuiListSel::Insert() {
         UpdateActionButtons();
     }
     Control<CEdit>(kFind).SetSel(0, -1);
-}
-
-void CKvGuiListSel::MoveSelectedRows(CListBox& from, CListBox& to, bool skipEmpty) {
-    std::vector<int> rows(static_cast<std::size_t>(std::max(from.GetSelCount(), 0)));
-    if (!rows.empty()) from.GetSelItems(static_cast<int>(rows.size()), rows.data());
-
-    std::vector<std::string> moved;
-    moved.reserve(rows.size());
-    CString text;
-    for (const int row : rows) {
-        from.GetText(row, text);
-        if (skipEmpty && text.IsEmpty()) continue;
-        to.AddString(text);
-        moved.push_back(text.str());
-    }
-
-    int last = LB_ERR;
-    for (const std::string& each : moved) {
-        // By the text's beginning; an empty one begins no search.
-        const int row =
-            each.empty() ? from.FindStringExact(-1, "") : from.FindString(-1, each.c_str());
-        if (row == LB_ERR) continue;
-        from.DeleteString(static_cast<UINT>(row));
-        last = row;
-    }
-    if (last != LB_ERR && from.GetCount() > 0) {
-        from.SetSel(std::min(last, from.GetCount() - 1), TRUE);
-    }
 }
 
 void CKvGuiListSel::OnAdd() {
@@ -265,13 +237,7 @@ std::string CKvGuiListSel::CallersText() const {
 }
 
 void CKvGuiListSel::OnOK() {
-    m_pValues->clear();
-    const int count = Selected().GetCount();
-    for (int row = 0; row < count; ++row) {
-        CString text;
-        Selected().GetText(row, text);
-        m_pValues->push_back(text.str());
-    }
+    *m_pValues = RowsOf(Selected());
     if (HasDlgItem(kListFileCheck)) m_bListFile = IsDlgButtonChecked(kListFileCheck) != 0;
     if (CWnd* control = CallersControl()) control->SetWindowText(CallersText().c_str());
     CDialog::OnOK();

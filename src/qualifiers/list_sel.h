@@ -104,7 +104,6 @@ private:
     void Search();
     void ShowFound(int row, const std::string& text);
     void Insert();
-    void MoveSelectedRows(CListBox& from, CListBox& to, bool skipEmpty);
     bool WriteQualifiers(const std::string& path) const;
     std::string CallersText() const;
 

@@ -4,6 +4,7 @@
 #include "frame/log.h"
 #include "frame/misc.h"
 #include "frame/ut_registry.h"
+#include "qualifiers/list_rows.h"
 #include "qualifiers/list_sel.h"
 #include "qualifiers/list_sel_ids.h"
 #include "qualifiers/qualifier_file.h"
@@ -97,11 +98,8 @@ void CKvGuiListSel::OnExportButton() {
 bool CKvGuiListSel::WriteQualifiers(const std::string& path) const {
     kv::FileWriter file;
     if (!file.Open(path)) return false;
-    const int count = Selected().GetCount();
-    for (int row = 0; row < count; ++row) {
-        CString text;
-        Selected().GetText(row, text);
-        if (!file.Write(text.str() + "\n")) return false;
+    for (const std::string& row : RowsOf(Selected())) {
+        if (!file.Write(row + "\n")) return false;
     }
     return file.Commit();
 }
