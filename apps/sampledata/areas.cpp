@@ -1,7 +1,5 @@
 #include "sampledata/areas.h"
 
-#include "sampledata/projections.h"
-
 namespace kv::sample {
 namespace {
 

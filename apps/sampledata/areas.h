@@ -5,6 +5,15 @@
 
 namespace kv::sample {
 
+/// Projection codes that the areas are laid out on.
+inline constexpr int kTexasSouthCentral = 1;
+inline constexpr int kTexasSouth = 2;
+inline constexpr int kLouisianaSouth = 3;
+inline constexpr int kUtm14 = 114;
+inline constexpr int kUtm15 = 115;
+inline constexpr int kUtm16 = 116;
+inline constexpr int kUtm17 = 117;
+
 /// How the blocks of an area are laid out and numbered.
 enum class Layout {
     kProtraction,      ///< 4,800 m squares, 44 numbers to a row

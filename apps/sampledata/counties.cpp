@@ -1,7 +1,7 @@
 #include "sampledata/counties.h"
 
+#include "sampledata/areas.h"
 #include "sampledata/geo_point.h"
-#include "sampledata/projections.h"
 
 namespace kv::sample {
 namespace {

@@ -5,8 +5,8 @@
 #include "sampledata/counties.h"
 #include "sampledata/leases.h"
 #include "sampledata/pipelines.h"
-#include "sampledata/projections.h"
 #include "sampledata/wells.h"
+#include "services/kvcom/projection_zones.h"
 
 namespace kv::sample {
 namespace {
@@ -33,7 +33,7 @@ void WriteAreas(Sink& sink) {
 
 void WriteZones(Sink& sink) {
     sink.Begin(TableNamed("gulf_mexico_zone_code"));
-    for (const Zone& zone : Zones()) {
+    for (const coord::Zone& zone : coord::Zones()) {
         sink.Add({std::to_string(zone.code), zone.description, zone.category,
                   zone.statePlaneCode ? std::to_string(zone.statePlaneCode) : "", zone.definition});
     }

@@ -9,7 +9,7 @@
 #include <stdexcept>
 #include <string>
 
-#include "sampledata/projections.h"
+#include "services/kvcom/projection_zones.h"
 
 namespace kv::sample {
 namespace {
@@ -25,13 +25,6 @@ struct Planar {
     double x;
     double y;
 };
-
-std::string Definition(int projection) {
-    if (projection < 100) return FindZone(projection)->definition;
-    const int zone = projection % 100;
-    return "+proj=utm +zone=" + std::to_string(zone) + " " +
-           FindZone(projection - zone)->definition;
-}
 
 class Projection {
 public:
@@ -58,7 +51,7 @@ private:
     };
 
     static PJ* Create(PJ_CONTEXT* context, int code) {
-        PJ* created = proj_create(context, Definition(code).c_str());
+        PJ* created = proj_create(context, coord::DefinitionOf(code).c_str());
         if (!created) throw std::runtime_error("PROJ refuses projection " + std::to_string(code));
         return created;
     }

@@ -36,8 +36,17 @@ public:
     static bool S_GetLLBounds(std::string area, std::string block, std::string ext,
                               CMinMax2Dd_t& out, std::string dataset);
 
+    /// The same as X/Y in a projection, around every corner of the outlines; `nUnits` 0 gives feet,
+    /// 1 meters. A Straight Mercator code needs its rectifying point set. False, with `out`
+    /// untouched, also where a corner has no X/Y.
+    static bool S_GetXYBounds(std::string area, std::string block, std::string ext,
+                              CMinMax2Dd_t& out, int nProjection, std::string dataset, int nUnits);
+
     /// Bounds of a county, by its identifier. As above.
     static bool S_GetLLBoundsOnshore(std::string county, CMinMax2Dd_t& out);
+    /// In X/Y they hold the whole box of latitude and longitude, whose sides are curves there.
+    static bool S_GetXYBoundsOnshore(std::string county, CMinMax2Dd_t& out, int nProjection,
+                                     bool bFeet);
 
     /// The usual projection code of an area, -1 when the area is unknown.
     static int S_GetProjectionByArea(std::string area, std::string dataset);

@@ -68,6 +68,14 @@ public:
     /// Sets X and Y maximum to the minimum plus the numbers of these texts.
     void UpdateXYMax(const std::string& width, const std::string& height);
 
+    /// X/Y minimum and maximum from the corners of least and of greatest latitude and longitude, in
+    /// the record's projection and units. The rectifying point, unless the user named it, becomes
+    /// the middle of the angles, and is handed to the coordinate driver. False, with X/Y unchanged,
+    /// where the driver has no answer for a corner.
+    bool PopulateXY();
+    /// The reverse, with the rectifying point that the record holds.
+    bool PopulateLL();
+
     bool GetFeet() const { return m_bFeet; }
     void SetFeet(bool feet) { m_bFeet = feet; }
     /// Whether X/Y bounds the map, or latitude/longitude.
@@ -142,6 +150,7 @@ private:
     };
     static Corner CornerOf(Texts texts);
     static Texts TextsOf(double lat, double lon, const Corner& corner);
+    void UseRectifyingPoint() const;
 
     Range m_tX;
     Range m_tY;

@@ -5,6 +5,8 @@
 
 #include <cmath>
 
+#include "frame/util_lldrv.h"
+
 namespace {
 
 using testing::ElementsAre;
@@ -214,6 +216,85 @@ TEST(MapBounds, AWidthAndHeightInMapUnitsSetTheMaximum) {
     bounds.UpdateXYMax("", "wrong");
     EXPECT_EQ(bounds.GetXMax(), 1000.5);
     EXPECT_EQ(bounds.GetYMax(), -200.0);
+}
+
+/// A map of some blocks in Green Canyon, in degrees.
+CKvMapBounds GreenCanyon() {
+    CKvMapBounds bounds;
+    bounds.SetPrimeProj(115);
+    bounds.SetLatMin(27.5);
+    bounds.SetLatMax(27.75);
+    bounds.SetLonMin(-91.25);
+    bounds.SetLonMax(-91.0);
+    return bounds;
+}
+
+TEST(MapBounds, XyComesFromTheCornersInTheRecordsUnits) {
+    CKvMapBounds bounds = GreenCanyon();
+    ASSERT_TRUE(bounds.PopulateXY());
+    double x = 0.0;
+    double y = 0.0;
+    CKvUtilLLdrv::LLdrv(27.5, -91.25, &x, &y, 115, 0, 1, 100.0, 0.0, 0.0);
+    EXPECT_EQ(bounds.GetXMin(), x);
+    EXPECT_EQ(bounds.GetYMin(), y);
+    CKvUtilLLdrv::LLdrv(27.75, -91.0, &x, &y, 115, 0, 1, 100.0, 0.0, 0.0);
+    EXPECT_EQ(bounds.GetXMax(), x);
+    EXPECT_EQ(bounds.GetYMax(), y);
+
+    bounds.SetFeet(false);
+    ASSERT_TRUE(bounds.PopulateXY());
+    EXPECT_NEAR(bounds.GetXMax(), x * 1200.0 / 3937.0, 1e-6);
+}
+
+TEST(MapBounds, AnglesComeBackFromXy) {
+    CKvMapBounds bounds = GreenCanyon();
+    bounds.PopulateXY();
+    bounds.SetLatMin(0.0);
+    bounds.SetLonMax(0.0);
+    ASSERT_TRUE(bounds.PopulateLL());
+    EXPECT_NEAR(bounds.GetLatMin(), 27.5, 1e-9);
+    EXPECT_NEAR(bounds.GetLatMax(), 27.75, 1e-9);
+    EXPECT_NEAR(bounds.GetLonMin(), -91.25, 1e-9);
+    EXPECT_NEAR(bounds.GetLonMax(), -91.0, 1e-9);
+}
+
+TEST(MapBounds, TheMiddleOfTheMapRectifiesAStraightMercatorMap) {
+    CKvMapBounds bounds = GreenCanyon();
+    bounds.SetPrimeProj(199);
+    ASSERT_TRUE(bounds.PopulateXY());
+    EXPECT_EQ(bounds.GetRectifyingLat(), 27.625);
+    EXPECT_EQ(bounds.GetRectifyingLon(), -91.125);
+    EXPECT_NEAR(bounds.GetXMin(), -bounds.GetXMax(), 1e-6);
+    ASSERT_TRUE(bounds.PopulateLL());
+    EXPECT_NEAR(bounds.GetLonMin(), -91.25, 1e-9);
+}
+
+TEST(MapBounds, ARectifyingPointOfTheUsersStays) {
+    CKvMapBounds bounds = GreenCanyon();
+    bounds.SetPrimeProj(199);
+    bounds.SetRectSpec(true);
+    bounds.SetRectifyingLat(0.0);
+    bounds.SetRectifyingLon(-91.25);
+    ASSERT_TRUE(bounds.PopulateXY());
+    EXPECT_EQ(bounds.GetRectifyingLon(), -91.25);
+    EXPECT_NEAR(bounds.GetXMin(), 0.0, 1e-6);
+}
+
+TEST(MapBounds, WithoutAnAnswerOfTheDriverNothingIsLost) {
+    CKvMapBounds bounds = GreenCanyon();
+    bounds.PopulateXY();
+    const CKvMapBounds before = bounds;
+    bounds.SetLatMax(1000.0);
+    EXPECT_FALSE(bounds.PopulateXY());
+    EXPECT_EQ(bounds.GetXMin(), before.GetXMin());
+    EXPECT_EQ(bounds.GetYMax(), before.GetYMax());
+
+    bounds = before;
+    bounds.SetPrimeProj(-1);
+    EXPECT_FALSE(bounds.PopulateXY());
+    EXPECT_FALSE(bounds.PopulateLL());
+    EXPECT_EQ(bounds.GetLatMin(), 27.5);
+    EXPECT_EQ(bounds.GetXMax(), before.GetXMax());
 }
 
 }  // namespace

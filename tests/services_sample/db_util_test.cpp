@@ -8,8 +8,8 @@
 #include <filesystem>
 
 #include "frame/db_dataset_set.h"
+#include "frame/util_lldrv.h"
 #include "sampledata/blocks.h"
-#include "sampledata/projections.h"
 #include "support/database_helpers.h"
 #include "support/sqlite_file.h"
 #include "support/temp_folder.h"
@@ -163,6 +163,78 @@ TEST_F(DbUtil, BoundsAWholeAreaForAll) {
         eastCameron.insert(eastCameron.end(), part.begin(), part.end());
     }
     ExpectBoundsOf(eastCameron, bounds_);
+}
+
+/// What the corners of the blocks project to.
+CMinMax2Dd_t ProjectedBoundsOf(const std::vector<const Block*>& blocks, int projection, int units) {
+    CMinMax2Dd_t bounds{1e300, -1e300, 1e300, -1e300};
+    for (const Block* block : blocks) {
+        for (const kv::sample::GeoPoint& corner : block->outline) {
+            double x = 0.0;
+            double y = 0.0;
+            CKvUtilLLdrv::LLdrv(static_cast<double>(corner.lat) / kv::sample::kUnitsPerDegree,
+                                static_cast<double>(corner.lon) / kv::sample::kUnitsPerDegree, &x,
+                                &y, projection, units, 1, 100.0, 0.0, 0.0);
+            bounds = {std::min(bounds.minX, x), std::max(bounds.maxX, x), std::min(bounds.minY, y),
+                      std::max(bounds.maxY, y)};
+        }
+    }
+    return bounds;
+}
+
+void ExpectNear(const CMinMax2Dd_t& found, const CMinMax2Dd_t& expected) {
+    constexpr double kClose = 1e-3;
+    EXPECT_NEAR(found.minX, expected.minX, kClose);
+    EXPECT_NEAR(found.maxX, expected.maxX, kClose);
+    EXPECT_NEAR(found.minY, expected.minY, kClose);
+    EXPECT_NEAR(found.maxY, expected.maxY, kClose);
+}
+
+TEST_F(DbUtil, BoundsABlockInXy) {
+    const std::vector<const Block*> blocks = BlocksOf(CodeOf("GREEN CANYON"), 500, "");
+    for (const int units : {0, 1}) {
+        ASSERT_TRUE(CKvDbUtil::S_GetXYBounds("GC", "500", " ", bounds_, 115, "", units));
+        ExpectNear(bounds_, ProjectedBoundsOf(blocks, 115, units));
+    }
+    // Laid out as a square of 4,800 metres in its own projection.
+    EXPECT_NEAR(bounds_.maxX - bounds_.minX, 4800.0, 0.05);
+    EXPECT_NEAR(bounds_.maxY - bounds_.minY, 4800.0, 0.05);
+    ASSERT_TRUE(CKvDbUtil::S_GetXYBounds("GC", "500", " ", bounds_, -1702, "", 0));
+    ExpectNear(bounds_, ProjectedBoundsOf(blocks, 3, 0));
+}
+
+TEST_F(DbUtil, BoundsAWholeAreaInXy) {
+    ASSERT_TRUE(CKvDbUtil::S_GetXYBounds("GC", "ALL", "", bounds_, 115, "", 0));
+    ExpectNear(bounds_, ProjectedBoundsOf(BlocksOf(CodeOf("GREEN CANYON"), 0, ""), 115, 0));
+}
+
+TEST_F(DbUtil, BoundsACountyInXyAroundItsCurvedSides) {
+    CMinMax2Dd_t angles;
+    ASSERT_TRUE(CKvDbUtil::S_GetLLBoundsOnshore("48167", angles));
+    ASSERT_TRUE(CKvDbUtil::S_GetXYBoundsOnshore("48167", bounds_, 1, true));
+    for (const double lat : {angles.minX, angles.maxX}) {
+        for (const double lon : {angles.minY, angles.maxY}) {
+            double x = 0.0;
+            double y = 0.0;
+            CKvUtilLLdrv::LLdrv(lat, lon, &x, &y, 1, 0, 1, 100.0, 0.0, 0.0);
+            EXPECT_GE(x, bounds_.minX);
+            EXPECT_LE(x, bounds_.maxX);
+            EXPECT_GE(y, bounds_.minY);
+            EXPECT_LE(y, bounds_.maxY);
+        }
+    }
+    CMinMax2Dd_t meters;
+    ASSERT_TRUE(CKvDbUtil::S_GetXYBoundsOnshore("48167", meters, 1, false));
+    EXPECT_NEAR(meters.maxX, bounds_.maxX * 1200.0 / 3937.0, 1e-6);
+}
+
+TEST_F(DbUtil, LeavesTheXyBoundsAloneWhereThereIsNothing) {
+    EXPECT_FALSE(CKvDbUtil::S_GetXYBounds("GC", "99999", " ", bounds_, 115, "", 0));
+    EXPECT_FALSE(CKvDbUtil::S_GetXYBounds("ZZ", "ALL", "", bounds_, 115, "", 0));
+    EXPECT_FALSE(CKvDbUtil::S_GetXYBounds("GC", "500", " ", bounds_, -1, "", 0));
+    EXPECT_FALSE(CKvDbUtil::S_GetXYBoundsOnshore("99999", bounds_, 1, true));
+    EXPECT_FALSE(CKvDbUtil::S_GetXYBoundsOnshore("48167", bounds_, 161, true));
+    EXPECT_EQ(bounds_, (CMinMax2Dd_t{1, 2, 3, 4}));
 }
 
 TEST_F(DbUtil, LeavesTheBoundsAloneWhereThereIsNothing) {

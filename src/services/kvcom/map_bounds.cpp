@@ -4,6 +4,8 @@
 #include <tuple>
 #include <utility>
 
+#include "frame/angle.h"
+#include "frame/util_lldrv.h"
 #include "window/numbers.h"
 #include "window/text.h"
 
@@ -14,23 +16,23 @@ using AngleTexts = std::array<std::string, 3>;
 constexpr double kNoAngle = 1000.0;
 
 AngleTexts Split(double angle) {
-    // Nothing finer than six significant digits show of the seconds, so that these never read 60.
-    constexpr double kPartsOfSecond = 10000.0;
-    const double size = std::abs(angle);
-    if (!(size < kNoAngle)) return {};
-    const double parts = std::round(size * 3600.0 * kPartsOfSecond);
-    const double minutes = std::floor(parts / (60.0 * kPartsOfSecond));
-    const double degrees = std::floor(minutes / 60.0);
-    const double seconds = (parts - minutes * 60.0 * kPartsOfSecond) / kPartsOfSecond;
-    const char* sign = angle < 0.0 && parts > 0.0 ? "-" : "";
-    return {sign + kv::FormatFixed(degrees, 0), kv::FormatFixed(minutes - degrees * 60.0, 0),
-            kv::FormatStream(seconds)};
+    // Nothing finer than six significant digits show of the seconds.
+    constexpr int kDecimals = 4;
+    if (!(std::abs(angle) < kNoAngle)) return {};
+    const kv::AngleParts parts = kv::SplitAngle(angle, kDecimals);
+    return {(parts.negative ? "-" : "") + std::to_string(parts.degrees),
+            std::to_string(parts.minutes), kv::FormatStream(parts.seconds)};
 }
 
 double Join(const std::string& degrees, const std::string& minutes, const std::string& seconds) {
     const double angle =
         std::abs(kv::Atof(degrees)) + kv::Atof(minutes) / 60.0 + kv::Atof(seconds) / 3600.0;
     return kv::TrimSpace(degrees).starts_with('-') ? -angle : angle;
+}
+
+/// Units of X and Y, as the coordinate driver has them.
+int DriverUnits(bool feet) {
+    return feet ? 0 : 1;
 }
 
 }  // namespace
@@ -94,6 +96,51 @@ void CKvMapBounds::UpdateLLMax(const std::string& heightDeg, const std::string& 
 void CKvMapBounds::UpdateXYMax(const std::string& width, const std::string& height) {
     m_tX.maximum = m_tX.minimum + kv::Atof(width);
     m_tY.maximum = m_tY.minimum + kv::Atof(height);
+}
+
+void CKvMapBounds::UseRectifyingPoint() const {
+    CKvUtilLLdrv::SetRectLat(m_dRectifyingLat);
+    CKvUtilLLdrv::SetRectLon(m_dRectifyingLon);
+}
+
+bool CKvMapBounds::PopulateXY() {
+    if (!m_bRectSpec) {
+        m_dRectifyingLat = (m_tLat.minimum + m_tLat.maximum) * 0.5;
+        m_dRectifyingLon = (m_tLon.minimum + m_tLon.maximum) * 0.5;
+    }
+    UseRectifyingPoint();
+    Range x;
+    Range y;
+    const auto project = [&](double lat, double lon, double& toX, double& toY) {
+        CKvUtilLLdrv::LLdrv(lat, lon, &toX, &toY, m_nPrimeProj, DriverUnits(m_bFeet), 1, 100.0, 0.0,
+                            0.0);
+        return toX != CKvUtilLLdrv::kNoXY;
+    };
+    if (!project(m_tLat.minimum, m_tLon.minimum, x.minimum, y.minimum) ||
+        !project(m_tLat.maximum, m_tLon.maximum, x.maximum, y.maximum)) {
+        return false;
+    }
+    m_tX = x;
+    m_tY = y;
+    return true;
+}
+
+bool CKvMapBounds::PopulateLL() {
+    UseRectifyingPoint();
+    Range lat;
+    Range lon;
+    const auto invert = [&](double x, double y, double& toLat, double& toLon) {
+        CKvUtilLLdrv::XYdrv(x, y, &toLat, &toLon, m_nPrimeProj, DriverUnits(m_bFeet), 1, 100.0, 0.0,
+                            0.0);
+        return std::isfinite(toLat);
+    };
+    if (!invert(m_tX.minimum, m_tY.minimum, lat.minimum, lon.minimum) ||
+        !invert(m_tX.maximum, m_tY.maximum, lat.maximum, lon.maximum)) {
+        return false;
+    }
+    m_tLat = lat;
+    m_tLon = lon;
+    return true;
 }
 
 void CKvMapBounds::ResetABEVec() {

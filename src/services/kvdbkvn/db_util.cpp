@@ -1,10 +1,15 @@
 #include "frame/db_util.h"
 
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
 #include "frame/catalogue.h"
 #include "frame/db_abs_data_mgr.h"
 #include "frame/db_dataset_set.h"
 #include "frame/log.h"
 #include "frame/table_owner.h"
+#include "frame/util_lldrv.h"
 #include "window/numbers.h"
 #include "window/text.h"
 
@@ -16,6 +21,9 @@ using kv::catalogue::kBlockTable;
 using kv::catalogue::kVertexTable;
 
 constexpr int kLogLevel = 101;
+/// Units of X and Y, as the coordinate driver has them.
+constexpr int kFeet = 0;
+constexpr int kMeters = 1;
 constexpr const char* kProjectionTable = "_area_projection";
 constexpr const char* kCountyTable = ".nvd2000_county";
 
@@ -135,19 +143,72 @@ bool ReadBounds(CKvDbAbsDataMgr& manager, const std::string& sql, CMinMax2Dd_t& 
     return true;
 }
 
-std::string BoundsOfVertices(const std::string& dataset, const std::string& condition) {
-    return "select min(lat), max(lat), min(lon), max(lon) from " + TableOf(dataset, kVertexTable) +
+/// What picks the corners of a place out of the vertex table; empty where there is no such place.
+std::string CornersOf(CKvDbAbsDataMgr& manager, const std::string& dataset, const std::string& area,
+                      const std::string& block, const std::string& ext) {
+    const std::vector<std::string> areaCodes = AreaCodesOf(manager, dataset, area);
+    if (areaCodes.empty()) return "";
+    if (block == kAllBlocks) {
+        return "refnum in (select refnum from " + TableOf(dataset, kBlockTable) +
+               " where areacode in " + QuotedList(areaCodes) + ")";
+    }
+    const std::string label = kv::Trim(block) + kv::Trim(ext);
+    const std::vector<Found> blocks = BlocksIn(manager, dataset, areaCodes, label);
+    const Found* found = Meant(blocks, label);
+    return found ? "refnum = " + found->refnum : "";
+}
+
+std::string FromCorners(const char* columns, const std::string& dataset,
+                        const std::string& condition) {
+    return std::string("select ") + columns + " from " + TableOf(dataset, kVertexTable) +
            " where " + condition;
 }
 
-bool BoundsOfArea(CKvDbAbsDataMgr& manager, const std::string& dataset,
-                  const std::vector<std::string>& areaCodes, CMinMax2Dd_t& out) {
-    return ReadBounds(
-        manager,
-        BoundsOfVertices(dataset, "refnum in (select refnum from " + TableOf(dataset, kBlockTable) +
-                                      " where areacode in " + QuotedList(areaCodes) + ")"),
-        out);
-}
+/// Bounds in X/Y around positions.
+class ProjectedBounds {
+public:
+    ProjectedBounds(int projection, int units) : projection_(projection), units_(units) {}
+
+    void Add(double lat, double lon) {
+        double x = 0.0;
+        double y = 0.0;
+        CKvUtilLLdrv::LLdrv(lat, lon, &x, &y, projection_, units_, 1, 100.0, 0.0, 0.0);
+        if (x == CKvUtilLLdrv::kNoXY) missed_ = true;
+        bounds_ = {std::min(bounds_.minX, x), std::max(bounds_.maxX, x), std::min(bounds_.minY, y),
+                   std::max(bounds_.maxY, y)};
+    }
+
+    /// The sides of a box of latitude and longitude.
+    void AddBox(const CMinMax2Dd_t& angles) {
+        // Between two of so many points a side strays from the straight by less than the width of a
+        // line on the map.
+        constexpr int kPartsOfSide = 64;
+        for (int part = 0; part <= kPartsOfSide; ++part) {
+            const double share = static_cast<double>(part) / kPartsOfSide;
+            const double lat = std::lerp(angles.minX, angles.maxX, share);
+            const double lon = std::lerp(angles.minY, angles.maxY, share);
+            Add(lat, angles.minY);
+            Add(lat, angles.maxY);
+            Add(angles.minX, lon);
+            Add(angles.maxX, lon);
+        }
+    }
+
+    /// False, with `out` untouched, if there was no position, or one without X/Y.
+    bool Take(CMinMax2Dd_t& out) const {
+        if (missed_ || bounds_.minX > bounds_.maxX) return false;
+        out = bounds_;
+        return true;
+    }
+
+private:
+    static constexpr double kFar = std::numeric_limits<double>::infinity();
+
+    int projection_;
+    int units_;
+    bool missed_ = false;
+    CMinMax2Dd_t bounds_{kFar, -kFar, kFar, -kFar};
+};
 
 /// A county's row: the columns, and the condition that finds it.
 std::string CountyQuery(const char* columns, const std::string& county) {
@@ -195,14 +256,22 @@ std::string CKvDbUtil::S_GetAreacodeFromMMSandBlk(const std::string& mmsCode,
 bool CKvDbUtil::S_GetLLBounds(std::string area, std::string block, std::string ext,
                               CMinMax2Dd_t& out, std::string dataset) {
     return LookUp(false, [&](CKvDbAbsDataMgr& manager) {
-        const std::vector<std::string> areaCodes = AreaCodesOf(manager, dataset, area);
-        if (areaCodes.empty()) return false;
-        if (block == kAllBlocks) return BoundsOfArea(manager, dataset, areaCodes, out);
-        const std::string label = kv::Trim(block) + kv::Trim(ext);
-        const std::vector<Found> blocks = BlocksIn(manager, dataset, areaCodes, label);
-        const Found* found = Meant(blocks, label);
-        return found &&
-               ReadBounds(manager, BoundsOfVertices(dataset, "refnum = " + found->refnum), out);
+        const std::string corners = CornersOf(manager, dataset, area, block, ext);
+        constexpr const char* kBounds = "min(lat), max(lat), min(lon), max(lon)";
+        return !corners.empty() && ReadBounds(manager, FromCorners(kBounds, dataset, corners), out);
+    });
+}
+
+bool CKvDbUtil::S_GetXYBounds(std::string area, std::string block, std::string ext,
+                              CMinMax2Dd_t& out, int nProjection, std::string dataset, int nUnits) {
+    return LookUp(false, [&](CKvDbAbsDataMgr& manager) {
+        const std::string corners = CornersOf(manager, dataset, area, block, ext);
+        if (corners.empty()) return false;
+        manager.Select(FromCorners("lat, lon", dataset, corners));
+        ProjectedBounds bounds(nProjection, nUnits);
+        for (int row = 0; row < manager.NumberOfRows(); ++row)
+            bounds.Add(kv::Atof(manager.GetItem(row, 0)), kv::Atof(manager.GetItem(row, 1)));
+        return bounds.Take(out);
     });
 }
 
@@ -210,6 +279,15 @@ bool CKvDbUtil::S_GetLLBoundsOnshore(std::string county, CMinMax2Dd_t& out) {
     return LookUp(false, [&](CKvDbAbsDataMgr& manager) {
         return ReadBounds(manager, CountyQuery("min_lat, max_lat, min_lon, max_lon", county), out);
     });
+}
+
+bool CKvDbUtil::S_GetXYBoundsOnshore(std::string county, CMinMax2Dd_t& out, int nProjection,
+                                     bool bFeet) {
+    CMinMax2Dd_t angles;
+    if (!S_GetLLBoundsOnshore(county, angles)) return false;
+    ProjectedBounds bounds(nProjection, bFeet ? kFeet : kMeters);
+    bounds.AddBox(angles);
+    return bounds.Take(out);
 }
 
 int CKvDbUtil::S_GetProjectionByArea(std::string area, std::string dataset) {

@@ -6,15 +6,15 @@
 #include <set>
 #include <string>
 
-#include "sampledata/projections.h"
+#include "services/kvcom/projection_zones.h"
 
 namespace test {
 namespace {
 
-using kv::sample::Zone;
-using kv::sample::Zones;
+using kv::coord::Zone;
+using kv::coord::Zones;
 
-TEST(SampleZones, OpenWithTheThreeFavourites) {
+TEST(ProjectionZones, OpenWithTheThreeFavourites) {
     EXPECT_STREQ(Zones()[0].description, "Texas South Central");
     EXPECT_STREQ(Zones()[1].description, "Texas South");
     EXPECT_STREQ(Zones()[2].description, "Louisiana South");
@@ -23,7 +23,7 @@ TEST(SampleZones, OpenWithTheThreeFavourites) {
     EXPECT_EQ(Zones()[2].statePlaneCode, 1702);
 }
 
-TEST(SampleZones, HaveRowsOfEveryCategory) {
+TEST(ProjectionZones, HaveRowsOfEveryCategory) {
     std::map<std::string, int> rows;
     for (const Zone& zone : Zones())
         ++rows[zone.category];
@@ -38,7 +38,7 @@ TEST(SampleZones, HaveRowsOfEveryCategory) {
     EXPECT_GE(rows["misc_other"], 5);
 }
 
-TEST(SampleZones, StandInTheRangesOfTheirCodes) {
+TEST(ProjectionZones, StandInTheRangesOfTheirCodes) {
     int before = 0;
     for (const Zone& zone : Zones()) {
         EXPECT_GT(zone.code, before);
@@ -52,14 +52,14 @@ TEST(SampleZones, StandInTheRangesOfTheirCodes) {
     }
 }
 
-TEST(SampleZones, AreFoundByTheirCode) {
-    ASSERT_TRUE(kv::sample::FindZone(100));
-    EXPECT_STREQ(kv::sample::FindZone(100)->description, "Clarke 1866");
-    EXPECT_EQ(kv::sample::FindZone(115), nullptr);
-    EXPECT_EQ(kv::sample::FindZone(99999), nullptr);
+TEST(ProjectionZones, AreFoundByTheirCode) {
+    ASSERT_TRUE(kv::coord::FindZone(100));
+    EXPECT_STREQ(kv::coord::FindZone(100)->description, "Clarke 1866");
+    EXPECT_EQ(kv::coord::FindZone(115), nullptr);
+    EXPECT_EQ(kv::coord::FindZone(99999), nullptr);
 }
 
-TEST(SampleZones, HaveEachStatePlaneCodeOnce) {
+TEST(ProjectionZones, HaveEachStatePlaneCodeOnce) {
     std::set<int> codes;
     for (const Zone& zone : Zones()) {
         if (zone.statePlaneCode) {
@@ -70,7 +70,7 @@ TEST(SampleZones, HaveEachStatePlaneCodeOnce) {
     EXPECT_TRUE(codes.contains(4203));
 }
 
-TEST(SampleZones, AreDefinedAsProjReadsThem) {
+TEST(ProjectionZones, AreDefinedAsProjReadsThem) {
     for (const Zone& zone : Zones()) {
         const std::string definition = zone.code >= 100 && zone.code < 5000
                                            ? std::string("+proj=utm +zone=15 ") + zone.definition
@@ -82,8 +82,8 @@ TEST(SampleZones, AreDefinedAsProjReadsThem) {
 }
 
 /// X of the central meridian at the latitude of origin: the false easting.
-TEST(SampleZones, PutTheirOriginWhereItBelongs) {
-    PJ* projection = proj_create(PJ_DEFAULT_CTX, kv::sample::FindZone(3)->definition);
+TEST(ProjectionZones, PutTheirOriginWhereItBelongs) {
+    PJ* projection = proj_create(PJ_DEFAULT_CTX, kv::coord::FindZone(3)->definition);
     constexpr double kRadians = 0.017453292519943295;
     const PJ_COORD place =
         proj_trans(projection, PJ_FWD,

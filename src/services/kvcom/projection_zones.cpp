@@ -1,9 +1,16 @@
-#include "sampledata/projections.h"
+#include "services/kvcom/projection_zones.h"
 
 #include <algorithm>
+#include <charconv>
 
-namespace kv::sample {
+namespace kv::coord {
 namespace {
+
+/// Codes of a spheroid's row and, behind it, of its UTM zones.
+constexpr int kFirstSpheroid = 100;
+constexpr int kLastSpheroid = 4999;
+constexpr int kCodesOfSpheroid = 100;
+constexpr int kUtmZones = 60;
 
 constexpr const char* kStateLambert = "state_lambert";
 constexpr const char* kStateTransverse = "state_trans_mercator";
@@ -535,9 +542,9 @@ constexpr Zone kZones[] = {
      "+proj=poly +lat_0=0 +lon_0=-54 +x_0=5000000 +y_0=10000000 +ellps=aust_SA"},
     {5507, "New Zealand Map Grid", kMiscOther, 0,
      "+proj=nzmg +lat_0=-41 +lon_0=173 +x_0=2510000 +y_0=6023150 +ellps=intl"},
-    {5508, "Madagascar Laborde", kMiscOther, 0,
-     "+proj=labrd +lat_0=-18.9 +lon_0=46.4372291666667 +azi=18.9 +k_0=0.9995 +x_0=400000 "
-     "+y_0=800000 +ellps=intl"},
+    {5508, "Madagascar Oblique Mercator", kMiscOther, 0,
+     "+proj=omerc +lat_0=-18.9 +lonc=46.4372291666667 +alpha=18.9 +gamma=18.9 +k_0=0.9995 "
+     "+x_0=400000 +y_0=800000 +ellps=intl"},
     {5509, "United States Albers", kMiscOther, 0,
      "+proj=aea +lat_0=23 +lon_0=-96 +lat_1=29.5 +lat_2=45.5 +ellps=GRS80"},
     {5510, "Alaska Albers", kMiscOther, 0,
@@ -550,6 +557,16 @@ constexpr Zone kZones[] = {
      "+lat_0=13.4724663527778"},
 };
 
+bool IsSpheroid(int code) {
+    return code >= kFirstSpheroid && code <= kLastSpheroid;
+}
+
+/// The shortest text that reads back as the same number.
+std::string Exact(double number) {
+    char text[32];
+    return {text, std::to_chars(text, std::end(text), number).ptr};
+}
+
 }  // namespace
 
 std::span<const Zone> Zones() {
@@ -561,4 +578,30 @@ const Zone* FindZone(int code) {
     return found != std::end(kZones) && found->code == code ? found : nullptr;
 }
 
-}  // namespace kv::sample
+const Zone* FindStatePlane(int statePlaneCode) {
+    if (statePlaneCode == 0) return nullptr;
+    const Zone* found = std::ranges::find(kZones, statePlaneCode, &Zone::statePlaneCode);
+    return found != std::end(kZones) ? found : nullptr;
+}
+
+bool IsStraightMercator(int code) {
+    return IsSpheroid(code) && code % kCodesOfSpheroid == kStraightMercator;
+}
+
+std::string DefinitionOf(int code, double rectLat, double rectLon) {
+    if (!IsSpheroid(code)) {
+        const Zone* zone = code < 0 ? FindStatePlane(-code) : FindZone(code);
+        return zone ? zone->definition : "";
+    }
+    const int utmZone = code % kCodesOfSpheroid;
+    const Zone* spheroid = FindZone(code - utmZone);
+    if (!spheroid) return "";
+    if (utmZone == kStraightMercator) {
+        return "+proj=merc +lat_ts=" + Exact(rectLat) + " +lon_0=" + Exact(rectLon) + " " +
+               spheroid->definition;
+    }
+    if (utmZone < 1 || utmZone > kUtmZones) return "";
+    return "+proj=utm +zone=" + std::to_string(utmZone) + " " + spheroid->definition;
+}
+
+}  // namespace kv::coord

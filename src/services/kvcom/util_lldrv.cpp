@@ -1,0 +1,62 @@
+#include "frame/util_lldrv.h"
+
+#include <cmath>
+#include <cstdint>
+#include <limits>
+#include <numbers>
+
+#include "frame/log.h"
+#include "services/kvcom/projections.h"
+
+namespace {
+
+using kv::coord::Projections;
+
+constexpr double kDegreesPerRadian = 180.0 / std::numbers::pi;
+/// The US survey foot, as the Coast and Geodetic Survey and the NAD27 state plane zones have it.
+constexpr double kFeetPerMeter = 3937.0 / 1200.0;
+constexpr int kFeet = 0;
+
+double UnitsPerMeter(int units) {
+    return units == kFeet ? kFeetPerMeter : 1.0;
+}
+
+}  // namespace
+
+void CKvUtilLLdrv::LLdrv(double dLat, double dLon, double* pX, double* pY, int nProjection,
+                         int nUnits, int /*nOne*/, float /*fHundred*/, float /*fZeroA*/,
+                         float /*fZeroB*/) {
+    *pX = *pY = kNoXY;
+    PJ* projection = Projections::Get().Find(nProjection);
+    if (!projection) return;
+    const PJ_COORD place = proj_trans(
+        projection, PJ_FWD, {{dLon / kDegreesPerRadian, dLat / kDegreesPerRadian, 0.0, 0.0}});
+    if (!std::isfinite(place.xy.x) || !std::isfinite(place.xy.y)) return;
+    *pX = place.xy.x * UnitsPerMeter(nUnits);
+    *pY = place.xy.y * UnitsPerMeter(nUnits);
+}
+
+void CKvUtilLLdrv::XYdrv(double dX, double dY, double* pLat, double* pLon, int nProjection,
+                         int nUnits, int /*nOne*/, float /*fHundred*/, float /*fZeroA*/,
+                         float /*fZeroB*/) {
+    *pLat = *pLon = HUGE_VAL;
+    PJ* projection = Projections::Get().Find(nProjection);
+    if (!projection || !std::isfinite(dX) || !std::isfinite(dY)) return;
+    const PJ_COORD place = proj_trans(
+        projection, PJ_INV, {{dX / UnitsPerMeter(nUnits), dY / UnitsPerMeter(nUnits), 0.0, 0.0}});
+    if (!std::isfinite(place.lp.lam) || !std::isfinite(place.lp.phi)) return;
+    *pLat = place.lp.phi * kDegreesPerRadian;
+    *pLon = place.lp.lam * kDegreesPerRadian;
+}
+
+void CKvUtilLLdrv::SetRectLat(double dLat) {
+    Projections::Get().SetRectLat(dLat);
+}
+
+void CKvUtilLLdrv::SetRectLon(double dLon) {
+    Projections::Get().SetRectLon(dLon);
+}
+
+bool CKvUtilLLdrv::RegisterProjection(int nCode, const std::string& definition) {
+    return Projections::Get().Register(nCode, definition);
+}
