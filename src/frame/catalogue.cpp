@@ -43,13 +43,17 @@ constexpr std::array<Title, 11> kTitles = {{{"Wells", KV_LAYER_WELLS},
 
 }  // namespace
 
-std::string BlockLabelExpression(std::string_view select) {
-    std::string expression(select);
-    expression += "substr(areacode, 1, 3), '426', lbnum||lbext || '-S',";
+std::string WaterBranches(const std::string& block) {
+    std::string branches;
     for (const Water& water : kWaters) {
-        expression += FormatText("'%s', lbnum||lbext || '%s',", water.prefix, water.suffix);
+        branches += std::string("'") + water.prefix + "', " + block + " || '" + water.suffix + "',";
     }
-    return expression;
+    return branches;
+}
+
+std::string BlockLabelExpression(std::string_view select) {
+    return std::string(select) + "substr(areacode, 1, 3), '426', lbnum||lbext || '-S'," +
+           WaterBranches("lbnum||lbext");
 }
 
 std::string StripWaterSuffix(const std::string& label) {

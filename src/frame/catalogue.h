@@ -44,6 +44,10 @@ inline constexpr const char* kAppFolder = "\\App";
 /// caller appends its closing literal.
 KVGUICTL_API std::string BlockLabelExpression(std::string_view select = "select decode(");
 
+/// The branches of such an expression behind its first one, for a block column, or expression, of
+/// another name: "'427', " + block + " || '-L'," and so on.
+KVGUICTL_API std::string WaterBranches(const std::string& block);
+
 /// The block of a label: what stands before the first "-" that is not the first character.
 KVGUICTL_API std::string StripWaterSuffix(const std::string& label);
 

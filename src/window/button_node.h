@@ -15,7 +15,8 @@ public:
     int CheckState() const { return check_; }
     /// Held down just now.
     bool Pushed() const { return pushed_; }
-    /// Id of the image that it shows in place of its text, 0 for none.
+    /// Id of the image that it shows beside its text, or in its place where the style has BS_ICON
+    /// or BS_BITMAP; 0 for none.
     LPARAM Image() const { return image_; }
 
     /// What a click does: a check box changes, a radio button becomes the checked one of its group,

@@ -6,6 +6,7 @@
 
 #include "window/desktop.h"
 #include "window/dialog_keys.h"
+#include "window/spin_node.h"
 #include "window/text.h"
 #include "window/window_system.h"
 
@@ -265,8 +266,10 @@ bool EditNode::HandleKey(int key) {
             return true;
         case VK_UP:
         case VK_DOWN:
-            // On a single line they go sideways.
-            if (MultiLine()) {
+            // On a single line they go sideways, where they do not step a number.
+            if (SpinNode* spin = SpinOfKeys(*this)) {
+                spin->UserStep(key == VK_UP);
+            } else if (MultiLine()) {
                 MoveTo(LinesAway(caret_, key == VK_UP ? -1 : 1), keys.shift);
             } else {
                 MoveSideways(key == VK_DOWN, keys.shift, false);

@@ -255,14 +255,17 @@ bool CloseList(Node& combo) {
 bool TurnWheel(Node& control, int notches) {
     if (!CanAct(control)) return false;
     const auto keep = control.shared_from_this();
-    if (control.Class() == NodeClass::kSpin) {
-        for (int turned = 0; turned < std::abs(notches) && CanAct(control); ++turned) {
-            static_cast<SpinNode&>(control).UserStep(notches > 0);
+    const Node* focus = WindowSystem::Get().Focus();
+    auto* spin = dynamic_cast<SpinNode*>(&control);
+    if (!spin && focus == &control) spin = SpinOfKeys(control);
+    if (spin) {
+        const auto keepSpin = spin->shared_from_this();
+        for (int turned = 0; turned < std::abs(notches) && CanAct(*spin); ++turned) {
+            spin->UserStep(notches > 0);
         }
         return true;
     }
     auto* combo = dynamic_cast<ComboBoxNode*>(&control);
-    const Node* focus = WindowSystem::Get().Focus();
     if (!combo || !focus || !focus->IsSelfOrDescendantOf(control)) return false;
     for (int turned = 0; turned < std::abs(notches) && CanAct(control); ++turned) {
         combo->UserKey(notches > 0 ? VK_UP : VK_DOWN);

@@ -54,7 +54,8 @@ KVGUICTL_API bool DropDown(Node& combo);
 KVGUICTL_API bool CloseList(Node& combo);
 
 /// Turns the mouse wheel over a control by so many notches, up being positive: a combo box that has
-/// the focus goes to another row, a spin button steps. False for all else, which scrolls.
+/// the focus goes to another row, a spin button steps, and so does that of an edit which has the
+/// focus (UDS_ARROWKEYS). False for all else, which scrolls.
 KVGUICTL_API bool TurnWheel(Node& control, int notches);
 
 /// Presses an arrow of a spin button, a button of a tool bar.

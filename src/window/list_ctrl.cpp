@@ -315,6 +315,18 @@ int CListCtrl::GetStringWidth(const char* text) const {
 
 // Looks.
 
+CImageList* CListCtrl::SetImageList(CImageList* images, int kind) {
+    CImageList* former = GetImageList(kind);
+    Ask(LVM_SETIMAGELIST, AsIndex(kind),
+        reinterpret_cast<LPARAM>(images ? images->GetSafeHandle() : nullptr));
+    return former;
+}
+
+CImageList* CListCtrl::GetImageList(int kind) const {
+    const auto list = reinterpret_cast<HIMAGELIST>(SendMessage(LVM_GETIMAGELIST, AsIndex(kind)));
+    return list ? list->Handle() : nullptr;
+}
+
 int CListCtrl::GetHotItem() const {
     return m_hWnd ? Ask(LVM_GETHOTITEM) : -1;
 }

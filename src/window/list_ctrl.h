@@ -104,6 +104,10 @@ public:
 
     // Looks. Each setter returns what was in force before.
 
+    /// `kind` is LVSIL_...; null takes the images away. Null for none, and where the former list's
+    /// handle is gone.
+    CImageList* SetImageList(CImageList* images, int kind);
+    CImageList* GetImageList(int kind) const;
     int GetHotItem() const;
     int SetHotItem(int row);
     HCURSOR GetHotCursor() const;

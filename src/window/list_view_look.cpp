@@ -14,7 +14,7 @@ namespace {
 
 constexpr int kHeaderHeight = 17;
 constexpr int kCheckBoxWidth = 16;
-constexpr int kIconWidth = 16;
+/// One step to the right of a list without images.
 constexpr int kIndentWidth = 16;
 
 // Kinds of scrolling, in the low word of WM_VSCROLL.
@@ -44,8 +44,45 @@ int ListViewNode::HeaderHeight() const {
     return HasStyle(LVS_NOCOLUMNHEADER) ? 0 : kHeaderHeight;
 }
 
+const Raster* ListViewNode::ShownImage(int row, int column) const {
+    const bool shows = column == 0 || (extendedStyle_ & LVS_EX_SUBITEMIMAGES);
+    return smallImages_ && shows ? smallImages_->At(CellImage(row, column)) : nullptr;
+}
+
+/// All rows keep room for an image in the first column, so that their texts stand in line.
+int ListViewNode::ImageWidth(int column) const {
+    return smallImages_ && column == 0 ? smallImages_->Size().cx : 0;
+}
+
+int ListViewNode::IndentWidth(int row) const {
+    const int step = smallImages_ ? smallImages_->Size().cx : kIndentWidth;
+    return Has(row) ? std::max(Row(row).indent, 0) * step : 0;
+}
+
+int ListViewNode::RowHeight() const {
+    constexpr int kSpaceBelowImage = 1;
+    const int image = smallImages_ ? smallImages_->Size().cy + kSpaceBelowImage : 0;
+    return std::max(kListRowHeight, image);
+}
+
+LRESULT ListViewNode::SetImages(int kind, ImageList* images) {
+    if (kind != LVSIL_NORMAL && kind != LVSIL_SMALL) return 0;
+    auto& present = kind == LVSIL_SMALL ? smallImages_ : normalImages_;
+    const auto former = std::exchange(present, images ? images->shared_from_this() : nullptr);
+    Tell(Change::kImage);
+    // One that nobody else has goes with this call.
+    return former.use_count() > 1 ? reinterpret_cast<LRESULT>(former.get()) : 0;
+}
+
+LRESULT ListViewNode::Images(int kind) const {
+    const ImageList* list = kind == LVSIL_SMALL    ? smallImages_.get()
+                            : kind == LVSIL_NORMAL ? normalImages_.get()
+                                                   : nullptr;
+    return reinterpret_cast<LRESULT>(list);
+}
+
 int ListViewNode::RowsOnPage() const {
-    return std::max(1, (Rect().Height() - HeaderHeight()) / kListRowHeight);
+    return std::max(1, (Rect().Height() - HeaderHeight()) / RowHeight());
 }
 
 void ListViewNode::SetTop(int row) {
@@ -98,8 +135,8 @@ void ListViewNode::Scroll(int code, int position) {
 CRect ListViewNode::CellRect(int row, int column, int part) const {
     const int count = static_cast<int>(columns_.size());
     if (!Has(row) || column < 0 || (column >= count && column > 0)) return {};
-    const int y = HeaderHeight() + (row - top_) * kListRowHeight;
-    CRect cell{0, y, 0, y + kListRowHeight};
+    const int y = HeaderHeight() + (row - top_) * RowHeight();
+    CRect cell{0, y, 0, y + RowHeight()};
     int total = 0;
     for (const int each : columnOrder_) {
         const int width = columns_[static_cast<std::size_t>(each)].width;
@@ -112,10 +149,11 @@ CRect ListViewNode::CellRect(int row, int column, int part) const {
     if (column == 0 && part == LVIR_BOUNDS) return {0, cell.top, total, cell.bottom};
     int icon = cell.left;
     if (column == 0) {
-        icon += Row(row).indent * kIndentWidth;
+        icon += IndentWidth(row);
         if (Row(row).state & LVIS_STATEIMAGEMASK) icon += kCheckBoxWidth;
     }
-    const int label = icon + (CellImage(row, column) >= 0 ? kIconWidth : 0);
+    const Raster* image = ShownImage(row, column);
+    const int label = icon + std::max(ImageWidth(column), image ? image->Width() : 0);
     if (part == LVIR_ICON) return {icon, cell.top, std::min(label, cell.right), cell.bottom};
     if (part == LVIR_LABEL) cell.left = std::min(label, cell.right);
     return cell;
@@ -130,7 +168,7 @@ LVHITTESTINFO ListViewNode::HitTest(CPoint at) const {
     if (at.y >= Rect().Height()) hit.flags |= LVHT_BELOW;
     if (hit.flags) return hit;
     hit.flags = LVHT_NOWHERE;
-    const int row = at.y < HeaderHeight() ? -1 : top_ + (at.y - HeaderHeight()) / kListRowHeight;
+    const int row = at.y < HeaderHeight() ? -1 : top_ + (at.y - HeaderHeight()) / RowHeight();
     if (!Has(row)) return hit;
     for (const int column : columnOrder_) {
         // Column 0 with its bounds is the whole row.
@@ -154,7 +192,7 @@ CSize ListViewNode::ApproximateSize(int rows) const {
     int width = 0;
     for (const ListColumn& column : columns_)
         width += column.width;
-    return {width, HeaderHeight() + (rows < 0 ? Count() : rows) * kListRowHeight};
+    return {width, HeaderHeight() + (rows < 0 ? Count() : rows) * RowHeight()};
 }
 
 Node* ListViewNode::Header() {
@@ -230,6 +268,10 @@ LRESULT ListViewNode::ProcessPlaces(UINT message, WPARAM wParam, LPARAM lParam, 
 
 LRESULT ListViewNode::ProcessLook(UINT message, WPARAM wParam, LPARAM lParam, bool& handled) {
     switch (message) {
+        case LVM_SETIMAGELIST:
+            return SetImages(static_cast<int>(wParam), reinterpret_cast<ImageList*>(lParam));
+        case LVM_GETIMAGELIST:
+            return Images(static_cast<int>(wParam));
         case LVM_GETHOTITEM:
             return hotItem_;
         case LVM_SETHOTITEM: {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "window/image_list.h"
 #include "window/image_resource.h"
 #include "window/types.h"
 #include "window/wnd.h"
@@ -12,9 +13,13 @@ inline constexpr DWORD LVS_SORTASCENDING = 0x0010;
 inline constexpr DWORD LVS_SORTDESCENDING = 0x0020;
 inline constexpr DWORD LVS_NOCOLUMNHEADER = 0x4000;
 inline constexpr DWORD LVS_EX_GRIDLINES = 0x01;
+/// Columns behind the first show images, too.
+inline constexpr DWORD LVS_EX_SUBITEMIMAGES = 0x02;
 inline constexpr DWORD LVS_EX_CHECKBOXES = 0x04;
 inline constexpr DWORD LVS_EX_FULLROWSELECT = 0x20;
 
+inline constexpr UINT LVM_GETIMAGELIST = 0x1002;
+inline constexpr UINT LVM_SETIMAGELIST = 0x1003;
 inline constexpr UINT LVM_GETITEMCOUNT = 0x1004;
 inline constexpr UINT LVM_GETITEM = 0x1005;
 inline constexpr UINT LVM_SETITEM = 0x1006;

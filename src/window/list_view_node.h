@@ -50,6 +50,15 @@ public:
     /// Empty for an absent cell.
     std::string CellText(int row, int column) const;
     int CellImage(int row, int column) const;
+    /// The images beside the rows; null for none.
+    const ImageList* SmallImages() const { return smallImages_.get(); }
+    /// What a cell shows of them; null for none. Columns behind the first do so only with
+    /// LVS_EX_SUBITEMIMAGES.
+    const Raster* ShownImage(int row, int column) const;
+    /// How far to the right the row's first cell begins, in logical pixels.
+    int IndentWidth(int row) const;
+    /// Of a row, in logical pixels: as high as a text and an image ask for.
+    int RowHeight() const;
     int FocusedRow() const { return focused_; }
     int SelectionMark() const { return mark_; }
     bool Selected(int row) const { return Has(row) && (Row(row).state & LVIS_SELECTED) != 0; }
@@ -149,6 +158,9 @@ private:
     void SetTop(int row);
     void Scroll(int code, int position);
     int HeaderHeight() const;
+    int ImageWidth(int column) const;
+    LRESULT SetImages(int kind, ImageList* images);
+    LRESULT Images(int kind) const;
     CSize ApproximateSize(int rows) const;
     Node* Header();
     LRESULT SetWorkAreas(int count, const CRect* areas);
@@ -186,6 +198,8 @@ private:
     /// Where the mouse button went down: what NM_CLICK will tell, when it comes up again.
     std::optional<LVHITTESTINFO> pressed_;
 
+    std::shared_ptr<ImageList> normalImages_;
+    std::shared_ptr<ImageList> smallImages_;
     int hotItem_ = -1;
     HCURSOR hotCursor_ = nullptr;
     DWORD hoverTime_ = 0xFFFFFFFF;

@@ -113,6 +113,12 @@ std::optional<double> ScanNumber(std::string_view text, std::size_t* end) {
     return std::strtod(std::string(text.substr(first, last - first)).c_str(), nullptr);
 }
 
+std::optional<double> ScanLoneNumber(std::string_view text) {
+    std::size_t end = 0;
+    const auto number = ScanNumber(text, &end);
+    return NumberBegin(text.substr(end)) == text.size() - end ? number : std::nullopt;
+}
+
 std::optional<int> ScanInteger(std::string_view text, std::size_t* end) {
     const std::size_t first = NumberBegin(text);
     const std::size_t digits = SkipSign(text, first);

@@ -22,7 +22,11 @@ KVGUICTL_API int Atoi(std::string_view text);
 /// no number. `end`, if given, becomes the place behind what was taken, or 0.
 KVGUICTL_API std::optional<double> ScanNumber(std::string_view text, std::size_t* end = nullptr);
 
-/// What "%d" reads, saturating; as above.
+/// The number of a text that holds nothing else but white space: what "%lf%s" reads where it finds
+/// one item only.
+KVGUICTL_API std::optional<double> ScanLoneNumber(std::string_view text);
+
+/// What "%d" reads, saturating; with `end` as in ScanNumber.
 KVGUICTL_API std::optional<int> ScanInteger(std::string_view text, std::size_t* end = nullptr);
 
 /// What a stream in its default format writes: six significant digits, an exponent of at least

@@ -124,4 +124,14 @@ LRESULT SpinNode::Process(UINT message, WPARAM wParam, LPARAM lParam) {
     }
 }
 
+SpinNode* SpinOfKeys(const Node& buddy) {
+    if (!buddy.Parent()) return nullptr;
+    for (const auto& sibling : buddy.Parent()->Children()) {
+        auto* spin = dynamic_cast<SpinNode*>(sibling.get());
+        if (!spin || !spin->HasStyle(UDS_ARROWKEYS) || spin->Buddy() != &buddy) continue;
+        return spin->ReallyEnabled() && spin->ReallyVisible() ? spin : nullptr;
+    }
+    return nullptr;
+}
+
 }  // namespace kv

@@ -16,10 +16,12 @@ inline constexpr UINT UDM_GETPOS32 = WM_USER + 114;
 inline constexpr int UDN_DELTAPOS = -722;
 
 /// Spin styles: the arrows wrap from end to end; the buddy shows the position; the buddy is the
-/// control ahead in the tab order; the arrows point left and right; the number shown has no commas.
+/// control ahead in the tab order; the up and down keys in the buddy step, too; the arrows point
+/// left and right; the number shown has no commas.
 inline constexpr DWORD UDS_WRAP = 0x0001;
 inline constexpr DWORD UDS_SETBUDDYINT = 0x0002;
 inline constexpr DWORD UDS_AUTOBUDDY = 0x0010;
+inline constexpr DWORD UDS_ARROWKEYS = 0x0020;
 inline constexpr DWORD UDS_HORZ = 0x0040;
 inline constexpr DWORD UDS_NOTHOUSANDS = 0x0080;
 
@@ -62,5 +64,9 @@ private:
     int position_ = 0;
     std::optional<std::weak_ptr<Node>> buddy_;
 };
+
+/// The spin button that the up and down keys, and the wheel, of its buddy step; null where there is
+/// none that can be used.
+KVGUICTL_API SpinNode* SpinOfKeys(const Node& buddy);
 
 }  // namespace kv

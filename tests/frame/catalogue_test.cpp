@@ -33,6 +33,13 @@ TEST(Catalogue, TheBlockLabelExpressionMayBeDistinct) {
               "select distinct decode(" + plain.substr(std::string("select decode(").size()));
 }
 
+TEST(Catalogue, TheBranchesOfTheWatersTakeAnyBlockColumn) {
+    EXPECT_EQ(catalogue::WaterBranches("blk"),
+              "'427', blk || '-L','420', blk || '-BAY','421', blk || '-BAY','422', blk || "
+              "'-BAY','423', blk || '-BAY','424', blk || '-BAY','425', blk || '-BAY','428', blk || "
+              "'-BAY','429', blk || '-BAY',");
+}
+
 TEST(Catalogue, ABlockIsCutFromItsLabelAtTheFirstDashBehindTheFirstCharacter) {
     EXPECT_EQ(catalogue::StripWaterSuffix("123A-S"), "123A");
     EXPECT_EQ(catalogue::StripWaterSuffix("45-BAY"), "45");

@@ -57,6 +57,34 @@ TEST_F(SqliteEngine, AnUnknownServerTextThatMayHoldAPasswordIsNotRepeated) {
     EXPECT_THAT(failure, Not(HasSubstr("host")));
 }
 
+TEST_F(SqliteEngine, AStatementThatIsAskedAgainSeesWhatWasChangedMeanwhile) {
+    const std::string sql = "select * from kvt";
+    manager_.Connect();
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(manager_.Select(sql), 0);
+    // Past the connection: it must not have kept a lock.
+    RunOnSqliteFile(path_,
+                    "alter table kvt add column c text; insert into kvt values ('x', 1, 'y')");
+    EXPECT_EQ(manager_.Select(sql), 1);
+    EXPECT_EQ(RowsOf(manager_, 3), "x|1|y");
+    RunOnSqliteFile(path_, "drop table kvt");
+    EXPECT_THAT(FailureOf([&] { manager_.Select(sql); }), HasSubstr("kvt"));
+    RunOnSqliteFile(path_, "create table kvt (a text); insert into kvt values ('z')");
+    EXPECT_EQ(manager_.Select(sql), 1);
+    EXPECT_EQ(RowsOf(manager_, 1), "z");
+}
+
+TEST_F(SqliteEngine, StatementsThatAreAskedInTurnGiveTheirOwnRows) {
+    RunOnSqliteFile(path_, "insert into kvt values ('x', 1), ('y', 2), ('z', 3)");
+    manager_.Connect();
+    for (int i = 0; i < 40; ++i) {
+        const int number = i % 20;
+        manager_.Select("select " + std::to_string(number) +
+                        ", a from kvt where b = " + std::to_string(number % 3 + 1));
+        EXPECT_EQ(RowsOf(manager_, 2), std::to_string(number) + "|" + "xyz"[number % 3]);
+    }
+}
+
 TEST_F(SqliteEngine, ARecordWithoutAServerSaysSo) {
     EXPECT_THAT(FailureToConnect(""), HasSubstr("names no server"));
 }

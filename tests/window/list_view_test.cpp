@@ -748,6 +748,97 @@ TEST_F(ListView, KeepsWhatItIsToldOfItsLooks) {
     });
 }
 
+TEST_F(ListView, ShowsTheImagesOfItsSmallList) {
+    RunWith({"a", "b"}, [&](kv::User&) {
+        CListCtrl& list = dialog.list;
+        CImageList images;
+        ASSERT_TRUE(images.Create(16, 14));
+        CBitmap strip;
+        kv::Raster two(32, 14, kv::ToArgb(RGB(255, 0, 255)));
+        two.SetArgb(20, 5, kv::ToArgb(RGB(10, 20, 30)));
+        ASSERT_TRUE(strip.CreateFrom(two));
+        EXPECT_EQ(images.Add(strip, RGB(255, 0, 255)), 0);
+        EXPECT_EQ(images.GetImageCount(), 2);
+        EXPECT_EQ(list.SetImageList(&images, LVSIL_SMALL), nullptr);
+        EXPECT_EQ(list.GetImageList(LVSIL_SMALL), &images);
+        EXPECT_EQ(list.GetImageList(LVSIL_NORMAL), nullptr);
+        list.SetItemImage(1, 0, 1);
+        list.SetItemImage(1, 1, 1);
+        ASSERT_NE(Node().ShownImage(1, 0), nullptr);
+        EXPECT_EQ(Node().ShownImage(1, 0)->Argb(4, 5), kv::ToArgb(RGB(10, 20, 30)));
+        EXPECT_EQ(Node().ShownImage(1, 0)->Argb(0, 0), 0u) << "the mask is transparent";
+        EXPECT_EQ(Node().ShownImage(0, 0), nullptr);
+        EXPECT_EQ(Node().ShownImage(1, 1), nullptr);
+        list.SetExtendedStyle(LVS_EX_SUBITEMIMAGES);
+        EXPECT_NE(Node().ShownImage(1, 1), nullptr);
+        list.SetItemImage(1, 0, 2);
+        EXPECT_EQ(Node().ShownImage(1, 0), nullptr) << "there is no image of that index";
+        EXPECT_EQ(list.SetImageList(nullptr, LVSIL_SMALL), &images);
+        EXPECT_EQ(Node().ShownImage(1, 1), nullptr);
+    });
+}
+
+TEST_F(ListView, KeepsItsImagesWhenTheirHandleGoes) {
+    RunWith({"a"}, [&](kv::User&) {
+        CListCtrl& list = dialog.list;
+        {
+            CImageList images;
+            images.Create(16, 16);
+            CBitmap picture;
+            picture.CreateFrom(kv::Raster(16, 16, kv::ToArgb(RGB(1, 2, 3))));
+            images.Add(picture, RGB(0, 0, 0));
+            list.SetImageList(&images, LVSIL_SMALL);
+        }
+        list.SetItemImage(0, 0, 0);
+        EXPECT_EQ(list.GetImageList(LVSIL_SMALL), nullptr);
+        ASSERT_NE(Node().ShownImage(0, 0), nullptr);
+        EXPECT_EQ(Node().ShownImage(0, 0)->Argb(3, 3), kv::ToArgb(RGB(1, 2, 3)));
+        EXPECT_EQ(list.SetImageList(nullptr, LVSIL_SMALL), nullptr);
+    });
+}
+
+TEST_F(ListView, ImagesAndIndentsTakeRoomBesideTheText) {
+    RunWith({"a", "b"}, [&](kv::User&) {
+        CListCtrl& list = dialog.list;
+        const auto placeOf = [&](int row, int part) {
+            CRect place;
+            list.GetSubItemRect(row, 0, part, place);
+            return place;
+        };
+        EXPECT_EQ(placeOf(0, LVIR_LABEL).left, 0);
+        const int lower = placeOf(0, LVIR_BOUNDS).Height();
+        CImageList images;
+        images.Create(20, 24);
+        list.SetImageList(&images, LVSIL_SMALL);
+        EXPECT_EQ(placeOf(0, LVIR_LABEL).left, 20) << "with no image of its own, too";
+        EXPECT_GT(placeOf(0, LVIR_BOUNDS).Height(), lower);
+        LVITEM item;
+        item.mask = LVIF_INDENT;
+        item.iItem = 1;
+        item.iIndent = 2;
+        list.SetItem(&item);
+        EXPECT_EQ(placeOf(1, LVIR_ICON).left, 40);
+        EXPECT_EQ(placeOf(1, LVIR_ICON).right, 60);
+        EXPECT_EQ(placeOf(1, LVIR_LABEL).left, 60);
+        UINT flags = 0;
+        EXPECT_EQ(list.HitTest({50, placeOf(1, LVIR_ICON).top + 3}, &flags), 1);
+        EXPECT_EQ(flags, LVHT_ONITEMICON);
+    });
+}
+
+TEST_F(ListView, ImagesThatThereAreNotAreRefused) {
+    CImageList images;
+    CBitmap none;
+    EXPECT_EQ(images.Add(1u), -1);
+    EXPECT_FALSE(images.Create(0, 16));
+    EXPECT_FALSE(images.Create(4711u, 16, RGB(0, 0, 0)));
+    ASSERT_TRUE(images.Create(16, 16));
+    EXPECT_EQ(images.Add(none, RGB(0, 0, 0)), -1);
+    EXPECT_EQ(images.Add(4711u), -1);
+    EXPECT_TRUE(images.DeleteImageList());
+    EXPECT_FALSE(images.DeleteImageList());
+}
+
 TEST_F(ListView, KeepsItsWorkAreas) {
     RunWith({}, [&](kv::User&) {
         const CRect areas[] = {{0, 0, 10, 10}, {10, 0, 20, 10}};

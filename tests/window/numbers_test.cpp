@@ -83,6 +83,15 @@ TEST(ScanNumber, FindsNoNumberInOtherTexts) {
     }
 }
 
+TEST(ScanLoneNumber, TakesATextThatHoldsNothingElse) {
+    EXPECT_EQ(kv::ScanLoneNumber("12.5"), 12.5);
+    EXPECT_EQ(kv::ScanLoneNumber(" -.5\t"), -0.5);
+    EXPECT_EQ(kv::ScanLoneNumber("1e1 \n"), 10.0);
+    for (const char* text : {"", " ", "-", "12a", "1.2.3", "1 2", "1e", "0x10", "inf", "a1"}) {
+        EXPECT_EQ(kv::ScanLoneNumber(text), std::nullopt) << text;
+    }
+}
+
 TEST(ScanInteger, TellsWhereTheNumberEnds) {
     std::size_t end = 99;
     EXPECT_EQ(kv::ScanInteger(" -29 30", &end), -29);

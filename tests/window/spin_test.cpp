@@ -238,4 +238,46 @@ TEST_F(Spin, NearTheGreatestIntItDoesNotOverflow) {
     });
 }
 
+TEST_F(Spin, UpAndDownInItsBuddyStepWhereItsStyleSaysSo) {
+    RunWith(UDS_ARROWKEYS | UDS_AUTOBUDDY | UDS_SETBUDDYINT, [&](kv::User& user) {
+        dialog.spin.SetRange(0, 10);
+        dialog.spin.SetPos(5);
+        user.Key(kEdit, "Up");
+        EXPECT_EQ(user.Text(kEdit), "6");
+        user.Key(kEdit, "Down");
+        user.Key(kEdit, "Down");
+        EXPECT_EQ(user.Text(kEdit), "4");
+        user.Key(kOther, "Up");
+        EXPECT_EQ(user.Text(kEdit), "4");
+        dialog.spin.EnableWindow(FALSE);
+        user.Key(kEdit, "Up");
+        EXPECT_EQ(user.Text(kEdit), "4");
+    });
+}
+
+TEST_F(Spin, UpAndDownInItsBuddyMoveTheCaretWithoutThatStyle) {
+    RunWith(UDS_AUTOBUDDY | UDS_SETBUDDYINT, [&](kv::User& user) {
+        dialog.spin.SetRange(0, 10);
+        dialog.spin.SetPos(5);
+        user.Key(kEdit, "Up");
+        EXPECT_EQ(user.Text(kEdit), "5");
+        EXPECT_EQ(dialog.told, Words{});
+    });
+}
+
+TEST_F(Spin, TheWheelOverABuddyStepsOnceThatHasTheFocus) {
+    RunWith(UDS_ARROWKEYS | UDS_AUTOBUDDY | UDS_SETBUDDYINT, [&](kv::User& user) {
+        dialog.spin.SetRange(0, 10);
+        dialog.spin.SetPos(5);
+        kv::Node& edit = *dialog.GetDlgItem(kEdit)->m_hWnd;
+        EXPECT_FALSE(kv::input::TurnWheel(edit, 1));
+        user.Focus(kEdit);
+        EXPECT_TRUE(kv::input::TurnWheel(edit, 3));
+        EXPECT_EQ(user.Text(kEdit), "8");
+        EXPECT_TRUE(kv::input::TurnWheel(edit, -1));
+        EXPECT_EQ(user.Text(kEdit), "7");
+        EXPECT_FALSE(kv::input::TurnWheel(*dialog.GetDlgItem(kOther)->m_hWnd, 1));
+    });
+}
+
 }  // namespace

@@ -3,6 +3,8 @@
 #include <sqlite3.h>
 #include <sys/stat.h>
 
+#include <algorithm>
+#include <deque>
 #include <string>
 #include <string_view>
 
@@ -16,6 +18,8 @@ namespace {
 
 constexpr std::string_view kPrefix = "sqlite:";
 constexpr int kBusyMilliseconds = 5000;
+constexpr std::size_t kMostKept = 8;
+constexpr std::size_t kLongestKept = 4096;
 
 struct CloseDatabase {
     void operator()(sqlite3* database) const { sqlite3_close_v2(database); }
@@ -79,10 +83,13 @@ public:
 
     std::unique_ptr<Rows> Query(const std::string& sql) override {
         const GuardScope guard(*this, Guard::kReading);
-        const Statement statement = Prepare(sql);
+        Statement statement = TakePrepared(sql);
+        if (!statement) statement = Prepare(sql);
         if (!sqlite3_stmt_readonly(statement.get()) || sqlite3_column_count(statement.get()) == 0)
             throw CKvException(kOnlyReads, sql);
-        return Fetch(statement.get(), sql);
+        auto rows = Fetch(statement.get(), sql);
+        Keep(sql, std::move(statement));
+        return rows;
     }
 
     int Execute(const std::string& sql) override {
@@ -161,6 +168,23 @@ private:
         return statement;
     }
 
+    /// Dialogs ask the same again and again, and reading a statement takes longer than running it.
+    Statement TakePrepared(const std::string& sql) {
+        const auto found = std::ranges::find(prepared_, sql, &Prepared::sql);
+        if (found == prepared_.end()) return nullptr;
+        Statement statement = std::move(found->statement);
+        prepared_.erase(found);
+        return statement;
+    }
+
+    void Keep(const std::string& sql, Statement statement) {
+        if (sql.size() > kLongestKept) return;
+        // Without this it would hold its lock on the file.
+        sqlite3_reset(statement.get());
+        if (prepared_.size() == kMostKept) prepared_.pop_front();
+        prepared_.push_back({sql, std::move(statement)});
+    }
+
     Statement PrepareFirst(const char* text, const char*& rest, const std::string& sql) {
         sqlite3_stmt* raw = nullptr;
         const int code = sqlite3_prepare_v2(database_.get(), text, -1, &raw, &rest);
@@ -181,9 +205,10 @@ private:
     }
 
     std::unique_ptr<Rows> Fetch(sqlite3_stmt* statement, const std::string& sql) {
+        int code = sqlite3_step(statement);
+        // A statement that was kept learns only here that its tables have been changed.
         const int columns = sqlite3_column_count(statement);
         auto rows = std::make_unique<RowArena>(columns);
-        int code = sqlite3_step(statement);
         for (; code == SQLITE_ROW; code = sqlite3_step(statement)) {
             for (int column = 0; column < columns; ++column) {
                 const auto* text =
@@ -219,10 +244,17 @@ private:
         sqlite3_exec(database_.get(), sql, nullptr, nullptr, nullptr);
     }
 
+    struct Prepared {
+        std::string sql;
+        Statement statement;
+    };
+
     Database database_;
     std::string path_;
     FileIdentity identity_;
     Guard guard_ = Guard::kNone;
+    /// The one used last stands last.
+    std::deque<Prepared> prepared_;
 };
 
 }  // namespace

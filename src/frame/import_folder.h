@@ -1,0 +1,33 @@
+#pragma once
+
+#include <string>
+
+#include "window/export.h"
+
+class CFileDialog;
+
+/// What every handler that opens a file dialog does around it.
+namespace kv {
+
+/// Lets the import folder be that one below the work folder, such as "\REPORT", unless one is
+/// remembered. It is remembered for the whole process.
+KVGUICTL_API void EnsureImportFolder(const std::string& belowWork);
+
+/// Makes that folder below the home folder, such as "\App", the current one when it goes: a file
+/// dialog may have left the program in another.
+class KVGUICTL_API BackToHome {
+public:
+    explicit BackToHome(std::string belowHome) : belowHome_(std::move(belowHome)) {}
+    ~BackToHome();
+    BackToHome(const BackToHome&) = delete;
+    BackToHome& operator=(const BackToHome&) = delete;
+
+private:
+    std::string belowHome_;
+};
+
+/// Asks for a file under that title; true when the user chose one, whose folder is then the import
+/// folder.
+KVGUICTL_API bool AskForFile(CFileDialog& dialog, const char* title, bool startInImportFolder);
+
+}  // namespace kv
