@@ -3,9 +3,11 @@
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStyleOptionButton>
+#include <type_traits>
 
 #include "qt/keyboard.h"
 #include "qt/paint.h"
@@ -15,6 +17,11 @@
 namespace kv::qt {
 
 namespace {
+
+/// An image stands beside the text, unless the style asks for the image alone.
+bool ShowsImageAlone(const ButtonNode& button) {
+    return button.Image() != 0 && (button.Style() & (BS_ICON | BS_BITMAP)) != 0;
+}
 
 /// A button that neither goes down nor changes its check of itself: the node says how it stands.
 template <typename Base>
@@ -58,7 +65,9 @@ protected:
 
     void paintEvent(QPaintEvent* event) override {
         const auto node = node_.lock();
-        if (node && !PaintByLayer(*this, *node)) Base::paintEvent(event);
+        if (!node || PaintByLayer(*this, *node)) return;
+        Base::paintEvent(event);
+        if constexpr (!std::is_same_v<Base, QPushButton>) OutlineIndicator();
     }
 
     void initStyleOption(QStyleOptionButton* option) const override {
@@ -66,7 +75,7 @@ protected:
         const auto node = node_.lock();
         if (!node || node->Destroyed()) return;
         const auto& button = static_cast<const ButtonNode&>(*node);
-        option->text = button.Image() ? QString() : ToQString(button.Text());
+        option->text = ShowsImageAlone(button) ? QString() : ToQString(button.Text());
         if (DefaultButton(*node->Host()) == node.get()) {
             option->features |= QStyleOptionButton::DefaultButton;
         }
@@ -75,6 +84,16 @@ protected:
 private:
     static CPoint PlaceOf(const QMouseEvent& event) {
         return CurrentScale().ToLogical(event.position().toPoint());
+    }
+
+    void OutlineIndicator() {
+        constexpr bool kRound = std::is_same_v<Base, QRadioButton>;
+        QStyleOptionButton option;
+        initStyleOption(&option);
+        QPainter painter(this);
+        const QRect indicator = this->style()->subElementRect(
+            kRound ? QStyle::SE_RadioButtonIndicator : QStyle::SE_CheckBoxIndicator, &option, this);
+        OutlineOnDark(painter, indicator, kRound, *this);
     }
 
     std::weak_ptr<Node> node_;
@@ -148,6 +167,7 @@ void ButtonPeer::ShowImage() {
     if (!pixmap.isNull())
         View()->setIconSize(CurrentScale().ToScreen(CSize{pixmap.width(), pixmap.height()}));
     View()->setIcon(IconOf(image));
+    View()->setToolTip(image == 0 ? QString() : PlainText(GetNode().Text()));
     View()->update();
 }
 

@@ -14,6 +14,7 @@
 #include "qt/keyboard.h"
 #include "qt/list_box_peer.h"
 #include "qt/text.h"
+#include "qt/wheel.h"
 #include "window/input.h"
 
 namespace kv::qt {
@@ -23,7 +24,6 @@ namespace {
 constexpr int kMostRowsShown = 16;
 /// Rows that are measured for the width of a dropped list.
 constexpr int kRowsMeasured = 200;
-constexpr int kWheelNotch = 120;
 
 /// The one row that a closed box shows: its text.
 class TextModel : public QAbstractListModel {
@@ -79,9 +79,7 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
     void keyPressEvent(QKeyEvent* event) override { event->ignore(); }
     void wheelEvent(QWheelEvent* event) override {
-        turned_ += event->angleDelta().y();
-        const int notches = turned_ / kWheelNotch;
-        turned_ -= notches * kWheelNotch;
+        const int notches = wheel_.Take(*event);
         bool taken = notches == 0;
         Act(node_, [&](Node& combo) { taken = input::TurnWheel(combo, notches) || taken; });
         event->setAccepted(taken);
@@ -108,7 +106,7 @@ private:
     std::weak_ptr<Node> node_;
     bool editable_;
     TextModel model_;
-    int turned_ = 0;
+    WheelNotches wheel_;
 };
 
 /// The dropped list. A click elsewhere closes it.

@@ -14,6 +14,7 @@
 
 #include "qt/keyboard.h"
 #include "qt/text.h"
+#include "qt/wheel.h"
 #include "window/desktop.h"
 #include "window/input.h"
 #include "window/window_system.h"
@@ -189,6 +190,12 @@ protected:
         ShowMenu(*this, node_, event->globalPos());
     }
     void keyPressEvent(QKeyEvent* event) override { event->ignore(); }
+    void wheelEvent(QWheelEvent* event) override {
+        const int notches = wheel_.Take(*event);
+        bool taken = false;
+        Act(node_, [&](Node& edit) { taken = input::TurnWheel(edit, notches); });
+        event->setAccepted(taken);
+    }
     void focusInEvent(QFocusEvent* event) override {
         QLineEdit::focusInEvent(event);
         Mirror();
@@ -199,6 +206,7 @@ private:
 
     WeakNode node_;
     EditMouse mouse_;
+    WheelNotches wheel_;
     bool mirroring_ = false;
 };
 

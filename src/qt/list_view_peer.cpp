@@ -2,6 +2,7 @@
 
 #include <QAbstractTableModel>
 #include <QContextMenuEvent>
+#include <QHash>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -10,6 +11,7 @@
 #include <QTreeView>
 
 #include "qt/keyboard.h"
+#include "qt/paint.h"
 #include "qt/rows_view.h"
 #include "qt/text.h"
 #include "window/input.h"
@@ -117,8 +119,17 @@ public:
     const ListViewNode* List() const { return model_.List(); }
     int RowHeight() const {
         const int check = style()->pixelMetric(QStyle::PM_IndicatorHeight, nullptr, this);
-        return std::max(fontMetrics().height(), check) + kRowMargin;
+        return std::max({fontMetrics().height(), check, ImageSize().height()}) + kRowMargin;
     }
+    /// Of the images beside the rows, on the screen; empty without them.
+    QSize ImageSize() const {
+        const ListViewNode* list = List();
+        const bool shows = list && list->SmallImages();
+        return shows ? CurrentScale().ToScreen(list->SmallImages()->Size()) : QSize(0, 0);
+    }
+    /// What a cell shows; null for none.
+    QIcon IconOfCell(int row, int column);
+    void ImagesChanged();
 
     /// Columns as the node has them: widths, order, headings.
     void ShowColumns();
@@ -136,10 +147,15 @@ protected:
     void keyPressEvent(QKeyEvent* event) override { event->ignore(); }
 
 private:
+    /// The row at a place, -1 for none: a row as such is what its first column shows, unless the
+    /// whole of it can be picked.
+    int RowAt(const QModelIndex& index) const;
     bool IsOnCheckBox(const QModelIndex& index, const QPoint& at) const;
 
     std::weak_ptr<Node> node_;
     CellModel model_;
+    /// By the index in the list of images.
+    QHash<int, QIcon> icons_;
     int shownFocus_ = -1;
     bool mirroring_ = false;
 };
@@ -161,13 +177,18 @@ public:
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override {
-        QStyledItemDelegate::paint(painter, option, index);
         const ListViewNode* list = tree_.List();
-        if (!list || !(list->ExtendedStyle() & LVS_EX_GRIDLINES)) return;
-        painter->setPen(option.palette.color(QPalette::Midlight));
-        const QRect& cell = option.rect;
-        painter->drawLine(cell.bottomLeft(), cell.bottomRight());
-        painter->drawLine(cell.topRight(), cell.bottomRight());
+        if (!list || index.row() >= list->Count()) return;
+        QStyleOptionViewItem cell = option;
+        initStyleOption(&cell, index);
+        if (cell.rect != option.rect) PaintIndent(*painter, cell, option.rect);
+        tree_.style()->drawControl(QStyle::CE_ItemViewItem, &cell, painter, &tree_);
+        if (cell.features & QStyleOptionViewItem::HasCheckIndicator) {
+            const QStyle::SubElement box = QStyle::SE_ItemViewItemCheckIndicator;
+            OutlineOnDark(*painter, tree_.style()->subElementRect(box, &cell, &tree_), false,
+                          tree_);
+        }
+        if (list->ExtendedStyle() & LVS_EX_GRIDLINES) PaintGrid(*painter, option);
     }
 
 protected:
@@ -182,13 +203,59 @@ protected:
         option->state.setFlag(QStyle::State_Selected, selected);
         option->state.setFlag(QStyle::State_HasFocus, focused);
         option->state.setFlag(QStyle::State_MouseOver, false);
+        TakeImage(*list, *option, index);
     }
 
 private:
+    /// The row's first cell begins behind its indent, with its image or the room for one.
+    void TakeImage(const ListViewNode& list, QStyleOptionViewItem& option,
+                   const QModelIndex& index) const {
+        const bool first = index.column() == 0;
+        if (first) {
+            const CSize indent{list.IndentWidth(index.row()), 0};
+            const int left = option.rect.left() + CurrentScale().ToScreen(indent).width();
+            option.rect.setLeft(std::min(left, option.rect.right() + 1));
+        }
+        option.icon = tree_.IconOfCell(index.row(), index.column());
+        if (option.icon.isNull() && !(first && list.SmallImages())) return;
+        option.features |= QStyleOptionViewItem::HasDecoration;
+        option.decorationSize = tree_.ImageSize();
+    }
+
+    /// What is selected is so from the left edge on.
+    void PaintIndent(QPainter& painter, QStyleOptionViewItem cell, const QRect& whole) const {
+        const ListViewNode* list = tree_.List();
+        if (!(list->ExtendedStyle() & LVS_EX_FULLROWSELECT)) return;
+        cell.rect = whole;
+        tree_.style()->drawPrimitive(QStyle::PE_PanelItemViewItem, &cell, &painter, &tree_);
+    }
+
+    static void PaintGrid(QPainter& painter, const QStyleOptionViewItem& option) {
+        painter.setPen(option.palette.color(QPalette::Midlight));
+        const QRect& cell = option.rect;
+        painter.drawLine(cell.bottomLeft(), cell.bottomRight());
+        painter.drawLine(cell.topRight(), cell.bottomRight());
+    }
+
     ListTree& tree_;
 };
 
 }  // namespace
+
+QIcon ListTree::IconOfCell(int row, int column) {
+    const ListViewNode* list = List();
+    const Raster* image = list ? list->ShownImage(row, column) : nullptr;
+    if (!image) return {};
+    QIcon& icon = icons_[list->CellImage(row, column)];
+    if (icon.isNull()) icon = IconOf(*image);
+    return icon;
+}
+
+void ListTree::ImagesChanged() {
+    icons_.clear();
+    scheduleDelayedItemsLayout();
+    viewport()->update();
+}
 
 ListTree::ListTree(ListViewNode& list, QWidget* parent)
     : QTreeView(parent), node_(list.weak_from_this()), model_(list) {
@@ -265,13 +332,20 @@ bool ListTree::IsOnCheckBox(const QModelIndex& index, const QPoint& at) const {
         .contains(at);
 }
 
+int ListTree::RowAt(const QModelIndex& index) const {
+    const ListViewNode* list = List();
+    if (!list || !index.isValid()) return -1;
+    const bool whole = list->ExtendedStyle() & LVS_EX_FULLROWSELECT;
+    return whole || index.column() == 0 ? index.row() : -1;
+}
+
 void ListTree::mousePressEvent(QMouseEvent* event) {
     event->accept();
     if (event->button() != Qt::LeftButton) return;
     const QPoint at = event->position().toPoint();
     const QModelIndex index = indexAt(at);
     const bool checks = IsOnCheckBox(index, at);
-    const int row = index.isValid() ? index.row() : -1;
+    const int row = RowAt(index);
     Act(node_, [&](Node& list) {
         if (checks) {
             input::ToggleCheck(list, row);
@@ -288,8 +362,8 @@ void ListTree::mouseDoubleClickEvent(QMouseEvent* event) {
     const QModelIndex index = indexAt(at);
     if (IsOnCheckBox(index, at)) {
         mousePressEvent(event);
-    } else if (index.isValid()) {
-        Act(node_, [&](Node& list) { input::DoubleClick(list, index.row()); });
+    } else if (const int row = RowAt(index); row >= 0) {
+        Act(node_, [row](Node& list) { input::DoubleClick(list, row); });
     }
 }
 
@@ -326,6 +400,9 @@ void ListViewPeer::Changed(Change change) {
             break;
         case Change::kPosition:
             View()->ScrollTo(List().VisibleRowWanted());
+            break;
+        case Change::kImage:
+            View()->ImagesChanged();
             break;
         case Change::kPaint:
             View()->viewport()->update();

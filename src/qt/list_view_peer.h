@@ -26,7 +26,6 @@ protected:
 private:
     ListViewNode& List() const { return static_cast<ListViewNode&>(GetNode()); }
     ListTree* View() const;
-    void ShowColumns();
 };
 
 }  // namespace kv::qt

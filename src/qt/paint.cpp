@@ -1,6 +1,7 @@
 #include "qt/paint.h"
 
 #include <QPainter>
+#include <QStyle>
 
 #include "qt/painter_surface.h"
 #include "window/device_context.h"
@@ -14,6 +15,15 @@ namespace {
 
 /// Sizes in which an icon is asked for; between them it would be blurred.
 constexpr int kIconScales[] = {1, 2, 3};
+constexpr double kOutlineOpacity = 0.5;
+
+QIcon IconOf(const QPixmap& plain) {
+    QIcon icon;
+    if (plain.isNull()) return icon;
+    for (const int factor : kIconScales)
+        icon.addPixmap(plain.scaled(plain.size() * factor));
+    return icon;
+}
 
 bool MayPaint(const Node& node) {
     const bool ownerDrawn =
@@ -31,18 +41,36 @@ bool PaintByLayer(QWidget& widget, Node& node) {
     return PaintControl(node, context);
 }
 
+void OutlineOnDark(QPainter& painter, const QRect& indicator, bool round, const QWidget& widget) {
+    const QColor ground = widget.palette().color(QPalette::Base);
+    const QColor text = widget.palette().color(QPalette::Text);
+    const bool hardlySeen = widget.style()->name() == u"fusion";
+    if (!hardlySeen || ground.lightness() >= text.lightness()) return;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setOpacity(kOutlineOpacity);
+    painter.setPen(text);
+    painter.setBrush(Qt::NoBrush);
+    const QRectF middleOfPixels = QRectF(indicator).adjusted(0.5, 0.5, -0.5, -0.5);
+    if (round) {
+        painter.drawEllipse(middleOfPixels);
+    } else {
+        painter.drawRect(middleOfPixels);
+    }
+    painter.restore();
+}
+
 QPixmap PixmapOf(int imageId) {
     const ImageResource* image = FindImage(imageId);
     return image ? QPixmap::fromImage(ToImage(DecodeImage(*image))) : QPixmap();
 }
 
 QIcon IconOf(int imageId) {
-    const QPixmap plain = PixmapOf(imageId);
-    QIcon icon;
-    if (plain.isNull()) return icon;
-    for (const int factor : kIconScales)
-        icon.addPixmap(plain.scaled(plain.size() * factor));
-    return icon;
+    return IconOf(PixmapOf(imageId));
+}
+
+QIcon IconOf(const Raster& image) {
+    return IconOf(QPixmap::fromImage(ToImage(image)));
 }
 
 }  // namespace kv::qt

@@ -33,6 +33,50 @@ bool ShowsOwnText(const Node& node) {
            node.Class() == NodeClass::kBar || node.Class() == NodeClass::kToolBar;
 }
 
+/// A control's text as the name of another one.
+QString NameFrom(const Node& node) {
+    QString name = PlainText(node.Text()).trimmed();
+    if (name.endsWith(u':')) name.chop(1);
+    return name;
+}
+
+/// A check box or radio button that has its text in another control.
+bool IsBareCheck(const Node& node) {
+    const DWORD kind = node.Style() & BS_TYPEMASK;
+    return node.Class() == NodeClass::kButton && node.Text().empty() &&
+           (kind == BS_AUTOCHECKBOX || kind == BS_AUTORADIOBUTTON);
+}
+
+/// The control with a text close to the right of another one, null for none.
+const Node* TextBeside(const Node& node) {
+    constexpr int kMostGap = 12;
+    const CRect& own = node.Rect();
+    for (const auto& sibling : node.Parent()->Children()) {
+        const CRect& other = sibling->Rect();
+        const int gap = other.left - own.right;
+        const bool beside =
+            gap >= 0 && gap <= kMostGap && other.top < own.bottom && other.bottom > own.top;
+        if (beside && ShowsOwnText(*sibling) && !sibling->Text().empty()) return sibling.get();
+    }
+    return nullptr;
+}
+
+/// Whether a label is the unit of the number that the spin button ahead of it steps.
+bool IsUnit(const Node& label, const Node& ahead) {
+    return ahead.Class() == NodeClass::kSpin && TextBeside(ahead) == &label;
+}
+
+/// The unit behind a spin button, or behind a control that has one; null for none.
+template <typename Next>
+const Node* UnitOf(const Node& node, Next next) {
+    const auto& siblings = node.Parent()->Children();
+    const Node* spin = &node;
+    if (node.Class() != NodeClass::kSpin) spin = next == siblings.end() ? nullptr : next->get();
+    if (!spin || spin->Class() != NodeClass::kSpin) return nullptr;
+    const Node* unit = TextBeside(*spin);
+    return unit && IsLabel(*unit) ? unit : nullptr;
+}
+
 }  // namespace
 
 Peer::Peer(Node& node, QWidget* widget) : node_(node), widget_(widget) {
@@ -187,26 +231,32 @@ QString AccessibleName(const Node& node) {
     const Node* parent = node.Parent();
     if (parent && parent->Class() == NodeClass::kComboBox) return AccessibleName(*parent);
     if (!parent || node.Class() == NodeClass::kStatic) return {};
+    if (const Node* beside = IsBareCheck(node) ? TextBeside(node) : nullptr) {
+        return NameFrom(*beside);
+    }
     const auto& siblings = parent->Children();
     auto at = std::find_if(siblings.begin(), siblings.end(),
                            [&](const auto& each) { return each.get() == &node; });
+    const Node* unit = UnitOf(node, at == siblings.end() ? at : std::next(at));
+    const QString behind = unit ? u' ' + NameFrom(*unit) : QString();
     while (at != siblings.begin()) {
         --at;
-        if (IsLabel(**at) || (IsGroupBox(**at) && !(*at)->Text().empty())) {
-            QString name = PlainText((*at)->Text()).trimmed();
-            if (name.endsWith(u':')) name.chop(1);
-            return name;
+        const bool label =
+            IsLabel(**at) && !(at != siblings.begin() && IsUnit(**at, **std::prev(at)));
+        if (label || (IsGroupBox(**at) && !(*at)->Text().empty())) {
+            return NameFrom(**at) + behind;
         }
     }
-    return PlainText(parent->Text());
+    return PlainText(parent->Text()) + behind;
 }
 
 void Peer::ShowName() {
     widget_->setAccessibleName(AccessibleName(node_));
-    if (node_.Class() != NodeClass::kStatic || !node_.Parent()) return;
-    // The controls behind a label go by its text.
+    if (!ShowsOwnText(node_) || !node_.Parent()) return;
+    // Controls without a text of their own may go by this one's.
     for (const auto& sibling : node_.Parent()->Children()) {
-        Peer* peer = sibling->Class() == NodeClass::kStatic ? nullptr : PeerOf(*sibling);
+        const bool ownText = ShowsOwnText(*sibling) && !sibling->Text().empty();
+        Peer* peer = ownText ? nullptr : PeerOf(*sibling);
         if (peer && peer->Widget()) {
             peer->Widget()->setAccessibleName(AccessibleName(*sibling));
         }

@@ -1,7 +1,10 @@
 #include "qt/platform_dialogs.h"
 
+#include <QBoxLayout>
+#include <QComboBox>
 #include <QCoreApplication>
 #include <QFileDialog>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPageSetupDialog>
 #include <QPrinter>
@@ -113,6 +116,30 @@ QPageSize PageOf(const PrinterSettings& settings) {
                      QPageSize::Millimeter);
 }
 
+/// How the dialog ends when it is to be shown for another printer, which has other papers.
+constexpr int kOtherPrinter = QDialog::Accepted + 1;
+
+/// Lets the printer be chosen, too; null where there is none, or the platform's dialog does it.
+QComboBox* AddPrinters(QPageSetupDialog& dialog, const QStringList& printers,
+                       const QString& present) {
+    auto* layout = qobject_cast<QBoxLayout*>(dialog.layout());
+    if (!layout || printers.isEmpty()) return nullptr;
+    auto* choice = new QComboBox(&dialog);
+    choice->setObjectName(QStringLiteral("printers"));
+    choice->addItems(printers);
+    choice->setCurrentText(present);
+    auto* label = new QLabel(QPageSetupDialog::tr("P&rinter:"), &dialog);
+    label->setBuddy(choice);
+    auto* row = new QHBoxLayout;
+    row->addWidget(label);
+    row->addWidget(choice, 1);
+    layout->insertLayout(0, row);
+    QObject::connect(choice, &QComboBox::activated, &dialog, [&dialog, choice, present] {
+        if (choice->currentText() != present) dialog.done(kOtherPrinter);
+    });
+    return choice;
+}
+
 }  // namespace
 
 int ShowMessageBox(const MessageBoxRequest& request) {
@@ -140,15 +167,23 @@ int ShowFileDialog(const FileDialogRequest& request, std::string& path) {
     return IDOK;
 }
 
-int ShowPrintSetup(PrinterSettings& settings) {
-    const QPrinterInfo info = QPrinterInfo::printerInfo(ToQString(settings.device));
-    QPrinter printer(info.isNull() ? QPrinterInfo::defaultPrinter() : info);
-    printer.setPageSize(PageOf(settings));
-    printer.setPageOrientation(settings.landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
-    QPageSetupDialog dialog(&printer, ParentFor(nullptr));
-    if (dialog.exec() != QDialog::Accepted) return IDCANCEL;
-    Take(printer.pageLayout(), settings);
-    settings.device = ToBytes(printer.printerName());
+int ShowPrintSetup(PrinterSettings& settings, const QStringList& printers) {
+    PrinterSettings shown = settings;
+    for (int answer = kOtherPrinter; answer == kOtherPrinter;) {
+        const QPrinterInfo info = QPrinterInfo::printerInfo(ToQString(shown.device));
+        QPrinter printer(info.isNull() ? QPrinterInfo::defaultPrinter() : info);
+        if (shown.device.empty()) shown.device = ToBytes(printer.printerName());
+        printer.setPageSize(PageOf(shown));
+        printer.setPageOrientation(shown.landscape ? QPageLayout::Landscape
+                                                   : QPageLayout::Portrait);
+        QPageSetupDialog dialog(&printer, ParentFor(nullptr));
+        const QComboBox* choice = AddPrinters(dialog, printers, ToQString(shown.device));
+        answer = dialog.exec();
+        if (answer == QDialog::Rejected) return IDCANCEL;
+        Take(printer.pageLayout(), shown);
+        if (choice) shown.device = ToBytes(choice->currentText());
+    }
+    settings = shown;
     return IDOK;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QStringList>
 #include <string>
 
 #include "window/desktop.h"
@@ -9,7 +10,8 @@ namespace kv::qt {
 
 int ShowMessageBox(const MessageBoxRequest& request);
 int ShowFileDialog(const FileDialogRequest& request, std::string& path);
-int ShowPrintSetup(PrinterSettings& settings);
+/// With one of these printers chosen, where there are any.
+int ShowPrintSetup(PrinterSettings& settings, const QStringList& printers);
 bool FindDefaultPrinter(PrinterSettings& settings);
 
 }  // namespace kv::qt

@@ -6,6 +6,7 @@
 #include <QEventLoop>
 #include <QFontMetricsF>
 #include <QMainWindow>
+#include <QPrinterInfo>
 #include <QScreen>
 #include <algorithm>
 #include <cmath>
@@ -197,7 +198,7 @@ int QtDesktop::RunFileDialog(const FileDialogRequest& request, std::string& path
 }
 
 int QtDesktop::RunPrintSetup(PrinterSettings& settings) {
-    return ShowPrintSetup(settings);
+    return ShowPrintSetup(settings, QPrinterInfo::availablePrinterNames());
 }
 
 bool QtDesktop::DefaultPrinter(PrinterSettings& settings) {

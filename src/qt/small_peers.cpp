@@ -6,18 +6,16 @@
 #include <QProgressBar>
 #include <QToolBar>
 #include <QToolButton>
-#include <QWheelEvent>
 
 #include "qt/keyboard.h"
 #include "qt/paint.h"
 #include "qt/text.h"
+#include "qt/wheel.h"
 #include "window/input.h"
 
 namespace kv::qt {
 
 namespace {
-
-constexpr int kWheelNotch = 120;
 
 class ArrowButton : public QToolButton {
 public:
@@ -50,9 +48,7 @@ protected:
         down_->setIconSize({arrow, arrow});
     }
     void wheelEvent(QWheelEvent* event) override {
-        turned_ += event->angleDelta().y();
-        const int notches = turned_ / kWheelNotch;
-        turned_ -= notches * kWheelNotch;
+        const int notches = wheel_.Take(*event);
         event->accept();
         Act(node_, [notches](Node& spin) { input::TurnWheel(spin, notches); });
     }
@@ -61,7 +57,7 @@ private:
     std::weak_ptr<Node> node_;
     ArrowButton* up_;
     ArrowButton* down_;
-    int turned_ = 0;
+    WheelNotches wheel_;
 };
 
 class OtherView : public QWidget {

@@ -119,7 +119,8 @@ void StaticPeer::ShowRect() {
     const bool growable = !IsPicture(node) && (node.Style() & SS_TYPEMASK) == SS_LEFT &&
                           place.height() < 2 * Widget()->fontMetrics().lineSpacing() - 2;
     if (!growable || wanted <= place.width() || !node.Parent()) return;
-    Widget()->resize(std::min(wanted, FreeWidth(node)), place.height());
+    const int grown = std::max(place.width(), std::min(wanted, FreeWidth(node)));
+    Widget()->resize(grown, place.height());
 }
 
 void StaticPeer::ShowText() {

@@ -14,6 +14,7 @@
 #include "window/control_bar.h"
 #include "window/dialog.h"
 #include "window/input.h"
+#include "window/window_system.h"
 
 namespace kv::qt {
 
@@ -26,23 +27,31 @@ QWidget* OwnerOf(const Node& node) {
     return owner ? owner->Widget() : nullptr;
 }
 
+/// Brings a window that has just been shown to the front. Where no window manager does so, the
+/// keyboard is to be fetched, too.
+void ComeUp(const Node& node, QWidget& window) {
+    window.raise();
+    if (WindowSystem::Get().ActiveWindow() == &node) window.activateWindow();
+}
+
 /// A window of the platform, whose user closes, moves and activates it through the layer.
 template <typename Base>
 class WindowView : public Base {
 public:
     WindowView(Node& node, QWidget* owner) : Base(owner), node_(node.weak_from_this()) {}
 
-    void Place(const QRect& place, bool fixedSize) {
+    void Place(const CRect& rect, bool fixedSize) {
         mirroring_ = true;
+        const Scale scale = CurrentScale();
+        const QRect place = scale.ToScreen(rect);
+        // A place that is only rounded otherwise is the same one.
+        const CRect stands = scale.ToLogical(ClientPlace());
         if (fixedSize) {
             this->setFixedSize(place.size());
-        } else if (this->size() != place.size()) {
+        } else if (!placed_ || stands.Size() != rect.Size()) {
             this->resize(place.size());
         }
-        // A place that is only rounded otherwise is the same one.
-        const Scale scale = CurrentScale();
-        if (!placed_ ||
-            scale.ToLogical(ClientPlace().topLeft()) != scale.ToLogical(place.topLeft())) {
+        if (!placed_ || stands.TopLeft() != rect.TopLeft()) {
             const QPoint frame = this->geometry().topLeft() - this->pos();
             this->move(place.topLeft() - frame);
         }
@@ -185,14 +194,14 @@ void DialogPeer::ShowText() {
 }
 
 void DialogPeer::ShowRect() {
-    static_cast<DialogView*>(Widget())->Place(CurrentScale().ToScreen(GetNode().Rect()), true);
+    static_cast<DialogView*>(Widget())->Place(GetNode().Rect(), true);
 }
 
 void DialogPeer::ShowVisible() {
     const bool visible = GetNode().Visible();
     if (visible == Widget()->isVisible()) return;
     Widget()->setVisible(visible);
-    if (visible) Widget()->raise();
+    if (visible) ComeUp(GetNode(), *Widget());
 }
 
 FramePeer::FramePeer(Node& node) : Peer(node, new WindowView<QMainWindow>(node, nullptr)) {
@@ -205,12 +214,14 @@ void FramePeer::ShowText() {
 }
 
 void FramePeer::ShowRect() {
-    static_cast<WindowView<QMainWindow>*>(Widget())->Place(
-        CurrentScale().ToScreen(GetNode().Rect()), false);
+    static_cast<WindowView<QMainWindow>*>(Widget())->Place(GetNode().Rect(), false);
 }
 
 void FramePeer::ShowVisible() {
-    Widget()->setVisible(GetNode().Visible());
+    const bool visible = GetNode().Visible();
+    if (visible == Widget()->isVisible()) return;
+    Widget()->setVisible(visible);
+    if (visible) ComeUp(GetNode(), *Widget());
 }
 
 BarPeer::BarPeer(Node& node, QWidget* host) : Peer(node, MakeBar(node, host)) {}
