@@ -4,6 +4,7 @@
 
 #include "qualifiers/list_sel_ids.h"
 #include "window/resources.h"
+#include "window/template_rows.h"
 
 namespace kv::list_sel {
 
@@ -24,18 +25,6 @@ constexpr int kMiddle = kMargin + kListWidth + kGap;
 constexpr int kRight = kMiddle + kButtonWidth + kGap;
 /// From the top of the headings of the lists to their end.
 constexpr int kListsHeight = 10 + kListHeight;
-
-template <std::size_t... counts>
-constexpr auto Join(const std::array<ControlRow, counts>&... parts) {
-    std::array<ControlRow, (counts + ...)> all{};
-    std::size_t at = 0;
-    const auto append = [&](const auto& part) {
-        for (const ControlRow& row : part)
-            all[at++] = row;
-    };
-    (append(parts), ...);
-    return all;
-}
 
 constexpr std::array kSearchRows{
     ControlRow{kFindLabel, kLabel, "Find:", {7, 9, 28, 8}},
@@ -119,20 +108,20 @@ constexpr std::array kLesseeOptionRows{
     ControlRow{kHighest,
                kRadio,
                "Highest Percentage Lessee",
-               {15, kBelowLists + 13, 116, 10},
+               {15, kBelowLists + 15, 116, 10},
                kFirstOfGroup},
-    ControlRow{kAny, kRadio, "Any Percent Lessee", {15, kBelowLists + 30, 92, 10}},
-    ControlRow{kOr, kRadio, "OR", {121, kBelowLists + 30, 28, 10}, kFirstOfGroup | kDisabled},
-    ControlRow{kAnd, kRadio, "AND", {155, kBelowLists + 30, 32, 10}, kDisabled},
+    ControlRow{kAny, kRadio, "Any Percent Lessee", {15, kBelowLists + 31, 92, 10}},
+    ControlRow{kOr, kRadio, "OR", {121, kBelowLists + 31, 28, 10}, kFirstOfGroup | kDisabled},
+    ControlRow{kAnd, kRadio, "AND", {155, kBelowLists + 31, 32, 10}, kDisabled},
     ControlRow{kSpecifyPercent,
                kCheckBox,
                "Specify Percentage",
-               {201, kBelowLists + 30, 92, 10},
+               {201, kBelowLists + 31, 92, 10},
                kFirstOfGroup | kDisabled},
-    ControlRow{kMinLabel, kLabel, "Min", {303, kBelowLists + 15, 40, 8}, kDisabled},
-    ControlRow{kMin, kDropDown, "", {303, kBelowLists + 29, 40, 12}, kDisabled},
-    ControlRow{kMaxLabel, kLabel, "Max", {347, kBelowLists + 15, 40, 8}, kDisabled},
-    ControlRow{kMax, kDropDown, "", {347, kBelowLists + 29, 40, 12}, kDisabled},
+    ControlRow{kMinLabel, kLabel, "Min", {303, kBelowLists + 17, 40, 8}, kDisabled},
+    ControlRow{kMin, kDropDown, "", {303, kBelowLists + 30, 40, 12}, kDisabled},
+    ControlRow{kMaxLabel, kLabel, "Max", {347, kBelowLists + 17, 40, 8}, kDisabled},
+    ControlRow{kMax, kDropDown, "", {347, kBelowLists + 30, 40, 12}, kDisabled},
 };
 
 constexpr std::array kCompanyTypeRows{
@@ -141,12 +130,12 @@ constexpr std::array kCompanyTypeRows{
                "Company Types",
                {kMargin, kBelowLists, kWidth - 2 * kMargin, 31},
                kFirstOfGroup},
-    ControlRow{kOperator, kCheckBox, "Operator", {15, kBelowLists + 13, 54, 10}, kFirstOfGroup},
-    ControlRow{kLessee, kCheckBox, "Lessee", {77, kBelowLists + 13, 46, 10}},
-    ControlRow{kBid, kCheckBox, "Bid", {131, kBelowLists + 13, 34, 10}},
-    ControlRow{kOperatingRights, kCheckBox, "Operating Rights", {173, kBelowLists + 13, 84, 10}},
+    ControlRow{kOperator, kCheckBox, "Operator", {15, kBelowLists + 16, 54, 10}, kFirstOfGroup},
+    ControlRow{kLessee, kCheckBox, "Lessee", {77, kBelowLists + 16, 46, 10}},
+    ControlRow{kBid, kCheckBox, "Bid", {131, kBelowLists + 16, 34, 10}},
+    ControlRow{kOperatingRights, kCheckBox, "Operating Rights", {173, kBelowLists + 16, 84, 10}},
     ControlRow{
-        kDesignatedOperator, kCheckBox, "Designated Operator", {265, kBelowLists + 13, 98, 10}},
+        kDesignatedOperator, kCheckBox, "Designated Operator", {265, kBelowLists + 16, 98, 10}},
 };
 
 constexpr int kEndOfPlain = kBelowLists;
@@ -154,21 +143,22 @@ constexpr int kEndOfLease = kListsTopBelowDatasets + kListsHeight + 7;
 constexpr int kEndOfLessee = kBelowLists + 48 + 7;
 constexpr int kEndOfCompany = kBelowLists + 31 + 7;
 
-constexpr auto kPlainRows = Join(kSearchRows, AvailableRows(kListsTop, {}), ListFileRows(kListsTop),
-                                 SelectedRows(kListsTop, {}), ClosingRows(kEndOfPlain));
+constexpr auto kPlainRows =
+    JoinRows(kSearchRows, AvailableRows(kListsTop, {}), ListFileRows(kListsTop),
+             SelectedRows(kListsTop, {}), ClosingRows(kEndOfPlain));
 
 constexpr auto kLeaseRows =
-    Join(kSearchRows, kDatasetRows, AvailableRows(kListsTopBelowDatasets, {}),
-         ListFileRows(kListsTopBelowDatasets), SelectedRows(kListsTopBelowDatasets, {}),
-         ClosingRows(kEndOfLease));
+    JoinRows(kSearchRows, kDatasetRows, AvailableRows(kListsTopBelowDatasets, {}),
+             ListFileRows(kListsTopBelowDatasets), SelectedRows(kListsTopBelowDatasets, {}),
+             ClosingRows(kEndOfLease));
 
 constexpr auto kLesseeRows =
-    Join(kSearchRows, AvailableRows(kListsTop, kSortedList), SelectedRows(kListsTop, kSortedList),
-         kLesseeOptionRows, ClosingRows(kEndOfLessee));
+    JoinRows(kSearchRows, AvailableRows(kListsTop, kSortedList),
+             SelectedRows(kListsTop, kSortedList), kLesseeOptionRows, ClosingRows(kEndOfLessee));
 
 constexpr auto kCompanyRows =
-    Join(kSearchRows, AvailableRows(kListsTop, kSortedList), SelectedRows(kListsTop, kSortedList),
-         kCompanyTypeRows, ClosingRows(kEndOfCompany));
+    JoinRows(kSearchRows, AvailableRows(kListsTop, kSortedList),
+             SelectedRows(kListsTop, kSortedList), kCompanyTypeRows, ClosingRows(kEndOfCompany));
 
 /// What the closing buttons and the margin below them take.
 constexpr int kFoot = kButtonHeight + kMargin;

@@ -218,6 +218,27 @@ TEST_F(ListSelFiles, ExportThatCannotBeWrittenSaysSo) {
     ExpectHomeIsCurrent();
 }
 
+TEST_F(ListSelFiles, ExportBelowWhatIsNoFolderSaysSo) {
+    folder.Write("work/file", "old\n");
+    Given("A");
+    const std::string path = folder.Dialog("work\\file\\out.txt");
+    desktop.ExpectFile(path);
+    desktop.ExpectMessage("Can't write to settings file " + path);
+    Run(dialog, [](kv::User& user) { user.Click(kExport); });
+    EXPECT_EQ(folder.Read("work/file"), "old\n");
+}
+
+TEST_F(ListSelFiles, ExportOntoAFolderSaysSo) {
+    fs::create_directories(folder.Native("work/out.txt"));
+    Given("A");
+    const std::string path = folder.Dialog("work\\out.txt");
+    desktop.ExpectFile(path);
+    desktop.ExpectMessage("Can't write to settings file " + path);
+    Run(dialog, [](kv::User& user) { user.Click(kExport); });
+    EXPECT_TRUE(fs::is_empty(folder.Native("work/out.txt")));
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder.Native("work")), {}), 2);
+}
+
 TEST_F(ListSelFiles, AFullDiskLeavesTheOldFile) {
     folder.Write("work/full.txt", "old\n");
     Given("<LIST>", std::vector<std::string>(50, "A LONG LINE OF A LIST"));

@@ -546,6 +546,78 @@ TEST_F(ListSel, TypingWakesTheButtons) {
     });
 }
 
+// A host's own dialog.
+
+/// A host's list that counts what it is told to do.
+class CountingList : public CListBox {
+public:
+    int added = 0;
+    int deleted = 0;
+
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        added += message == LB_ADDSTRING;
+        deleted += message == LB_DELETESTRING;
+        return CListBox::WindowProc(message, wParam, lParam);
+    }
+};
+
+/// Asks a query of the host's own, and counts the searches.
+class HostListSel : public CKvGuiListSel {
+public:
+    using CKvGuiListSel::CKvGuiListSel;
+
+    std::string query;
+    int searches = 0;
+    CountingList available;
+    CountingList selected;
+
+    BOOL OnInitDialog() override {
+        available.SubclassDlgItem(kAvailable, this);
+        selected.SubclassDlgItem(kSelected, this);
+        return CKvGuiListSel::OnInitDialog();
+    }
+    std::string V_SqlQuery() override { return query; }
+    void OnSearchButton() override {
+        ++searches;
+        CKvGuiListSel::OnSearchButton();
+    }
+};
+
+TEST_F(ListSel, AHostsOwnQueryAndSearchAreCalledFromTheButton) {
+    HostListSel dialog(kTemplate, nullptr);
+    dialog.MakeComboType(&combo, values);
+    Run(dialog, [&](kv::User& user) {
+        user.Window().Control<CListBox>(kAvailable).AddString("BEFORE");
+        user.Click(kSearch);
+        EXPECT_THAT(user.Rows(kAvailable), ElementsAre("BEFORE"));
+        dialog.query = "select lease_no, lessee from lease where lplana = 'T' order by lease_no";
+        user.Type(kFind, "t5");
+        user.Key(kFind, "Enter");
+        EXPECT_THAT(user.Rows(kAvailable), ElementsAre("T4", "T5"));
+        EXPECT_THAT(user.Selected(kAvailable), ElementsAre(1));
+    });
+    EXPECT_EQ(dialog.searches, 2);
+    EXPECT_THAT(statements, ElementsAre(dialog.query));
+}
+
+TEST_F(ListSel, AHostsListsSeeEachRowThatGoesOver) {
+    Given("<LIST>", {"SHELF"});
+    HostListSel dialog(kTemplate, nullptr);
+    dialog.MakeComboType(&combo, values);
+    dialog.query = "select distinct lessee from lease where lessee like '%'";
+    Run(dialog, [&](kv::User& user) {
+        EXPECT_EQ(dialog.selected.added, 1);
+        Search(user, "x");
+        EXPECT_EQ(dialog.available.added, 4);
+        user.Click(kAdd);
+        EXPECT_EQ(dialog.selected.added, 5);
+        EXPECT_EQ(dialog.available.deleted, 4);
+        user.Click(kClear);
+        EXPECT_EQ(dialog.selected.deleted, 5);
+        EXPECT_EQ(dialog.available.added, 9);
+    });
+}
+
 TEST_F(ListSel, OpensNothingWithoutItsTemplate) {
     CKvGuiListSel dialog("lessee", "lease", &combo, values, 4712, nullptr);
     EXPECT_EQ(dialog.DoModal(), -1);
