@@ -1,0 +1,181 @@
+#include "mapbuild/proj_ctrl.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "frame/db_abs_data_mgr.h"
+#include "frame/db_dataset_set.h"
+#include "mapbuild/proj_sel.h"
+#include "mapbuild/projection_code.h"
+#include "window/combo_box.h"
+#include "window/dialog.h"
+#include "window/message_box.h"
+#include "window/numbers.h"
+
+using namespace kv::projection;
+
+namespace {
+
+struct Favourite {
+    const char* text;
+    int code;
+};
+
+constexpr Favourite kFavourites[] = {
+    {"1   Texas South Central", 1},
+    {"2   Texas South", 2},
+    {"3   Louisiana South", 3},
+    {"114 UTM", 114},
+    {"115 UTM", 115},
+    {"116 UTM", 116},
+    {"117 UTM", 117},
+};
+constexpr int kMoreLine = static_cast<int>(std::size(kFavourites));
+constexpr int kPickedLine = kMoreLine + 1;
+
+/// How much of the combo box's text holds a code.
+constexpr std::size_t kCodeDigits = 4;
+
+constexpr const char* kTable = ".gulf_mexico_zone_code";
+constexpr const char* kSpheroidCategory = "utm_spheroids";
+
+/// The line of a favourite, -1 for any other code.
+int LineOf(int code) {
+    const auto at = std::find_if(std::begin(kFavourites), std::end(kFavourites),
+                                 [code](const Favourite& each) { return each.code == code; });
+    return at == std::end(kFavourites) ? -1 : static_cast<int>(at - kFavourites);
+}
+
+}  // namespace
+
+std::map<int, std::string> CKvGuiProjCtrl::m_tMapDesc;
+bool CKvGuiProjCtrl::m_bMapDescHasData = false;
+int CKvGuiProjCtrl::s_nLastInitCode = kNone;
+
+void CKvGuiProjCtrl::BuildCodeDescMap() {
+    // First, so that a load that fails is not tried again.
+    m_bMapDescHasData = true;
+    const std::string table = CKvDbDatasetSet::S_GetGlobalOwner() + kTable;
+    CKvDbAbsDataMgr manager(1);
+    try {
+        manager.Connect();
+        manager.Select("select zone_code, description, category from " + table +
+                       " order by zone_code");
+        for (int row = 0; row < manager.NumberOfRows(); ++row) {
+            const std::string code = manager.GetItem(row, 0);
+            const std::string name = manager.GetItem(row, 1);
+            const bool spheroid = manager.GetItem(row, 2) == std::string(kSpheroidCategory);
+            m_tMapDesc.emplace(kv::Atoi(code), spheroid ? name : "Zone : " + code + ": " + name);
+        }
+        manager.Select(
+            "select 'Zone: ' || to_char(-1*state_plane_code) || ': ' || description, "
+            "state_plane_code from " +
+            table + " where state_plane_code is not null order by description");
+        for (int row = 0; row < manager.NumberOfRows(); ++row) {
+            m_tMapDesc.emplace(-kv::Atoi(manager.GetItem(row, 1)), manager.GetItem(row, 0));
+        }
+    } catch (const CKvException& e) {
+        AfxMessageBox(e.GetErrorMessage(true, true).c_str(), 0, 0);
+    }
+    manager.FreeData();
+    manager.Disconnect();
+}
+
+void CKvGuiProjCtrl::FillCatalogue() {
+    if (!m_bMapDescHasData) BuildCodeDescMap();
+}
+
+const std::string& CKvGuiProjCtrl::Description(int nCode) {
+    return m_tMapDesc.emplace(nCode, std::string()).first->second;
+}
+
+std::string CKvGuiProjCtrl::S_GetProjDesc(int nCode) {
+    FillCatalogue();
+    const std::string& description = Description(nCode);
+    if (!IsOnSpheroid(nCode) || ZoneOf(nCode) == kStraightMercator) return description;
+    const int zone = ZoneOf(nCode);
+    return "Zone: " + std::to_string(zone) + ": " + Description(nCode - zone);
+}
+
+void CKvGuiProjCtrl::LookUpCombo() {
+    m_pCombo = &m_pParent->Control<CComboBox>(m_nComboId);
+}
+
+void CKvGuiProjCtrl::Initialize(CDialog* pParent, int nComboId, int nProjection, int nUTMZone,
+                                bool bRectSpec, double dRectLat, double dRectLon) {
+    FillCatalogue();
+    m_pParent = pParent;
+    m_nComboId = nComboId;
+    m_nProjection = nProjection;
+    m_nUTMZone = nUTMZone;
+    m_bRectSpec = bRectSpec;
+    m_dRectLat = dRectLat;
+    m_dRectLon = dRectLon;
+    s_nLastInitCode = nProjection;
+    LookUpCombo();
+    for (const Favourite& each : kFavourites)
+        m_pCombo->AddString(each.text);
+    m_pCombo->AddString("More...");
+    m_nMoreCode = kNone;
+    if (nProjection != kNone) SetProjection(nProjection);
+}
+
+void CKvGuiProjCtrl::SetProjection(int nCode) {
+    LookUpCombo();
+    if (const int line = LineOf(nCode); line >= 0) {
+        m_pCombo->SetCurSel(line);
+        return;
+    }
+    if (m_pCombo->GetCount() > kPickedLine) m_pCombo->DeleteString(kPickedLine);
+    std::string text = Description(nCode);
+    if (IsOnSpheroid(nCode)) text = ZoneText(nCode, ZoneOf(nCode));
+    m_nMoreCode = nCode;
+    m_pCombo->AddString(text.c_str());
+    m_pCombo->SetCurSel(m_pCombo->FindStringExact(-1, text.c_str()));
+}
+
+int CKvGuiProjCtrl::GetProjection() {
+    LookUpCombo();
+    const int line = m_pCombo->GetCurSel();
+    if (line >= 0 && line < kMoreLine) {
+        m_nProjection = kFavourites[line].code;
+        return m_nProjection;
+    }
+    if (line == kMoreLine) {
+        GetMoreProjection();
+    } else {
+        m_nProjection = m_nMoreCode;
+    }
+    if (m_nProjection != kNone) SetProjection(m_nProjection);
+    return m_nProjection;
+}
+
+void CKvGuiProjCtrl::TakeMoreCode(int nCode) {
+    m_nProjection = nCode;
+    m_nMoreCode = nCode;
+}
+
+void CKvGuiProjCtrl::GetMoreProjection() {
+    LookUpCombo();
+    CKvGuiProjSel dialog(kv::Atoi(m_pCombo->WindowText().substr(0, kCodeDigits)), nullptr);
+    dialog.SetRectSpec(m_bRectSpec);
+    dialog.SetRectSpecLat(m_dRectLat);
+    dialog.SetRectSpecLon(m_dRectLon);
+    if (dialog.DoModal() != IDOK) {
+        TakeMoreCode(s_nLastInitCode);
+        return;
+    }
+    TakeMoreCode(dialog.m_nProjection);
+    if (!IsOnSpheroid(m_nProjection)) return;
+    m_nUTMZone = dialog.GetUTMZone();
+    if (m_nUTMZone != kStraightMercator) return;
+    if (m_bXYBounded) {
+        AfxMessageBox("Invalid Entry!\n Straight Mercator is not valid for an XY-bounded map!\n", 0,
+                      0);
+        TakeMoreCode(s_nLastInitCode);
+        return;
+    }
+    m_bRectSpec = dialog.GetRectSpec();
+    m_dRectLat = dialog.GetRectSpecLat();
+    m_dRectLon = dialog.GetRectSpecLon();
+}
