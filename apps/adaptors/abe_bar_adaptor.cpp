@@ -21,6 +21,7 @@ public:
     static const kv::MessageMap& Messages() {
         static const kv::MessageEntry kEntries[] = {
             kv::OnMessage<&BarHost::OnRun>(CKvABEBar::kRunMessage),
+            kv::OnMessage<&BarHost::OnClose>(WM_CLOSE),
         };
         static const kv::MessageMap kMap{&CFrameWnd::Messages(), kEntries};
         return kMap;
@@ -43,6 +44,8 @@ private:
         m_run.outcome["runs"].push_back(State());
         return 0;
     }
+    /// What the bar holds is read when the user is done with it.
+    void OnClose() { ShowWindow(SW_HIDE); }
 
     Run& m_run;
 };
@@ -52,7 +55,7 @@ void RunBar(Run& run) {
     BarHost frame(run);
     app.m_pMainWnd = &frame;
     run.outcome["runs"] = Json::array();
-    frame.Create("Area/block/layer bar", {0, 0, 680, 120});
+    frame.Create("Area/block/layer bar", {0, 0, 660, 40});
     frame.EnableDocking(CBRS_ALIGN_ANY);
     if (!frame.m_bar.Create(&frame, kv::abe_bar::kTemplate, CBRS_TOP, kv::abe_bar::kTemplate)) {
         run.result = -1;
@@ -69,7 +72,6 @@ void RunBar(Run& run) {
     }
     frame.ShowWindow(SW_SHOW);
     kv::WindowSystem::Get().GetDesktop().RunModeless(*frame.m_hWnd, *frame.m_bar.m_hWnd);
-    if (!frame.m_hWnd) return;
     run.outcome.update(frame.State());
 }
 
@@ -84,9 +86,10 @@ const Register kRegistered({
         {"includeAll", "flag", "whether the block box offers the row ALL; true by default", true},
         {"enableABE", "flag", "whether the pickers may be used; true by default", nullptr},
     },
-    "area, areaMode, areacode (bare and quoted), block (as shown and without suffix), layer "
-    "number, "
-    "map or report; \"runs\" holds the same for each press of Run",
+    "area (as shown), areaMode (0 MMS code, 1 area name, 2 area code), areacode (bare, several "
+    "with commas between them), areacodeQuoted (for a statement), block (as shown), blockStripped "
+    "(without the suffix of its water), layer (its number), map (whether Map is checked, and not "
+    "Report); runs (a list with the same for each press of Run)",
     RunBar,
 });
 

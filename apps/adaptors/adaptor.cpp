@@ -13,11 +13,37 @@ std::vector<std::unique_ptr<Adaptor>>& Registered() {
     return *list;
 }
 
-std::string NamesOf(const std::vector<Input>& inputs) {
+template <typename Named>
+std::string NamesOf(const std::vector<Named>& list) {
     std::string names;
-    for (const Input& input : inputs)
-        names += (names.empty() ? "" : ", ") + input.name;
+    for (const Named& each : list)
+        names += (names.empty() ? "" : ", ") + each.name;
     return names.empty() ? "none" : names;
+}
+
+template <typename Named>
+const Named* FindNamed(const std::vector<Named>& list, const std::string& name) {
+    const auto at = std::find_if(list.begin(), list.end(),
+                                 [&](const Named& each) { return each.name == name; });
+    return at == list.end() ? nullptr : &*at;
+}
+
+bool IsListOfTexts(const Json& value) {
+    return value.is_array() && std::all_of(value.begin(), value.end(),
+                                           [](const Json& each) { return each.is_string(); });
+}
+
+/// A type in other words than these is looked at by the adaptor itself.
+bool IsOfType(const Json& value, const std::string& type) {
+    if (type == "text") return value.is_string();
+    if (type == "number") return value.is_number();
+    if (type == "flag") return value.is_boolean();
+    if (type == "list of texts") return IsListOfTexts(value);
+    return true;
+}
+
+std::string InWords(const std::string& type) {
+    return type == "flag" ? "true or false" : "a " + type;
 }
 
 }  // namespace
@@ -49,13 +75,32 @@ Json Adaptor::SampleInputs() const {
 void Adaptor::Check(const Json& given) const {
     if (!given.is_object()) throw BadInput("\"inputs\" has to be an object");
     for (const auto& [name, value] : given.items()) {
-        const bool known = std::any_of(inputs.begin(), inputs.end(),
-                                       [&](const Input& input) { return input.name == name; });
-        if (!known) {
-            throw BadInput(className + " takes no input \"" + name +
-                           "\"; it takes: " + NamesOf(inputs));
+        const Input* input = FindNamed(inputs, name);
+        if (!input) {
+            throw BadInput(
+                className + " takes no input \"" + name + "\"; it takes: " + NamesOf(inputs), name);
+        }
+        if (!IsOfType(value, input->type)) {
+            throw BadInput("The input \"" + name + "\" takes " + InWords(input->type) +
+                               ", and not " + value.dump(),
+                           name);
         }
     }
+}
+
+void Adaptor::CheckCall(const std::string& method, const Json& arguments) const {
+    const Method* found = FindNamed(calls, method);
+    if (!found) {
+        throw BadInput(className + " has no method \"" + method +
+                       "\" to call; it has: " + NamesOf(calls));
+    }
+    const auto& wanted = found->arguments;
+    bool fits = arguments.size() == wanted.size();
+    for (std::size_t i = 0; fits && i < wanted.size(); ++i)
+        fits = IsOfType(arguments[i], wanted[i].type);
+    if (fits) return;
+    throw BadInput("The method \"" + method + "\" takes: " + NamesOf(wanted) + "; and not " +
+                   arguments.dump());
 }
 
 Register::Register(Adaptor adaptor) {

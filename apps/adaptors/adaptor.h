@@ -1,10 +1,13 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <nlohmann/json.hpp>
 #include <stdexcept>
 #include <string>
 #include <vector>
+
+class CWnd;
 
 /// An adaptor runs one dialog or tool from JSON: inputs in, outcome out. Both hosts find it by the
 /// class name. A new dialog is one new file here, which defines one `Register` object.
@@ -12,18 +15,33 @@ namespace adaptors {
 
 using Json = nlohmann::ordered_json;
 
+class Tool;
+
 /// One input that an adaptor takes.
 struct Input {
     std::string name;
-    std::string type;  ///< "text", "number", "flag", "list of texts", ...
+    std::string type;  ///< "text", "number", "flag", "list of texts", or in other words
     std::string meaning;
     Json sample;  ///< what makes sense on the sample data; null where the input may be left out
+};
+
+/// What a tool's host may call while the tool is open.
+struct Method {
+    std::string name;
+    std::vector<Input> arguments;
+    std::string meaning;
 };
 
 /// Inputs that do not fit; the words say which and why.
 class BadInput : public std::runtime_error {
 public:
-    using std::runtime_error::runtime_error;
+    explicit BadInput(const std::string& words, std::string input = {})
+        : std::runtime_error(words), input_(std::move(input)) {}
+    /// The input at fault; "" where it is none of them.
+    const std::string& InputName() const { return input_; }
+
+private:
+    std::string input_;
 };
 
 /// What a run takes and gives.
@@ -39,8 +57,9 @@ public:
         try {
             return inputs_.at(name).template get<T>();
         } catch (const nlohmann::json::exception&) {
-            throw BadInput("The input \"" + name +
-                           "\" is of the wrong type: " + inputs_.at(name).dump());
+            throw BadInput(
+                "The input \"" + name + "\" is of the wrong type: " + inputs_.at(name).dump(),
+                name);
         }
     }
     const Json& Inputs() const { return inputs_; }
@@ -70,13 +89,19 @@ struct Adaptor {
     std::string caption;
     int templateId = 0;
     std::vector<Input> inputs;
-    std::string returns;  ///< what the outcome holds, in a sentence
+    std::string returns;  ///< what the outcome holds: each name in it, and what it means
     std::function<void(Run&)> run;
+    std::vector<Method> calls = {};  ///< what `Run::SetCall` understands
+    /// Of a modeless tool: makes one over a window, null for none, that the host then keeps.
+    std::function<std::unique_ptr<Tool>(CWnd* owner)> makeTool = {};
 
     /// The sample inputs, those that are left out excepted.
     Json SampleInputs() const;
-    /// Throws BadInput when `inputs` is no object or holds a name that is none of the inputs.
+    /// Throws BadInput when `given` is no object, holds a name that is none of the inputs, or a
+    /// value that is not of the input's type.
     void Check(const Json& given) const;
+    /// Throws BadInput for a method that is none of `calls`, and for arguments that do not fit.
+    void CheckCall(const std::string& method, const Json& arguments) const;
 };
 
 /// Puts an adaptor in the list; defined as a static object in the adaptor's file.

@@ -36,13 +36,15 @@ const Register kRegistered({
     kv::list_sel::kCompanyTemplate,
     Joined({{"column", "text", "column with the company", "company"},
             {"table", "text", "company table", "NORVADON.gulf_mexico_company"},
-            {"operator", "flag", "role in which the companies count", true},
-            {"lessee", "flag", "as above", true},
-            {"bid", "flag", "as above", nullptr},
-            {"operatingRights", "flag", "as above", nullptr},
-            {"designatedOperator", "flag", "as above", nullptr}},
+            {"operator", "flag", "a role in which companies count: who operates", true},
+            {"lessee", "flag", "who holds a lease", true},
+            {"bid", "flag", "who bid on a lease", nullptr},
+            {"operatingRights", "flag", "who holds operating rights", nullptr},
+            {"designatedOperator", "flag", "who is designated to operate", nullptr}},
            Joined(ListSelInputs(), CallerInputs())),
-    "values (the caller's vector), text (of its control), the five roles, listFile, useListFile",
+    "values (the caller's vector), text (of its control), listFile (its path), useListFile "
+    "(whether "
+    "it is in use), operator, lessee, bid, operatingRights, designatedOperator (the roles)",
     RunCompanyListSel,
 });
 

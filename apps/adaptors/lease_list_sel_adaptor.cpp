@@ -25,7 +25,9 @@ const Register kRegistered({
     Joined({{"column", "text", "column with the lease number", "lease_no"},
             {"table", "text", "lease table, with the column lplana", "NORVADON.gulf_mexico_lease"}},
            Joined(ListSelInputs(), CallerInputs())),
-    "values (the caller's vector), text (of its control), listFile, useListFile",
+    "values (the caller's vector), text (of its control), listFile (its path), useListFile "
+    "(whether "
+    "it is in use)",
     RunLeaseListSel,
 });
 

@@ -13,8 +13,9 @@ std::vector<T_KV_LESSEE_PER_STRUCT> PercentsFrom(const Run& run) {
         try {
             percents.push_back({each.at("company"), each.value("min", 0), each.value("max", 100)});
         } catch (const nlohmann::json::exception&) {
-            throw BadInput("\"percents\" takes objects with company, min and max, and not " +
-                           each.dump());
+            throw BadInput(
+                "\"percents\" takes objects with company, min and max, and not " + each.dump(),
+                "percents");
         }
     }
     return percents;
@@ -67,7 +68,11 @@ const Register kRegistered({
             {"specifyPercent", "flag", "whether interest ranges are specified", nullptr},
             {"percents", "list of {company, min, max}", "interest ranges in percent", nullptr}},
            Joined(ListSelInputs(), CallerInputs())),
-    "values (the caller's vector), text (of its control), the five flags, percents",
+    "values (the caller's vector), text (of its control), listFile (its path), useListFile "
+    "(whether "
+    "it is in use), high, any, or, and, specifyPercent (the flags), percents (list of company, "
+    "min, "
+    "max)",
     RunLesseeListSel,
 });
 

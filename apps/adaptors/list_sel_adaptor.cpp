@@ -38,7 +38,9 @@ const Register kRegistered({
             {"table", "text", "table, or several with \";\" between them",
              "NORVADON.gulf_mexico_lease"}},
            Joined(ListSelInputs(), CallerInputs())),
-    "values (the caller's vector), text (of its control), listFile, useListFile",
+    "values (the caller's vector), text (of its control), listFile (its path), useListFile "
+    "(whether "
+    "it is in use)",
     RunListSel,
 });
 

@@ -30,7 +30,9 @@ const Register kRegistered({
             {"condition", "text", "what follows \"in\": a list or a subquery in brackets",
              "(select stcode from NORVADON.gulf_mexico_connam2 where area_abbr = 'VR')"}},
            Joined(ListSelInputs(), CallerInputs())),
-    "values (the caller's vector), text (of its control), listFile, useListFile",
+    "values (the caller's vector), text (of its control), listFile (its path), useListFile "
+    "(whether "
+    "it is in use)",
     RunOptrListSel,
 });
 

@@ -3,47 +3,27 @@
 #include <CLI/CLI.hpp>
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <optional>
 #include <sstream>
 #include <string>
 
-#include "adaptors/adaptor.h"
 #include "frame/db_abs_data_mgr.h"
 #include "frame/module.h"
 #include "frame/statement_trace.h"
+#include "kvdlg/failure.h"
+#include "kvdlg/help.h"
+#include "kvdlg/play.h"
 #include "kvdlg/report.h"
 #include "kvdlg/script.h"
 #include "kvdlg/script_lines.h"
-#include "window/headless_desktop.h"
-#include "window/window_system.h"
 
 namespace {
 
+using namespace kvdlg;
 using adaptors::Adaptor;
-using kvdlg::Json;
-
-enum ExitCode { kDone = 0, kCancelled = 1, kWrongUse = 2, kDataFailure = 3 };
-
-constexpr const char* kScriptHelp = R"(
-A script plays the user. It is a JSON file:
-
-  { "inputs": { "column": "lessee" },
-    "user": [
-      { "window": "CKvGuiListSel",
-        "do": [ {"type": [1191, "shell"]}, {"click": 1192}, {"select": [1193, [0, 2]]},
-                {"click": 1188}, {"click": 1} ] },
-      { "message": "No Matches found!", "answer": "ok" },
-      { "file": "C:\\tmp\\a.txt" } ] }
-
-Scenes are taken in the order in which windows, message boxes and file dialogs open ("file": null
-cancels). Actions: "type" [id, text], "key" [id, name], "paste" [id, text], "click" id,
-"doubleclick" [id, row], "select" [id, row text | index | list of them], "drop" id, "focus" id,
-"close" null, "call" [method, arguments...], "snapshot" name. "pump" N plays its actions when the
-queue is pumped inside long work, after N pumpings.
-
-Exit codes: 0 done, 1 cancelled, 2 wrong use or a script that does not fit, 3 a failure of the
-database or of a file.)";
 
 struct Options {
     std::string className;
@@ -56,17 +36,17 @@ struct Options {
 
 std::string ReadFile(const std::string& path) {
     std::ifstream file(path, std::ios::binary);
-    if (!file) throw kvdlg::BadScript("The file " + path + " cannot be read");
     std::ostringstream text;
     text << file.rdbuf();
+    if (!file) throw FileFailure("The file " + path + " cannot be read");
     return text.str();
 }
 
 const Adaptor& Require(const std::string& className) {
     const Adaptor* adaptor = adaptors::Find(className);
     if (!adaptor) {
-        throw adaptors::BadInput("There is no dialog \"" + className +
-                                 "\"; \"kvdlg list\" tells which there are");
+        throw BadUse("There is no dialog \"" + className +
+                     "\"; \"kvdlg list\" tells which there are");
     }
     return *adaptor;
 }
@@ -79,120 +59,155 @@ int List() {
     return kDone;
 }
 
-int DescribeDialog(const std::string& className) {
-    const Adaptor& adaptor = Require(className);
-    Json inputs = Json::array();
-    for (const adaptors::Input& each : adaptor.inputs) {
-        Json input{{"name", each.name}, {"type", each.type}, {"meaning", each.meaning}};
-        if (!each.sample.is_null()) input["sample"] = each.sample;
-        inputs.push_back(std::move(input));
-    }
-    const Json description{{"class", adaptor.className},
-                           {"family", adaptor.family},
-                           {"caption", adaptor.caption},
-                           {"inputs", inputs},
-                           {"controls", kvdlg::DescribeTemplate(adaptor.templateId)},
-                           {"returns", adaptor.returns}};
-    std::cout << kvdlg::Print(description) << std::endl;
-    return kDone;
+std::optional<Script> ReadScript(const Options& options) {
+    if (options.scriptFile.empty()) return {};
+    Script script{ReadFile(options.scriptFile), {}};
+    script.json = ParseJson(script.text, "The script " + options.scriptFile);
+    if (!script.json.is_object()) throw BadScript("Line 1: expected the script to be an object");
+    return script;
 }
 
-/// The inputs: those of the input file over those of the script.
-Json InputsOf(const Options& options, const Json& script) {
-    Json inputs = script.value("inputs", Json::object());
+/// The inputs of the input file, under "inputs" or by themselves.
+Json InputsOfFile(const std::string& path) {
+    const Json given = ParseJson(ReadFile(path), "The file " + path);
+    return given.is_object() && given.contains("inputs") ? given["inputs"] : given;
+}
+
+/// Those of the input file go over those of the script. A person who gives none gets the samples.
+Json InputsOf(const Options& options, const Adaptor& adaptor, const std::optional<Script>& script) {
+    if (!script && options.inputFile.empty()) return adaptor.SampleInputs();
+    Json inputs = script ? script->json.value("inputs", Json::object()) : Json::object();
     if (!options.inputFile.empty()) {
-        const Json given =
-            kvdlg::ParseJson(ReadFile(options.inputFile), "The file " + options.inputFile);
-        const Json own = given.contains("inputs") ? given["inputs"] : given;
-        if (!own.is_object()) throw kvdlg::BadScript("The input has to be an object");
+        const Json own = InputsOfFile(options.inputFile);
+        if (!own.is_object() || !inputs.is_object()) {
+            throw BadScript("The file " + options.inputFile + ": expected an object of inputs");
+        }
         inputs.update(own);
     }
     return inputs;
 }
 
-int Play(const Options& options) {
-    const Adaptor& adaptor = Require(options.className);
-    const std::string text = ReadFile(options.scriptFile);
-    const Json script = kvdlg::ParseJson(text, "The script " + options.scriptFile);
-    if (!script.is_object()) throw kvdlg::BadScript("The script has to be an object");
-    const Json inputs = InputsOf(options, script);
-    adaptor.Check(inputs);
-
-    Json windows = Json::array();
-    Json sql = Json::array();
-    adaptors::Run run(inputs);
-    kv::HeadlessDesktop desktop;
-    kv::WindowSystem::Get().SetDesktop(&desktop);
-    desktop.SetWindowClosed(
-        [&](kv::Node& window) { windows.push_back(kvdlg::Describe(window, "")); });
-    std::string place;
-    desktop.SetFailure([&](const std::string& words) {
-        std::cerr << "kvdlg: " << place << (place.empty() ? "" : ": ") << words << std::endl;
-        std::fflush(nullptr);
-        // At once: no handler on the way may go on.
-        std::_Exit(kWrongUse);
-    });
-    const auto snapshot = [&](kv::Node& window, const std::string& name) {
-        windows.push_back(kvdlg::Describe(window, name));
-    };
-    const auto call = [&](const std::string& method, const Json& arguments) {
-        try {
-            run.DoCall(method, arguments);
-        } catch (const adaptors::BadInput& e) {
-            desktop.Fail(e.what());
-        }
-    };
-    const auto at = [&](const std::string& where) { place = where; };
-    kvdlg::AddScenes(script.value("user", Json::array()), kvdlg::LinesOf(text), desktop,
-                     {snapshot, call, at});
-    kv::db::SetStatementTrace([&](const std::string& statement) { sql.push_back(statement); });
-
-    adaptor.run(run);
-    kv::db::SetStatementTrace(nullptr);
-    if (desktop.ScenesLeft() > 0) {
-        desktop.Fail("the run is over, and " + std::to_string(desktop.ScenesLeft()) +
-                     " scenes were not taken");
-    }
-
-    Json outcome{{"result", run.ResultName()}, {"outcome", run.outcome}};
-    outcome["messages"] = desktop.Messages();
-    if (options.trace) outcome["sql"] = sql;
-    outcome["windows"] = windows;
-    std::cout << kvdlg::Print(outcome) << std::endl;
-    return run.result == IDCANCEL ? kCancelled : run.result == IDOK ? kDone : kDataFailure;
+/// Puts the line of the script ahead of a complaint about an input that stands there.
+std::string WithLine(const adaptors::BadInput& e, const std::optional<Script>& script) {
+    const auto lines = script ? LinesOf(script->text) : LinesOf("");
+    const std::string input = e.InputName().empty() ? "" : "/" + e.InputName();
+    const auto at = lines.find("/inputs" + input);
+    return at == lines.end() ? e.what() : "Line " + std::to_string(at->second) + ": " + e.what();
 }
 
-void UseDatabase(const std::string& server) {
-    if (server.empty()) return;
-    CKvDbInfo info("", "", server.c_str());
-    CKvDbAbsDataMgr manager(1);
-    manager.SetDbInfo(info);
-    // A database that is not there ends the run here and not in some message box.
+/// The path as it stands now: handlers change the current folder.
+std::string Absolute(const std::string& path) {
+    return path.empty() ? path : std::filesystem::absolute(path).string();
+}
+
+void Connect() {
+    CKvDbAbsDataMgr manager(KV_CONNECT_DEFAULT);
     manager.Connect();
     manager.Disconnect();
+}
+
+/// A database that is asked for and is not there ends the run here, and not in some message box.
+void UseDatabase(const std::string& server) {
+    constexpr std::string_view kFile = "sqlite:";
+    const std::string whole = server.starts_with(kFile)
+                                  ? std::string(kFile) + Absolute(server.substr(kFile.size()))
+                                  : server;
+    CKvDbInfo info("", "", whole.c_str());
+    CKvDbAbsDataMgr(KV_CONNECT_DEFAULT).SetDbInfo(info);
+    Connect();
+}
+
+/// What is wrong with the database that nobody asked for; "" for nothing. Some dialogs need none.
+std::string FaultOfDatabase() {
+    try {
+        Connect();
+        return {};
+    } catch (const CKvException& e) {
+        return e.GetErrorMessage(true, true);
+    }
+}
+
+/// Windows that do not fit the script end the program at once: no handler on the way may go on.
+std::function<void(const std::string&)> EndOnMismatch(const std::string& databaseFault) {
+    return [databaseFault](const std::string& words) {
+        std::cerr << "kvdlg: " << words << std::endl;
+        if (!databaseFault.empty()) std::cerr << "kvdlg: " << databaseFault << std::endl;
+        std::fflush(nullptr);
+        std::_Exit(databaseFault.empty() ? kWrongUse : kDataFailure);
+    };
+}
+
+/// Runs the dialog, with the script or a person in front of it.
+void RunOn(const Adaptor& adaptor, adaptors::Run& run, const Options& options,
+           const std::optional<Script>& script, Records& records) {
+    const std::string picture = Absolute(options.picture);
+    bool pictured = false;
+    std::unique_ptr<Screen> screen;
+    const WindowClosed closed = [&](kv::Node& window) {
+        records.windows.push_back(Describe(window, ""));
+        // The window that opened first closes last.
+        if (!picture.empty()) screen->SavePicture(window, picture), pictured = true;
+    };
+    if (script) {
+        const std::string fault = options.database.empty() ? FaultOfDatabase() : "";
+        if (!picture.empty()) screen = OpenHiddenScreen();
+        Play(adaptor, run, *script, records, closed, EndOnMismatch(fault));
+    } else {
+        screen = OpenDisplay(records, closed);
+        adaptor.run(run);
+    }
+    if (!picture.empty() && !pictured) {
+        throw FileFailure("There was no window to take the picture " + options.picture + " of");
+    }
+}
+
+int RunDialog(const Options& options) {
+    const Adaptor& adaptor = Require(options.className);
+    const std::optional<Script> script = ReadScript(options);
+    if (!options.database.empty()) UseDatabase(options.database);
+    adaptors::Run run(InputsOf(options, adaptor, script));
+    Records records;
+    kv::db::SetStatementTrace(
+        [&](const std::string& statement) { records.sql.push_back(statement); });
+    try {
+        adaptor.Check(run.Inputs());
+        RunOn(adaptor, run, options, script, records);
+    } catch (const adaptors::BadInput& e) {
+        throw BadScript(WithLine(e, script));
+    }
+    kv::db::SetStatementTrace(nullptr);
+    std::cout << Print(Outcome(run, records, options.trace)) << std::endl;
+    return run.result == IDCANCEL ? kCancelled : run.result == IDOK ? kDone : kDataFailure;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-    CLI::App app("Runs the dialogs of KVGuiCtl from the shell");
-    app.footer(kScriptHelp);
+    CLI::App app("Runs the dialogs of KVGuiCtl from the shell", "kvdlg");
+    app.footer(kHelp);
     app.require_subcommand(1);
     Options options;
 
     auto* list = app.add_subcommand("list", "Every dialog: class, family, caption");
-    auto* describe =
-        app.add_subcommand("describe", "Inputs that a dialog takes, its controls, what it returns");
+    auto* describe = app.add_subcommand(
+        "describe", "Inputs that a dialog takes, its controls, what it returns, a first script");
     describe->add_option("CLASS", options.className, "The dialog's class")->required();
-    auto* run = app.add_subcommand("run", "Runs a dialog");
+    describe->footer(kDescribeHelp);
+    auto* run = app.add_subcommand("run", "Runs a dialog and prints its outcome as JSON");
     run->add_option("CLASS", options.className, "The dialog's class")->required();
-    run->add_option("--input", options.inputFile, "JSON file with the inputs");
-    run->add_option("--script", options.scriptFile, "JSON file that plays the user");
+    run->add_option("--input", options.inputFile,
+                    "JSON file with the inputs; those of a script are overridden. Without this, a "
+                    "window opens with the samples that \"describe\" names");
+    run->add_option("--script", options.scriptFile,
+                    "JSON file that plays the user, without a window; if left out, a window opens");
     run->add_option("--db", options.database,
                     "Server text, as sqlite:PATH or postgresql://...; the sample database if left "
                     "out");
     run->add_flag("--trace", options.trace, "Adds the SQL texts that were sent");
-    run->add_option("--picture", options.picture, "PNG file for a picture of the dialog");
+    run->add_option("--picture", options.picture,
+                    "PNG file for a picture of the dialog as it stands when it closes; with a "
+                    "script, no display is needed for it");
+    run->footer(kScriptHelp);
 
     try {
         app.parse(argc, argv);
@@ -201,16 +216,22 @@ int main(int argc, char** argv) {
     }
 
     InitControlDll();
+    const auto failed = [](const std::string& words, ExitCode code) {
+        std::cerr << "kvdlg: " << words << std::endl;
+        return code;
+    };
     try {
-        UseDatabase(options.database);
         if (*list) return List();
-        if (*describe) return DescribeDialog(options.className);
-        return Play(options);
+        if (*describe) {
+            std::cout << Print(DescribeDialog(Require(options.className))) << std::endl;
+            return kDone;
+        }
+        return RunDialog(options);
     } catch (const CKvException& e) {
-        std::cerr << "kvdlg: " << e.GetErrorMessage(true, true) << std::endl;
-        return kDataFailure;
+        return failed(e.GetErrorMessage(true, true), kDataFailure);
+    } catch (const FileFailure& e) {
+        return failed(e.what(), kDataFailure);
     } catch (const std::exception& e) {
-        std::cerr << "kvdlg: " << e.what() << std::endl;
-        return kWrongUse;
+        return failed(e.what(), kWrongUse);
     }
 }

@@ -1,7 +1,9 @@
 #include "kvdlg/report.h"
 
-#include <array>
+#include <algorithm>
+#include <span>
 #include <utility>
+#include <vector>
 
 #include "window/resources.h"
 #include "window/user.h"
@@ -71,6 +73,95 @@ Json DescribeControl(kv::Node& control) {
     return result;
 }
 
+bool IsLabel(const kv::ControlRow& row) {
+    return kv::ClassOf(row.kind) == kv::NodeClass::kStatic && *row.text != '\0';
+}
+
+/// Whether a row is the unit of the number that the spin button ahead of it steps.
+bool IsUnit(std::span<const kv::ControlRow> rows, std::size_t at) {
+    constexpr int kMostGap = 8;
+    if (at == 0 || at >= rows.size() || !IsLabel(rows[at])) return false;
+    const kv::ControlRow& ahead = rows[at - 1];
+    const kv::DialogUnits& place = rows[at].place;
+    const int gap = place.x - ahead.place.x - ahead.place.width;
+    const bool sameLine =
+        place.y < ahead.place.y + ahead.place.height && ahead.place.y < place.y + place.height;
+    return ahead.kind == kv::ControlKind::kSpin && gap >= 0 && gap <= kMostGap && sameLine;
+}
+
+/// The unit behind a spin button, or behind a field that has one, with a blank ahead of it.
+std::string UnitOf(std::span<const kv::ControlRow> rows, std::size_t at) {
+    const std::size_t unit = at + (rows[at].kind == kv::ControlKind::kSpin ? 1 : 2);
+    return IsUnit(rows, unit) ? std::string(" ") + rows[unit].text : "";
+}
+
+/// Fields have no text of their own: they go by the label ahead of them.
+bool NeedsLabel(kv::NodeClass nodeClass) {
+    return nodeClass != kv::NodeClass::kStatic && nodeClass != kv::NodeClass::kButton;
+}
+
+Json DescribeRow(const kv::ControlRow& row, const std::string& label) {
+    const DWORD style = kv::StyleOf(row);
+    const kv::NodeClass nodeClass = kv::ClassOf(row.kind);
+    Json result{{"id", row.id}, {"kind", KindName(nodeClass, style)}, {"text", row.text}};
+    if (NeedsLabel(nodeClass) && !label.empty()) result["label"] = label;
+    const bool field = nodeClass == kv::NodeClass::kEdit;
+    const std::pair<const char*, bool> states[] = {
+        {"tabStop", (style & WS_TABSTOP) != 0},
+        {"disabled", (style & WS_DISABLED) != 0},
+        {"hidden", (style & WS_VISIBLE) == 0},
+        {"readOnly", field && (style & ES_READONLY) != 0},
+    };
+    for (const auto& [name, is] : states) {
+        if (is) result[name] = true;
+    }
+    return result;
+}
+
+Json DescribeTemplate(int templateId) {
+    Json rows = Json::array();
+    const kv::DialogTemplate* found = kv::FindTemplate(templateId);
+    if (!found) return rows;
+    std::string label;
+    for (std::size_t at = 0; at < found->rows.size(); ++at) {
+        const kv::ControlRow& row = found->rows[at];
+        if (IsLabel(row) && !IsUnit(found->rows, at)) label = row.text;
+        rows.push_back(DescribeRow(row, label + UnitOf(found->rows, at)));
+    }
+    return rows;
+}
+
+Json DescribeInputs(const std::vector<adaptors::Input>& inputs) {
+    Json list = Json::array();
+    for (const adaptors::Input& each : inputs) {
+        Json input{{"name", each.name}, {"type", each.type}, {"meaning", each.meaning}};
+        if (!each.sample.is_null()) input["sample"] = each.sample;
+        list.push_back(std::move(input));
+    }
+    return list;
+}
+
+Json DescribeCalls(const std::vector<adaptors::Method>& calls) {
+    Json list = Json::array();
+    for (const adaptors::Method& each : calls) {
+        list.push_back({{"method", each.name},
+                        {"arguments", DescribeInputs(each.arguments)},
+                        {"meaning", each.meaning}});
+    }
+    return list;
+}
+
+/// Opens the dialog, looks at it, and leaves it where it can be left.
+Json FirstScript(const adaptors::Adaptor& adaptor, const Json& controls) {
+    Json actions = Json::array({{{"snapshot", "start"}}});
+    const bool canCancel = std::any_of(controls.begin(), controls.end(), [](const Json& control) {
+        return control["id"] == IDCANCEL && !control.contains("hidden");
+    });
+    if (canCancel) actions.push_back({{"click", IDCANCEL}});
+    return {{"inputs", adaptor.SampleInputs()},
+            {"user", Json::array({{{"window", adaptor.className}, {"do", actions}}})}};
+}
+
 }  // namespace
 
 Json Describe(kv::Node& window, const std::string& snapshot) {
@@ -83,16 +174,20 @@ Json Describe(kv::Node& window, const std::string& snapshot) {
     return result;
 }
 
-Json DescribeTemplate(int templateId) {
-    Json rows = Json::array();
-    const kv::DialogTemplate* found = kv::FindTemplate(templateId);
-    if (!found) return rows;
-    for (const kv::ControlRow& row : found->rows) {
-        rows.push_back({{"id", row.id},
-                        {"kind", KindName(kv::ClassOf(row.kind), kv::StyleOf(row))},
-                        {"text", row.text}});
-    }
-    return rows;
+Json DescribeDialog(const adaptors::Adaptor& adaptor) {
+    const Json controls = DescribeTemplate(adaptor.templateId);
+    return {{"class", adaptor.className}, {"family", adaptor.family},
+            {"caption", adaptor.caption}, {"inputs", DescribeInputs(adaptor.inputs)},
+            {"controls", controls},       {"calls", DescribeCalls(adaptor.calls)},
+            {"returns", adaptor.returns}, {"script", FirstScript(adaptor, controls)}};
+}
+
+Json Outcome(const adaptors::Run& run, const Records& records, bool trace) {
+    Json outcome{{"result", run.ResultName()}, {"outcome", run.outcome}};
+    outcome["messages"] = records.messages;
+    if (trace) outcome["sql"] = records.sql;
+    outcome["windows"] = records.windows;
+    return outcome;
 }
 
 std::string Print(const Json& value) {

@@ -188,6 +188,20 @@ int AnswerOf(const Json& scene, const std::string& where) {
     return at->second;
 }
 
+kv::PrinterSettings PrinterOf(const Json& given, const std::string& where) {
+    kv::PrinterSettings printer;
+    try {
+        printer.device = given.value("device", printer.device);
+        printer.paper = given.value("paper", printer.paper);
+        printer.landscape = given.value("landscape", printer.landscape);
+        printer.widthTenthMm = given.value("width", printer.widthTenthMm);
+        printer.heightTenthMm = given.value("height", printer.heightTenthMm);
+    } catch (const nlohmann::json::exception&) {
+        Wrong(where, "\"print\" to be an object with device, paper, landscape, width and height");
+    }
+    return printer;
+}
+
 void AddScene(const Json& scene, const ScenePlace& place, kv::HeadlessDesktop& desktop,
               const Hooks& hooks) {
     const std::string where = place.Words();
@@ -210,12 +224,18 @@ void AddScene(const Json& scene, const ScenePlace& place, kv::HeadlessDesktop& d
         } else {
             desktop.ExpectFile(textOf("file"));
         }
+    } else if (scene.contains("print")) {
+        if (scene["print"].is_null()) {
+            desktop.ExpectPrintSetupCancel();
+        } else {
+            desktop.ExpectPrintSetup(PrinterOf(scene["print"], where));
+        }
     } else if (scene.contains("pump")) {
         if (!scene["pump"].is_number_integer())
             Wrong(where, "\"pump\" to be how many pumpings go by first");
         desktop.ExpectPump(play, scene["pump"].get<int>());
     } else {
-        Wrong(where, "\"window\", \"message\", \"file\" or \"pump\"");
+        Wrong(where, "\"window\", \"message\", \"file\", \"print\" or \"pump\"");
     }
 }
 

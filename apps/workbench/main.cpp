@@ -2,6 +2,7 @@
 
 #include <CLI/CLI.hpp>
 #include <QApplication>
+#include <QLoggingCategory>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
@@ -9,6 +10,7 @@
 
 #include "frame/db_abs_data_mgr.h"
 #include "frame/module.h"
+#include "map_picks/map_picks.h"
 #include "qt/qt_desktop.h"
 #include "workbench/pictures.h"
 #include "workbench/workbench.h"
@@ -64,6 +66,8 @@ bool ChoosePlatform(const Options& options) {
 
 int TakePictures(workbench::Workbench& host, const Options& options) {
     EndOnFailure(host);
+    // What the platform of no display cannot do is of no interest to a picture.
+    QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
     host.Window().resize(1280, 860);
     host.Show();
     while (host.Model().Areas().empty())
@@ -106,6 +110,7 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     InitControlDll();
     kv::qt::QtDesktop desktop;
+    map_picks::Install();
     workbench::Workbench host(UseDatabase(options.database));
     if (ForPictures(options)) return TakePictures(host, options);
     if (options.timeFirstPaint) {

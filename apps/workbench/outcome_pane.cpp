@@ -70,4 +70,9 @@ void OutcomePane::Add(const adaptors::Adaptor& adaptor, const adaptors::Run& run
     verticalScrollBar()->setValue(verticalScrollBar()->maximum());
 }
 
+void OutcomePane::AddNote(const QString& note) {
+    appendPlainText(note);
+    verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+}
+
 }  // namespace workbench

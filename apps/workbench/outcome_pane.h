@@ -12,6 +12,8 @@ class OutcomePane : public QPlainTextEdit {
 public:
     explicit OutcomePane(QWidget* parent = nullptr);
     void Add(const adaptors::Adaptor& adaptor, const adaptors::Run& run);
+    /// A line below what was added last.
+    void AddNote(const QString& note);
 };
 
 /// The outcome as lines of "name: value", nested values indented, an empty one in quotation marks.

@@ -119,8 +119,15 @@ const ReportLayer* FindReportLayer(E_Layer layer) {
     return found == std::end(kLayers) ? nullptr : found;
 }
 
-std::string ReportStatement(const ReportLayer& layer, const std::string& quotedArea,
-                            const std::string& block) {
+std::string BlockCondition(const ReportLayer& layer, const std::string& quotedArea,
+                           const std::string& block) {
+    std::string condition(layer.ofArea);
+    if (block != kv::catalogue::kAllBlocks) condition.append(" and ").append(layer.ofBlock);
+    condition = kv::ReplaceAll(condition, "{area}", quotedArea);
+    return kv::ReplaceAll(condition, "{block}", Quoted(block));
+}
+
+std::string ReportStatement(const ReportLayer& layer, const std::string& condition) {
     std::string statement = "select ";
     for (const Column& column : layer.columns) {
         statement.append(column.expression).append(", ");
@@ -128,11 +135,7 @@ std::string ReportStatement(const ReportLayer& layer, const std::string& quotedA
     statement.append("t.areacode, ").append(kBlockName);
     statement += " from " + TableName(std::string(layer.table)) + " t, " +
                  TableName(kv::catalogue::kAreaTable) + " a where a.stcode = t.areacode and ";
-    std::string condition(layer.ofArea);
-    if (block != kv::catalogue::kAllBlocks) condition.append(" and ").append(layer.ofBlock);
-    condition = kv::ReplaceAll(condition, "{area}", quotedArea);
-    statement += kv::ReplaceAll(condition, "{block}", Quoted(block));
-    return statement.append(" order by ").append(layer.order);
+    return statement.append(condition).append(" order by ").append(layer.order);
 }
 
 std::vector<std::string> AreaLiterals(const std::string& areacode) {
@@ -142,12 +145,9 @@ std::vector<std::string> AreaLiterals(const std::string& areacode) {
     return kv::Split(list, ',');
 }
 
-ReportLoader::ReportLoader(const ReportLayer& layer, std::vector<std::string> areaLiterals,
-                           std::string block, std::function<void(ResultTable)> finished)
-    : layer_(layer),
-      areas_(std::move(areaLiterals)),
-      block_(std::move(block)),
-      finished_(std::move(finished)) {
+ReportLoader::ReportLoader(const ReportLayer& layer, std::vector<std::string> conditions,
+                           std::function<void(ResultTable)> finished)
+    : layer_(layer), conditions_(std::move(conditions)), finished_(std::move(finished)) {
     table_.title = layer.title;
     for (const Column& column : layer.columns) {
         table_.columns.push_back({std::string(column.heading), column.number});
@@ -159,15 +159,15 @@ std::string ReportLoader::Title() const {
 }
 
 bool ReportLoader::Step() {
-    if (next_ == areas_.size()) return false;
-    const Rows rows(ReportStatement(layer_, areas_[next_++], block_));
+    if (next_ == conditions_.size()) return false;
+    const Rows rows(ReportStatement(layer_, conditions_[next_++]));
     std::vector<std::string> fresh;
     for (int row = 0; row < rows.Count(); ++row) {
         if (!Read(rows.Cell(row, 0))) AddRow(rows, row);
         fresh.emplace_back(rows.Cell(row, 0));
     }
     read_.insert(fresh.begin(), fresh.end());
-    return next_ < areas_.size();
+    return next_ < conditions_.size();
 }
 
 bool ReportLoader::Read(const std::string& first) const {

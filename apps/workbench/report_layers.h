@@ -40,24 +40,28 @@ std::span<const ReportLayer> ReportLayers();
 /// Null for a layer without a report.
 const ReportLayer* FindReportLayer(E_Layer layer);
 
-/// The statement for one area, given as an SQL literal, and one block of it, or for all blocks
-/// where that is "ALL". Behind the columns stand two that tell the row's block.
-std::string ReportStatement(const ReportLayer& layer, const std::string& quotedArea,
-                            const std::string& block);
+/// SQL that is true for the rows of an area, given as an SQL literal, and of one block of it, or of
+/// all its blocks where that is "ALL".
+std::string BlockCondition(const ReportLayer& layer, const std::string& quotedArea,
+                           const std::string& block);
+
+/// The statement for the rows for which a condition holds. Behind the columns stand two that tell
+/// the row's block.
+std::string ReportStatement(const ReportLayer& layer, const std::string& condition);
 
 /// The literals in what `GetAreacode(true)` of the bar gives: 'c1', or ('c1','c2').
 std::vector<std::string> AreaLiterals(const std::string& areacode);
 
-/// Reads a report, an area at a step.
+/// Reads a report, the rows of a condition at a step.
 class ReportLoader final : public StepWork {
 public:
     /// `finished` gets what was read, when all was read or the user cancelled.
-    ReportLoader(const ReportLayer& layer, std::vector<std::string> areaLiterals, std::string block,
+    ReportLoader(const ReportLayer& layer, std::vector<std::string> conditions,
                  std::function<void(ResultTable)> finished);
 
     std::string Title() const override;
     int Done() const override { return static_cast<int>(next_); }
-    int Total() const override { return static_cast<int>(areas_.size()); }
+    int Total() const override { return static_cast<int>(conditions_.size()); }
     bool Step() override;
     void Finished() override;
 
@@ -66,8 +70,7 @@ private:
     void AddRow(const Rows& rows, int row);
 
     const ReportLayer& layer_;
-    std::vector<std::string> areas_;
-    std::string block_;
+    std::vector<std::string> conditions_;
     std::function<void(ResultTable)> finished_;
     std::size_t next_ = 0;
     ResultTable table_;

@@ -18,7 +18,10 @@ namespace workbench {
 
 namespace {
 
-/// Leaves more room at both sides of the texts of cells and headings.
+/// At both sides of the texts of cells and headings, and above and below the latter.
+constexpr int kCellMargin = 6;
+
+/// Leaves more room around texts.
 class RoomyStyle : public QProxyStyle {
 public:
     int pixelMetric(PixelMetric metric, const QStyleOption* option,
@@ -27,12 +30,9 @@ public:
         if (metric == PM_HeaderMargin) return kCellMargin;
         return QProxyStyle::pixelMetric(metric, option, widget);
     }
-
-private:
-    static constexpr int kCellMargin = 8;
 };
 
-constexpr int kHeadingRoom = 12;
+constexpr int kHeadingRoom = 2 * kCellMargin;
 constexpr int kRowRoom = 8;
 constexpr int kRowsToMeasure = 200;
 constexpr int kWidestColumn = 320;
@@ -67,7 +67,7 @@ ResultsPane::ResultsPane(QWidget* parent)
     view_->horizontalHeader()->setResizeContentsPrecision(kRowsToMeasure);
     view_->horizontalHeader()->setFixedHeight(view_->fontMetrics().height() + kHeadingRoom);
     view_->verticalHeader()->setDefaultSectionSize(view_->fontMetrics().height() + kRowRoom);
-    view_->verticalHeader()->setDefaultAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    view_->verticalHeader()->setDefaultAlignment(Qt::AlignCenter);
     view_->setSelectionBehavior(QAbstractItemView::SelectRows);
     view_->setSelectionMode(QAbstractItemView::ExtendedSelection);
     view_->setAlternatingRowColors(true);

@@ -10,6 +10,7 @@
 #include "window/text.h"
 #include "window/window_system.h"
 #include "workbench/dataset.h"
+#include "workbench/match.h"
 
 namespace workbench {
 
@@ -124,6 +125,8 @@ void Workbench::ConnectAll() {
         canvas_->MarkPick({{}, block});
         PickInBar(block);
     });
+    connect(canvas_, &MapCanvas::PlaceClicked, this,
+            [this](const Place& place) { tools_.SetPosition(place); });
     connect(results_, &ResultsPane::BlockWanted, this,
             [this](const QString& area, const QString& block) {
                 ShowOnMap({area.toStdString()}, block.toStdString());
@@ -235,14 +238,16 @@ void Workbench::RunReport() {
         Fail(tr("There is no report of this layer."));
         return;
     }
-    auto areas = AreaLiterals(frame_.m_bar.GetAreacode(true));
-    if (areas.empty()) {
+    std::vector<std::string> conditions;
+    for (const std::string& area : AreaLiterals(frame_.m_bar.GetAreacode(true))) {
+        conditions.push_back(BlockCondition(*layer, area, frame_.m_bar.GetBlk(true)));
+    }
+    if (conditions.empty()) {
         Fail(UnknownArea());
         return;
     }
-    runner_.Begin(
-        std::make_shared<ReportLoader>(*layer, std::move(areas), frame_.m_bar.GetBlk(true),
-                                       [this](ResultTable table) { ShowTable(std::move(table)); }));
+    runner_.Begin(std::make_shared<ReportLoader>(
+        *layer, std::move(conditions), [this](ResultTable table) { ShowTable(std::move(table)); }));
 }
 
 void Workbench::ShowTable(ResultTable table) {
@@ -271,6 +276,14 @@ void Workbench::PickInBar(const BlockRef& block) {
     kv::WindowSystem::Get().Settle();
 }
 
+void Workbench::OpenDialog(const adaptors::Adaptor& adaptor) {
+    if (adaptor.makeTool) {
+        tools_.Show(adaptor);
+    } else {
+        RunDialog(adaptor);
+    }
+}
+
 void Workbench::RunDialog(const adaptors::Adaptor& adaptor) {
     adaptors::Run run(adaptor.SampleInputs());
     try {
@@ -283,6 +296,39 @@ void Workbench::RunDialog(const adaptors::Adaptor& adaptor) {
     outcome_->Add(adaptor, run);
     outcomeDock_->show();
     outcomeDock_->raise();
+    ShowMatch(adaptor, run);
+    ShowSelected(adaptor, run);
+}
+
+void Workbench::ShowSelected(const adaptors::Adaptor& adaptor, const adaptors::Run& run) {
+    auto selected = SelectedBlocksOf(adaptor, run);
+    if (!selected) return;
+    selected_ = std::move(selected);
+    canvas_->ShowSelected(OnTheMap(model_, *selected_));
+}
+
+void Workbench::ShowNeighbors() {
+    if (!selected_) {
+        Fail(tr("No blocks were selected yet: a block dialog among the dialogs does that."));
+        return;
+    }
+    canvas_->ShowNeighbors(OnTheMap(model_, NeighborsOf(*selected_)));
+}
+
+void Workbench::ShowMatch(const adaptors::Adaptor& adaptor, const adaptors::Run& run) {
+    try {
+        const auto match = MatchOf(adaptor, run);
+        if (!match) return;
+        outcome_->AddNote(tr("Matching rows: %1 where %2")
+                              .arg(Text(match->layer->title), Text(match->condition)));
+        runner_.Begin(std::make_shared<ReportLoader>(*match->layer, std::vector{match->condition},
+                                                     [this](ResultTable table) {
+                                                         table.title = "Matching " + table.title;
+                                                         ShowTable(std::move(table));
+                                                     }));
+    } catch (const std::exception& e) {
+        Fail(QString::fromUtf8(e.what()));
+    }
 }
 
 }  // namespace workbench

@@ -5,15 +5,18 @@
 #include <QPointer>
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include "adaptors/adaptor.h"
 #include "frame/db_info.h"
 #include "workbench/main_frame.h"
 #include "workbench/map/map_canvas.h"
 #include "workbench/map_loader.h"
+#include "workbench/map_tools.h"
 #include "workbench/outcome_pane.h"
 #include "workbench/report_layers.h"
 #include "workbench/results_pane.h"
+#include "workbench/selected_blocks.h"
 #include "workbench/status_line.h"
 #include "workbench/work_runner.h"
 
@@ -39,8 +42,15 @@ public:
     /// one before is then still in force.
     bool UseDatabase(const CKvDbInfo& info, QString& failure);
 
-    /// Runs a dialog with its sample inputs, and shows its outcome.
+    /// Runs a dialog with its sample inputs, and shows its outcome; of a dialog that builds a
+    /// qualifier also the rows that match it.
     void RunDialog(const adaptors::Adaptor& adaptor);
+    /// Runs a dialog, or shows a modeless tool beside the map, which hands it the places that are
+    /// clicked.
+    void OpenDialog(const adaptors::Adaptor& adaptor);
+
+    /// Marks on the map the blocks that touch those of the last selection of a block dialog.
+    void ShowNeighbors();
 
     /// Shows an area's block, or all of its blocks, on the map.
     void ShowOnMap(const std::vector<std::string>& areaCodes, const std::string& block);
@@ -57,6 +67,7 @@ public:
     const MapModel& Model() const { return model_; }
     ResultsPane& Results() { return *results_; }
     OutcomePane& Outcome() { return *outcome_; }
+    MapTools& Tools() { return tools_; }
     WorkRunner& Runner() { return runner_; }
 
 signals:
@@ -82,6 +93,8 @@ private:
     void RunReport();
     QString UnknownArea() const;
     void ShowTable(ResultTable table);
+    void ShowMatch(const adaptors::Adaptor& adaptor, const adaptors::Run& run);
+    void ShowSelected(const adaptors::Adaptor& adaptor, const adaptors::Run& run);
     void Fail(const QString& message);
 
     void OpenDatabase();
@@ -92,10 +105,12 @@ private:
 
     CWinApp app_;
     MainFrame frame_;
+    MapTools tools_{frame_};
     CKvDbInfo database_;
     MapModel model_;
     WorkRunner runner_;
     std::shared_ptr<MapLoader> loader_;
+    std::optional<SelectedBlocks> selected_;
     std::function<void(const QString&)> failure_;
 
     // Of the main window, and gone with it.

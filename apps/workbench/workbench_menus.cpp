@@ -80,6 +80,8 @@ void Workbench::MakeViewMenu() {
                     &Workbench::ZoomToPick);
     menu->addAction(tr("&Zoom to..."), QKeySequence(Qt::CTRL | Qt::Key_G), this,
                     &Workbench::ZoomTo);
+    menu->addAction(tr("Show &neighbors of the selected blocks"),
+                    QKeySequence(Qt::CTRL | Qt::Key_N), this, &Workbench::ShowNeighbors);
     menu->addSeparator();
     MakeLayersMenu(*menu);
     menu->addSeparator();
@@ -122,7 +124,7 @@ void Workbench::MakeDialogsMenu() {
         const QString name = QString::fromStdString(adaptor->className);
         const QString caption = QString::fromStdString(adaptor->caption);
         QAction* action = submenu->addAction(caption.isEmpty() ? name : caption, this,
-                                             [this, adaptor] { RunDialog(*adaptor); });
+                                             [this, adaptor] { OpenDialog(*adaptor); });
         action->setObjectName(name);
         action->setStatusTip(name);
         action->setToolTip(name);
@@ -142,6 +144,7 @@ void Workbench::ExplainKeys() {
         {tr("Double click"), tr("zoom in; with Shift, out")},
         {tr("Home"), tr("show all of the map")},
         {tr("Click on a block"), tr("pick it in the bar")},
+        {tr("Click with a converter open"), tr("hand the place to the converter")},
         {tr("Ctrl+G"), tr("go to an area, a block or a place")},
         {tr("Click on a heading"), tr("sort the results")},
         {tr("Enter, double click on a row"), tr("show its block on the map")},

@@ -19,6 +19,7 @@ constexpr double kPanPerKey = 80;  ///< pixels
 /// How much of the view's extent stays around a pick at each side.
 constexpr double kRoomAroundBlock = 0.38;
 constexpr double kRoomAroundAreas = 0.08;
+constexpr double kRoomAroundMarked = 0.2;
 constexpr double kPlaceScale = 1'500;  ///< pixels for a degree
 constexpr double kReach = 8;           ///< pixels around the mouse
 constexpr int kDark = 128;
@@ -67,6 +68,27 @@ void MapCanvas::ShowPick(const Pick& pick) {
 void MapCanvas::MarkPick(const Pick& pick) {
     marks_.pick = pick;
     update();
+}
+
+void MapCanvas::ShowSelected(std::vector<BlockRef> blocks) {
+    marks_.selected = std::move(blocks);
+    marks_.neighbors.clear();
+    ShowMarked();
+}
+
+void MapCanvas::ShowNeighbors(std::vector<BlockRef> blocks) {
+    marks_.neighbors = std::move(blocks);
+    ShowMarked();
+}
+
+void MapCanvas::ShowMarked() {
+    Box bounds;
+    for (const auto* blocks : {&marks_.selected, &marks_.neighbors}) {
+        for (const BlockRef& block : *blocks)
+            bounds.Include(block.Bounds());
+    }
+    if (!bounds.Empty()) view_.Show(bounds, kRoomAroundMarked);
+    Moved();
 }
 
 void MapCanvas::ShowAll() {
@@ -162,7 +184,9 @@ void MapCanvas::mouseReleaseEvent(QMouseEvent* event) {
         return;
     }
     const QPointF at = event->position();
-    if (const auto block = model_.BlockAt(view_.ToMap({at.x(), at.y()}))) emit BlockClicked(*block);
+    const Point point = view_.ToMap({at.x(), at.y()});
+    if (const auto block = model_.BlockAt(point)) emit BlockClicked(*block);
+    emit PlaceClicked(ToPlace(point));
 }
 
 void MapCanvas::mouseDoubleClickEvent(QMouseEvent* event) {

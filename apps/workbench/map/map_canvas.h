@@ -27,6 +27,11 @@ public:
     /// Highlights a pick without moving the map.
     void MarkPick(const Pick& pick);
     const Pick& GetPick() const { return marks_.pick; }
+    /// Marks blocks and brings them all into sight. Those beside the ones before go.
+    void ShowSelected(std::vector<BlockRef> blocks);
+    /// Marks, in another colour, blocks beside those.
+    void ShowNeighbors(std::vector<BlockRef> blocks);
+    const MapMarks& Marks() const { return marks_; }
     void ShowAll();
     /// Brings a place to the middle, near enough for its block to be told.
     void ShowPlace(const Place& place);
@@ -45,6 +50,8 @@ signals:
     /// The mouse is at that place.
     void Pointed(const workbench::Place& place);
     void PointedNowhere();
+    /// That place was clicked.
+    void PlaceClicked(const workbench::Place& place);
     /// A block was clicked.
     void BlockClicked(const workbench::BlockRef& block);
 
@@ -67,6 +74,7 @@ private:
     void ChooseLook();
     void Hover(const QPointF& at);
     void Moved();
+    void ShowMarked();
     QString TipAt(const QPointF& at) const;
 
     const MapModel& model_;

@@ -36,6 +36,7 @@ struct MapLook {
     QColor removedPlatform;
 
     QColor pick;
+    QColor neighbor;
     QColor hover;
     QColor panel;
     QColor panelLine;

@@ -274,6 +274,8 @@ void MapPainter::DrawMarks(const MapMarks& marks) {
         painter_->setBrush(look_.hover);
         painter_->drawPolygon(Ring(marks.hovered->area->blocks.Points(marks.hovered->block)));
     }
+    DrawMarkedBlocks(marks.neighbors, look_.neighbor);
+    DrawMarkedBlocks(marks.selected, look_.pick);
     if (marks.pick.Empty()) return;
     QPainterPath path;
     if (marks.pick.block) {
@@ -292,6 +294,19 @@ void MapPainter::DrawMarks(const MapMarks& marks) {
     painter_->setBrush(Qt::NoBrush);
     painter_->setPen(QPen(look_.pick, 2.4, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     painter_->drawPath(path);
+}
+
+void MapPainter::DrawMarkedBlocks(const std::vector<BlockRef>& blocks, const QColor& color) {
+    constexpr float kFill = 0.35F;
+    QColor fill = color;
+    fill.setAlphaF(kFill);
+    painter_->setBrush(fill);
+    painter_->setPen(QPen(color, 1.4));
+    const Box seen = view_->Visible();
+    for (const BlockRef& block : blocks) {
+        if (block.Bounds().Meets(seen))
+            painter_->drawPolygon(Ring(block.area->blocks.Points(block.block)));
+    }
 }
 
 /// Whole lines from afar; among the lines of blocks only marks at the edges.

@@ -32,6 +32,9 @@ struct MapLayers {
 struct MapMarks {
     Pick pick;
     std::optional<BlockRef> hovered;
+    /// The blocks of a selection, and those beside them.
+    std::vector<BlockRef> selected = {};
+    std::vector<BlockRef> neighbors = {};
 };
 
 /// Draws the map: areas from afar, then blocks, and from near what stands and lies in them.
@@ -63,6 +66,7 @@ private:
     void DrawSpots(bool platforms);
     void DrawDots(bool platforms);
     void DrawMarks(const MapMarks& marks);
+    void DrawMarkedBlocks(const std::vector<BlockRef>& blocks, const QColor& color);
 
     void DrawGraticule();
     void DrawEdgeLabels();

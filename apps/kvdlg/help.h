@@ -1,0 +1,73 @@
+#pragma once
+
+/// What the program tells about itself.
+namespace kvdlg {
+
+inline constexpr const char* kHelp = R"(
+  kvdlg list                                   which dialogs there are
+  kvdlg describe CKvGuiPipeStatusDlg           how to talk to one of them
+  kvdlg run CKvGuiPipeStatusDlg                opens it in a window
+  kvdlg run CKvGuiPipeStatusDlg --script FILE  plays a script on it, without a window
+  kvdlg run --help                             how to write a script
+
+Exit codes: 0 done, 1 cancelled, 2 wrong use or a script that does not fit, 3 a failure of the
+database or of a file.)";
+
+inline constexpr const char* kDescribeHelp = R"(
+Prints a JSON object:
+  "inputs"    what the dialog takes: name, type, meaning, and a sample that works on the sample
+              database, where one is needed. A "flag" is true or false.
+  "controls"  in tab order: id, kind, text, the label of what has no text of its own, and whether
+              Tab stops there. What starts disabled, hidden or read-only says so.
+  "calls"     what the action "call" may call, for tools that a host works with while they are open.
+  "returns"   what "outcome" holds in the end.
+  "script"    a script that opens the dialog with its samples, looks at it, and cancels.)";
+
+inline constexpr const char* kScriptHelp = R"(
+A script plays the user. It is a JSON file:
+
+  { "inputs": { "column": "lessee", "table": "NORVADON.gulf_mexico_lease" },
+    "user": [
+      { "window": "CKvGuiListSel",
+        "do": [ {"type": [1191, "shell"]}, {"click": 1192}, {"select": [1193, [0, 2]]},
+                {"click": 1188}, {"click": 1} ] },
+      { "message": "No Matches found!", "answer": "ok" },
+      { "file": "C:\\tmp\\a.txt" } ] }
+
+"user" lists scenes, which are taken in the order in which things open. A message box that opens
+between two actions of a window is the scene behind that window's.
+
+  {"window": NAME, "do": [...]}   a window of that class or caption ("": any); the actions end it
+  {"message": TEXT, "answer": A}  a message box with that text ("": any); A is "ok", "cancel",
+                                  "yes", "no", "retry", "abort" or "ignore"; "ok" if left out
+  {"file": PATH}                  a file dialog, which gets that path; null cancels it
+  {"print": {...}}                print setup, which gets "device", "paper" (number of the size),
+                                  "landscape", "width" and "height" (tenths of a millimetre); null
+                                  cancels it
+  {"pump": N, "do": [...]}        acts on the window in front inside long work, after N steps of it
+
+Actions, with the ids that "kvdlg describe CLASS" tells:
+
+  {"click": ID}                   a button, check box or radio button
+  {"type": [ID, TEXT]}            replaces a text, key by key
+  {"key": [ID, KEY]}              one key: a letter, a digit, Enter, Escape, Tab, Space, Backspace,
+                                  Delete, Insert, Home, End, Left, Right, Up, Down, PageUp, PageDown
+                                  or F4, with "Shift+", "Ctrl+", "Alt+" ahead of it; the id 0 is
+                                  what has the focus
+  {"paste": [ID, TEXT]}           a text by way of the clipboard
+  {"select": [ID, ROWS]}          a row by its text or number from 0, or a list of them
+  {"doubleclick": [ID, ROW]}      a row by its text or number
+  {"drop": ID}                    drops the list of a combo box down
+  {"focus": ID}                   goes to a control
+  {"close": null}                 closes the window by its window button
+  {"call": [METHOD, ...]}         what the host of an open tool calls, with its arguments
+  {"snapshot": NAME}              adds the controls as they stand to "windows"
+
+The outcome is one JSON object: "result" (IDOK, IDCANCEL), "outcome" (what the dialog leaves to its
+caller), "messages" (texts of the message boxes), "sql" (with --trace), "windows" (each window's
+controls as they stood when it closed, and at each snapshot).
+
+Exit codes: 0 done, 1 cancelled, 2 wrong use or a script that does not fit, with the line in the
+script and what was expected, 3 a failure of the database or of a file.)";
+
+}  // namespace kvdlg

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <map>
+#include <memory>
+#include <string>
+
+#include "adaptors/tool.h"
+#include "workbench/map/geometry.h"
+
+namespace workbench {
+
+/// The modeless tools that stand open beside the map. Each is made when it is first asked for, and
+/// kept: its OK only hides it.
+class MapTools {
+public:
+    /// The tools lie over that window.
+    explicit MapTools(CWnd& owner) : owner_(owner) {}
+
+    /// Shows a tool, with what it held when it was hidden.
+    void Show(const adaptors::Adaptor& adaptor);
+    /// Hands a place of the map to each tool that is shown.
+    void SetPosition(const Place& place);
+
+    /// Null for one that was never asked for.
+    adaptors::Tool* Find(const std::string& className) const;
+
+private:
+    CWnd& owner_;
+    std::map<std::string, std::unique_ptr<adaptors::Tool>> tools_;
+};
+
+}  // namespace workbench
