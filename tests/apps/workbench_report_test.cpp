@@ -13,10 +13,13 @@ using testing::ElementsAre;
 
 class ReportTest : public test::SampleTest {
 protected:
-    static ResultTable Report(const ReportLayer& layer, std::vector<std::string> areas,
+    static ResultTable Report(const ReportLayer& layer, const std::vector<std::string>& areas,
                               const std::string& block) {
+        std::vector<std::string> conditions;
+        for (const std::string& area : areas)
+            conditions.push_back(BlockCondition(layer, area, block));
         ResultTable result;
-        ReportLoader loader(layer, std::move(areas), block,
+        ReportLoader loader(layer, std::move(conditions),
                             [&](ResultTable table) { result = std::move(table); });
         test::ReadAll(loader);
         return result;
@@ -42,15 +45,18 @@ TEST(ReportLayers, AreaLiteralsAreThoseOfTheBar) {
 }
 
 TEST_F(ReportTest, StatementNamesTableColumnsAreaAndBlock) {
-    EXPECT_EQ(ReportStatement(Of(KV_LAYER_FIELDS), "'43113'", "12A"),
-              "select t.field, a.areaname, t.lbnum||t.lbext, t.discovery_date, t.lat, t.lon, "
-              "t.areacode, t.lbnum||t.lbext from NORVADON.GULF_MEXICO_field t, "
-              "NORVADON.GULF_MEXICO_connam2 a where a.stcode = t.areacode and "
-              "t.areacode = '43113' and t.lbnum||t.lbext = '12A' order by t.field");
+    EXPECT_EQ(
+        ReportStatement(Of(KV_LAYER_FIELDS), BlockCondition(Of(KV_LAYER_FIELDS), "'43113'", "12A")),
+        "select t.field, a.areaname, t.lbnum||t.lbext, t.discovery_date, t.lat, t.lon, "
+        "t.areacode, t.lbnum||t.lbext from NORVADON.GULF_MEXICO_field t, "
+        "NORVADON.GULF_MEXICO_connam2 a where a.stcode = t.areacode and "
+        "t.areacode = '43113' and t.lbnum||t.lbext = '12A' order by t.field");
 }
 
 TEST_F(ReportTest, AQuotationMarkInABlockStaysInItsLiteral) {
-    const std::string statement = ReportStatement(Of(KV_LAYER_FIELDS), "'43113'", "1' or '1'='1");
+    const ReportLayer& layer = Of(KV_LAYER_FIELDS);
+    const std::string statement =
+        ReportStatement(layer, BlockCondition(layer, "'43113'", "1' or '1'='1"));
     EXPECT_THAT(statement, testing::HasSubstr("= '1'' or ''1''=''1' order by"));
     EXPECT_EQ(Rows(statement).Count(), 0);
 }
@@ -109,7 +115,8 @@ TEST_F(ReportTest, APipelineIsListedOnceWhereSeveralAreasAreReported) {
 }
 
 TEST_F(ReportTest, TellsHowFarItIs) {
-    ReportLoader loader(Of(KV_LAYER_WELLS), {"'43112'", "'43113'"}, "ALL", [](ResultTable) {});
+    ReportLoader loader(Of(KV_LAYER_WELLS), {"t.areacode = '43112'", "t.areacode = '43113'"},
+                        [](ResultTable) {});
     EXPECT_EQ(loader.Title(), "Reading Wells");
     EXPECT_EQ(loader.Total(), 2);
     EXPECT_TRUE(loader.Step());

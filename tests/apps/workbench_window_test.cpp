@@ -2,10 +2,14 @@
 
 #include <QApplication>
 #include <QMenuBar>
+#include <QProgressBar>
+#include <QPushButton>
 #include <QSignalSpy>
+#include <QStatusBar>
 #include <QTableView>
 #include <QTest>
 #include <QToolBar>
+#include <QToolButton>
 
 #include "frame/module.h"
 #include "frame/profile.h"
@@ -232,6 +236,48 @@ TEST_F(WorkbenchTest, CancelEndsTheReadingOfTheMap) {
     EXPECT_EQ(host->Model().Areas().size(), areas);
 }
 
+TEST_F(WorkbenchTest, LongWorkShowsHowFarItIsAndItsCancelButtonEndsIt) {
+    Open();
+    auto* progress = host->Window().statusBar()->findChild<QProgressBar*>();
+    auto* cancel = host->Window().statusBar()->findChild<QToolButton*>();
+    ASSERT_TRUE(progress && cancel);
+    EXPECT_FALSE(progress->isVisible());
+    host->LoadMap();
+    while (!progress->isVisible() || progress->value() == 0)
+        QApplication::processEvents();
+    EXPECT_LT(progress->value(), progress->maximum());
+    QTest::mouseClick(cancel, Qt::LeftButton);
+    EXPECT_FALSE(host->Runner().Busy());
+    EXPECT_FALSE(progress->isVisible());
+    EXPECT_FALSE(cancel->isVisible());
+}
+
+TEST_F(WorkbenchTest, EachLayerOfTheBarHasItsReport) {
+    Open();
+    Pick("EI", "ALL");
+    user->Click(kReport);
+    for (const std::string& layer : user->Rows(kLayer)) {
+        user->Select(kLayer, layer);
+        user->Click(kRun);
+        host->Runner().Finish();
+        EXPECT_EQ(host->Results().Model().Table().title, layer);
+        EXPECT_GT(host->Results().Model().rowCount(), 0) << layer;
+    }
+    EXPECT_TRUE(failures.empty());
+}
+
+TEST_F(WorkbenchTest, TheRunButtonSaysWhatItIs) {
+    Open();
+    auto* run =
+        qobject_cast<QPushButton*>(kv::qt::WidgetOf(*host->Frame().m_bar.GetDlgItem(kRun)->m_hWnd));
+    ASSERT_TRUE(run);
+    EXPECT_EQ(run->text(), "Run");
+    EXPECT_EQ(run->accessibleName(), "Run");
+    EXPECT_EQ(run->toolTip(), "Run");
+    EXPECT_FALSE(run->icon().isNull());
+    EXPECT_LE(run->sizeHint().width(), run->width() + 2 * run->fontMetrics().averageCharWidth());
+}
+
 TEST_F(WorkbenchTest, EveryDialogIsInTheMenuOfItsFamily) {
     Open();
     for (const adaptors::Adaptor* adaptor : adaptors::All()) {
@@ -257,6 +303,61 @@ TEST_F(WorkbenchTest, ADialogsOutcomeIsShown) {
     host->RunDialog(*adaptor);
     EXPECT_THAT(host->Outcome().toPlainText().toStdString(),
                 testing::StartsWith("CKvGuiPipeStatusDlg (IDCANCEL)\n"));
+}
+
+TEST_F(WorkbenchTest, AQualifierFillsTheTableWithTheRowsThatMatch) {
+    Open();
+    QTimer person;
+    QObject::connect(&person, &QTimer::timeout, [&person] {
+        auto& modals = kv::WindowSystem::Get().Modals();
+        if (modals.empty()) return;
+        person.stop();
+        kv::User at(*modals.back(), [](const std::string& words) { FAIL() << words; });
+        constexpr int kAbandoned = 13008;
+        at.Click(kAbandoned);
+        at.Click(IDOK);
+    });
+    person.start(0);
+    host->RunDialog(*adaptors::Find("CKvGuiPipeStatusDlg"));
+    host->Runner().Finish();
+    const std::string condition = "t.status in ('ACT', 'ABN')";
+    EXPECT_THAT(host->Outcome().toPlainText().toStdString(),
+                testing::EndsWith("Matching rows: Pipelines where " + condition));
+    const ResultTable& table = host->Results().Model().Table();
+    EXPECT_EQ(table.title, "Matching Pipelines");
+    EXPECT_EQ(table.RowCount(), Count(TableName("_pipeline") + " t where " + condition));
+    EXPECT_GT(table.RowCount(), 0);
+    EXPECT_TRUE(failures.empty());
+}
+
+TEST_F(WorkbenchTest, EveryDialogOfTheMenuOpensAndItsOutcomeIsShown) {
+    Open();
+    QTimer close;
+    QObject::connect(&close, &QTimer::timeout, [this] {
+        const auto& system = kv::WindowSystem::Get();
+        if (!system.Modals().empty()) {
+            kv::input::CloseWindow(*system.Modals().back());
+            return;
+        }
+        for (const auto& window : system.TopLevels()) {
+            if (window.get() == host->Frame().m_hWnd || !window->Visible()) continue;
+            kv::input::CloseWindow(*window);
+            return;
+        }
+    });
+    close.start(0);
+    for (const adaptors::Adaptor* adaptor : adaptors::All()) {
+        host->Outcome().clear();
+        host->Window().findChild<QAction*>(QString::fromStdString(adaptor->className))->trigger();
+        // A tool stays open, and so has no outcome.
+        if (adaptor->makeTool) {
+            EXPECT_TRUE(host->Tools().Find(adaptor->className)) << adaptor->className;
+        } else {
+            EXPECT_THAT(host->Outcome().toPlainText().toStdString(),
+                        testing::StartsWith(adaptor->className + " (ID"));
+        }
+    }
+    EXPECT_TRUE(failures.empty());
 }
 
 TEST_F(WorkbenchTest, TheBarWorksOnWhenAnotherBarWasRun) {
@@ -290,9 +391,8 @@ TEST_F(WorkbenchTest, TheWindowComesBackAsItWasLeft) {
     host.reset();
 
     Open();
-    // The frame's size goes through the layer's own pixels, which are rounded.
-    EXPECT_NEAR(host->Window().width(), 937, 1);
-    EXPECT_NEAR(host->Window().height(), 611, 1);
+    EXPECT_EQ(host->Window().width(), 937);
+    EXPECT_EQ(host->Window().height(), 611);
     EXPECT_FALSE(MenuAction("Dialog outcome")->isChecked());
     EXPECT_TRUE(MenuAction("Results")->isChecked());
 }

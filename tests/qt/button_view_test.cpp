@@ -135,4 +135,15 @@ TEST_F(ButtonView, ToolsThatPressTheWidgetPressTheNode) {
     EXPECT_EQ(Node(21).CheckState(), BST_CHECKED);
 }
 
+TEST_F(ButtonView, WithoutATextGoesByWhatStandsBesideIt) {
+    Show({{10, kLabel, "Selected", {7, 7, 60, 8}},
+          {21, kCheckBox, "", {7, 24, 10, 10}},
+          {20, kPushButton, "&File...", {20, 22, 50, 14}},
+          {50, kOwnerDrawButton, "", {7, 50, 20, 14}}});
+    EXPECT_EQ(Button(21)->accessibleName(), "File...");
+    EXPECT_EQ(Button(50)->accessibleName(), "Selected") << "there is none beside it";
+    dialog.SetDlgItemText(20, "&List...");
+    EXPECT_EQ(Button(21)->accessibleName(), "List...");
+}
+
 }  // namespace

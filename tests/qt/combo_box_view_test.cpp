@@ -160,4 +160,64 @@ TEST_F(ComboView, ItsTextIsCopied) {
     EXPECT_EQ(QGuiApplication::clipboard()->text(), "VERMILION");
 }
 
+/// A combo box whose list stands open under its edit.
+class SimpleComboView : public test::QtDialogTest {
+protected:
+    void SetUp() override {
+        Show({{11, kEdit, "", {7, 7, 80, 12}},
+              {18, kDropDown, "", {7, 24, 80, 60}, {CBS_SIMPLE, CBS_DROPDOWN}}});
+        for (const char* text : {"EAST CAMERON", "VERMILION", "WEST CAMERON"})
+            dialog.SendDlgItemMessage(18, CB_ADDSTRING, 0, kv::AsParam(text));
+        Process();
+        Told();
+    }
+    QLineEdit* Line() { return test::QtDialogTest::WidgetOf(18)->findChild<QLineEdit*>(); }
+    QAbstractItemView* Rows() {
+        return test::QtDialogTest::WidgetOf(18)->findChild<QAbstractItemView*>();
+    }
+    int Current() { return static_cast<kv::ComboBoxNode&>(NodeOf(18)).CurrentRow(); }
+};
+
+TEST_F(SimpleComboView, ShowsEditAndRowsOneBelowTheOther) {
+    ASSERT_NE(Line(), nullptr);
+    ASSERT_NE(Rows(), nullptr);
+    EXPECT_TRUE(Rows()->isVisible());
+    EXPECT_EQ(Rows()->model()->rowCount(), 3);
+    EXPECT_FALSE(Line()->geometry().intersects(Rows()->geometry()));
+    EXPECT_FALSE(Line()->accessibleName().isEmpty());
+}
+
+TEST_F(SimpleComboView, AClickedRowComesIntoItsEditAndIsToldOnce) {
+    const QRect place = Rows()->visualRect(Rows()->model()->index(1, 0));
+    QTest::mouseClick(Rows()->viewport(), Qt::LeftButton, {}, place.center());
+    EXPECT_EQ(Current(), 1);
+    EXPECT_EQ(Line()->text(), "VERMILION");
+    const auto told = Told();
+    EXPECT_EQ(std::count(told.begin(), told.end(), "18 sent 1"), 1);
+    EXPECT_EQ(test::FocusedId(), 18);
+}
+
+TEST_F(SimpleComboView, IsTypedIntoAndGoesThroughItsRowsByArrows) {
+    Key(Qt::Key_Tab);
+    EXPECT_EQ(Window()->focusWidget(), Line());
+    Told();
+    Type("W");
+    EXPECT_EQ(Text(18), "W");
+    EXPECT_THAT(Told(), ElementsAre("18 sent 6", "18 sent 5"));
+    dialog.SendDlgItemMessage(18, CB_SETCURSEL, 0);
+    EXPECT_EQ(Line()->text(), "EAST CAMERON");
+    Key(Qt::Key_Down);
+    EXPECT_EQ(Current(), 1);
+    EXPECT_EQ(Line()->text(), "VERMILION");
+}
+
+TEST_F(SimpleComboView, FollowsTheRowsThatTheProgramAddsAndTakes) {
+    dialog.SendDlgItemMessage(18, CB_ADDSTRING, 0, kv::AsParam("SABINE PASS"));
+    EXPECT_EQ(Rows()->model()->rowCount(), 4);
+    dialog.SendDlgItemMessage(18, CB_DELETESTRING, 0);
+    EXPECT_EQ(Rows()->model()->index(0, 0).data().toString(), "VERMILION");
+    dialog.SendDlgItemMessage(18, CB_RESETCONTENT);
+    EXPECT_EQ(Rows()->model()->rowCount(), 0);
+}
+
 }  // namespace

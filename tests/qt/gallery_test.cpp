@@ -1,8 +1,8 @@
 #include <QDir>
 #include <QImage>
-#include <QPalette>
 #include <QStyle>
 
+#include "dark_palette.h"
 #include "qt_fixture.h"
 #include "window/list_ctrl.h"
 #include "window/progress_node.h"
@@ -79,7 +79,9 @@ protected:
     QImage Picture(const QString& name) {
         Process();
         QDir().mkpath(QT_TESTS_PICTURES);
-        const QString path = QDir(QT_TESTS_PICTURES).filePath(name);
+        const QString file =
+            QStringLiteral("%1_x%2.png").arg(name).arg(Window()->devicePixelRatio());
+        const QString path = QDir(QT_TESTS_PICTURES).filePath(file);
         EXPECT_TRUE(kv::qt::SavePicture(*dialog.m_hWnd, path.toStdString()));
         return QImage(path);
     }
@@ -98,7 +100,7 @@ int ColorsIn(const QImage& image) {
 TEST_F(Gallery, ShowsEveryKindOfControl) {
     Show(EveryKind());
     Fill();
-    const QImage image = Picture("every_kind.png");
+    const QImage image = Picture("every_kind");
     EXPECT_EQ(image.size(), Window()->size() * Window()->devicePixelRatio());
     EXPECT_GT(ColorsIn(image), 20);
 }
@@ -111,7 +113,7 @@ TEST_F(Gallery, TakesALargerFontAsAWhole) {
     QFont larger = former;
     larger.setPointSizeF(former.pointSizeF() * 1.5);
     QApplication::setFont(larger);
-    const QImage image = Picture("large_font.png");
+    const QImage image = Picture("large_font");
     EXPECT_NEAR(Window()->width(), before.width() * 1.5, before.width() * 0.1);
     EXPECT_GT(ColorsIn(image), 20);
     QApplication::setFont(former);
@@ -121,14 +123,8 @@ TEST_F(Gallery, TakesADarkPalette) {
     Show(EveryKind());
     Fill();
     const QPalette former = QApplication::palette();
-    QPalette dark(QColor(53, 53, 53), QColor(45, 45, 45));
-    dark.setColor(QPalette::Base, QColor(35, 35, 35));
-    dark.setColor(QPalette::Highlight, QColor(42, 130, 218));
-    dark.setColor(QPalette::Disabled, QPalette::WindowText, QColor(127, 127, 127));
-    dark.setColor(QPalette::Disabled, QPalette::Text, QColor(127, 127, 127));
-    dark.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(127, 127, 127));
-    QApplication::setPalette(dark);
-    const QImage image = Picture("dark.png");
+    QApplication::setPalette(test::DarkPalette());
+    const QImage image = Picture("dark");
     EXPECT_LT(qGray(image.pixel(2, image.height() - 2)), 80);
     QApplication::setPalette(former);
 }

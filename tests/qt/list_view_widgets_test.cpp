@@ -4,7 +4,9 @@
 #include <QScrollBar>
 #include <QTreeView>
 
+#include "qt/scale.h"
 #include "qt_fixture.h"
+#include "window/image_list.h"
 #include "window/list_box.h"
 #include "window/list_box_node.h"
 #include "window/list_ctrl.h"
@@ -27,6 +29,13 @@ protected:
     }
     std::string Shown(int id, int row, int column = 0) {
         return View(id)->model()->index(row, column).data().toString().toStdString();
+    }
+    void TurnWheel(int id, int delta) {
+        QWidget* viewport = View(id)->viewport();
+        const QPointF at(5, 5);
+        QWheelEvent event(at, viewport->mapToGlobal(at), {}, {0, delta}, Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(viewport, &event);
     }
     kv::ListBoxNode& Box(int id) { return static_cast<kv::ListBoxNode&>(NodeOf(id)); }
 
@@ -150,6 +159,28 @@ TEST_F(ListWidgets, AListThatChangesWhileItIsScrolledStaysWhereItIs) {
     EXPECT_FALSE(View(31)->indexAt(QPoint(5, 5)).isValid());
 }
 
+TEST_F(ListWidgets, ASortedOneShowsARowInItsPlace) {
+    Show({{33, kListBox, "", {7, 7, 80, 80}, kv::kSortedList}});
+    for (const char* text : {"gamma", "Alpha", "beta"})
+        dialog.SendDlgItemMessage(33, LB_ADDSTRING, 0, kv::AsParam(text));
+    EXPECT_EQ(Shown(33, 0), "Alpha");
+    EXPECT_EQ(Shown(33, 1), "beta");
+    EXPECT_EQ(Shown(33, 2), "gamma");
+}
+
+TEST_F(ListWidgets, TheWheelScrollsAndSelectsNothing) {
+    ShowBoxes();
+    for (int row = 0; row < 100; ++row)
+        dialog.SendDlgItemMessage(31, LB_ADDSTRING, 0, kv::AsParam("row"));
+    Process();
+    Told();
+    EXPECT_EQ(View(31)->verticalScrollBar()->value(), 0);
+    TurnWheel(31, -120);
+    EXPECT_GT(View(31)->verticalScrollBar()->value(), 0);
+    EXPECT_EQ(Box(31).CurrentRow(), -1);
+    EXPECT_THAT(Told(), IsEmpty());
+}
+
 class ListViewWidget : public ListWidgets {
 protected:
     void ShowList(DWORD extended = LVS_EX_CHECKBOXES) {
@@ -240,6 +271,231 @@ TEST_F(ListViewWidget, ShowsRowsOnDemand) {
     list.EnsureVisible(15000, FALSE);
     const QRect place = View(35)->visualRect(View(35)->model()->index(15000, 0));
     EXPECT_TRUE(View(35)->viewport()->rect().intersects(place));
+}
+
+TEST_F(ListViewWidget, AClickTellsOfTheRowOnce) {
+    ShowList(0);
+    std::vector<std::string> noticed;
+    dialog.onNotice = [&](const NMHDR& head) {
+        if (head.code != LVN_ITEMCHANGED && head.code != NM_CLICK) return;
+        const int row = reinterpret_cast<const NMLISTVIEW&>(head).iItem;
+        noticed.push_back((head.code == NM_CLICK ? "click " : "changed ") + std::to_string(row));
+    };
+    ClickRow(35, 2);
+    EXPECT_THAT(noticed, ElementsAre("changed 2", "click 2"));
+    noticed.clear();
+    const QRect place = View(35)->visualRect(View(35)->model()->index(2, 0));
+    QTest::mouseClick(View(35)->viewport(), Qt::LeftButton, {}, place.center());
+    EXPECT_THAT(noticed, ElementsAre("click 2"));
+}
+
+TEST_F(ListViewWidget, BesideTheFirstColumnARowIsHitOnlyWithFullRowSelection) {
+    ShowList(0);
+    ClickRow(35, 1);
+    ClickRow(35, 3, {}, 1);
+    EXPECT_EQ(List().SelectedCount(), 0);
+    dialog.Control<CListCtrl>(35).SetExtendedStyle(LVS_EX_FULLROWSELECT);
+    ClickRow(35, 3, {}, 1);
+    EXPECT_TRUE(List().Selected(3));
+}
+
+TEST_F(ListViewWidget, TypingFindsARow) {
+    ShowList(0);
+    dialog.GetDlgItem(35)->SetFocus();
+    Type("g4");
+    EXPECT_EQ(List().FocusedRow(), 4);
+    EXPECT_TRUE(List().Selected(4));
+    EXPECT_EQ(View(35)->currentIndex().row(), 4);
+}
+
+TEST_F(ListViewWidget, SpaceChecksTheRowWithTheFocus) {
+    ShowList();
+    ClickRow(35, 3);
+    Key(Qt::Key_Space);
+    EXPECT_EQ(dialog.Control<CListCtrl>(35).GetCheck(3), 1);
+    dialog.Control<CListCtrl>(35).SetCheck(3, FALSE);
+    EXPECT_EQ(View(35)->model()->index(3, 0).data(Qt::CheckStateRole).toInt(), Qt::Unchecked);
+}
+
+TEST_F(ListViewWidget, ColumnsStandInTheOrderThatTheProgramSays) {
+    ShowList(0);
+    const int order[] = {1, 0};
+    dialog.Control<CListCtrl>(35).SetColumnOrderArray(2, order);
+    EXPECT_EQ(Header()->visualIndex(1), 0);
+    EXPECT_LT(Header()->sectionViewportPosition(1), Header()->sectionViewportPosition(0));
+    dialog.Control<CListCtrl>(35).DeleteColumn(0);
+    EXPECT_EQ(Header()->count(), 1);
+    EXPECT_EQ(View(35)->model()->headerData(0, Qt::Horizontal).toString(), "Block");
+}
+
+TEST_F(ListViewWidget, SelectionAndFocusAreMarked) {
+    ShowList(0);
+    const auto pictureOf = [&](int row) {
+        const QRect place = View(35)->visualRect(View(35)->model()->index(row, 0));
+        return View(35)->viewport()->grab(place).toImage().scaled(place.size());
+    };
+    const QColor highlight = View(35)->palette().color(QPalette::Highlight);
+    const auto isMarked = [&](int row) {
+        const QImage picture = pictureOf(row);
+        const QColor ground = picture.pixelColor(picture.width() - 3, picture.height() / 2);
+        // Styles shade it.
+        return std::abs(ground.hue() - highlight.hue()) < 10 && ground.saturation() > 100;
+    };
+    EXPECT_FALSE(isMarked(1));
+    ClickRow(35, 1);
+    EXPECT_TRUE(isMarked(1));
+    EXPECT_FALSE(isMarked(2));
+    const QImage withoutFocusMark = pictureOf(2);
+    List().SetItemState(2, LVIS_FOCUSED, LVIS_FOCUSED);
+    EXPECT_FALSE(isMarked(2));
+    EXPECT_NE(pictureOf(2), withoutFocusMark);
+}
+
+TEST_F(ListViewWidget, TheWheelScrollsAndSelectsNothing) {
+    ShowList(0);
+    for (int row = 0; row < 100; ++row)
+        dialog.Control<CListCtrl>(35).InsertItem(row, "row");
+    Process();
+    TurnWheel(35, -120);
+    EXPECT_GT(View(35)->verticalScrollBar()->value(), 0);
+    EXPECT_EQ(List().SelectedCount(), 0);
+    EXPECT_EQ(List().FocusedRow(), -1);
+}
+
+TEST_F(ListViewWidget, ChangesWhileItIsScrolledLeaveItWhereItIs) {
+    ShowList(0);
+    auto& list = dialog.Control<CListCtrl>(35);
+    for (int row = 6; row < 1000; ++row)
+        list.InsertItem(row, std::to_string(row).c_str());
+    Process();
+    QScrollBar* bar = View(35)->verticalScrollBar();
+    bar->setValue(bar->maximum() / 2);
+    const int scrolled = bar->value();
+    for (int row = 0; row < 100; ++row)
+        list.DeleteItem(890);
+    list.SetItemText(3, 0, "other");
+    Process();
+    EXPECT_EQ(bar->value(), scrolled);
+    list.DeleteAllItems();
+    Process();
+    EXPECT_EQ(bar->value(), 0);
+    EXPECT_EQ(View(35)->model()->rowCount(), 0);
+}
+
+/// Colours of the pixels in the left part of a cell, as wide as an image and a check box.
+QSet<QRgb> ColorsAt(const QImage& image, const QRect& place) {
+    QSet<QRgb> colors;
+    for (int y = place.top(); y <= place.bottom(); ++y) {
+        for (int x = place.left(); x <= place.right(); ++x)
+            colors.insert(image.pixel(x, y));
+    }
+    return colors;
+}
+
+class ListViewImages : public ListViewWidget {
+protected:
+    void SetUp() override {
+        ShowList(0);
+        CBitmap strip;
+        kv::Raster two(32, 16, kv::ToArgb(kFirst));
+        for (int y = 0; y < 16; ++y) {
+            for (int x = 16; x < 32; ++x)
+                two.SetArgb(x, y, kv::ToArgb(kSecond));
+        }
+        strip.CreateFrom(std::move(two));
+        images.Create(16, 16);
+        images.Add(strip, RGB(255, 0, 255));
+        Control().SetImageList(&images, LVSIL_SMALL);
+    }
+    /// The rows as they look, in the pixels that places are told in.
+    QImage Picture() {
+        QWidget* viewport = View(35)->viewport();
+        return viewport->grab().toImage().scaled(viewport->size());
+    }
+    bool Shows(int row, int column, COLORREF color) {
+        Process();
+        const QRect cell = View(35)->visualRect(View(35)->model()->index(row, column));
+        const QImage picture = Picture();
+        return ColorsAt(picture, cell)
+            .contains(qRgb(GetRValue(color), GetGValue(color), GetBValue(color)));
+    }
+    /// Left edge of an image's colour in the row, -1 where it is not.
+    int LeftOf(int row, COLORREF color) {
+        Process();
+        const QImage picture = Picture();
+        const QRect cell = View(35)->visualRect(View(35)->model()->index(row, 0));
+        const QRgb wanted = qRgb(GetRValue(color), GetGValue(color), GetBValue(color));
+        for (int x = cell.left(); x <= cell.right(); ++x) {
+            if (picture.pixel(x, cell.center().y()) == wanted) return x;
+        }
+        return -1;
+    }
+
+    static constexpr COLORREF kFirst = RGB(200, 40, 10);
+    static constexpr COLORREF kSecond = RGB(10, 160, 60);
+    CListCtrl& Control() { return dialog.Control<CListCtrl>(35); }
+    CImageList images;
+};
+
+TEST_F(ListViewImages, StandBesideTheRowsThatHaveOne) {
+    EXPECT_FALSE(Shows(1, 0, kSecond));
+    Control().SetItemImage(1, 0, 1);
+    EXPECT_TRUE(Shows(1, 0, kSecond));
+    EXPECT_FALSE(Shows(0, 0, kSecond));
+    Control().SetItemImage(1, 0, 0);
+    EXPECT_TRUE(Shows(1, 0, kFirst));
+    EXPECT_FALSE(Shows(1, 0, kSecond));
+    Control().SetImageList(nullptr, LVSIL_SMALL);
+    EXPECT_FALSE(Shows(1, 0, kFirst));
+}
+
+TEST_F(ListViewImages, StandInFurtherColumnsWhereTheStyleSaysSo) {
+    Control().SetItemImage(1, 1, 0);
+    EXPECT_FALSE(Shows(1, 1, kFirst));
+    Control().SetExtendedStyle(LVS_EX_SUBITEMIMAGES);
+    EXPECT_TRUE(Shows(1, 1, kFirst));
+}
+
+TEST_F(ListViewImages, MoveToTheRightWithTheIndent) {
+    Control().SetItemImage(1, 0, 0);
+    Control().SetItemImage(2, 0, 0);
+    LVITEM item;
+    item.mask = LVIF_INDENT;
+    item.iItem = 2;
+    item.iIndent = 1;
+    Control().SetItem(&item);
+    ASSERT_GE(LeftOf(1, kFirst), 0);
+    const int step = kv::qt::CurrentScale().ToScreen(CSize{16, 0}).width();
+    EXPECT_EQ(LeftOf(2, kFirst) - LeftOf(1, kFirst), step);
+}
+
+TEST_F(ListViewImages, ACheckBoxStaysAheadOfThem) {
+    Control().SetExtendedStyle(LVS_EX_CHECKBOXES);
+    Control().SetItemImage(2, 0, 0);
+    LVITEM item;
+    item.mask = LVIF_INDENT;
+    item.iItem = 2;
+    item.iIndent = 1;
+    Control().SetItem(&item);
+    const QRect cell = View(35)->visualRect(View(35)->model()->index(2, 0));
+    const int image = LeftOf(2, kFirst);
+    const QPoint onBox(image - 12, cell.center().y());
+    QTest::mouseClick(View(35)->viewport(), Qt::LeftButton, {}, onBox);
+    EXPECT_EQ(Control().GetCheck(2), 1);
+    QTest::mouseClick(View(35)->viewport(), Qt::LeftButton, {}, QPoint(image + 3, onBox.y()));
+    EXPECT_EQ(Control().GetCheck(2), 1);
+    EXPECT_EQ(List().FocusedRow(), 2);
+}
+
+TEST_F(ListViewImages, AreAsHighAsTheRowsAskFor) {
+    const int before = View(35)->visualRect(View(35)->model()->index(0, 0)).height();
+    CImageList larger;
+    larger.Create(32, 32);
+    Control().SetImageList(&larger, LVSIL_SMALL);
+    Process();
+    const int now = View(35)->visualRect(View(35)->model()->index(0, 0)).height();
+    EXPECT_GT(now, before);
+    EXPECT_GE(now, kv::qt::CurrentScale().ToScreen(CSize{0, 32}).height());
 }
 
 }  // namespace

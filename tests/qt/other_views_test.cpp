@@ -7,12 +7,14 @@
 
 #include "qt/binding.h"
 #include "qt_fixture.h"
+#include "window/bitmap_button.h"
 #include "window/combo_box.h"
 #include "window/control_bar.h"
 #include "window/edit.h"
 #include "window/frame_wnd.h"
 #include "window/progress_node.h"
 #include "window/spin_node.h"
+#include "window/static_text.h"
 #include "window/tool_bar.h"
 
 using enum kv::ControlKind;
@@ -51,6 +53,93 @@ TEST_F(SmallViews, TheArrowsOfASpinButtonStepOnce) {
                       Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
     QApplication::sendEvent(WidgetOf(42), &wheel);
     EXPECT_EQ(Text(11), "5");
+}
+
+TEST_F(SmallViews, TheWheelOverASpinButtonStepsANotchAtATime) {
+    Show({{11, kEdit, "5", {7, 7, 40, 12}},
+          {42, kSpin, "", {47, 7, 10, 12}, {UDS_AUTOBUDDY | UDS_SETBUDDYINT, 0}}});
+    dialog.SendDlgItemMessage(42, UDM_SETRANGE32, 0, 10);
+    dialog.SendDlgItemMessage(42, UDM_SETPOS32, 0, 5);
+    const auto turn = [&](int delta) {
+        const QPointF at(3, 3);
+        QWheelEvent event(at, WidgetOf(42)->mapToGlobal(at), {}, {0, delta}, Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(WidgetOf(42), &event);
+    };
+    turn(60);
+    EXPECT_EQ(Text(11), "5") << "half a notch";
+    turn(60);
+    EXPECT_EQ(Text(11), "6");
+    turn(-360);
+    EXPECT_EQ(Text(11), "3");
+    turn(120 * 20);
+    EXPECT_EQ(Text(11), "10") << "the range holds";
+    dialog.GetDlgItem(42)->EnableWindow(FALSE);
+    turn(-120);
+    EXPECT_EQ(Text(11), "10");
+}
+
+TEST_F(SmallViews, ASpinButtonsArrowsHaveNames) {
+    Show({{10, kLabel, "Scale:", {7, 7, 30, 8}},
+          {11, kEdit, "5", {40, 7, 40, 12}},
+          {42, kSpin, "", {80, 7, 10, 12}, {UDS_AUTOBUDDY, 0}}});
+    EXPECT_EQ(WidgetOf(42)->accessibleName(), "Scale");
+    for (const QToolButton* arrow : WidgetOf(42)->findChildren<QToolButton*>())
+        EXPECT_FALSE(arrow->accessibleName().isEmpty());
+}
+
+constexpr std::string_view kImageRows[] = {"####", "####", "####", "####"};
+constexpr kv::PaletteEntry kRedPalette[] = {{'#', kv::ToArgb(RGB(200, 0, 0))}};
+constexpr kv::PaletteEntry kGreenPalette[] = {{'#', kv::ToArgb(RGB(0, 200, 0))}};
+constexpr kv::ImageResource kRed{501, 4, 4, kImageRows, kRedPalette};
+constexpr kv::ImageResource kGreen{502, 4, 4, kImageRows, kGreenPalette};
+
+class Pictures : public SmallViews {
+protected:
+    Pictures() {
+        module_.images = {&kRed, &kGreen};
+        kv::AddToResourceChain(module_);
+    }
+    ~Pictures() override { kv::RemoveFromResourceChain(module_); }
+    bool Shows(int id, const QColor& color) {
+        const QImage picture = WidgetOf(id)->grab().toImage();
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x) {
+                if (picture.pixelColor(x, y) == color) return true;
+            }
+        }
+        return false;
+    }
+
+    kv::ResourceModule module_;
+    const QColor red_{200, 0, 0};
+    const QColor green_{0, 200, 0};
+};
+
+TEST_F(Pictures, AnIconIsShownAndChanged) {
+    Show({{30, kIcon, "", {7, 7, 20, 20}}});
+    EXPECT_FALSE(Shows(30, red_));
+    dialog.Control<CStatic>(30).SetIcon(501);
+    EXPECT_TRUE(Shows(30, red_));
+    dialog.Control<CStatic>(30).SetIcon(502);
+    EXPECT_TRUE(Shows(30, green_));
+    EXPECT_FALSE(Shows(30, red_));
+}
+
+TEST_F(Pictures, ABitmapButtonShowsThePictureOfItsState) {
+    Show({{11, kEdit, "", {7, 40, 40, 12}}, {50, kOwnerDrawButton, "", {7, 7, 20, 20}}});
+    CBitmapButton button;
+    ASSERT_TRUE(button.LoadBitmaps(501, 502));
+    ASSERT_TRUE(button.AutoLoad(50, &dialog));
+    Process();
+    EXPECT_TRUE(Shows(50, red_));
+    QTest::mousePress(WidgetOf(50), Qt::LeftButton);
+    EXPECT_TRUE(Shows(50, green_));
+    Told();
+    QTest::mouseRelease(WidgetOf(50), Qt::LeftButton);
+    EXPECT_TRUE(Shows(50, red_));
+    EXPECT_THAT(Told(), ElementsAre("50 clicked"));
+    button.Detach();
 }
 
 constexpr int kBarTemplate = 150;
@@ -153,6 +242,7 @@ TEST_F(Frame, AMenusShortcutsWorkWithTheFocusInTheBar) {
     QObject::connect(&save, &QAction::triggered, [&] { ++saved; });
     Main()->addAction(&save);
     Main()->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(Main()));
     QTest::mouseClick(WidgetOf(11), Qt::LeftButton);
     QTest::keyClick(WidgetOf(11), Qt::Key_S, Qt::ControlModifier);
     EXPECT_EQ(saved, 1);
@@ -198,6 +288,52 @@ TEST_F(Frame, AToolBarSendsCommandsAndShowsTheirState) {
     frame_.canZoom = false;
     kv::WindowSystem::Get().Settle();
     EXPECT_FALSE(bar->actions().at(0)->isEnabled());
+}
+
+TEST_F(Frame, IdleUpdatesRunOfThemselvesBehindWhatAPersonDoes) {
+    CToolBar tools;
+    tools.Create(&frame_);
+    const UINT ids[] = {kZoom};
+    tools.SetButtons(ids, 1);
+    Process();
+    QAction* zoom = BarOf(tools)->actions().constFirst();
+    EXPECT_TRUE(zoom->isEnabled());
+    frame_.canZoom = false;
+    QTest::mouseClick(WidgetOf(kRun), Qt::LeftButton);
+    EXPECT_FALSE(zoom->isEnabled());
+    frame_.canZoom = true;
+    frame_.PostMessage(WM_COMMAND, kPan);
+    Process();
+    EXPECT_TRUE(zoom->isEnabled());
+}
+
+TEST_F(Frame, ABarThatFloatsKeepsItsControlsAndDocksAgain) {
+    QToolBar* bar = BarOf(bar_);
+    const QByteArray docked = Main()->saveState();
+    // As its grip is dragged off the edge.
+    const QPoint grip(4, bar->height() / 2);
+    QTest::mousePress(bar, Qt::LeftButton, {}, grip);
+    const auto dragTo = [&](const QPoint& at) {
+        QMouseEvent move(QEvent::MouseMove, at, bar->mapToGlobal(at), Qt::NoButton, Qt::LeftButton,
+                         Qt::NoModifier);
+        QApplication::sendEvent(bar, &move);
+        Process();
+    };
+    dragTo(grip + QPoint(60, 150));
+    dragTo(grip + QPoint(120, 400));
+    QTest::mouseRelease(bar, Qt::LeftButton, {}, grip + QPoint(120, 400));
+    Process();
+    ASSERT_TRUE(bar->isFloating());
+    EXPECT_TRUE(bar_.IsWindowVisible());
+    QTest::mouseClick(WidgetOf(11), Qt::LeftButton);
+    QTest::keyClick(WidgetOf(11), Qt::Key_W);
+    EXPECT_EQ(bar_.DlgItemText(11), "w");
+    QTest::mouseClick(WidgetOf(kRun), Qt::LeftButton);
+    EXPECT_THAT(frame_.commands, ElementsAre(kRun));
+    EXPECT_TRUE(Main()->restoreState(docked));
+    Process();
+    EXPECT_FALSE(bar->isFloating());
+    EXPECT_EQ(Main()->toolBarArea(bar), Qt::TopToolBarArea);
 }
 
 TEST_F(Frame, ClosesThroughTheLayer) {

@@ -39,6 +39,7 @@ protected:
         template_ = std::make_unique<TestTemplate>(std::move(rows));
         ASSERT_TRUE(dialog.Create(kTestTemplate));
         Process();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(Window()));
     }
     ~QtDialogTest() override {
         if (dialog.m_hWnd) dialog.DestroyWindow();

@@ -2,6 +2,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+#include "qt/scale.h"
 #include "qt_fixture.h"
 #include "window/message_box.h"
 
@@ -158,6 +159,21 @@ TEST_F(Windows, AModelessToolIsClosedByItsWindowButton) {
     EXPECT_TRUE(window->isVisible());
 }
 
+TEST_F(Windows, AToolThatIsShownTakesTheKeyboard) {
+    Show({At(11, kEdit, 7)});
+    RecordingDialog tool(kInnerTemplate);
+    ASSERT_TRUE(tool.Create(kInnerTemplate));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(WidgetOf(tool)));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_T);
+    EXPECT_EQ(tool.DlgItemText(41), "t");
+    tool.ShowWindow(SW_HIDE);
+    dialog.GetDlgItem(11)->SetFocus();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(Window()));
+    tool.ShowWindow(SW_SHOW);
+    EXPECT_TRUE(QTest::qWaitForWindowActive(WidgetOf(tool)));
+    tool.DestroyWindow();
+}
+
 /// A tool that goes when it is closed, as hosts write them.
 class SelfDeleting : public RecordingDialog {
 public:
@@ -265,6 +281,101 @@ TEST_F(Windows, APumpInsideLongWorkTakesClicks) {
     for (int step = 0; step < 10 && !cancelled; ++step)
         kv::WindowSystem::Get().Pump();
     EXPECT_TRUE(cancelled);
+}
+
+TEST_F(Windows, TheStackingOrderIsTheLayers) {
+    Show({{20, kPushButton, "One", {7, 7, 60, 30}}, {21, kPushButton, "Two", {40, 20, 60, 30}}});
+    QWidget* one = test::QtDialogTest::WidgetOf(20);
+    QWidget* two = test::QtDialogTest::WidgetOf(21);
+    const QPoint shared = one->geometry().intersected(two->geometry()).center();
+    const UINT place = SWP_NOMOVE | SWP_NOSIZE;
+    dialog.GetDlgItem(21)->SetWindowPos(nullptr, 0, 0, 0, 0, place);
+    EXPECT_EQ(Window()->childAt(shared), two);
+    dialog.GetDlgItem(20)->SetWindowPos(nullptr, 0, 0, 0, 0, place);
+    EXPECT_EQ(Window()->childAt(shared), one);
+    dialog.GetDlgItem(20)->SetWindowPos(dialog.GetDlgItem(21), 0, 0, 0, 0, place);
+    EXPECT_EQ(Window()->childAt(shared), two);
+}
+
+TEST_F(Windows, AGroupBoxLiesBehindItsMembers) {
+    Show({{20, kPushButton, "Go", {20, 20, 60, 14}}, {30, kGroupBox, "Around", {7, 7, 120, 60}}});
+    const QWidget* member = test::QtDialogTest::WidgetOf(20);
+    EXPECT_EQ(Window()->childAt(member->geometry().center()), member);
+}
+
+TEST_F(Windows, TheButtonThatEnterPressesIsMarked) {
+    Show({At(11, kEdit, 7), At(IDOK, kDefaultButton, 24, "OK"), At(20, kPushButton, 41, "Other")});
+    const auto picture = [&](int id) { return test::QtDialogTest::WidgetOf(id)->grab().toImage(); };
+    const QImage marked = picture(IDOK);
+    const QImage plain = picture(20);
+    dialog.GetDlgItem(20)->SetFocus();
+    EXPECT_NE(picture(IDOK), marked);
+    EXPECT_NE(picture(20), plain);
+    dialog.GetDlgItem(11)->SetFocus();
+    EXPECT_EQ(picture(IDOK), marked);
+    EXPECT_EQ(picture(20), plain);
+}
+
+TEST_F(Windows, ALabelsMnemonicReachesTheControlBehindIt) {
+    Show({At(11, kEdit, 7), At(10, kLabel, 24, "&Company:"), At(12, kEdit, 41, "old")});
+    Key(Qt::Key_C, Qt::AltModifier);
+    EXPECT_EQ(test::FocusedId(), 12);
+    EXPECT_EQ(Window()->focusWidget(), test::QtDialogTest::WidgetOf(12));
+    Type("n");
+    EXPECT_EQ(Text(12), "n");
+}
+
+TEST_F(Windows, ALabelShowsWhatItIsToldAnew) {
+    Show({At(11, kEdit, 7), At(10, kLabel, 24, "short")});
+    const QWidget* label = test::QtDialogTest::WidgetOf(10);
+    const int before = label->width();
+    dialog.SetDlgItemText(10, "a much longer text than there was room for here & there");
+    EXPECT_EQ(static_cast<const QLabel*>(label)->text(),
+              "a much longer text than there was room for here  there");
+    EXPECT_GT(label->width(), before) << "it takes the free place behind it";
+    dialog.GetDlgItem(10)->ShowWindow(SW_HIDE);
+    EXPECT_FALSE(label->isVisible());
+}
+
+/// Labels that find no room to grow.
+class NarrowLabels : public test::QtDialogTest {
+protected:
+    /// A label of that share of its text's width, with an edit close behind it.
+    void ShowLabel(double share) {
+        const QFontMetrics metrics(QApplication::font());
+        const int text = metrics.horizontalAdvance(kText);
+        Show({{10, kLabel, kText, {7, 7, 40, 8}}, {11, kEdit, "", {60, 5, 40, 12}}});
+        const kv::qt::Scale scale = kv::qt::CurrentScale();
+        CRect place = NodeOf(10).Rect();
+        place.right = place.left + static_cast<int>(text * share / scale.x);
+        dialog.GetDlgItem(11)->MoveWindow(
+            CRect{place.right, place.top, place.right + 60, place.bottom});
+        dialog.GetDlgItem(10)->MoveWindow(place);
+        Process();
+    }
+    /// Whether the upright strokes of the last letter are there.
+    bool EndIsShown() {
+        const QImage picture = WidgetOf(10)->grab().toImage();
+        const QRgb ground = picture.pixel(picture.width() - 1, 0);
+        int inked = 0;
+        const int top = picture.height() / 4;
+        for (int y = top; y < picture.height() / 2; ++y) {
+            for (int x = picture.width() - 5; x < picture.width(); ++x)
+                inked += std::abs(qGray(picture.pixel(x, y)) - qGray(ground)) > 60;
+        }
+        return inked > 0;
+    }
+    static constexpr const char* kText = "Rectifying lonH";
+};
+
+TEST_F(NarrowLabels, AreDrawnALittleNarrowerBeforeTheyAreCut) {
+    ShowLabel(0.9);
+    EXPECT_TRUE(EndIsShown());
+}
+
+TEST_F(NarrowLabels, AreCutWithDotsWhereThatIsNotEnough) {
+    ShowLabel(0.6);
+    EXPECT_FALSE(EndIsShown());
 }
 
 }  // namespace

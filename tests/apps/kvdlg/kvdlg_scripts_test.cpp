@@ -10,44 +10,15 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 
 #include <algorithm>
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <nlohmann/json.hpp>
-#include <sstream>
-#include <string>
-#include <vector>
 
-#include "support/temp_folder.h"
-#include "window/text.h"
+#include "kvdlg_program.h"
+#include "script_files.h"
 
 namespace {
 
-using Json = nlohmann::ordered_json;
-namespace fs = std::filesystem;
-
-constexpr std::string_view kExpected = ".expected.json";
-
-std::string ReadFile(const fs::path& path) {
-    std::ostringstream text;
-    text << std::ifstream(path, std::ios::binary).rdbuf();
-    return text.str();
-}
-
-std::vector<std::string> Names() {
-    std::vector<std::string> names;
-    for (const auto& entry : fs::directory_iterator(KVDLG_SCRIPTS)) {
-        const std::string name = entry.path().filename().string();
-        if (name.ends_with(kExpected)) {
-            names.push_back(name.substr(0, name.size() - kExpected.size()));
-        }
-    }
-    std::ranges::sort(names);
-    return names;
-}
+using Json = test::Kvdlg::Json;
 
 const Json* ControlWithId(const Json& controls, const Json& id) {
     const auto at = std::find_if(controls.begin(), controls.end(),
@@ -86,68 +57,49 @@ class KvdlgScript : public testing::TestWithParam<std::string> {
 protected:
     /// The text of a file of the folder, with this test's own folder in it.
     std::string Text(const std::string& name) const {
-        const std::string inJson = kv::ReplaceAll(folder_.Dialog(), "\\", "\\\\");
-        return kv::ReplaceAll(ReadFile(fs::path(KVDLG_SCRIPTS) / name), "${folder}", inJson);
+        const std::string inJson = kv::ReplaceAll(kvdlg_.folder.Dialog(), "\\", "\\\\");
+        return kv::ReplaceAll(test::ScriptFile(name), "${folder}", inJson);
     }
 
-    static std::string Quoted(const std::string& argument) {
-        return "'" + kv::ReplaceAll(argument, "'", "'\\''") + "'";
-    }
-
-    std::string CommandLine(const Json& expected) const {
-        const char* sample = std::getenv("KVGUICTL_SAMPLE_DB");
-        const std::string database =
-            expected.value("db", std::string("sqlite:") + (sample ? sample : ""));
-        std::string line = Quoted(KVDLG_PROGRAM) + " run " +
-                           Quoted(expected.at("run").get<std::string>()) + " --script " +
-                           Quoted(folder_.Native("kvdlg.script")) + " --db " + Quoted(database);
-        const Json options = expected.value("options", Json::array());
-        for (const auto& option : options) {
-            line += " " + Quoted(option.get<std::string>());
-        }
-        return line + " >" + Quoted(folder_.Native("kvdlg.out")) + " 2>" +
-               Quoted(folder_.Native("kvdlg.error"));
-    }
-
-    test::TempFolder folder_;
+    test::Kvdlg kvdlg_;
 };
 
 GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(KvdlgScript);
 
-INSTANTIATE_TEST_SUITE_P(, KvdlgScript, testing::ValuesIn(Names()),
+INSTANTIATE_TEST_SUITE_P(, KvdlgScript, testing::ValuesIn(test::ScriptNames()),
                          [](const auto& each) { return each.param; });
 
 TEST_P(KvdlgScript, EndsAsExpected) {
-    const Json expected = Json::parse(Text(GetParam() + std::string(kExpected)));
-    folder_.Write("kvdlg.script", Text(GetParam() + ".json"));
+    const Json expected = Json::parse(Text(GetParam() + std::string(test::kExpected)));
     const Json files = expected.value("files", Json::object());
     for (const auto& [name, content] : files.items()) {
-        folder_.Write(name, content.get<std::string>());
+        kvdlg_.folder.Write(name, content.get<std::string>());
+    }
+    std::vector<std::string> options = expected.value("options", std::vector<std::string>());
+    if (expected.contains("db")) {
+        options.insert(options.end(), {"--db", expected.at("db").get<std::string>()});
     }
 
-    const int status = std::system(CommandLine(expected).c_str());
-    const std::string error = folder_.Read("kvdlg.error");
-    ASSERT_TRUE(WIFEXITED(status));
-    EXPECT_EQ(WEXITSTATUS(status), expected.at("exit").get<int>()) << error;
+    const auto ended = kvdlg_.Play(expected.at("run"), Text(GetParam() + ".json"), options);
+    EXPECT_EQ(ended.exit, expected.at("exit").get<int>()) << ended.error;
 
     if (expected.contains("out")) {
-        const Json came = Json::parse(folder_.Read("kvdlg.out"), nullptr, false);
-        ASSERT_FALSE(came.is_discarded()) << folder_.Read("kvdlg.out") << error;
+        ASSERT_FALSE(ended.Printed().is_discarded()) << ended.out << ended.error;
         std::string faults;
-        Compare(expected.at("out"), came, "", faults);
+        Compare(expected.at("out"), ended.Printed(), "", faults);
         EXPECT_EQ(faults, "");
     } else {
-        EXPECT_EQ(folder_.Read("kvdlg.out"), "");
+        EXPECT_EQ(ended.out, "");
         std::size_t at = 0;
         for (const Json& part : expected.at("error")) {
-            at = error.find(part.get<std::string>(), at);
-            ASSERT_NE(at, std::string::npos) << part << " is not told in:\n" << error;
+            at = ended.error.find(part.get<std::string>(), at);
+            ASSERT_NE(at, std::string::npos) << part << " is not told in:\n" << ended.error;
         }
     }
     const Json written = expected.value("written", Json::object());
     for (const auto& [name, content] : written.items()) {
-        EXPECT_TRUE(folder_.Has(name)) << name;
-        EXPECT_EQ(folder_.Read(name), content.get<std::string>()) << name;
+        EXPECT_TRUE(kvdlg_.folder.Has(name)) << name;
+        EXPECT_EQ(kvdlg_.folder.Read(name), content.get<std::string>()) << name;
     }
 }
 

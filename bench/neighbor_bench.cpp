@@ -1,0 +1,234 @@
+// The search for the blocks that touch those selected, beside the same statements on the bare
+// engine and the same outlines in the bare geometry library.
+
+#include <geos_c.h>
+#include <sqlite3.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <functional>
+#include <map>
+#include <set>
+#include <stdexcept>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "blocks/neighbor_blocks.h"
+#include "frame/db_abs_data_mgr.h"
+#include "frame/module.h"
+#include "frame/statement_trace.h"
+#include "frame/util_geo.h"
+#include "ratio.h"
+#include "sampledata/dataset.h"
+#include "sampledata/loader_sqlite.h"
+#include "services/kvdbkvn/dialect.h"
+#include "window/headless_desktop.h"
+#include "window/window_system.h"
+
+namespace {
+
+using kv::blocks::NeighborRelation;
+using kv::blocks::Place;
+using kv::blocks::Selection;
+
+constexpr int kBlocks = 500;
+constexpr int kManyBlocks = 5'000;
+
+/// The sample dataset, in a file that is gone when the program ends.
+class SampleFile {
+public:
+    SampleFile()
+        : path_((std::filesystem::temp_directory_path() /
+                 ("kvbench-neighbors-" + std::to_string(getpid()) + ".db"))
+                    .string()) {
+        kv::sample::SqliteLoader loader(path_);
+        kv::sample::WriteDataset(loader, [](const std::string&) {});
+        loader.Finish();
+    }
+    ~SampleFile() { std::filesystem::remove(path_); }
+    const std::string& Path() const { return path_; }
+
+private:
+    std::string path_;
+};
+
+const std::string& SamplePath() {
+    static const SampleFile file;
+    return file.Path();
+}
+
+/// A connection past the library.
+class Engine {
+public:
+    Engine() {
+        if (sqlite3_open_v2(SamplePath().c_str(), &database_, SQLITE_OPEN_READONLY, nullptr) !=
+            SQLITE_OK) {
+            throw std::runtime_error(sqlite3_errmsg(database_));
+        }
+    }
+    ~Engine() { sqlite3_close(database_); }
+    Engine(const Engine&) = delete;
+    Engine& operator=(const Engine&) = delete;
+
+    /// Hands each row to `take`.
+    template <typename Take>
+    void Read(const std::string& sql, const Take& take) {
+        sqlite3_stmt* statement = nullptr;
+        if (sqlite3_prepare_v2(database_, sql.c_str(), -1, &statement, nullptr) != SQLITE_OK)
+            throw std::runtime_error(sqlite3_errmsg(database_));
+        while (sqlite3_step(statement) == SQLITE_ROW)
+            take(statement);
+        sqlite3_finalize(statement);
+    }
+
+private:
+    sqlite3* database_ = nullptr;
+};
+
+std::string Text(sqlite3_stmt* row, int column) {
+    return reinterpret_cast<const char*>(sqlite3_column_text(row, column));
+}
+
+/// Blocks of the federal waters, an area's beside one another.
+Selection FirstBlocks(int count) {
+    Selection selection;
+    Engine().Read(
+        "select areaname, lbnum || coalesce(lbext, '') from gulf_mexico_lbi join "
+        "gulf_mexico_connam2 on stcode = areacode where area_abbr is not null and stcode > '435' "
+        "order by refnum limit " +
+            std::to_string(count),
+        [&](sqlite3_stmt* row) {
+            selection.first.push_back(Text(row, 0));
+            selection.second.push_back(Text(row, 1));
+        });
+    return selection;
+}
+
+void Connect() {
+    CKvDbInfo info("", "", ("sqlite:" + SamplePath()).c_str());
+    CKvDbAbsDataMgr(1).SetDbInfo(info);
+}
+
+NeighborRelation FindNeighbors(Selection selection) {
+    NeighborRelation relation;
+    CNeighborBlocks(selection, relation, 0, "NORVADON").PopulateNeighbor();
+    return relation;
+}
+
+void SearchOurs(benchmark::State& state, int count) {
+    InitControlDll();
+    kv::HeadlessDesktop desktop;
+    kv::WindowSystem::Get().SetDesktop(&desktop);
+    Connect();
+    const Selection selection = FirstBlocks(count);
+    std::size_t found = 0;
+    for (auto _ : state)
+        found = FindNeighbors(selection).size();
+    if (found != static_cast<std::size_t>(count)) state.SkipWithError("blocks without neighbors");
+    kv::WindowSystem::Get().SetDesktop(nullptr);
+}
+
+/// What a search asks the database, in the words of the engine.
+std::vector<std::string> StatementsOf(const Selection& selection) {
+    InitControlDll();
+    kv::HeadlessDesktop desktop;
+    kv::WindowSystem::Get().SetDesktop(&desktop);
+    Connect();
+    std::vector<std::string> statements;
+    kv::db::SetStatementTrace([&](const std::string& sql) {
+        statements.push_back(kv::dialect::Translate(sql, {}).text);
+    });
+    FindNeighbors(selection);
+    kv::db::SetStatementTrace(nullptr);
+    kv::WindowSystem::Get().SetDesktop(nullptr);
+    return statements;
+}
+
+class Geometries {
+public:
+    Geometries() : handle_(GEOS_init_r()) {}
+    ~Geometries() { GEOS_finish_r(handle_); }
+    Geometries(const Geometries&) = delete;
+    Geometries& operator=(const Geometries&) = delete;
+
+    GEOSGeometry* Area(Engine& engine, const std::string& sql) {
+        places_.clear();
+        engine.Read(sql, [&](sqlite3_stmt* row) {
+            places_.push_back(sqlite3_column_double(row, 0));
+            places_.push_back(sqlite3_column_double(row, 1));
+        });
+        places_.insert(places_.end(), {places_[0], places_[1]});
+        GEOSCoordSequence* corners = GEOSCoordSeq_copyFromBuffer_r(
+            handle_, places_.data(), static_cast<unsigned>(places_.size() / 2), 0, 0);
+        return GEOSGeom_createPolygon_r(handle_, GEOSGeom_createLinearRing_r(handle_, corners),
+                                        nullptr, 0);
+    }
+    /// The cheapest predicate that answers where corners differ by rounding.
+    bool Meet(GEOSGeometry* first, GEOSGeometry* second) {
+        constexpr double kDegrees = CKvUtilGeo::kTolerance / 111'000.0;
+        const bool meet = GEOSDistanceWithin_r(handle_, first, second, kDegrees) == 1;
+        GEOSGeom_destroy_r(handle_, first);
+        GEOSGeom_destroy_r(handle_, second);
+        return meet;
+    }
+
+private:
+    GEOSContextHandle_t handle_;
+    std::vector<double> places_;
+};
+
+/// The same statements, in the same order, and the same outlines.
+std::size_t SearchBare(Engine& engine, const std::vector<std::string>& statements) {
+    Geometries geometries;
+    std::size_t met = 0;
+    for (std::size_t next = 0; next < statements.size();) {
+        std::vector<std::pair<std::string, std::string>> candidates;
+        engine.Read(statements[next++], [&](sqlite3_stmt* row) {
+            candidates.emplace_back(Text(row, 0), Text(row, 1));
+        });
+        for (std::size_t i = 0; i < candidates.size(); ++i) {
+            GEOSGeometry* first = geometries.Area(engine, statements[next++]);
+            GEOSGeometry* second = geometries.Area(engine, statements[next++]);
+            met += geometries.Meet(first, second);
+        }
+    }
+    return met;
+}
+
+void SearchPeer(benchmark::State& state, int count) {
+    const Selection selection = FirstBlocks(count);
+    const std::vector<std::string> statements = StatementsOf(selection);
+    Engine engine;
+    std::size_t met = 0;
+    for (auto _ : state)
+        met = SearchBare(engine, statements);
+    if (met < static_cast<std::size_t>(2 * count)) state.SkipWithError("blocks without neighbors");
+}
+
+/// Ten searches of a tenth of the blocks each.
+void SearchByTenths(benchmark::State& state, int count) {
+    InitControlDll();
+    kv::HeadlessDesktop desktop;
+    kv::WindowSystem::Get().SetDesktop(&desktop);
+    Connect();
+    const Selection all = FirstBlocks(count);
+    for (auto _ : state) {
+        for (int begin = 0; begin < count; begin += count / 10) {
+            const int end = begin + count / 10;
+            FindNeighbors({{all.first.begin() + begin, all.first.begin() + end},
+                           {all.second.begin() + begin, all.second.begin() + end}});
+        }
+    }
+    kv::WindowSystem::Get().SetDesktop(nullptr);
+}
+
+const bench::Subject kSubjects[] = {
+    {"neighbors/500 blocks", 1.2, [](benchmark::State& state) { SearchOurs(state, kBlocks); },
+     [](benchmark::State& state) { SearchPeer(state, kBlocks); }},
+    {"neighbors/5,000 blocks at once and by tenths", 1.2,
+     [](benchmark::State& state) { SearchOurs(state, kManyBlocks); },
+     [](benchmark::State& state) { SearchByTenths(state, kManyBlocks); }},
+};
+
+}  // namespace

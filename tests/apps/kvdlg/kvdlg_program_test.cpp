@@ -1,0 +1,139 @@
+#include "kvdlg_program.h"
+
+#include <gmock/gmock.h>
+
+namespace {
+
+using test::Kvdlg;
+using testing::HasSubstr;
+
+constexpr const char* kStatus = "CKvGuiPipeStatusDlg";
+constexpr const char* kPickAndEnd =
+    R"({"inputs": {"text": "ACT"}, "user": [{"window": "CKvGuiPipeStatusDlg",
+        "do": [{"click": 1}]}]})";
+
+/// Width and height in the head of a PNG file; 0 for what is none.
+std::pair<int, int> SizeOfPng(const std::string& bytes) {
+    constexpr std::string_view kHead = "\x89PNG\r\n\x1a\n";
+    if (!bytes.starts_with(kHead) || bytes.size() < 24) return {0, 0};
+    const auto number = [&](std::size_t at) {
+        int value = 0;
+        for (std::size_t i = at; i < at + 4; ++i)
+            value = value * 256 + static_cast<unsigned char>(bytes[i]);
+        return value;
+    };
+    return {number(16), number(20)};
+}
+
+TEST(KvdlgProgram, HelpTeachesTheCommandsAndTheScript) {
+    const Kvdlg kvdlg;
+    const auto help = kvdlg.Run({"--help"});
+    EXPECT_EQ(help.exit, 0);
+    for (const char* words : {"list", "describe", "run", "Exit codes"})
+        EXPECT_THAT(help.out, HasSubstr(words));
+    const auto run = kvdlg.Run({"run", "--help"});
+    EXPECT_EQ(run.exit, 0);
+    for (const char* action : {"click", "type", "key", "paste", "select", "doubleclick", "drop",
+                               "focus", "close", "call", "snapshot"}) {
+        EXPECT_THAT(run.out, HasSubstr(std::string("{\"") + action + "\": "));
+    }
+    for (const char* scene : {"window", "message", "file", "print", "pump"})
+        EXPECT_THAT(run.out, HasSubstr(std::string("{\"") + scene + "\": "));
+}
+
+TEST(KvdlgProgram, WrongUseEndsWith2) {
+    const Kvdlg kvdlg;
+    EXPECT_EQ(kvdlg.Run({}).exit, 2);
+    EXPECT_EQ(kvdlg.Run({"run"}).exit, 2);
+    EXPECT_EQ(kvdlg.Run({"run", kStatus, "--no-such-option"}).exit, 2);
+    EXPECT_EQ(kvdlg.Run({"describe", "CNoDialog"}).exit, 2);
+}
+
+TEST(KvdlgProgram, AFileThatCannotBeReadEndsWith3) {
+    const Kvdlg kvdlg;
+    for (const char* option : {"--script", "--input"}) {
+        const auto ended = kvdlg.Run({"run", kStatus, option, kvdlg.folder.Native("none.json")});
+        EXPECT_EQ(ended.exit, 3);
+        EXPECT_THAT(ended.error, HasSubstr("none.json cannot be read"));
+    }
+}
+
+TEST(KvdlgProgram, InputsOfAFileGoOverThoseOfTheScript) {
+    const Kvdlg kvdlg;
+    kvdlg.folder.Write("inputs.json", R"({"inputs": {"text": "REM"}})");
+    const auto ended =
+        kvdlg.Play(kStatus, kPickAndEnd, {"--input", kvdlg.folder.Native("inputs.json")});
+    EXPECT_EQ(ended.exit, 0) << ended.error;
+    EXPECT_EQ(ended.Printed().at("outcome").at("text"), "REM");
+}
+
+TEST(KvdlgProgram, WithoutADisplayNoWindowOpensAndItIsSaid) {
+    const auto ended = Kvdlg().Run({"run", kStatus});
+    EXPECT_EQ(ended.exit, 2);
+    EXPECT_EQ(ended.out, "");
+    EXPECT_THAT(ended.error, HasSubstr("display"));
+    EXPECT_THAT(ended.error, HasSubstr("--script"));
+}
+
+TEST(KvdlgProgram, ADefaultDatabaseThatIsNotThereMattersToThoseWhoNeedIt) {
+    Kvdlg kvdlg;
+    kvdlg.folder.Set("KVGUICTL_DB", "sqlite:" + kvdlg.folder.Native("none.db"));
+    EXPECT_EQ(kvdlg.Play(kStatus, kPickAndEnd).exit, 0);
+    const auto ended = kvdlg.Play("CKvGuiListSel",
+                                  R"({"inputs": {"column": "lessee", "table": "t"}, "user": [
+            {"window": "", "do": [{"type": [1191, "a"]}, {"click": 1192}, {"click": 2}]}]})");
+    EXPECT_EQ(ended.exit, 3);
+    EXPECT_THAT(ended.error, HasSubstr("none.db"));
+}
+
+TEST(KvdlgProgram, TraceAddsTheStatements) {
+    const Kvdlg kvdlg;
+    const std::string script =
+        R"({"inputs": {"column": "lessee", "table": "NORVADON.gulf_mexico_lease"},
+            "user": [{"window": "", "do": [{"type": [1191, "shell"]}, {"click": 1192},
+                                           {"click": 2}]},
+                     {"message": ""}]})";
+    const auto ended = kvdlg.Play("CKvGuiListSel", script, {"--trace"});
+    ASSERT_EQ(ended.exit, 1) << ended.error;
+    ASSERT_EQ(ended.Printed().at("sql").size(), 1U);
+    EXPECT_THAT(ended.Printed().at("sql").at(0).get<std::string>(), HasSubstr("SHELL"));
+    EXPECT_FALSE(kvdlg.Play("CKvGuiListSel", script).Printed().contains("sql"));
+}
+
+class KvdlgPicture : public testing::Test {
+protected:
+    void SetUp() override {
+        if (!KVDLG_WITH_WINDOWS) GTEST_SKIP() << "kvdlg was built without windows";
+    }
+    std::string Path() const { return kvdlg.folder.Native("dialog.png"); }
+
+    Kvdlg kvdlg;
+};
+
+TEST_F(KvdlgPicture, OfAScriptedDialogNeedsNoDisplayAndChangesNothing) {
+    const auto bare = kvdlg.Play(kStatus, kPickAndEnd);
+    const auto pictured = kvdlg.Play(kStatus, kPickAndEnd, {"--picture", Path()});
+    EXPECT_EQ(pictured.exit, 0) << pictured.error;
+    EXPECT_EQ(pictured.out, bare.out);
+    const auto [width, height] = SizeOfPng(kvdlg.folder.Read("dialog.png"));
+    EXPECT_GT(width, 200);
+    EXPECT_GT(height, 200);
+}
+
+TEST_F(KvdlgPicture, OfABarIsOfItsFrame) {
+    const std::string script = R"({"user": [{"window": "CVZABEBar", "do": [{"drop": 13070}]}]})";
+    const auto ended = kvdlg.Play("CVZABEBar", script, {"--picture", Path()});
+    EXPECT_EQ(ended.exit, 0) << ended.error;
+    const auto [width, height] = SizeOfPng(kvdlg.folder.Read("dialog.png"));
+    EXPECT_GT(width, 600);
+    EXPECT_GT(height, 20);
+}
+
+TEST_F(KvdlgPicture, ThatCannotBeWrittenEndsWith3) {
+    const auto ended =
+        kvdlg.Play(kStatus, kPickAndEnd, {"--picture", kvdlg.folder.Native("none/dialog.png")});
+    EXPECT_EQ(ended.exit, 3);
+    EXPECT_THAT(ended.error, HasSubstr("cannot be written"));
+}
+
+}  // namespace
