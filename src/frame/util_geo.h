@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "frame/disp_point.h"
+#include "frame/min_max_2dd.h"
 #include "window/export.h"
 
 /// Tells which outlines touch.
@@ -30,4 +31,7 @@ public:
     /// Whether they touch in a point or overlap; sharing a piece of boundary is touching, too.
     bool AreTheyAdjoining(const std::vector<CKvDispPoint>& first,
                           const std::vector<CKvDispPoint>& second) const;
+
+    /// The bounds around the points, whatever X and Y of them stand for; all 0 for no point.
+    static CMinMax2Dd_t PolyLineGetMinMax(const std::vector<CKvDispPoint>& points);
 };

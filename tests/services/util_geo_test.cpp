@@ -216,4 +216,12 @@ TEST(UtilGeo, ACornerThatIsRepeatedChangesNothing) {
     EXPECT_EQ(Meet(doubled, kBlock), Meeting::kNone);
 }
 
+TEST(UtilGeo, BoundsOfPointsHoldThemAll) {
+    const CMinMax2Dd_t bounds =
+        CKvUtilGeo::PolyLineGetMinMax({{28.0, -90.5}, {27.5, -89.0}, {29.25, -91.0}});
+    EXPECT_EQ(bounds, (CMinMax2Dd_t{27.5, 29.25, -91.0, -89.0}));
+    EXPECT_EQ(CKvUtilGeo::PolyLineGetMinMax({{28.0, -90.0}}), (CMinMax2Dd_t{28, 28, -90, -90}));
+    EXPECT_EQ(CKvUtilGeo::PolyLineGetMinMax({}), CMinMax2Dd_t{});
+}
+
 }  // namespace

@@ -273,3 +273,10 @@ bool CKvUtilGeo::AreTheyAdjoining(const std::vector<CKvDispPoint>& first,
     return firstArea && secondArea &&
            GEOSDistanceWithin_r(Geos(), firstArea.get(), secondArea.get(), kTolerance) == 1;
 }
+
+CMinMax2Dd_t CKvUtilGeo::PolyLineGetMinMax(const std::vector<CKvDispPoint>& points) {
+    if (points.empty()) return {};
+    const auto [west, east] = std::ranges::minmax(points, {}, &CKvDispPoint::GetX);
+    const auto [south, north] = std::ranges::minmax(points, {}, &CKvDispPoint::GetY);
+    return {west.GetX(), east.GetX(), south.GetY(), north.GetY()};
+}
