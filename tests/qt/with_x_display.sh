@@ -18,7 +18,9 @@ stop() {
 trap stop EXIT
 
 mkfifo "$work/number"
-Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3>"$work/number" 2>"$work/log" &
+# Without -noreset the display starts anew, and refuses who comes meanwhile, whenever the last
+# program has left it.
+Xvfb -displayfd 3 -noreset -screen 0 1280x1024x24 -nolisten tcp 3>"$work/number" 2>"$work/log" &
 server=$!
 # It tells its number once it takes connections.
 if ! read -r -t 30 number <"$work/number"; then
