@@ -1,7 +1,5 @@
 #include "adaptors/block_inputs.h"
 
-#include "frame/graphics.h"
-
 namespace adaptors {
 
 namespace {
@@ -64,27 +62,6 @@ Json RelationAsJson(const NeighborRelation& relation) {
     return list;
 }
 
-/// Answers for the map where the input says what is picked there; a map of the host's stays
-/// otherwise.
-class MapAnswer {
-public:
-    explicit MapAnswer(const Run& run) : set_(run.Inputs().contains("map")) {
-        if (!set_) return;
-        std::string fields = ",,";
-        for (const std::string& each : run.Get("map", std::vector<std::string>()))
-            fields += each + ",";
-        kv::SetGraphics([fields](const auto&...) { return fields; });
-    }
-    ~MapAnswer() {
-        if (set_) kv::SetGraphics(nullptr);
-    }
-    MapAnswer(const MapAnswer&) = delete;
-    MapAnswer& operator=(const MapAnswer&) = delete;
-
-private:
-    bool set_;
-};
-
 }  // namespace
 
 std::vector<Input> BlockInputs() {
@@ -98,9 +75,6 @@ std::vector<Input> BlockInputs() {
         {"neighbors", "list of {block, touches}", "neighbors that were found earlier", nullptr},
         {"listFile", "text", "path of the list file", nullptr},
         {"useListFile", "flag", "whether the list file is in use", nullptr},
-        {"map", "list of texts",
-         "what is picked where the map is asked, in place of a map: \"area name,block,extension\"",
-         nullptr},
     };
 }
 
@@ -112,7 +86,6 @@ void RunBlockDialog(Run& run, CKvGuiBlkExtDlg& dialog) {
     dialog.SetListFileName(run.Get<std::string>("listFile", ""));
     dialog.SetListFileFlag(run.Get("useListFile", false));
     dialog.GetNeighborRel() = RelationFrom(run);
-    const MapAnswer map(run);
     run.result = dialog.DoModal();
     run.outcome["selection"] = SelectionAsJson(selection);
     run.outcome["field"] = dialog.GetFieldString();

@@ -44,6 +44,8 @@ between two actions of a window is the scene behind that window's.
   {"print": {...}}                print setup, which gets "device", "paper" (number of the size),
                                   "landscape", "width" and "height" (tenths of a millimetre); null
                                   cancels it
+  {"map": [PICK, ...]}            the map that blocks are picked on; a pick is "AREA,BLOCK,EXTENSION"
+                                  with the area's name; null cancels it
   {"pump": N, "do": [...]}        acts on the window in front inside long work, after N steps of it
 
 Actions, with the ids that "kvdlg describe CLASS" tells:

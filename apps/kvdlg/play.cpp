@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <map>
 
+#include "frame/graphics.h"
 #include "kvdlg/report.h"
 #include "kvdlg/script.h"
 #include "kvdlg/script_lines.h"
@@ -55,7 +56,9 @@ void Play(const adaptors::Adaptor& adaptor, adaptors::Run& run, const Script& sc
     const auto lines = LinesOf(script.text);
     AddScenes(user, lines, desktop, hooks);
 
+    kv::SetGraphics([&](const auto&...) { return desktop.TakeOther(kMap); });
     adaptor.run(run);
+    kv::SetGraphics(nullptr);
     if (const int left = desktop.ScenesLeft(); left > 0) {
         place.clear();
         desktop.Fail(WordsOfScenesLeft(user, left, lines));

@@ -202,6 +202,22 @@ kv::PrinterSettings PrinterOf(const Json& given, const std::string& where) {
     return printer;
 }
 
+/// The picks as the map gives them: two fields of its own, and a comma behind each.
+std::string MapTextOf(const Json& picks, const std::string& where) {
+    constexpr const char* kExpected =
+        "\"map\" to be a list of texts \"AREA NAME,BLOCK,EXTENSION\", or null";
+    if (picks.is_null()) return "";
+    if (!picks.is_array()) Wrong(where, kExpected);
+    std::string text = "BLOCKS," + std::to_string(picks.size()) + ",";
+    for (const Json& pick : picks) {
+        if (!pick.is_string()) Wrong(where, kExpected);
+        const std::string fields = pick.get<std::string>();
+        if (std::count(fields.begin(), fields.end(), ',') != 2) Wrong(where, kExpected);
+        text += fields + ",";
+    }
+    return text;
+}
+
 void AddScene(const Json& scene, const ScenePlace& place, kv::HeadlessDesktop& desktop,
               const Hooks& hooks) {
     const std::string where = place.Words();
@@ -230,12 +246,14 @@ void AddScene(const Json& scene, const ScenePlace& place, kv::HeadlessDesktop& d
         } else {
             desktop.ExpectPrintSetup(PrinterOf(scene["print"], where));
         }
+    } else if (scene.contains("map")) {
+        desktop.ExpectOther(kMap, MapTextOf(scene["map"], where));
     } else if (scene.contains("pump")) {
         if (!scene["pump"].is_number_integer())
             Wrong(where, "\"pump\" to be how many pumpings go by first");
         desktop.ExpectPump(play, scene["pump"].get<int>());
     } else {
-        Wrong(where, "\"window\", \"message\", \"file\", \"print\" or \"pump\"");
+        Wrong(where, "\"window\", \"message\", \"file\", \"print\", \"map\" or \"pump\"");
     }
 }
 

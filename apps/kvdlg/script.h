@@ -19,6 +19,9 @@ public:
     using std::runtime_error::runtime_error;
 };
 
+/// What a script calls the map that blocks are picked on.
+inline constexpr const char* kMap = "the map";
+
 struct Hooks {
     /// "snapshot": the window as it stands.
     std::function<void(kv::Node&, const std::string& name)> snapshot;

@@ -70,6 +70,10 @@ void HeadlessDesktop::ExpectPrintSetupCancel() {
     scenes_.push_back({SceneKind::kPrintSetup, {}, {}, IDCANCEL, {}, {}});
 }
 
+void HeadlessDesktop::ExpectOther(std::string what, std::string answer) {
+    scenes_.push_back({SceneKind::kOther, std::move(what), {}, IDOK, std::move(answer), {}});
+}
+
 void HeadlessDesktop::ExpectPump(std::function<void(User&)> act, int skip) {
     pumpScenes_.push_back({std::move(act), skip});
 }
@@ -109,6 +113,8 @@ std::string HeadlessDesktop::Describe(const Scene& scene) {
             return "a file dialog";
         case SceneKind::kPrintSetup:
             return "print setup";
+        case SceneKind::kOther:
+            return scene.match;
     }
     return {};
 }
@@ -164,7 +170,7 @@ int HeadlessDesktop::RunMessageBox(const MessageBoxRequest& request) {
 int HeadlessDesktop::RunFileDialog(const FileDialogRequest& request, std::string& path) {
     const Scene scene = TakeScene(SceneKind::kFile, "the file dialog " + Quoted(request.title));
     fileDialogs_.push_back(request);
-    if (scene.answer == IDOK) path = scene.path;
+    if (scene.answer == IDOK) path = scene.text;
     return scene.answer;
 }
 
@@ -172,6 +178,12 @@ int HeadlessDesktop::RunPrintSetup(PrinterSettings& settings) {
     const Scene scene = TakeScene(SceneKind::kPrintSetup, "print setup");
     if (scene.answer == IDOK) settings = scene.printer;
     return scene.answer;
+}
+
+std::string HeadlessDesktop::TakeOther(const std::string& what) {
+    Scene scene = TakeScene(SceneKind::kOther, what);
+    if (scene.match != what) Fail("expected " + Describe(scene) + ", and " + what + " opened");
+    return std::move(scene.text);
 }
 
 bool HeadlessDesktop::DefaultPrinter(PrinterSettings& settings) {

@@ -36,6 +36,9 @@ public:
     /// Print setup opens, and ends with these settings; or is cancelled.
     void ExpectPrintSetup(PrinterSettings settings);
     void ExpectPrintSetupCancel();
+    /// The host opens something of its own, which `what` names, such as "the map"; it gives that
+    /// text.
+    void ExpectOther(std::string what, std::string answer);
     /// The queue is pumped inside long work; `act` acts on the window in front. `skip` pumpings go
     /// by first.
     void ExpectPump(std::function<void(User&)> act, int skip = 0);
@@ -52,6 +55,9 @@ public:
     /// once with the code 2: no handler can catch it, and nothing waits.
     void SetFailure(std::function<void(const std::string&)> failure);
     [[noreturn]] void Fail(const std::string& words);
+
+    /// For what a host opens of its own: takes its scene, and answers the text that it gives.
+    std::string TakeOther(const std::string& what);
 
     /// Called when a window is about to go, with its controls as they stand.
     void SetWindowClosed(std::function<void(Node&)> closed) { closed_ = std::move(closed); }
@@ -83,13 +89,14 @@ public:
     void Created(Node&) override {}
 
 private:
-    enum class SceneKind { kWindow, kMessage, kFile, kPrintSetup };
+    enum class SceneKind { kWindow, kMessage, kFile, kPrintSetup, kOther };
     struct Scene {
         SceneKind kind;
         std::string match;
         std::function<void(User&)> act;
         int answer = IDOK;
-        std::string path;
+        /// The path of a file, or the text of something else.
+        std::string text;
         PrinterSettings printer;
     };
     struct PumpScene {

@@ -141,6 +141,14 @@ TEST_F(Headless, PrintSetupIsAnsweredOrCancelled) {
     EXPECT_EQ(settings.device, "kept");
 }
 
+TEST_F(Headless, WhatAHostOpensOfItsOwnIsAnsweredInItsTurn) {
+    desktop_.ExpectOther("the map", "GREEN CANYON,500,,");
+    desktop_.ExpectOther("the atlas", "");
+    EXPECT_EQ(desktop_.TakeOther("the map"), "GREEN CANYON,500,,");
+    EXPECT_EQ(desktop_.TakeOther("the atlas"), "");
+    EXPECT_EQ(desktop_.ScenesLeft(), 0);
+}
+
 TEST_F(Headless, AFileDialogIsAnsweredOrCancelled) {
     std::string path = "before";
     desktop_.ExpectFile("C:\\tmp\\a.txt");
@@ -251,6 +259,12 @@ TEST_F(HeadlessDeath, AnActionInAWindowThatHasClosed) {
 TEST_F(HeadlessDeath, APumpWithASceneAndNoWindow) {
     desktop_.ExpectPump([](kv::User&) {});
     EXPECT_EXIT(kv::WindowSystem::Get().Pump(), ExitedWithCode(2), "no window is open");
+}
+
+TEST_F(HeadlessDeath, SomethingElseOfTheHostsThanExpected) {
+    desktop_.ExpectOther("the atlas", "");
+    EXPECT_EXIT(desktop_.TakeOther("the map"), ExitedWithCode(2),
+                "expected the atlas, and the map opened");
 }
 
 TEST_F(HeadlessDeath, CannotBeCaughtByAHandler) {
