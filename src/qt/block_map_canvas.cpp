@@ -4,7 +4,6 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
-#include <cmath>
 
 #include "qt/text.h"
 
@@ -12,10 +11,6 @@ namespace kv::qt {
 
 namespace {
 
-constexpr double kWheelNotch = 120;
-constexpr double kZoomPerNotch = 1.25;
-constexpr double kZoomPerKey = 1.5;
-constexpr double kPanPerKey = 80;  ///< pixels
 /// Of the view's width and height, at each side of an area.
 constexpr double kRoomAroundArea = 0.08;
 /// How large a block must be for its lines, and for its label, in pixels.
@@ -67,7 +62,7 @@ map::FeatureLayer LayerOf(const std::vector<MapBlock>& blocks) {
 }  // namespace
 
 BlockMapCanvas::BlockMapCanvas(std::vector<MapBlock> blocks, QWidget* parent)
-    : QWidget(parent),
+    : MapWidget(parent),
       blocks_(std::move(blocks)),
       layer_(LayerOf(blocks_)),
       isPicked_(blocks_.size()) {
@@ -78,11 +73,8 @@ BlockMapCanvas::BlockMapCanvas(std::vector<MapBlock> blocks, QWidget* parent)
         tints.emplace(name, tints.size() % kTints);
     for (const MapBlock& block : blocks_)
         tints_.push_back(tints[block.area]);
-    setFocusPolicy(Qt::StrongFocus);
-    setMouseTracking(true);
-    setCursor(Qt::CrossCursor);
     setAccessibleName(tr("Map of blocks"));
-    if (!layer_.Bounds().Empty()) view_.SetBounds(layer_.Bounds());
+    if (!layer_.Bounds().Empty()) ChangeView().SetBounds(layer_.Bounds());
     ShowAll();
 }
 
@@ -119,25 +111,12 @@ std::vector<std::string> BlockMapCanvas::Areas() const {
 void BlockMapCanvas::ShowArea(const std::string& area) {
     const auto found = areas_.find(area);
     if (found == areas_.end()) return;
-    movedByUser_ = true;
-    view_.Show(found->second, kRoomAroundArea);
-    update();
-}
-
-void BlockMapCanvas::ShowAll() {
-    movedByUser_ = false;
-    view_.ShowAll();
-    update();
-}
-
-void BlockMapCanvas::ZoomBy(double factor) {
-    movedByUser_ = true;
-    view_.Zoom({width() / 2.0, height() / 2.0}, factor);
-    update();
+    ChangeView().Show(found->second, kRoomAroundArea);
+    Moved();
 }
 
 std::optional<std::size_t> BlockMapCanvas::BlockAt(const QPointF& at) const {
-    const map::Point point = view_.ToMap({at.x(), at.y()});
+    const map::Point point = View().ToMap({at.x(), at.y()});
     std::optional<std::size_t> found;
     layer_.ForEachIn({point.x, point.y, point.x, point.y}, [&](std::size_t block) {
         if (!found && map::Inside(layer_.Points(block), point)) found = block;
@@ -150,7 +129,7 @@ std::optional<std::size_t> BlockMapCanvas::BlockAt(const QPointF& at) const {
 QPolygonF BlockMapCanvas::Ring(std::size_t block) const {
     QPolygonF ring;
     for (const map::Point& point : layer_.Points(block)) {
-        const map::ScreenPoint at = view_.ToScreen(point);
+        const map::ScreenPoint at = View().ToScreen(point);
         ring << QPointF(at.x, at.y);
     }
     return ring;
@@ -159,11 +138,11 @@ QPolygonF BlockMapCanvas::Ring(std::size_t block) const {
 /// The lesser of its width and height, in pixels.
 double BlockMapCanvas::SizeOf(std::size_t block) const {
     const map::Box& box = layer_.BoxOf(block);
-    return std::min(box.Width(), box.Height()) * view_.Scale();
+    return std::min(box.Width(), box.Height()) * View().Scale();
 }
 
 QPointF BlockMapCanvas::Middle(std::size_t block) const {
-    const map::ScreenPoint at = view_.ToScreen(layer_.BoxOf(block).Middle());
+    const map::ScreenPoint at = View().ToScreen(layer_.BoxOf(block).Middle());
     return {at.x, at.y};
 }
 
@@ -173,10 +152,8 @@ void BlockMapCanvas::paintEvent(QPaintEvent*) {
     DrawBlocks(painter);
     DrawAreaLabels(painter);
     if (dragging_ && held_ == Qt::LeftButton) DrawBand(painter);
-    if (byKeys_ && hasFocus()) {
-        painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
-        painter.drawRect(rect().adjusted(1, 1, -1, -1));
+    if (ByKeys()) {
+        DrawKeyFrame(painter);
         // What the space bar picks.
         const QPointF middle = rect().toRectF().center();
         painter.drawLine(middle - QPointF(kCross, 0), middle + QPointF(kCross, 0));
@@ -187,7 +164,7 @@ void BlockMapCanvas::paintEvent(QPaintEvent*) {
 void BlockMapCanvas::DrawBlocks(QPainter& painter) {
     const Look& look = LookFor(palette());
     std::vector<std::size_t> labelled, picked;
-    layer_.ForEachIn(view_.Visible(), [&](std::size_t block) {
+    layer_.ForEachIn(View().Visible(), [&](std::size_t block) {
         if (isPicked_[block]) {
             picked.push_back(block);
             return;
@@ -218,7 +195,7 @@ void BlockMapCanvas::DrawBlockLabels(QPainter& painter, const std::vector<std::s
     painter.setPen(LookFor(palette()).text);
     for (const std::size_t block : blocks) {
         const QString text = ToQString(blocks_[block].Label());
-        const double width = layer_.BoxOf(block).Width() * view_.Scale();
+        const double width = layer_.BoxOf(block).Width() * View().Scale();
         if (painter.fontMetrics().horizontalAdvance(text) > width) continue;
         const QPointF at = Middle(block);
         painter.drawText(QRectF(at.x() - width / 2, at.y() - width / 2, width, width),
@@ -232,11 +209,11 @@ void BlockMapCanvas::DrawAreaLabels(QPainter& painter) {
     QFont bold = font();
     bold.setBold(true);
     painter.setFont(bold);
-    const map::Box seen = view_.Visible();
+    const map::Box seen = View().Visible();
     for (const auto& [name, box] : areas_) {
         if (!box.Meets(seen)) continue;
-        const map::ScreenPoint low = view_.ToScreen({box.minX, box.maxY});
-        const map::ScreenPoint high = view_.ToScreen({box.maxX, box.minY});
+        const map::ScreenPoint low = View().ToScreen({box.minX, box.maxY});
+        const map::ScreenPoint high = View().ToScreen({box.maxX, box.minY});
         const QRectF onScreen = QRectF(low.x, low.y, high.x - low.x, high.y - low.y) & rect();
         const QString text = ToQString(name);
         QRectF label = QFontMetricsF(bold).boundingRect(text).adjusted(
@@ -263,14 +240,9 @@ void BlockMapCanvas::DrawBand(QPainter& painter) {
 
 // Mouse and keys.
 
-void BlockMapCanvas::resizeEvent(QResizeEvent*) {
-    view_.Resize(width(), height());
-    if (!movedByUser_) view_.ShowAll();
-}
-
 void BlockMapCanvas::mousePressEvent(QMouseEvent* event) {
     if (held_ != Qt::NoButton) return;
-    byKeys_ = false;
+    MapWidget::mousePressEvent(event);
     held_ = event->button();
     pressedAt_ = lastAt_ = event->position();
     dragging_ = false;
@@ -282,12 +254,13 @@ void BlockMapCanvas::mouseMoveEvent(QMouseEvent* event) {
     if (held_ == Qt::NoButton) return;
     if ((at - pressedAt_).manhattanLength() >= QApplication::startDragDistance()) dragging_ = true;
     if (!dragging_) return;
-    if (held_ != Qt::LeftButton) {
-        movedByUser_ = true;
-        view_.Pan(at.x() - lastAt_.x(), at.y() - lastAt_.y());
+    if (held_ == Qt::LeftButton) {
+        update();
+    } else {
+        ChangeView().Pan(at.x() - lastAt_.x(), at.y() - lastAt_.y());
+        Moved();
     }
     lastAt_ = at;
-    update();
 }
 
 void BlockMapCanvas::mouseReleaseEvent(QMouseEvent* event) {
@@ -307,8 +280,8 @@ void BlockMapCanvas::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void BlockMapCanvas::TakeBand(bool picked) {
-    const map::Point a = view_.ToMap({pressedAt_.x(), pressedAt_.y()});
-    const map::Point b = view_.ToMap({lastAt_.x(), lastAt_.y()});
+    const map::Point a = View().ToMap({pressedAt_.x(), pressedAt_.y()});
+    const map::Point b = View().ToMap({lastAt_.x(), lastAt_.y()});
     map::Box band;
     band.Include(a);
     band.Include(b);
@@ -340,51 +313,13 @@ void BlockMapCanvas::leaveEvent(QEvent*) {
     Hover(std::nullopt);
 }
 
-void BlockMapCanvas::wheelEvent(QWheelEvent* event) {
-    movedByUser_ = true;
-    const double notches = event->angleDelta().y() / kWheelNotch;
-    view_.Zoom({event->position().x(), event->position().y()}, std::pow(kZoomPerNotch, notches));
-    event->accept();
-    update();
-}
-
-void BlockMapCanvas::focusInEvent(QFocusEvent* event) {
-    byKeys_ = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
-    update();
-}
-
+/// The space bar picks what lies in the middle, for those who move the map by keys.
 void BlockMapCanvas::keyPressEvent(QKeyEvent* event) {
-    byKeys_ = true;
-    switch (event->key()) {
-        case Qt::Key_Plus:
-        case Qt::Key_Equal:
-            return ZoomBy(kZoomPerKey);
-        case Qt::Key_Minus:
-            return ZoomBy(1 / kZoomPerKey);
-        case Qt::Key_Home:
-            return ShowAll();
-        case Qt::Key_Left:
-            view_.Pan(kPanPerKey, 0);
-            break;
-        case Qt::Key_Right:
-            view_.Pan(-kPanPerKey, 0);
-            break;
-        case Qt::Key_Up:
-            view_.Pan(0, kPanPerKey);
-            break;
-        case Qt::Key_Down:
-            view_.Pan(0, -kPanPerKey);
-            break;
-        case Qt::Key_Space:
-            // What lies in the middle, for those who move the map by keys.
-            if (const auto block = BlockAt({width() / 2.0, height() / 2.0}))
-                SetPicked(*block, !isPicked_[*block]);
-            return;
-        default:
-            return QWidget::keyPressEvent(event);
-    }
-    movedByUser_ = true;
-    update();
+    MapWidget::keyPressEvent(event);
+    if (event->key() != Qt::Key_Space) return;
+    event->accept();
+    if (const auto block = BlockAt({width() / 2.0, height() / 2.0}))
+        SetPicked(*block, !isPicked_[*block]);
 }
 
 }  // namespace kv::qt

@@ -2,7 +2,6 @@
 
 #include <QColor>
 #include <QPolygonF>
-#include <QWidget>
 #include <functional>
 #include <map>
 #include <optional>
@@ -11,12 +10,12 @@
 
 #include "qt/block_map_window.h"
 #include "qt/map/feature_layer.h"
-#include "qt/map/map_view.h"
+#include "qt/map/map_widget.h"
 
 namespace kv::qt {
 
 /// The map of a `BlockMapWindow`.
-class KVGUICTL_QT_API BlockMapCanvas : public QWidget {
+class KVGUICTL_QT_API BlockMapCanvas : public map::MapWidget {
 public:
     static constexpr std::size_t kTints = 4;
 
@@ -25,7 +24,6 @@ public:
     const std::vector<MapBlock>& Blocks() const { return blocks_; }
     const std::vector<std::size_t>& Picks() const { return picks_; }
     std::optional<std::size_t> Hovered() const { return hovered_; }
-    const map::MapView& View() const { return view_; }
 
     bool IsPicked(std::size_t block) const { return isPicked_[block]; }
     void SetPicked(std::size_t block, bool picked);
@@ -33,9 +31,6 @@ public:
 
     std::vector<std::string> Areas() const;
     void ShowArea(const std::string& area);
-    void ShowAll();
-    /// Zooms about the middle.
-    void ZoomBy(double factor);
     /// The block at a place of the widget.
     std::optional<std::size_t> BlockAt(const QPointF& at) const;
 
@@ -47,14 +42,11 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
-    void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void leaveEvent(QEvent* event) override;
-    void focusInEvent(QFocusEvent* event) override;
 
 private:
     QPolygonF Ring(std::size_t block) const;
@@ -74,13 +66,9 @@ private:
     /// Of each block, by its area.
     std::vector<std::size_t> tints_;
     std::map<std::string, map::Box> areas_;
-    map::MapView view_;
     std::vector<bool> isPicked_;
     std::vector<std::size_t> picks_;
     std::optional<std::size_t> hovered_;
-    bool movedByUser_ = false;
-    /// The frame and the cross are for those who work by keys.
-    bool byKeys_ = false;
 
     Qt::MouseButton held_ = Qt::NoButton;
     bool dragging_ = false;

@@ -5,17 +5,13 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QToolTip>
-#include <cmath>
+#include <algorithm>
 
 namespace workbench {
 
 namespace {
 
-constexpr double kWheelNotch = 120;
-constexpr double kZoomPerNotch = 1.25;
 constexpr double kZoomPerDoubleClick = 2;
-constexpr double kZoomPerKey = 1.5;
-constexpr double kPanPerKey = 80;  ///< pixels
 /// How much of the view's extent stays around a pick at each side.
 constexpr double kRoomAroundBlock = 0.38;
 constexpr double kRoomAroundAreas = 0.08;
@@ -30,15 +26,11 @@ QString Text(std::string_view text) {
 
 }  // namespace
 
-MapCanvas::MapCanvas(const MapModel& model, QWidget* parent) : QWidget(parent), model_(model) {
-    setFocusPolicy(Qt::StrongFocus);
-    setMouseTracking(true);
+MapCanvas::MapCanvas(const MapModel& model, QWidget* parent) : MapWidget(parent), model_(model) {
     setAttribute(Qt::WA_OpaquePaintEvent);
-    setCursor(Qt::CrossCursor);
     setAccessibleName(tr("Map"));
     painter_.SetFont(font());
     ChooseLook();
-    view_.Resize(width(), height());
 }
 
 void MapCanvas::ChooseLook() {
@@ -47,22 +39,21 @@ void MapCanvas::ChooseLook() {
 }
 
 void MapCanvas::ModelChanged() {
-    view_.SetBounds(model_.Bounds());
-    if (!movedByUser_) view_.ShowAll();
+    ChangeView().SetBounds(model_.Bounds());
+    if (!MovedByUser()) ChangeView().ShowAll();
     update();
 }
 
 void MapCanvas::ModelGoes() {
     marks_ = {};
-    movedByUser_ = false;
+    ForgetMoves();
     update();
 }
 
 void MapCanvas::ShowPick(const Pick& pick) {
     marks_.pick = pick;
-    movedByUser_ = true;
-    view_.Show(pick.Bounds(), pick.block ? kRoomAroundBlock : kRoomAroundAreas);
-    update();
+    ChangeView().Show(pick.Bounds(), pick.block ? kRoomAroundBlock : kRoomAroundAreas);
+    Moved();
 }
 
 void MapCanvas::MarkPick(const Pick& pick) {
@@ -87,18 +78,12 @@ void MapCanvas::ShowMarked() {
         for (const BlockRef& block : *blocks)
             bounds.Include(block.Bounds());
     }
-    if (!bounds.Empty()) view_.Show(bounds, kRoomAroundMarked);
+    if (!bounds.Empty()) ChangeView().Show(bounds, kRoomAroundMarked);
     Moved();
 }
 
-void MapCanvas::ShowAll() {
-    movedByUser_ = false;
-    view_.ShowAll();
-    update();
-}
-
 void MapCanvas::ShowPlace(const Place& place) {
-    view_.SetMiddle(ToMap(place), std::max(view_.Scale(), kPlaceScale));
+    ChangeView().SetMiddle(ToMap(place), std::max(View().Scale(), kPlaceScale));
     Moved();
 }
 
@@ -107,44 +92,14 @@ void MapCanvas::SetLayers(const MapLayers& layers) {
     update();
 }
 
-void MapCanvas::Moved() {
-    movedByUser_ = true;
-    update();
-}
-
-void MapCanvas::ZoomBy(double factor) {
-    view_.Zoom({width() / 2.0, height() / 2.0}, factor);
-    Moved();
-}
-
 void MapCanvas::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter_.Draw(painter, model_, view_, layers_, marks_);
-    if (!reachedByKey_) return;
-    painter.setRenderHint(QPainter::Antialiasing, false);
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
-    painter.drawRect(rect().adjusted(1, 1, -1, -1));
-}
-
-/// The frame that tells where the keys go is for those who got there by keys.
-void MapCanvas::focusInEvent(QFocusEvent* event) {
-    reachedByKey_ =
-        event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
-    update();
-}
-
-void MapCanvas::focusOutEvent(QFocusEvent*) {
-    reachedByKey_ = false;
-    update();
-}
-
-void MapCanvas::resizeEvent(QResizeEvent*) {
-    view_.Resize(width(), height());
-    if (!movedByUser_) view_.ShowAll();
+    painter_.Draw(painter, model_, View(), layers_, marks_);
+    if (ByKeys()) DrawKeyFrame(painter);
 }
 
 void MapCanvas::mousePressEvent(QMouseEvent* event) {
+    MapWidget::mousePressEvent(event);
     if (event->button() != Qt::LeftButton) return;
     pressedAt_ = lastAt_ = event->position();
     dragging_ = false;
@@ -159,18 +114,18 @@ void MapCanvas::mouseMoveEvent(QMouseEvent* event) {
             setCursor(Qt::ClosedHandCursor);
         }
         if (dragging_) {
-            view_.Pan(at.x() - lastAt_.x(), at.y() - lastAt_.y());
+            ChangeView().Pan(at.x() - lastAt_.x(), at.y() - lastAt_.y());
             lastAt_ = at;
             Moved();
         }
     } else {
         Hover(at);
     }
-    emit Pointed(ToPlace(view_.ToMap({at.x(), at.y()})));
+    emit Pointed(ToPlace(View().ToMap({at.x(), at.y()})));
 }
 
 void MapCanvas::Hover(const QPointF& at) {
-    const auto block = model_.BlockAt(view_.ToMap({at.x(), at.y()}));
+    const auto block = model_.BlockAt(View().ToMap({at.x(), at.y()}));
     if (block == marks_.hovered) return;
     marks_.hovered = block;
     update();
@@ -184,7 +139,7 @@ void MapCanvas::mouseReleaseEvent(QMouseEvent* event) {
         return;
     }
     const QPointF at = event->position();
-    const Point point = view_.ToMap({at.x(), at.y()});
+    const Point point = View().ToMap({at.x(), at.y()});
     if (const auto block = model_.BlockAt(point)) emit BlockClicked(*block);
     emit PlaceClicked(ToPlace(point));
 }
@@ -192,8 +147,8 @@ void MapCanvas::mouseReleaseEvent(QMouseEvent* event) {
 void MapCanvas::mouseDoubleClickEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) return;
     const bool out = event->modifiers() & Qt::ShiftModifier;
-    view_.Zoom({event->position().x(), event->position().y()},
-               out ? 1 / kZoomPerDoubleClick : kZoomPerDoubleClick);
+    ChangeView().Zoom({event->position().x(), event->position().y()},
+                      out ? 1 / kZoomPerDoubleClick : kZoomPerDoubleClick);
     Moved();
 }
 
@@ -203,53 +158,15 @@ void MapCanvas::leaveEvent(QEvent*) {
     emit PointedNowhere();
 }
 
-void MapCanvas::wheelEvent(QWheelEvent* event) {
-    const double notches = event->angleDelta().y() / kWheelNotch;
-    view_.Zoom({event->position().x(), event->position().y()}, std::pow(kZoomPerNotch, notches));
-    event->accept();
-    Moved();
-}
-
-void MapCanvas::keyPressEvent(QKeyEvent* event) {
-    switch (event->key()) {
-        case Qt::Key_Plus:
-        case Qt::Key_Equal:
-            ZoomBy(kZoomPerKey);
-            return;
-        case Qt::Key_Minus:
-            ZoomBy(1 / kZoomPerKey);
-            return;
-        case Qt::Key_Left:
-            view_.Pan(kPanPerKey, 0);
-            break;
-        case Qt::Key_Right:
-            view_.Pan(-kPanPerKey, 0);
-            break;
-        case Qt::Key_Up:
-            view_.Pan(0, kPanPerKey);
-            break;
-        case Qt::Key_Down:
-            view_.Pan(0, -kPanPerKey);
-            break;
-        case Qt::Key_Home:
-            ShowAll();
-            return;
-        default:
-            QWidget::keyPressEvent(event);
-            return;
-    }
-    Moved();
-}
-
 void MapCanvas::changeEvent(QEvent* event) {
     if (event->type() == QEvent::PaletteChange) ChooseLook();
     if (event->type() == QEvent::FontChange) painter_.SetFont(font());
     update();
-    QWidget::changeEvent(event);
+    MapWidget::changeEvent(event);
 }
 
 bool MapCanvas::event(QEvent* event) {
-    if (event->type() != QEvent::ToolTip) return QWidget::event(event);
+    if (event->type() != QEvent::ToolTip) return MapWidget::event(event);
     const auto* help = static_cast<QHelpEvent*>(event);
     const QString tip = TipAt(help->pos());
     if (tip.isEmpty()) {
@@ -261,13 +178,13 @@ bool MapCanvas::event(QEvent* event) {
 }
 
 QString MapCanvas::TipAt(const QPointF& at) const {
-    const Point place = view_.ToMap({at.x(), at.y()});
+    const Point place = View().ToMap({at.x(), at.y()});
     QStringList lines;
     if (const auto block = model_.BlockAt(place)) {
         lines << tr("%1, block %2").arg(Text(block->area->name), Text(block->Label()));
     }
-    const bool spots = MapPainter::ShowsSpots(view_);
-    const auto spot = spots ? model_.SpotAt(place, kReach / view_.Scale()) : std::nullopt;
+    const bool spots = MapPainter::ShowsSpots(View());
+    const auto spot = spots ? model_.SpotAt(place, kReach / View().Scale()) : std::nullopt;
     if (spot) {
         const QString label = Text(spot->Layer().Label(spot->number));
         lines << (spot->platform ? tr("Platform %1") : tr("Well %1")).arg(label);

@@ -1,16 +1,14 @@
 #pragma once
 
-#include <QWidget>
-
+#include "qt/map/map_widget.h"
 #include "workbench/map/map_model.h"
 #include "workbench/map/map_painter.h"
 #include "workbench/map/map_view.h"
 
 namespace workbench {
 
-/// Shows the map. It is moved by dragging and by the arrow keys, zoomed by the wheel, by a double
-/// click (with Shift: out), by "+" and "-"; "Home" shows all of it.
-class MapCanvas : public QWidget {
+/// Shows the map. Dragging moves it, too, and a double click zooms in, with Shift out.
+class MapCanvas : public kv::map::MapWidget {
     Q_OBJECT
 public:
     /// `model` outlives the canvas.
@@ -32,16 +30,11 @@ public:
     /// Marks, in another colour, blocks beside those.
     void ShowNeighbors(std::vector<BlockRef> blocks);
     const MapMarks& Marks() const { return marks_; }
-    void ShowAll();
     /// Brings a place to the middle, near enough for its block to be told.
     void ShowPlace(const Place& place);
 
     const MapLayers& Layers() const { return layers_; }
     void SetLayers(const MapLayers& layers);
-    const MapView& View() const { return view_; }
-
-    /// Zooms about the middle.
-    void ZoomBy(double factor);
 
     QSize sizeHint() const override { return {900, 560}; }
     QSize minimumSizeHint() const override { return {240, 160}; }
@@ -57,34 +50,25 @@ signals:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void leaveEvent(QEvent* event) override;
-    void wheelEvent(QWheelEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
-    void focusInEvent(QFocusEvent* event) override;
-    void focusOutEvent(QFocusEvent* event) override;
     void changeEvent(QEvent* event) override;
     bool event(QEvent* event) override;
 
 private:
     void ChooseLook();
     void Hover(const QPointF& at);
-    void Moved();
     void ShowMarked();
     QString TipAt(const QPointF& at) const;
 
     const MapModel& model_;
-    MapView view_;
     MapPainter painter_;
     MapLayers layers_;
     MapMarks marks_;
-    bool movedByUser_ = false;
     bool dragging_ = false;
-    bool reachedByKey_ = false;
     QPointF pressedAt_;
     QPointF lastAt_;
 };
