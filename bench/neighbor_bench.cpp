@@ -3,9 +3,7 @@
 
 #include <geos_c.h>
 #include <sqlite3.h>
-#include <unistd.h>
 
-#include <filesystem>
 #include <functional>
 #include <map>
 #include <set>
@@ -19,9 +17,8 @@
 #include "frame/module.h"
 #include "frame/statement_trace.h"
 #include "frame/util_geo.h"
+#include "peers.h"
 #include "ratio.h"
-#include "sampledata/dataset.h"
-#include "sampledata/loader_sqlite.h"
 #include "services/kvdbkvn/dialect.h"
 #include "window/headless_desktop.h"
 #include "window/window_system.h"
@@ -35,35 +32,12 @@ using kv::blocks::Selection;
 constexpr int kBlocks = 500;
 constexpr int kManyBlocks = 5'000;
 
-/// The sample dataset, in a file that is gone when the program ends.
-class SampleFile {
-public:
-    SampleFile()
-        : path_((std::filesystem::temp_directory_path() /
-                 ("kvbench-neighbors-" + std::to_string(getpid()) + ".db"))
-                    .string()) {
-        kv::sample::SqliteLoader loader(path_);
-        kv::sample::WriteDataset(loader, [](const std::string&) {});
-        loader.Finish();
-    }
-    ~SampleFile() { std::filesystem::remove(path_); }
-    const std::string& Path() const { return path_; }
-
-private:
-    std::string path_;
-};
-
-const std::string& SamplePath() {
-    static const SampleFile file;
-    return file.Path();
-}
-
 /// A connection past the library.
 class Engine {
 public:
     Engine() {
-        if (sqlite3_open_v2(SamplePath().c_str(), &database_, SQLITE_OPEN_READONLY, nullptr) !=
-            SQLITE_OK) {
+        if (sqlite3_open_v2(bench::SamplePath().c_str(), &database_, SQLITE_OPEN_READONLY,
+                            nullptr) != SQLITE_OK) {
             throw std::runtime_error(sqlite3_errmsg(database_));
         }
     }
@@ -106,7 +80,7 @@ Selection FirstBlocks(int count) {
 }
 
 void Connect() {
-    CKvDbInfo info("", "", ("sqlite:" + SamplePath()).c_str());
+    CKvDbInfo info("", "", ("sqlite:" + bench::SamplePath()).c_str());
     CKvDbAbsDataMgr(1).SetDbInfo(info);
 }
 

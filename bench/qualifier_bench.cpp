@@ -2,16 +2,15 @@
 // Add and Remove of many rows beside filling a list with them once.
 
 #include <sqlite3.h>
-#include <unistd.h>
 
 #include <algorithm>
-#include <filesystem>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "frame/db_abs_data_mgr.h"
 #include "frame/module.h"
+#include "peers.h"
 #include "qualifiers/list_sel.h"
 #include "qualifiers/list_sel_ids.h"
 #include "ratio.h"
@@ -41,20 +40,15 @@ std::string Value(int number) {
 }
 
 /// The two tables, in a file that is gone when the program ends.
-class ValueFile {
+class ValueFile : public bench::PassingFile {
 public:
-    ValueFile()
-        : path_((std::filesystem::temp_directory_path() /
-                 ("kvbench-values-" + std::to_string(getpid()) + ".db"))
-                    .string()) {
+    ValueFile() : PassingFile("values") {
         sqlite3* database = nullptr;
-        sqlite3_open(path_.c_str(), &database);
+        sqlite3_open(Path().c_str(), &database);
         const int code = sqlite3_exec(database, Statements().c_str(), nullptr, nullptr, nullptr);
         sqlite3_close(database);
         if (code != SQLITE_OK) throw std::runtime_error("no table of values could be made");
     }
-    ~ValueFile() { std::filesystem::remove(path_); }
-    const std::string& Path() const { return path_; }
 
 private:
     static std::string Statements() {
@@ -67,8 +61,6 @@ private:
             sql += "insert into value values ('" + Value(i) + "');";
         return sql + "insert into indexed_value select name from value; commit";
     }
-
-    std::string path_;
 };
 
 const std::string& ValuePath() {
@@ -134,22 +126,7 @@ void SearchOurs(benchmark::State& state, const char* table) {
 void SearchPeer(benchmark::State& state, const std::string& table) {
     const std::string query = "select distinct name from " + table + " where name like '%%'";
     const std::string sql = kv::dialect::Translate(query, {}).text;
-    sqlite3* database = nullptr;
-    sqlite3_open_v2(ValuePath().c_str(), &database, SQLITE_OPEN_READONLY, nullptr);
-    for (auto _ : state) {
-        std::vector<std::string> rows;
-        sqlite3_stmt* statement = nullptr;
-        if (sqlite3_prepare_v2(database, sql.c_str(), -1, &statement, nullptr) != SQLITE_OK) {
-            state.SkipWithError(sqlite3_errmsg(database));
-            break;
-        }
-        while (sqlite3_step(statement) == SQLITE_ROW) {
-            rows.emplace_back(reinterpret_cast<const char*>(sqlite3_column_text(statement, 0)));
-        }
-        sqlite3_finalize(statement);
-        benchmark::DoNotOptimize(rows);
-    }
-    sqlite3_close(database);
+    bench::QueryBareEngine(state, ValuePath(), sql);
 }
 
 void SelectEvery(CListBox& list, int step) {
