@@ -284,6 +284,8 @@ const kv::MessageMap& CKvConverterDialog::Messages() {
         kv::OnControl<&Self::OnSelchangeComboConvertFormat>(CBN_SELCHANGE, kFormat),
         kv::OnControl<&Self::OnSelchangeComboConvertProj>(CBN_SELCHANGE, kProjection),
         kv::OnControl<&Self::OnSelchangeComboConvertUnit>(CBN_SELCHANGE, kUnit),
+        kv::OnControl<&Self::OnKillfocusEditConvertX>(EN_KILLFOCUS, kX),
+        kv::OnControl<&Self::OnKillfocusEditConvertY>(EN_KILLFOCUS, kY),
         kv::OnControl<&Self::OnSelchangeComboConvertProjFrom>(CBN_SELCHANGE, kFromProjection),
         kv::OnControl<&Self::OnSelchangeComboConvertProjTo>(CBN_SELCHANGE, kToProjection),
         kv::OnControl<&Self::OnSelchangeComboConvertUnitFrom>(CBN_SELCHANGE, kFromUnit),

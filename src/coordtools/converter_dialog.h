@@ -42,6 +42,9 @@ protected:
     void OnSelchangeComboConvertFormat();
     void OnSelchangeComboConvertProj();
     void OnSelchangeComboConvertUnit();
+    // X and Y are read when they are converted, and not when they are left.
+    void OnKillfocusEditConvertX() {}
+    void OnKillfocusEditConvertY() {}
     void OnSelchangeComboConvertProjFrom();
     void OnSelchangeComboConvertProjTo();
     void OnSelchangeComboConvertUnitFrom();
@@ -57,6 +60,7 @@ protected:
     int m_nProj = 0;
     int m_nProjFrom = 0;
     int m_nProjTo = 0;
+    std::string m_strSpare;
     /// The unit that X and Y are shown in, which is the one that they are read in. Empty until
     /// they are shown for the first time.
     std::string m_strUnit;

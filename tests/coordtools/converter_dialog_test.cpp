@@ -208,6 +208,14 @@ TEST_F(Converter, XAloneKeepsWhatWasReadOfIt) {
     EXPECT_THAT(XY(), ElementsAre("304.80", "0.00"));
 }
 
+TEST_F(Converter, LeavingXAndYConvertsNothing) {
+    user->Click(kToLatLon);
+    TypeXY("1000", "2000");
+    user->Focus(kFromX);
+    EXPECT_THAT(XY(), ElementsAre("1000", "2000"));
+    EXPECT_THAT(desktop.Messages(), IsEmpty());
+}
+
 TEST_F(Converter, EmptyXYEmptyTheAngles) {
     TypePosition();
     user->Click(kConvert);
