@@ -5,8 +5,8 @@
 
 #include "frame/db_abs_data_mgr.h"
 #include "frame/db_dataset_set.h"
+#include "frame/projection_code.h"
 #include "mapbuild/proj_sel.h"
-#include "mapbuild/projection_code.h"
 #include "window/combo_box.h"
 #include "window/dialog.h"
 #include "window/message_box.h"

@@ -2,8 +2,8 @@
 
 #include "frame/db_abs_data_mgr.h"
 #include "frame/db_dataset_set.h"
+#include "frame/projection_code.h"
 #include "mapbuild/proj_sel_ids.h"
-#include "mapbuild/projection_code.h"
 #include "mapbuild/utm_zone_dlg.h"
 #include "window/list_box.h"
 #include "window/message_box.h"

@@ -1,7 +1,7 @@
 #include "mapbuild/utm_zone_dlg.h"
 
+#include "frame/projection_code.h"
 #include "mapbuild/proj_sel_ids.h"
-#include "mapbuild/projection_code.h"
 #include "window/button.h"
 #include "window/message_box.h"
 #include "window/numbers.h"

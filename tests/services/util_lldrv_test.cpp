@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "frame/projection_code.h"
 #include "services/kvcom/projection_zones.h"
 
 namespace test {
@@ -229,7 +230,7 @@ std::vector<int> EveryCode() {
         }
         for (int utm = 1; utm <= 60; ++utm)
             codes.push_back(zone.code + utm);
-        codes.push_back(zone.code + kv::coord::kStraightMercator);
+        codes.push_back(zone.code + kv::projection::kStraightMercator);
     }
     return codes;
 }

@@ -3,13 +3,11 @@
 #include <algorithm>
 #include <charconv>
 
+#include "frame/projection_code.h"
+
 namespace kv::coord {
 namespace {
 
-/// Codes of a spheroid's row and, behind it, of its UTM zones.
-constexpr int kFirstSpheroid = 100;
-constexpr int kLastSpheroid = 4999;
-constexpr int kCodesOfSpheroid = 100;
 constexpr int kUtmZones = 60;
 
 constexpr const char* kStateLambert = "state_lambert";
@@ -557,10 +555,6 @@ constexpr Zone kZones[] = {
      "+lat_0=13.4724663527778"},
 };
 
-bool IsSpheroid(int code) {
-    return code >= kFirstSpheroid && code <= kLastSpheroid;
-}
-
 /// The shortest text that reads back as the same number.
 std::string Exact(double number) {
     char text[32];
@@ -585,18 +579,19 @@ const Zone* FindStatePlane(int statePlaneCode) {
 }
 
 bool IsStraightMercator(int code) {
-    return IsSpheroid(code) && code % kCodesOfSpheroid == kStraightMercator;
+    return projection::IsOnSpheroid(code) &&
+           projection::ZoneOf(code) == projection::kStraightMercator;
 }
 
 std::string DefinitionOf(int code, double rectLat, double rectLon) {
-    if (!IsSpheroid(code)) {
+    if (!projection::IsOnSpheroid(code)) {
         const Zone* zone = code < 0 ? FindStatePlane(-code) : FindZone(code);
         return zone ? zone->definition : "";
     }
-    const int utmZone = code % kCodesOfSpheroid;
+    const int utmZone = projection::ZoneOf(code);
     const Zone* spheroid = FindZone(code - utmZone);
     if (!spheroid) return "";
-    if (utmZone == kStraightMercator) {
+    if (utmZone == projection::kStraightMercator) {
         return "+proj=merc +lat_ts=" + Exact(rectLat) + " +lon_0=" + Exact(rectLon) + " " +
                spheroid->definition;
     }

@@ -29,9 +29,6 @@ const Zone* FindZone(int code);
 /// The state plane zone with that number, null where there is none.
 const Zone* FindStatePlane(int statePlaneCode);
 
-/// UTM zone of a code that stands for Straight Mercator.
-inline constexpr int kStraightMercator = 99;
-
 /// Whether the code stands for Straight Mercator on a spheroid: it takes a rectifying point.
 bool IsStraightMercator(int code);
 
