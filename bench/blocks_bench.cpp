@@ -9,14 +9,14 @@
 #include <string>
 #include <vector>
 
+#include "base/paths.h"
+#include "base/text.h"
 #include "blocks/blk_ext_dlg.h"
 #include "blocks/blk_ext_ids.h"
 #include "frame/module.h"
 #include "ratio.h"
-#include "window/headless_desktop.h"
-#include "window/input.h"
-#include "window/paths.h"
-#include "window/text.h"
+#include "window/acting/headless_desktop.h"
+#include "window/acting/input.h"
 #include "window/window_system.h"
 
 namespace {

@@ -8,7 +8,7 @@
 #include <stdexcept>
 #include <vector>
 
-#include "frame/util_lldrv.h"
+#include "frame/kvcom/util_lldrv.h"
 #include "ratio.h"
 #include "services/kvcom/projection_zones.h"
 

@@ -11,10 +11,10 @@
 #include <string>
 #include <vector>
 
-#include "frame/db_abs_data_mgr.h"
+#include "frame/kvdbkvn/db_abs_data_mgr.h"
 #include "ratio.h"
-#include "services/kvdbkvn/dialect.h"
-#include "services/kvdbkvn/engine.h"
+#include "services/kvdbkvn/dialect/translate.h"
+#include "services/kvdbkvn/engines/engine.h"
 #include "support/postgres_cluster.h"
 #include "support/sqlite_file.h"
 

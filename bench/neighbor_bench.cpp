@@ -13,14 +13,14 @@
 #include <vector>
 
 #include "blocks/neighbor_blocks.h"
-#include "frame/db_abs_data_mgr.h"
+#include "frame/kvcom/util_geo.h"
+#include "frame/kvdbkvn/db_abs_data_mgr.h"
+#include "frame/kvdbkvn/statement_trace.h"
 #include "frame/module.h"
-#include "frame/statement_trace.h"
-#include "frame/util_geo.h"
 #include "peers.h"
 #include "ratio.h"
-#include "services/kvdbkvn/dialect.h"
-#include "window/headless_desktop.h"
+#include "services/kvdbkvn/dialect/translate.h"
+#include "window/acting/headless_desktop.h"
 #include "window/window_system.h"
 
 namespace {

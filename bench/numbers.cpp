@@ -1,6 +1,6 @@
 // Numbers from and to text, beside the C library's.
 
-#include "window/numbers.h"
+#include "base/numbers.h"
 
 #include <cstdio>
 #include <cstdlib>

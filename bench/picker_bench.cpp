@@ -3,13 +3,13 @@
 
 #include <string>
 
-#include "frame/db_abs_data_mgr.h"
-#include "frame/statement_trace.h"
+#include "frame/kvdbkvn/db_abs_data_mgr.h"
+#include "frame/kvdbkvn/statement_trace.h"
 #include "peers.h"
 #include "pickers/blk_combo_box.h"
 #include "ratio.h"
-#include "services/kvdbkvn/dialect.h"
-#include "window/frame_wnd.h"
+#include "services/kvdbkvn/dialect/translate.h"
+#include "window/frames/frame_wnd.h"
 
 namespace {
 

@@ -8,16 +8,16 @@
 #include <string>
 #include <vector>
 
-#include "frame/db_abs_data_mgr.h"
+#include "frame/kvdbkvn/db_abs_data_mgr.h"
 #include "frame/module.h"
 #include "peers.h"
 #include "qualifiers/list_sel.h"
 #include "qualifiers/list_sel_ids.h"
 #include "ratio.h"
-#include "services/kvdbkvn/dialect.h"
-#include "window/headless_desktop.h"
-#include "window/input.h"
-#include "window/list_box.h"
+#include "services/kvdbkvn/dialect/translate.h"
+#include "window/acting/headless_desktop.h"
+#include "window/acting/input.h"
+#include "window/controls/list_box.h"
 #include "window/window_system.h"
 
 namespace {

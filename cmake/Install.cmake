@@ -33,7 +33,8 @@ install(FILES ${PROJECT_BINARY_DIR}/KVGuiCtl.pc DESTINATION ${CMAKE_INSTALL_LIBD
 
 # The component Qt: a library of its own, and a file that finds Qt ahead of its targets.
 if(TARGET KVGuiCtlQt)
-    set(qt_headers application.h binding.h block_map_window.h export.h map/geometry.h qt_desktop.h)
+    set(qt_headers application.h binding.h map/block_map_window.h map/geometry.h
+                   map/map_block.h qt_desktop.h)
     list(TRANSFORM qt_headers PREPEND ${PROJECT_SOURCE_DIR}/src/qt/)
     target_sources(KVGuiCtlQt PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR}/src
                                                       FILES ${qt_headers})

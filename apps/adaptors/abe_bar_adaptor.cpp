@@ -4,7 +4,7 @@
 #include "pickers/abe_bar.h"
 #include "pickers/abe_bar_ids.h"
 #include "window/desktop.h"
-#include "window/frame_wnd.h"
+#include "window/frames/frame_wnd.h"
 #include "window/window_system.h"
 
 namespace adaptors {

@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "adaptors/adaptor.h"
-#include "window/combo_box.h"
-#include "window/frame_wnd.h"
+#include "window/controls/combo_box.h"
+#include "window/frames/frame_wnd.h"
 
 namespace adaptors {
 

@@ -6,7 +6,7 @@
 
 #include "adaptors/adaptor.h"
 #include "coordtools/angle_ids.h"
-#include "window/dialog.h"
+#include "window/dialogs/dialog.h"
 
 namespace adaptors {
 

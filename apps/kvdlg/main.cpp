@@ -10,9 +10,9 @@
 #include <sstream>
 #include <string>
 
-#include "frame/db_abs_data_mgr.h"
+#include "frame/kvdbkvn/db_abs_data_mgr.h"
+#include "frame/kvdbkvn/statement_trace.h"
 #include "frame/module.h"
-#include "frame/statement_trace.h"
 #include "kvdlg/failure.h"
 #include "kvdlg/help.h"
 #include "kvdlg/play.h"

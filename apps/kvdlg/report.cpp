@@ -5,8 +5,9 @@
 #include <utility>
 #include <vector>
 
-#include "window/resources.h"
-#include "window/user.h"
+#include "window/acting/row_texts.h"
+#include "window/acting/user.h"
+#include "window/templates/resources.h"
 
 namespace kvdlg {
 

@@ -4,7 +4,7 @@
 #include <map>
 #include <vector>
 
-#include "window/input.h"
+#include "window/acting/input.h"
 
 namespace kvdlg {
 

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "adaptors/adaptor.h"
-#include "window/headless_desktop.h"
+#include "window/acting/headless_desktop.h"
 
 /// A script of scenes as JSON, turned into the scenes of a headless desktop.
 namespace kvdlg {

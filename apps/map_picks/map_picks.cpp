@@ -4,12 +4,12 @@
 #include <cstring>
 #include <string>
 
+#include "base/numbers.h"
 #include "frame/catalogue.h"
-#include "frame/db_abs_data_mgr.h"
-#include "frame/db_dataset_set.h"
 #include "frame/graphics.h"
-#include "window/message_box.h"
-#include "window/numbers.h"
+#include "frame/kvdbkvn/db_abs_data_mgr.h"
+#include "frame/kvdbkvn/db_dataset_set.h"
+#include "window/dialogs/message_box.h"
 
 namespace map_picks {
 

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "qt/block_map_window.h"
+#include "qt/map/block_map_window.h"
 
 /// Picking blocks on a map of the current dataset, for hosts with windows.
 namespace map_picks {

@@ -5,13 +5,13 @@
 #include <string>
 #include <vector>
 
-#include "frame/db_abs_data_mgr.h"
-#include "frame/db_info.h"
+#include "frame/kvdbkvn/db_abs_data_mgr.h"
+#include "frame/kvdbkvn/db_info.h"
 #include "frame/module.h"
 #include "pickers/abe_bar.h"
 #include "pickers/abe_bar_ids.h"
-#include "window/frame_wnd.h"
-#include "window/headless_desktop.h"
+#include "window/acting/headless_desktop.h"
+#include "window/frames/frame_wnd.h"
 #include "window/window_system.h"
 
 namespace {

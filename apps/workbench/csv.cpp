@@ -1,6 +1,6 @@
 #include "workbench/csv.h"
 
-#include "window/paths.h"
+#include "base/paths.h"
 
 namespace workbench {
 

@@ -1,8 +1,8 @@
 #include "workbench/dataset.h"
 
-#include "frame/db_dataset_set.h"
-#include "window/numbers.h"
-#include "window/text.h"
+#include "base/numbers.h"
+#include "base/text.h"
+#include "frame/kvdbkvn/db_dataset_set.h"
 
 namespace workbench {
 

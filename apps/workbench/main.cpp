@@ -8,7 +8,7 @@
 #include <cstdlib>
 #include <string>
 
-#include "frame/db_abs_data_mgr.h"
+#include "frame/kvdbkvn/db_abs_data_mgr.h"
 #include "frame/module.h"
 #include "map_picks/map_picks.h"
 #include "qt/qt_desktop.h"

@@ -3,7 +3,7 @@
 #include <functional>
 
 #include "pickers/abe_bar.h"
-#include "window/frame_wnd.h"
+#include "window/frames/frame_wnd.h"
 
 namespace workbench {
 

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "frame/catalogue.h"
-#include "frame/log.h"
+#include "frame/kvlogs/log.h"
 #include "workbench/dataset.h"
 
 namespace workbench {

@@ -2,8 +2,8 @@
 
 #include <cmath>
 
-#include "window/numbers.h"
-#include "window/text.h"
+#include "base/numbers.h"
+#include "base/text.h"
 
 namespace workbench {
 

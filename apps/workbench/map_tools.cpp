@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "window/acting/input.h"
 #include "window/desktop.h"
-#include "window/input.h"
 #include "window/window_system.h"
 
 namespace workbench {

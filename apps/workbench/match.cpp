@@ -6,9 +6,9 @@
 #include <utility>
 #include <vector>
 
+#include "base/paths.h"
 #include "qualifiers/qualifier_file.h"
-#include "window/dialog.h"
-#include "window/paths.h"
+#include "window/dialogs/dialog.h"
 
 namespace workbench {
 

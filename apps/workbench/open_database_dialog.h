@@ -2,7 +2,7 @@
 
 #include <QDialog>
 
-#include "frame/db_info.h"
+#include "frame/kvdbkvn/db_info.h"
 
 class QLineEdit;
 

@@ -9,9 +9,9 @@
 
 #include "pickers/abe_bar_ids.h"
 #include "qt/qt_desktop.h"
-#include "window/button.h"
-#include "window/combo_box.h"
-#include "window/input.h"
+#include "window/acting/input.h"
+#include "window/controls/button.h"
+#include "window/controls/combo_box.h"
 #include "window/window_system.h"
 
 namespace workbench {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "window/text.h"
+#include "base/text.h"
 #include "workbench/dataset.h"
 
 namespace workbench {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "window/numbers.h"
+#include "base/numbers.h"
 
 namespace workbench {
 

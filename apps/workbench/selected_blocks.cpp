@@ -9,8 +9,8 @@
 
 #include "blocks/neighbor_blocks.h"
 #include "frame/catalogue.h"
-#include "frame/db_dataset_set.h"
-#include "window/dialog.h"
+#include "frame/kvdbkvn/db_dataset_set.h"
+#include "window/dialogs/dialog.h"
 
 namespace workbench {
 

@@ -3,7 +3,7 @@
 #include <QElapsedTimer>
 #include <algorithm>
 
-#include "frame/exception.h"
+#include "frame/kvcom/exception.h"
 
 namespace workbench {
 

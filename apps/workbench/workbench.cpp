@@ -5,9 +5,9 @@
 #include <QStatusBar>
 #include <QTimer>
 
-#include "frame/profile.h"
+#include "base/text.h"
+#include "frame/kvcom/profile.h"
 #include "qt/qt_desktop.h"
-#include "window/text.h"
 #include "window/window_system.h"
 #include "workbench/dataset.h"
 #include "workbench/match.h"

@@ -8,7 +8,7 @@
 #include <optional>
 
 #include "adaptors/adaptor.h"
-#include "frame/db_info.h"
+#include "frame/kvdbkvn/db_info.h"
 #include "workbench/main_frame.h"
 #include "workbench/map/map_canvas.h"
 #include "workbench/map_loader.h"

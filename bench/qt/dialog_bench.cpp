@@ -23,14 +23,14 @@
 
 #include "qt/qt_desktop.h"
 #include "ratio.h"
-#include "window/combo_box.h"
-#include "window/dialog.h"
-#include "window/frame_wnd.h"
-#include "window/list_box.h"
-#include "window/list_ctrl.h"
-#include "window/list_view_node.h"
-#include "window/progress_node.h"
-#include "window/resources.h"
+#include "window/controls/combo_box.h"
+#include "window/controls/list_box.h"
+#include "window/controls/progress_node.h"
+#include "window/dialogs/dialog.h"
+#include "window/frames/frame_wnd.h"
+#include "window/list_view/list_ctrl.h"
+#include "window/list_view/list_view_node.h"
+#include "window/templates/resources.h"
 
 namespace {
 

@@ -6,9 +6,9 @@
 #include <vector>
 
 #include "ratio.h"
-#include "window/combo_box.h"
-#include "window/frame_wnd.h"
-#include "window/list_box.h"
+#include "window/controls/combo_box.h"
+#include "window/controls/list_box.h"
+#include "window/frames/frame_wnd.h"
 
 namespace {
 

@@ -13,8 +13,8 @@
 #include "qt/binding.h"
 #include "qt/qt_desktop.h"
 #include "qualifiers/pipe_status_dlg.h"
-#include "window/combo_box.h"
-#include "window/edit.h"
+#include "window/controls/combo_box.h"
+#include "window/controls/edit.h"
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);

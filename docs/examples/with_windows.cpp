@@ -7,8 +7,8 @@
 #include "frame/module.h"
 #include "qt/application.h"
 #include "qualifiers/pipe_status_dlg.h"
-#include "window/combo_box.h"
-#include "window/frame_wnd.h"
+#include "window/controls/combo_box.h"
+#include "window/frames/frame_wnd.h"
 
 int main(int argc, char** argv) {
     kv::qt::Application application(argc, argv);

@@ -7,9 +7,9 @@
 #include "frame/module.h"
 #include "qualifiers/pipe_ids.h"
 #include "qualifiers/pipe_status_dlg.h"
-#include "window/combo_box.h"
-#include "window/frame_wnd.h"
-#include "window/headless_desktop.h"
+#include "window/acting/headless_desktop.h"
+#include "window/controls/combo_box.h"
+#include "window/frames/frame_wnd.h"
 #include "window/window_system.h"
 
 int main() {

@@ -4,12 +4,12 @@
 #include <functional>
 #include <new>
 
+#include "base/text.h"
 #include "blocks/blk_ext_ids.h"
 #include "blocks/block_file.h"
-#include "frame/db_abs_data_mgr.h"
-#include "frame/db_dataset_set.h"
-#include "window/edit.h"
-#include "window/text.h"
+#include "frame/kvdbkvn/db_abs_data_mgr.h"
+#include "frame/kvdbkvn/db_dataset_set.h"
+#include "window/controls/edit.h"
 
 using namespace kv::blk_ext;
 using kv::blocks::IndexedSelection;

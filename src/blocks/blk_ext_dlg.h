@@ -9,8 +9,8 @@
 #include "blocks/neighbor_blocks.h"
 #include "blocks/selection.h"
 #include "controls/list_ctrl_ex.h"
-#include "window/dialog.h"
-#include "window/list_box.h"
+#include "window/controls/list_box.h"
+#include "window/dialogs/dialog.h"
 
 namespace kv {
 struct ImportedBlock;

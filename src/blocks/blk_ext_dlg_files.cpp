@@ -4,16 +4,16 @@
 #include <optional>
 #include <sstream>
 
+#include "base/file.h"
+#include "base/paths.h"
 #include "blocks/blk_ext_dlg.h"
 #include "blocks/blk_ext_ids.h"
 #include "blocks/block_file.h"
 #include "blocks/import_config_dlg.h"
 #include "frame/catalogue.h"
 #include "frame/import_folder.h"
-#include "frame/misc.h"
-#include "window/file.h"
-#include "window/file_dialog.h"
-#include "window/paths.h"
+#include "frame/kvcom/misc.h"
+#include "window/dialogs/file_dialog.h"
 
 using namespace kv::blk_ext;
 using namespace kv::blocks;

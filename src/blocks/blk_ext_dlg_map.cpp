@@ -6,10 +6,10 @@
 #include "blocks/blk_ext_dlg.h"
 #include "blocks/import_format.h"
 #include "frame/catalogue.h"
-#include "frame/db_util.h"
 #include "frame/graphics.h"
-#include "frame/misc.h"
-#include "frame/table_owner.h"
+#include "frame/kvcom/misc.h"
+#include "frame/kvdbkvn/db_util.h"
+#include "frame/kvdbkvn/table_owner.h"
 
 namespace {
 

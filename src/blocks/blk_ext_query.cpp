@@ -3,7 +3,7 @@
 #include "blocks/blk_ext_dlg.h"
 #include "blocks/dyn_blk_ext_dlg.h"
 #include "frame/catalogue.h"
-#include "frame/db_dataset_set.h"
+#include "frame/kvdbkvn/db_dataset_set.h"
 
 using kv::catalogue::kColumnAreaCode;
 using kv::catalogue::kColumnAreaName;

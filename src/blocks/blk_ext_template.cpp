@@ -3,9 +3,9 @@
 #include <array>
 
 #include "blocks/blk_ext_ids.h"
-#include "window/list_view_messages.h"
-#include "window/resources.h"
-#include "window/template_rows.h"
+#include "window/list_view/list_view_messages.h"
+#include "window/templates/resources.h"
+#include "window/templates/template_rows.h"
 
 namespace kv::blk_ext {
 

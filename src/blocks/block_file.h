@@ -8,9 +8,9 @@
 #include <string_view>
 #include <vector>
 
+#include "base/export.h"
 #include "blocks/import_format.h"
 #include "blocks/selection.h"
-#include "window/export.h"
 
 /// Block selection files: a header, a line for each entry, and behind an empty line and a marker
 /// the neighbors of the blocks. All of this works on text; no file is opened here.

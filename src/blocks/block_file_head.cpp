@@ -1,8 +1,8 @@
 // What the beginning of a block selection file tells.
 
+#include "base/text.h"
 #include "blocks/block_file.h"
 #include "frame/catalogue.h"
-#include "window/text.h"
 
 namespace kv::blocks {
 

@@ -1,8 +1,8 @@
 #include <algorithm>
 
+#include "base/text.h"
 #include "blocks/block_file.h"
 #include "blocks/block_file_marker.h"
-#include "window/text.h"
 
 namespace kv::blocks {
 

@@ -1,11 +1,11 @@
 #include <algorithm>
 #include <ostream>
 
+#include "base/numbers.h"
+#include "base/text.h"
 #include "blocks/block_file.h"
 #include "blocks/block_file_marker.h"
 #include "frame/catalogue.h"
-#include "window/numbers.h"
-#include "window/text.h"
 
 namespace kv::blocks {
 

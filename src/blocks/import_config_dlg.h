@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "window/dialog.h"
+#include "window/dialogs/dialog.h"
 
 /// Asks how the lines of a text file tell areas, blocks and extensions. It has one way out: Close.
 class CKvImportConfigDlg : public CDialog {

@@ -1,5 +1,5 @@
 #include "blocks/import_config_ids.h"
-#include "window/resources.h"
+#include "window/templates/resources.h"
 
 namespace kv::import_config {
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "window/text.h"
+#include "base/text.h"
 
 namespace kv {
 

@@ -7,12 +7,12 @@
 #include <vector>
 
 #include "controls/progress_dlg.h"
-#include "frame/db_abs_data_mgr.h"
-#include "frame/exception.h"
-#include "frame/misc.h"
-#include "frame/table_owner.h"
-#include "frame/util_geo.h"
-#include "window/message_box.h"
+#include "frame/kvcom/exception.h"
+#include "frame/kvcom/misc.h"
+#include "frame/kvcom/util_geo.h"
+#include "frame/kvdbkvn/db_abs_data_mgr.h"
+#include "frame/kvdbkvn/table_owner.h"
+#include "window/dialogs/message_box.h"
 
 using kv::blocks::NeighborRelation;
 using kv::blocks::Place;

@@ -5,9 +5,9 @@
 #include <optional>
 #include <string>
 
+#include "base/cstring.h"
+#include "base/export.h"
 #include "blocks/selection.h"
-#include "window/cstring.h"
-#include "window/export.h"
 
 class CKvDbAbsDataMgr;
 

@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "window/export.h"
+#include "base/export.h"
 
 namespace kv::blocks {
 

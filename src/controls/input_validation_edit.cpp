@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string>
 
-#include "window/text.h"
+#include "base/text.h"
 
 bool CInputValidationEdit::Takes(UINT nChar) const {
     // Those below the blank are commands of the edit, such as backspace and copy.

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "window/edit.h"
-#include "window/message_map.h"
+#include "window/controls/edit.h"
+#include "window/message_handlers.h"
 
 /// An edit for a coordinate, which keeps back what cannot be part of a number where it is typed.
 /// What is pasted or set is not looked at.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "window/list_ctrl.h"
+#include "window/list_view/list_ctrl.h"
 #include "window/runtime_class.h"
 
 /// A list view with helpers for adding rows.

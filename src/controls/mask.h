@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "window/export.h"
+#include "base/export.h"
 
 namespace kv {
 

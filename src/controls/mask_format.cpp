@@ -7,8 +7,8 @@
 #include <optional>
 #include <vector>
 
-#include "window/numbers.h"
-#include "window/text.h"
+#include "base/numbers.h"
+#include "base/text.h"
 
 namespace kv {
 

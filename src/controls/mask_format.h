@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "window/export.h"
+#include "base/export.h"
 
 namespace kv {
 

@@ -5,8 +5,8 @@
 
 #include "controls/mask_format.h"
 #include "window/desktop.h"
-#include "window/device_context.h"
 #include "window/dialog_keys.h"
+#include "window/drawing/device_context.h"
 #include "window/window_system.h"
 
 using kv::SystemColor;

@@ -4,12 +4,12 @@
 #include <optional>
 #include <string>
 
+#include "base/cstring.h"
 #include "controls/mask.h"
-#include "window/cstring.h"
-#include "window/edit.h"
-#include "window/gdi_objects.h"
-#include "window/image_resource.h"
-#include "window/message_map.h"
+#include "window/controls/edit.h"
+#include "window/drawing/gdi_objects.h"
+#include "window/drawing/image_resource.h"
+#include "window/message_handlers.h"
 #include "window/runtime_class.h"
 
 /// Identifies a class of controls.

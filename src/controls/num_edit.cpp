@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "window/message_box.h"
-#include "window/numbers.h"
-#include "window/text.h"
+#include "base/numbers.h"
+#include "base/text.h"
+#include "window/dialogs/message_box.h"
 #include "window/window_system.h"
 
 namespace {

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "window/cstring.h"
-#include "window/edit.h"
-#include "window/message_map.h"
+#include "base/cstring.h"
+#include "window/controls/edit.h"
+#include "window/message_handlers.h"
 #include "window/runtime_class.h"
 
 /// An edit for one number within a range.

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "controls/num_edit.h"
-#include "window/message_map.h"
+#include "window/controls/spin_button_ctrl.h"
+#include "window/message_handlers.h"
 #include "window/runtime_class.h"
-#include "window/spin_button_ctrl.h"
 
 /// A spin button beside a `CNumEdit`, which holds range, step and value: it steps the number
 /// however far that goes, and so do the up and down keys in the edit. Without such a buddy values

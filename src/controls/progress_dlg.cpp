@@ -1,9 +1,9 @@
 #include "controls/progress_dlg.h"
 
+#include "base/text.h"
 #include "controls/progress_dlg_ids.h"
 #include "window/desktop.h"
-#include "window/frame_wnd.h"
-#include "window/text.h"
+#include "window/frames/frame_wnd.h"
 #include "window/window_system.h"
 
 using kv::WindowSystem;

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "window/dialog.h"
-#include "window/progress_ctrl.h"
+#include "window/controls/progress_ctrl.h"
+#include "window/dialogs/dialog.h"
 
 /// A modeless dialog that shows how far a long operation has come, and can be told to cancel it.
 ///

@@ -1,5 +1,5 @@
 #include "controls/progress_dlg_ids.h"
-#include "window/resources.h"
+#include "window/templates/resources.h"
 
 namespace kv::progress_dlg {
 

@@ -2,7 +2,8 @@
 
 #include <cstring>
 
-#include "window/device_context.h"
+#include "window/drawing/device_context.h"
+#include "window/paint_context.h"
 
 namespace {
 

@@ -2,9 +2,9 @@
 
 #include <string>
 
-#include "window/gdi_objects.h"
-#include "window/message_map.h"
-#include "window/static_text.h"
+#include "window/controls/static_text.h"
+#include "window/drawing/gdi_objects.h"
+#include "window/message_handlers.h"
 
 /// A label that paints its own text, in a font and a colour of its own, centred about its left
 /// edge.

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "window/combo_box.h"
-#include "window/edit.h"
-#include "window/gdi_objects.h"
-#include "window/list_box.h"
-#include "window/message_map.h"
+#include "window/controls/combo_box.h"
+#include "window/controls/edit.h"
+#include "window/controls/list_box.h"
+#include "window/drawing/gdi_objects.h"
+#include "window/message_handlers.h"
 
 /// A combo box that reports to its parent: each scrolling by the message WM_USER, each notification
 /// of its edit or list by WM_USER + 1.

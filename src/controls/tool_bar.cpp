@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <string>
 
-#include "frame/profile.h"
-#include "window/frame_wnd.h"
-#include "window/gdi_objects.h"
+#include "frame/kvcom/profile.h"
+#include "window/drawing/gdi_objects.h"
+#include "window/frames/frame_wnd.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "window/tool_bar.h"
+#include "window/frames/tool_bar.h"
 
 /// A tool bar that remembers whether it is shown, and whose buttons can have labels.
 class KVGUICTL_API CKvToolBar : public CToolBar {

@@ -1,7 +1,7 @@
 #include "coordtools/angle_group.h"
 
-#include "window/combo_box.h"
-#include "window/dialog.h"
+#include "window/controls/combo_box.h"
+#include "window/dialogs/dialog.h"
 
 namespace kv::coordtools {
 

@@ -3,7 +3,7 @@
 #include <array>
 
 #include "coordtools/angle_ids.h"
-#include "window/template_rows.h"
+#include "window/templates/template_rows.h"
 
 /// Rows of the coordinate tools' templates.
 namespace kv::coordtools {

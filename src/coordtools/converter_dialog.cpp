@@ -1,13 +1,13 @@
 #include "coordtools/converter_dialog.h"
 
+#include "base/numbers.h"
 #include "coordtools/angle_group.h"
 #include "coordtools/converter_ids.h"
 #include "coordtools/length_unit.h"
-#include "frame/util_lldrv.h"
-#include "window/combo_box.h"
-#include "window/edit.h"
-#include "window/message_box.h"
-#include "window/numbers.h"
+#include "frame/kvcom/util_lldrv.h"
+#include "window/controls/combo_box.h"
+#include "window/controls/edit.h"
+#include "window/dialogs/message_box.h"
 
 using namespace kv::converter;
 using kv::coordtools::kNoAngle;

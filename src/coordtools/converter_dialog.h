@@ -5,7 +5,7 @@
 
 #include "mapbuild/dms_ctrl.h"
 #include "mapbuild/proj_ctrl.h"
-#include "window/dialog.h"
+#include "window/dialogs/dialog.h"
 
 /// A modeless tool with two converters: one between latitude and longitude and projected X/Y, one
 /// that brings X/Y from one projection and unit to another.

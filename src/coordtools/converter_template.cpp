@@ -1,6 +1,6 @@
 #include "coordtools/angle_rows.h"
 #include "coordtools/converter_ids.h"
-#include "window/resources.h"
+#include "window/templates/resources.h"
 
 namespace kv::converter {
 

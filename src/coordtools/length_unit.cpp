@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "window/numbers.h"
+#include "base/numbers.h"
 
 namespace kv::length {
 

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "window/export.h"
+#include "base/export.h"
 
 /// Lengths and coordinates of the coordinate tools: held in feet, shown in a unit that the user
 /// picks from a list.

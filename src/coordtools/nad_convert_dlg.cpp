@@ -2,9 +2,9 @@
 
 #include "coordtools/angle_group.h"
 #include "coordtools/nad_convert_ids.h"
-#include "frame/util_lldrv.h"
-#include "window/combo_box.h"
-#include "window/message_box.h"
+#include "frame/kvcom/util_lldrv.h"
+#include "window/controls/combo_box.h"
+#include "window/dialogs/message_box.h"
 
 using namespace kv::nad_convert;
 using kv::coordtools::kNoAngle;

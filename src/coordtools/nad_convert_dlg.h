@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "mapbuild/dms_ctrl.h"
-#include "window/dialog.h"
+#include "window/dialogs/dialog.h"
 
 class CComboBox;
 

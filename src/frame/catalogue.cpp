@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "window/text.h"
+#include "base/text.h"
 
 namespace kv::catalogue {
 

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "window/export.h"
+#include "base/export.h"
 
 /// The vocabulary that the pickers, qualifiers and block dialogs share.
 namespace kv::catalogue {

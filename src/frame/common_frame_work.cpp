@@ -1,6 +1,6 @@
 #include "frame/common_frame_work.h"
 
-#include "window/frame_wnd.h"
+#include "window/frames/frame_wnd.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "window/export.h"
+#include "base/export.h"
 
 class CDocument;
 class CNorvadonPCDoc;

@@ -6,8 +6,8 @@
 #include <utility>
 #include <vector>
 
-#include "window/numbers.h"
-#include "window/text.h"
+#include "base/numbers.h"
+#include "base/text.h"
 
 namespace kv {
 

@@ -3,7 +3,7 @@
 #include <optional>
 #include <string_view>
 
-#include "window/export.h"
+#include "base/export.h"
 
 namespace kv {
 

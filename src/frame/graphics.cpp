@@ -3,7 +3,7 @@
 #include <exception>
 #include <utility>
 
-#include "frame/log.h"
+#include "frame/kvlogs/log.h"
 
 namespace kv {
 

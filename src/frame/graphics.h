@@ -3,7 +3,7 @@
 #include <functional>
 #include <string>
 
-#include "window/export.h"
+#include "base/export.h"
 
 /// Picking blocks on a map: the one entry of the library `graphics`, which a host provides.
 namespace kv {

@@ -1,9 +1,9 @@
 #include "frame/import_folder.h"
 
-#include "frame/misc.h"
-#include "frame/ut_registry.h"
-#include "window/file_dialog.h"
-#include "window/paths.h"
+#include "base/paths.h"
+#include "frame/kvcom/misc.h"
+#include "frame/kvcom/ut_registry.h"
+#include "window/dialogs/file_dialog.h"
 
 namespace kv {
 

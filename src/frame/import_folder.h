@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "window/export.h"
+#include "base/export.h"
 
 class CFileDialog;
 

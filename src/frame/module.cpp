@@ -2,7 +2,7 @@
 
 #include <new>
 
-#include "frame/log.h"
+#include "frame/kvlogs/log.h"
 #include "window/window_system.h"
 
 namespace {

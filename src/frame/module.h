@@ -1,7 +1,7 @@
 #pragma once
 
-#include "window/export.h"
-#include "window/resources.h"
+#include "base/export.h"
+#include "window/templates/resources.h"
 
 /// Start and end of the library as an extension module of its host.
 ///

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "window/cstring.h"
-#include "window/dialog.h"
-#include "window/edit.h"
+#include "base/cstring.h"
+#include "window/controls/edit.h"
+#include "window/dialogs/dialog.h"
 
 /// Asks for two bounds as text, which it does not look at.
 class KVGUICTL_API CKvDbBoundsDlg : public CDialog {

@@ -1,5 +1,5 @@
 #include "mapbuild/db_bounds_dlg_ids.h"
-#include "window/resources.h"
+#include "window/templates/resources.h"
 
 namespace kv::db_bounds_dlg {
 

@@ -3,10 +3,10 @@
 #include <cmath>
 #include <cstdlib>
 
-#include "frame/util_lldrv.h"
+#include "base/numbers.h"
+#include "base/text.h"
+#include "frame/kvcom/util_lldrv.h"
 #include "window/desktop.h"
-#include "window/numbers.h"
-#include "window/text.h"
 #include "window/window_system.h"
 
 namespace {

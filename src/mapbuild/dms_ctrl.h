@@ -4,12 +4,12 @@
 #include <optional>
 #include <string>
 
+#include "base/export.h"
 #include "controls/num_edit.h"
 #include "controls/num_spin_ctrl.h"
-#include "frame/angle.h"
 #include "frame/coordinate_text.h"
-#include "window/dialog.h"
-#include "window/export.h"
+#include "frame/kvcom/angle.h"
+#include "window/dialogs/dialog.h"
 
 /// One latitude or longitude in a dialog's boxes: three edits for degrees, minutes and seconds,
 /// each with its spin button and label, or the first of them alone for decimal degrees.

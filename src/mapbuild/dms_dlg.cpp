@@ -1,8 +1,8 @@
 #include "mapbuild/dms_dlg.h"
 
+#include "base/numbers.h"
 #include "mapbuild/dms_dlg_ids.h"
-#include "window/message_box.h"
-#include "window/numbers.h"
+#include "window/dialogs/message_box.h"
 
 using namespace kv::dms_dlg;
 

@@ -2,9 +2,9 @@
 
 #include <memory>
 
+#include "base/cstring.h"
 #include "mapbuild/dms_ctrl.h"
-#include "window/cstring.h"
-#include "window/dialog.h"
+#include "window/dialogs/dialog.h"
 
 /// Asks for the greatest and the least of two latitudes or longitudes.
 class KVGUICTL_API CKvGuiDMSDlg : public CDialog {

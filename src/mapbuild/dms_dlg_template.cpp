@@ -1,5 +1,5 @@
 #include "mapbuild/dms_dlg_ids.h"
-#include "window/resources.h"
+#include "window/templates/resources.h"
 
 namespace kv::dms_dlg {
 

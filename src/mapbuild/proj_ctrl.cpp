@@ -3,14 +3,14 @@
 #include <algorithm>
 #include <iterator>
 
-#include "frame/db_abs_data_mgr.h"
-#include "frame/db_dataset_set.h"
-#include "frame/projection_code.h"
+#include "base/numbers.h"
+#include "frame/kvcom/projection_code.h"
+#include "frame/kvdbkvn/db_abs_data_mgr.h"
+#include "frame/kvdbkvn/db_dataset_set.h"
 #include "mapbuild/proj_sel.h"
-#include "window/combo_box.h"
-#include "window/dialog.h"
-#include "window/message_box.h"
-#include "window/numbers.h"
+#include "window/controls/combo_box.h"
+#include "window/dialogs/dialog.h"
+#include "window/dialogs/message_box.h"
 
 using namespace kv::projection;
 

@@ -3,7 +3,7 @@
 #include <map>
 #include <string>
 
-#include "window/export.h"
+#include "base/export.h"
 
 class CComboBox;
 class CDialog;

@@ -1,13 +1,13 @@
 #include "mapbuild/proj_sel.h"
 
-#include "frame/db_abs_data_mgr.h"
-#include "frame/db_dataset_set.h"
-#include "frame/projection_code.h"
+#include "base/numbers.h"
+#include "frame/kvcom/projection_code.h"
+#include "frame/kvdbkvn/db_abs_data_mgr.h"
+#include "frame/kvdbkvn/db_dataset_set.h"
 #include "mapbuild/proj_sel_ids.h"
 #include "mapbuild/utm_zone_dlg.h"
-#include "window/list_box.h"
-#include "window/message_box.h"
-#include "window/numbers.h"
+#include "window/controls/list_box.h"
+#include "window/dialogs/message_box.h"
 
 using namespace kv::proj_sel;
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "window/dialog.h"
+#include "window/dialogs/dialog.h"
 
 class CListBox;
 

@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "mapbuild/proj_ctrl.h"
-#include "window/dialog.h"
+#include "window/dialogs/dialog.h"
 
 /// Asks for a projection, and nothing else.
 class KVGUICTL_API CKvGuiProjectionDialog : public CDialog {

@@ -1,7 +1,7 @@
 // The projection selection dialog, the UTM zone dialog, and the dialog with a projection alone.
 
 #include "mapbuild/proj_sel_ids.h"
-#include "window/resources.h"
+#include "window/templates/resources.h"
 
 namespace kv {
 

@@ -1,10 +1,10 @@
 #include "mapbuild/utm_zone_dlg.h"
 
-#include "frame/projection_code.h"
+#include "base/numbers.h"
+#include "frame/kvcom/projection_code.h"
 #include "mapbuild/proj_sel_ids.h"
-#include "window/button.h"
-#include "window/message_box.h"
-#include "window/numbers.h"
+#include "window/controls/button.h"
+#include "window/dialogs/message_box.h"
 
 using namespace kv::utm_zone;
 

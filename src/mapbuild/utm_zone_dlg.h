@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "controls/num_edit.h"
-#include "window/dialog.h"
+#include "window/dialogs/dialog.h"
 
 class CButton;
 

@@ -1,8 +1,8 @@
 #include "pickers/abe_bar.h"
 
 #include "pickers/abe_bar_ids.h"
-#include "window/button.h"
-#include "window/frame_wnd.h"
+#include "window/controls/button.h"
+#include "window/frames/frame_wnd.h"
 
 using namespace kv::abe_bar;
 

@@ -5,7 +5,7 @@
 #include "frame/catalogue.h"
 #include "pickers/area_combo_box.h"
 #include "pickers/blk_combo_box.h"
-#include "window/control_bar.h"
+#include "window/frames/control_bar.h"
 
 /// A bar for the host's main frame: area, block and layer pickers, a choice of map or report, and a
 /// Run button, which sends the message 1039 to the application's main window. The host then reads

@@ -1,5 +1,5 @@
 #include "pickers/abe_bar_ids.h"
-#include "window/resources.h"
+#include "window/templates/resources.h"
 
 namespace kv::abe_bar {
 

@@ -2,9 +2,9 @@
 
 #include <array>
 
-#include "frame/db_dataset_set.h"
-#include "frame/db_util.h"
-#include "frame/log.h"
+#include "frame/kvdbkvn/db_dataset_set.h"
+#include "frame/kvdbkvn/db_util.h"
+#include "frame/kvlogs/log.h"
 
 namespace catalogue = kv::catalogue;
 

@@ -1,6 +1,6 @@
 #include "pickers/blk_combo_box.h"
 
-#include "frame/db_dataset_set.h"
+#include "frame/kvdbkvn/db_dataset_set.h"
 
 namespace catalogue = kv::catalogue;
 

@@ -1,7 +1,7 @@
 #include "pickers/combo_box_exx.h"
 
 #include "window/desktop.h"
-#include "window/device_context.h"
+#include "window/drawing/device_context.h"
 #include "window/window_system.h"
 
 using kv::SystemColor;

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "window/combo_box.h"
-#include "window/export.h"
-#include "window/gdi_objects.h"
-#include "window/message_map.h"
+#include "base/export.h"
+#include "window/controls/combo_box.h"
+#include "window/drawing/gdi_objects.h"
+#include "window/message_handlers.h"
 
 /// A combo box that completes what is typed from its own rows, and has settable colours.
 class KVGUICTL_API CComboBoxExx : public CComboBox {

@@ -1,7 +1,7 @@
 #include "pickers/db_combo_box.h"
 
-#include "frame/db_abs_data_mgr.h"
-#include "frame/log.h"
+#include "frame/kvdbkvn/db_abs_data_mgr.h"
+#include "frame/kvlogs/log.h"
 
 BOOL CKvDbComboBox::OnCmdMsg(UINT id, int code, void* extra, void* info) {
     switch (code) {

@@ -1,8 +1,8 @@
 #include <string_view>
 
 #include "pickers/abe_bar_ids.h"
-#include "window/image_resource.h"
-#include "window/resources.h"
+#include "window/drawing/image_resource.h"
+#include "window/templates/resources.h"
 
 namespace {
 

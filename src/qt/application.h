@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "qt/export.h"
+#include "base/export.h"
 #include "qt/qt_desktop.h"
 
 class QApplication;
@@ -10,7 +10,7 @@ class QApplication;
 namespace kv::qt {
 
 /// What a host with no Qt of its own needs to show windows: a `QApplication` and the desktop.
-class KVGUICTL_QT_API Application {
+class KVGUICTL_API Application {
 public:
     /// `argc` and `argv` must outlive it.
     Application(int& argc, char** argv);

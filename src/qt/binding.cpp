@@ -4,14 +4,15 @@
 #include <QLineEdit>
 #include <memory>
 
-#include "qt/list_box_peer.h"
-#include "qt/peer.h"
-#include "qt/rows_view.h"
-#include "qt/text.h"
-#include "window/combo_box.h"
-#include "window/combo_box_node.h"
-#include "window/edit.h"
-#include "window/edit_node.h"
+#include "qt/drawing/text.h"
+#include "qt/peers/acting.h"
+#include "qt/peers/list_box_peer.h"
+#include "qt/peers/peer.h"
+#include "qt/peers/rows_view.h"
+#include "window/controls/combo_box.h"
+#include "window/controls/combo_box_node.h"
+#include "window/controls/edit.h"
+#include "window/controls/edit_node.h"
 #include "window/window_system.h"
 
 namespace kv::qt {

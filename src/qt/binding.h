@@ -1,6 +1,6 @@
 #pragma once
 
-#include "qt/export.h"
+#include "base/export.h"
 
 class CComboBox;
 class CEdit;
@@ -16,7 +16,7 @@ namespace kv::qt {
 ///
 /// A combo box's rows become those of the control, which begins with the widget's; the widget reads
 /// them on demand.
-KVGUICTL_QT_API bool BindComboBox(QComboBox& widget, CComboBox& control);
-KVGUICTL_QT_API bool BindLineEdit(QLineEdit& widget, CEdit& control);
+KVGUICTL_API bool BindComboBox(QComboBox& widget, CComboBox& control);
+KVGUICTL_API bool BindLineEdit(QLineEdit& widget, CEdit& control);
 
 }  // namespace kv::qt

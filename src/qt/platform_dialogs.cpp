@@ -12,10 +12,11 @@
 #include <array>
 #include <utility>
 
-#include "qt/peer.h"
-#include "qt/text.h"
-#include "window/file_dialog.h"
-#include "window/paths.h"
+#include "base/paths.h"
+#include "qt/drawing/text.h"
+#include "qt/peers/acting.h"
+#include "qt/peers/peer.h"
+#include "window/dialogs/file_dialog.h"
 #include "window/window_system.h"
 #include "window/wnd.h"
 

@@ -12,34 +12,19 @@
 #include <cmath>
 #include <vector>
 
-#include "qt/colors.h"
-#include "qt/peer.h"
+#include "qt/drawing/colors.h"
+#include "qt/drawing/text.h"
+#include "qt/peers/acting.h"
+#include "qt/peers/peer.h"
 #include "qt/platform_dialogs.h"
-#include "qt/text.h"
-#include "window/dialog.h"
+#include "window/dialogs/dialog.h"
 #include "window/window_system.h"
 
 namespace kv::qt {
 
 namespace {
 
-QtDesktop* g_desktop = nullptr;
-
 const QEvent::Type kWakeEvent = static_cast<QEvent::Type>(QEvent::registerEventType());
-
-/// How many actions of a person are under way, one within the other.
-int g_acting = 0;
-/// Widgets that go when none is.
-std::vector<QPointer<QWidget>>& Leaving() {
-    static std::vector<QPointer<QWidget>> leaving;
-    return leaving;
-}
-
-void DeleteLeaving() {
-    for (const QPointer<QWidget>& widget : std::exchange(Leaving(), {})) {
-        if (widget) widget->deleteLater();
-    }
-}
 
 void ForEachPeer(Node& node, const std::function<void(Peer&)>& visit) {
     if (Peer* peer = PeerOf(node); peer && peer->Widget()) visit(*peer);
@@ -63,7 +48,7 @@ bool HasEnded(Node& window) {
 }  // namespace
 
 /// What Qt tells the desktop, and the loops that run.
-class QtDesktop::Events : public QObject {
+class QtDesktop::Events : public QObject, public Loops {
 public:
     Events() {
         QApplication::instance()->installEventFilter(this);
@@ -88,7 +73,7 @@ public:
         return true;
     }
 
-    void Wake() {
+    void Wake() override {
         if (wakes_) return;
         wakes_ = true;
         QCoreApplication::postEvent(this, new QEvent(kWakeEvent));
@@ -105,7 +90,7 @@ public:
         if (dialog && dialog->Modal() && !dialog->Ended()) dialog->End(IDCANCEL);
     }
 
-    void LeaveEndedLoops() {
+    void LeaveEnded() override {
         for (const Running& each : loops_) {
             if (HasEnded(*each.window)) each.loop->quit();
         }
@@ -133,35 +118,8 @@ private:
     std::vector<Running> loops_;
 };
 
-void Act(const std::weak_ptr<Node>& node, const std::function<void(Node&)>& action) {
-    const auto alive = node.lock();
-    if (!alive || alive->Destroyed()) return;
-    ++g_acting;
-    action(*alive);
-    Settle();
-    if (--g_acting == 0) DeleteLeaving();
-}
-
-void Settle() {
-    WindowSystem::Get().Settle();
-    if (g_desktop) g_desktop->LeaveEndedLoops();
-}
-
-void LetGo(QWidget* widget) {
-    widget->hide();
-    if (g_acting == 0) {
-        widget->deleteLater();
-    } else {
-        Leaving().push_back(widget);
-    }
-}
-
-void SettleSoon() {
-    if (g_desktop) g_desktop->Wake();
-}
-
 QtDesktop::QtDesktop() : events_(std::make_unique<Events>()) {
-    g_desktop = this;
+    SetLoops(events_.get());
     WindowSystem::Get().SetDesktop(this);
 }
 
@@ -170,12 +128,8 @@ QtDesktop::~QtDesktop() {
     for (const auto& window : windows)
         window->SetView(nullptr);
     WindowSystem::Get().ForgetDesktop(*this);
-    g_desktop = nullptr;
+    SetLoops(nullptr);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-}
-
-void QtDesktop::LeaveEndedLoops() {
-    events_->LeaveEndedLoops();
 }
 
 void QtDesktop::RunModal(Node& dialog) {

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "qt/export.h"
+#include "base/export.h"
 #include "window/desktop.h"
 
 class QMainWindow;
@@ -12,7 +12,7 @@ namespace kv::qt {
 
 /// A desktop with a screen: shows windows with Qt's widgets. Made when there is a `QApplication`,
 /// and gone before it; there is one at a time. The layer asks it as long as it lives.
-class KVGUICTL_QT_API QtDesktop : public Desktop {
+class KVGUICTL_API QtDesktop : public Desktop {
 public:
     QtDesktop();
     ~QtDesktop() override;
@@ -39,23 +39,20 @@ public:
     void Wake() override;
     void Created(Node& node) override;
 
-    /// Lets the loops of dialogs go that have ended.
-    void LeaveEndedLoops();
-
 private:
     class Events;
     std::unique_ptr<Events> events_;
 };
 
 /// The widget that shows a window or a control; null for one that is not shown.
-KVGUICTL_QT_API QWidget* WidgetOf(const Node& node);
+KVGUICTL_API QWidget* WidgetOf(const Node& node);
 
 /// The main window that shows a frame, for the host to put its menus and its central widget in;
 /// null when the frame is not shown. `QMainWindow::saveState` keeps where the bars are docked.
-KVGUICTL_QT_API QMainWindow* MainWindowOf(const Node& frame);
+KVGUICTL_API QMainWindow* MainWindowOf(const Node& frame);
 
 /// Writes a PNG file of a window as it looks, at a path of the machine. False when it is not shown
 /// or cannot be written.
-KVGUICTL_QT_API bool SavePicture(const Node& window, const std::string& machinePath);
+KVGUICTL_API bool SavePicture(const Node& window, const std::string& machinePath);
 
 }  // namespace kv::qt

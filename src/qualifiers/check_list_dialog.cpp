@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "frame/catalogue.h"
-#include "window/combo_box.h"
+#include "window/controls/combo_box.h"
 
 namespace kv {
 

@@ -1,5 +1,5 @@
 #include "qualifiers/lease_status_ids.h"
-#include "window/resources.h"
+#include "window/templates/resources.h"
 
 namespace kv::lease_status {
 

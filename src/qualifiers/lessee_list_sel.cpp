@@ -1,9 +1,9 @@
 #include "qualifiers/lessee_list_sel.h"
 
+#include "base/numbers.h"
 #include "qualifiers/list_sel_ids.h"
-#include "window/combo_box.h"
-#include "window/list_box.h"
-#include "window/numbers.h"
+#include "window/controls/combo_box.h"
+#include "window/controls/list_box.h"
 
 using namespace kv::list_sel;
 

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "window/list_box.h"
-#include "window/text.h"
+#include "base/text.h"
+#include "window/controls/list_box.h"
 
 namespace kv::list_sel {
 

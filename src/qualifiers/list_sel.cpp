@@ -1,13 +1,13 @@
 #include "qualifiers/list_sel.h"
 
+#include "base/text.h"
 #include "frame/catalogue.h"
-#include "frame/db_abs_data_mgr.h"
+#include "frame/kvdbkvn/db_abs_data_mgr.h"
 #include "qualifiers/list_rows.h"
 #include "qualifiers/list_sel_ids.h"
-#include "window/combo_box.h"
-#include "window/edit.h"
-#include "window/list_box.h"
-#include "window/text.h"
+#include "window/controls/combo_box.h"
+#include "window/controls/edit.h"
+#include "window/controls/list_box.h"
 
 using namespace kv::list_sel;
 

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "window/dialog.h"
+#include "window/dialogs/dialog.h"
 
 class CComboBox;
 class CEdit;

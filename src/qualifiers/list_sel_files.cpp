@@ -1,16 +1,16 @@
 // Qualifier files and the list file.
 
+#include "base/paths.h"
 #include "frame/catalogue.h"
 #include "frame/import_folder.h"
-#include "frame/log.h"
-#include "frame/misc.h"
+#include "frame/kvcom/misc.h"
+#include "frame/kvlogs/log.h"
 #include "qualifiers/list_rows.h"
 #include "qualifiers/list_sel.h"
 #include "qualifiers/list_sel_ids.h"
 #include "qualifiers/qualifier_file.h"
-#include "window/file_dialog.h"
-#include "window/list_box.h"
-#include "window/paths.h"
+#include "window/controls/list_box.h"
+#include "window/dialogs/file_dialog.h"
 
 using namespace kv::list_sel;
 

@@ -3,8 +3,8 @@
 #include <array>
 
 #include "qualifiers/list_sel_ids.h"
-#include "window/resources.h"
-#include "window/template_rows.h"
+#include "window/templates/resources.h"
+#include "window/templates/template_rows.h"
 
 namespace kv::list_sel {
 

@@ -1,7 +1,7 @@
 // The pipeline status and product dialogs.
 
 #include "qualifiers/pipe_ids.h"
-#include "window/resources.h"
+#include "window/templates/resources.h"
 
 namespace kv {
 

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "window/export.h"
+#include "base/export.h"
 
 namespace kv {
 

@@ -4,14 +4,17 @@
 #include <string>
 #include <vector>
 
-#include "window/export.h"
-#include "window/node.h"
-#include "window/types.h"
+#include "base/export.h"
+#include "base/types.h"
+#include "window/drawing/look.h"
+#include "window/messages.h"
 
 class CFileDialog;
 class CWnd;
 
 namespace kv {
+
+class Node;
 
 struct MessageBoxRequest {
     std::string text;
@@ -40,35 +43,9 @@ struct PrinterSettings {
     int heightTenthMm = 2794;
 };
 
-/// A font, as far as text is measured and drawn with it.
-struct Font {
-    std::string face;
-    int height = 13;  ///< of a line, in logical pixels
-    bool bold = false;
-    bool italic = false;
-    bool operator==(const Font&) const = default;
-};
-
-/// Indices of the system's colours, as the platform numbers them.
-enum class SystemColor {
-    kWindow = 5,
-    kWindowText = 8,
-    kHighlight = 13,
-    kHighlightText = 14,
-    kButtonFace = 15,
-    kButtonShadow = 16,
-    kGrayText = 17,
-    kButtonText = 18,
-    kButtonHighlight = 20,
-    kDarkShadow = 21,
-    kLight = 22,
-};
-
 /// What lies outside the windows.
-class KVGUICTL_API Desktop {
+class KVGUICTL_API Desktop : public Look {
 public:
-    virtual ~Desktop() = default;
-
     /// Runs a modal dialog that stands ready on the screen, until `DialogEnded(dialog)`.
     virtual void RunModal(Node& dialog) = 0;
     /// Lets the user work on a modeless window until it is closed or hidden. `actOn` is the part of
@@ -83,10 +60,6 @@ public:
     virtual bool DefaultPrinter(PrinterSettings& settings) = 0;
 
     virtual CSize ScreenSize() = 0;
-    /// Extent of one line of text, in logical pixels.
-    virtual CSize TextExtent(const std::string& text, const Font& font) = 0;
-    virtual COLORREF Color(SystemColor which) = 0;
-    virtual Font DefaultFont() = 0;
     virtual std::chrono::system_clock::time_point Now() = 0;
     /// The text on the clipboard.
     virtual std::string ClipboardText() = 0;

@@ -2,9 +2,8 @@
 
 #include <algorithm>
 
-#include "window/button_node.h"
-#include "window/text.h"
-#include "window/text_metrics.h"
+#include "base/text.h"
+#include "window/drawing/text_metrics.h"
 #include "window/window_system.h"
 
 namespace kv {
@@ -66,7 +65,7 @@ void MoveInGroup(Node& focused, bool forward) {
     const auto next = members[static_cast<std::size_t>(index)]->shared_from_this();
     WindowSystem::Get().SetFocus(next.get());
     const bool arrived = WindowSystem::Get().Focus() == next.get();
-    if (arrived && IsRadio(*next)) static_cast<ButtonNode&>(*next).Press();
+    if (arrived && IsRadio(*next)) next->Press();
 }
 
 /// Enter and Escape press the button where there is one that can be pressed, and otherwise send the
@@ -74,7 +73,7 @@ void MoveInGroup(Node& focused, bool forward) {
 void PressOrSend(Node& host, Node* button, int id) {
     if (button && !button->Enabled()) return;
     if (button && button->Class() == NodeClass::kButton) {
-        static_cast<ButtonNode&>(*button).Press();
+        button->Press();
     } else {
         Send(host, WM_COMMAND, MAKEWPARAM(id, CN_COMMAND), 0);
     }
@@ -128,7 +127,7 @@ void PressByMnemonic(Node& button) {
         WindowSystem::Get().SetFocus(&button);
         if (WindowSystem::Get().Focus() != &button) return;
     }
-    static_cast<ButtonNode&>(button).Press();
+    button.Press();
 }
 
 }  // namespace

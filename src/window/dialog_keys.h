@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "window/export.h"
+#include "base/export.h"
 #include "window/node.h"
 #include "window/wnd.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "window/types.h"
+#include "base/types.h"
 
 /// Numbers of messages, notifications and styles, as the platform publishes them.
 

@@ -2,8 +2,8 @@
 
 #include <memory>
 
+#include "base/export.h"
 #include "window/desktop.h"
-#include "window/export.h"
 #include "window/node.h"
 
 namespace kv {

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "window/desktop.h"
 #include "window/node_factory.h"
 #include "window/window_system.h"
 #include "window/wnd.h"
@@ -174,6 +173,11 @@ LRESULT Node::Notify(int code) {
 void Node::Tell(Change change) {
     WindowSystem::Get().NoteChange();
     if (view_) view_->Changed(change);
+}
+
+std::shared_ptr<Node> MakeNode(NodeClass nodeClass, int id, DWORD style) {
+    const Factory* factory = FindFactory(nodeClass);
+    return factory ? factory->makeNode(id, style) : std::make_shared<Node>(nodeClass, id, style);
 }
 
 LRESULT Send(Node& node, UINT message, WPARAM wParam, LPARAM lParam) {

@@ -4,29 +4,14 @@
 #include <string>
 #include <vector>
 
-#include "window/export.h"
+#include "base/export.h"
+#include "base/types.h"
 #include "window/messages.h"
-#include "window/types.h"
+#include "window/node_class.h"
 
 class CWnd;
 
 namespace kv {
-
-enum class NodeClass {
-    kFrame,
-    kDialog,
-    kBar,
-    kToolBar,
-    kStatic,
-    kButton,
-    kEdit,
-    kComboBox,
-    kListBox,
-    kListView,
-    kSpin,
-    kProgress,
-    kOther,
-};
 
 /// What changed in a node, as its view is told.
 enum class Change {
@@ -122,6 +107,11 @@ public:
 
     bool Destroyed() const { return destroyed_; }
 
+    /// While data are exchanged with its controls, their notifications are held back.
+    bool Exchanging() const { return exchanges_ > 0; }
+    void BeginExchange() { ++exchanges_; }
+    void EndExchange() { --exchanges_; }
+
     /// Of a top-level window: the control in it that has the focus, or had it when the focus went
     /// to another window; null where there is none that can hold it now.
     Node* LastFocus() const;
@@ -140,6 +130,9 @@ public:
 
     /// Bits of WM_GETDLGCODE that this kind of window answers of itself.
     virtual int DialogCode() const { return 0; }
+
+    /// What a click does with a window that can be pressed: a button.
+    virtual void Press() {}
 
     /// Where the focus really goes when this window gets it: a combo box hands it to its edit.
     virtual Node* FocusTarget() { return this; }
@@ -167,6 +160,7 @@ private:
     bool destroying_ = false;
     bool destroyed_ = false;
     bool losingFocus_ = false;
+    int exchanges_ = 0;
     std::weak_ptr<Node> lastFocus_;
     Node* parent_ = nullptr;
     Node* owner_ = nullptr;

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "window/desktop.h"
+#include "window/drawing/look.h"
 #include "window/messages.h"
 #include "window/window_system.h"
 #include "window/wnd.h"
@@ -78,19 +78,17 @@ void PaintButton(Node& button, CDC& context) {
     const PaintScope scope(button, context);
     const auto lParam = reinterpret_cast<LPARAM>(&item);
     Node* parent = button.Parent();
-    LRESULT answer = 0;
-    if (parent && parent->Handle()) {
-        answer = Send(*parent, WM_DRAWITEM, static_cast<WPARAM>(button.Id()), lParam);
-    } else {
-        ReflectDrawItem(lParam);
-    }
-    if (!answer && !scope.Painted()) {
+    const bool drawn =
+        parent && parent->Handle()
+            ? Send(*parent, WM_DRAWITEM, static_cast<WPARAM>(button.Id()), lParam) != 0
+            : CWnd::ReflectDrawItem(lParam);
+    if (!drawn && !scope.Painted()) {
         DrawPushButton(context, item.rcItem, item.itemState, button.Text());
     }
 }
 
 COLORREF SystemColorOf(SystemColor which) {
-    return WindowSystem::Get().GetDesktop().Color(which);
+    return CurrentLook().Color(which);
 }
 
 /// Which kind of control the platform says it asks for; one that cannot be typed into counts as a
@@ -146,16 +144,6 @@ CDC* PaintingContext(const Node* window) {
     if (!painting) return nullptr;
     painting->painted = true;
     return painting->context;
-}
-
-bool ReflectDrawItem(LPARAM lParam) {
-    auto* item = reinterpret_cast<DRAWITEMSTRUCT*>(lParam);
-    if (!item || !item->hwndItem) return false;
-    auto* drawn = dynamic_cast<OwnerDrawn*>(item->hwndItem->Handle());
-    if (!drawn) return false;
-    if (Painting* painting = PaintingOf(item->hwndItem)) painting->painted = true;
-    WindowSystem::Get().Guarded([&] { drawn->DrawItem(item); });
-    return true;
 }
 
 bool PaintControl(Node& control, CDC& context) {

@@ -5,7 +5,6 @@
 
 #include "window/desktop.h"
 #include "window/dialog_keys.h"
-#include "window/headless_desktop.h"
 #include "window/modal_scope.h"
 
 namespace kv {
@@ -15,7 +14,17 @@ namespace {
 /// Updates that go on changing things would keep the program from ever being idle.
 constexpr int kMostIdleRounds = 50;
 
+std::unique_ptr<Desktop> (*g_makeFallback)() = nullptr;
+
 }  // namespace
+
+RegisterFallbackDesktop::RegisterFallbackDesktop(std::unique_ptr<Desktop> (*make)()) {
+    g_makeFallback = make;
+}
+
+std::chrono::system_clock::time_point Now() {
+    return WindowSystem::Get().GetDesktop().Now();
+}
 
 WindowSystem::WindowSystem() = default;
 WindowSystem::~WindowSystem() = default;
@@ -28,16 +37,17 @@ WindowSystem& WindowSystem::Get() {
 
 Desktop& WindowSystem::GetDesktop() {
     if (desktop_) return *desktop_;
-    if (!fallbackDesktop_) fallbackDesktop_ = std::make_unique<HeadlessDesktop>();
+    if (!fallbackDesktop_) fallbackDesktop_ = g_makeFallback();
     return *fallbackDesktop_;
 }
 
 void WindowSystem::SetDesktop(Desktop* desktop) {
     desktop_ = desktop;
+    SetLook(desktop);
 }
 
 void WindowSystem::ForgetDesktop(const Desktop& desktop) {
-    if (desktop_ == &desktop) desktop_ = nullptr;
+    if (desktop_ == &desktop) SetDesktop(nullptr);
 }
 
 void WindowSystem::AddTopLevel(std::shared_ptr<Node> node) {

@@ -1,12 +1,13 @@
 #pragma once
 
+#include <chrono>
 #include <deque>
 #include <functional>
 #include <memory>
 #include <string>
 #include <vector>
 
-#include "window/export.h"
+#include "base/export.h"
 #include "window/node.h"
 #include "window/wnd.h"
 
@@ -14,13 +15,22 @@ namespace kv {
 
 class Desktop;
 
+/// Makes the desktop that stands in where none was set. Whoever has one says so by a static object.
+class KVGUICTL_API RegisterFallbackDesktop {
+public:
+    explicit RegisterFallbackDesktop(std::unique_ptr<Desktop> (*make)());
+};
+
+/// The time by the desktop's clock.
+KVGUICTL_API std::chrono::system_clock::time_point Now();
+
 /// What is common to all windows of the process: the top-level windows, the focus, the message
 /// queue, the modal windows that are open, idle time, and the desktop that lies outside.
 class KVGUICTL_API WindowSystem {
 public:
     static WindowSystem& Get();
 
-    // The desktop. Not owned; a HeadlessDesktop with no scenes where none was set.
+    // The desktop. Not owned; where none was set, the fallback that was registered.
     Desktop& GetDesktop();
     void SetDesktop(Desktop* desktop);
     /// A desktop goes: it is not asked any more.

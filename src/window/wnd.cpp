@@ -4,13 +4,12 @@
 #include <charconv>
 #include <string>
 
-#include "window/data_exchange.h"
+#include "base/text.h"
 #include "window/desktop.h"
+#include "window/draw_item.h"
 #include "window/message_map.h"
 #include "window/modal_scope.h"
 #include "window/node_factory.h"
-#include "window/owner_draw.h"
-#include "window/text.h"
 #include "window/window_system.h"
 
 using kv::MessageEntry;
@@ -66,7 +65,8 @@ CWnd* CWnd::FromHandle(HWND window) {
 CWnd* CWnd::LookupHandle(HWND window) {
     if (!window) return nullptr;
     if (!window->lookupHandle_) {
-        window->lookupHandle_ = kv::MakeHandle(window->Class());
+        const kv::Factory* factory = kv::FindFactory(window->Class());
+        window->lookupHandle_ = factory ? factory->makeHandle() : std::make_unique<CWnd>();
         window->lookupHandle_->m_hWnd = window->Destroyed() ? nullptr : window;
     }
     return window->lookupHandle_.get();
@@ -342,11 +342,6 @@ int CWnd::MessageBox(const char* text, const char* caption, UINT type) {
         {text ? text : "", caption ? caption : "", type, m_hWnd ? this : nullptr});
 }
 
-BOOL CWnd::UpdateData(BOOL save) {
-    if (!m_hWnd) return FALSE;
-    return CDataExchange::Run(*this, save);
-}
-
 void CWnd::DoDataExchange(CDataExchange*) {}
 
 BOOL CWnd::DestroyWindow() {
@@ -389,7 +384,8 @@ bool CWnd::HandleByTable(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* re
         case WM_NOTIFY:
             return OnNotify(wParam, lParam, result);
         case WM_DRAWITEM:
-            if (kv::ReflectDrawItem(lParam)) return true;
+            *result = ReflectDrawItem(lParam) ? TRUE : FALSE;
+            if (*result) return true;
             break;
         default:
             break;
@@ -402,6 +398,15 @@ bool CWnd::HandleByTable(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* re
     return handled.taken;
 }
 
+bool CWnd::ReflectDrawItem(LPARAM lParam) {
+    auto* item = reinterpret_cast<DRAWITEMSTRUCT*>(lParam);
+    if (!item || !item->hwndItem) return false;
+    auto* drawn = dynamic_cast<kv::OwnerDrawn*>(item->hwndItem->Handle());
+    if (!drawn) return false;
+    WindowSystem::Get().Guarded([&] { drawn->DrawItem(item); });
+    return true;
+}
+
 BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam) {
     const auto id = static_cast<UINT>(LOWORD(wParam));
     auto* control = reinterpret_cast<HWND>(lParam);
@@ -410,7 +415,7 @@ BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam) {
         OnCmdMsg(id, CN_UPDATE_COMMAND_UI, &state, nullptr);
         return !state.Enabled() || OnCmdMsg(id, CN_COMMAND, nullptr, nullptr);
     }
-    if (CDataExchange::IsRunningFor(*this)) return TRUE;
+    if (m_hWnd->Exchanging()) return TRUE;
 
     const int code = HIWORD(wParam);
     const auto keepControl = control->shared_from_this();
@@ -425,7 +430,7 @@ BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam) {
 }
 
 BOOL CWnd::OnNotify(WPARAM, LPARAM lParam, LRESULT* result) {
-    if (CDataExchange::IsRunningFor(*this)) return TRUE;
+    if (m_hWnd->Exchanging()) return TRUE;
     const auto* header = reinterpret_cast<const NMHDR*>(lParam);
     const auto offer = [&](CWnd& window, MessageEntry::Kind kind) {
         const MessageEntry* entry = window.GetMessageMap().Find(kind, header->code, header->idFrom);

@@ -3,11 +3,11 @@
 #include <memory>
 #include <string>
 
-#include "window/cstring.h"
-#include "window/export.h"
+#include "base/cstring.h"
+#include "base/export.h"
+#include "base/types.h"
 #include "window/messages.h"
 #include "window/node.h"
-#include "window/types.h"
 
 namespace kv {
 class WindowSystem;
@@ -179,6 +179,10 @@ public:
     LRESULT Default();
 
     BOOL OnCmdMsg(UINT id, int code, void* extra, void* info) override;
+
+    /// Lets the handle of the control that `lParam` (a `DRAWITEMSTRUCT`) names draw it. False when
+    /// no `kv::OwnerDrawn` handle is attached to the control.
+    static bool ReflectDrawItem(LPARAM lParam);
 
     /// Runs the idle updates of the child controls: each may handle its own, else this window, else
     /// `target`. With `disableIfNoHandler`, a push button without an update is enabled as long as

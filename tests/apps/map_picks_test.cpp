@@ -18,7 +18,7 @@
 #include "blocks/blk_ext_ids.h"
 #include "frame/graphics.h"
 #include "frame/module.h"
-#include "qt/block_map_canvas.h"
+#include "qt/map/block_map_canvas.h"
 #include "qt/qt_desktop.h"
 
 namespace {

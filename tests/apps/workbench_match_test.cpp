@@ -4,7 +4,7 @@
 
 #include <stdexcept>
 
-#include "window/paths.h"
+#include "base/paths.h"
 #include "workbench_fixture.h"
 
 namespace workbench {

@@ -15,7 +15,7 @@
 #include "blocks/blk_ext_ids.h"
 #include "frame/module.h"
 #include "qt/qt_desktop.h"
-#include "window/user.h"
+#include "window/acting/user.h"
 #include "window/window_system.h"
 #include "workbench/selected_blocks.h"
 #include "workbench/workbench.h"

@@ -6,11 +6,11 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include "base/numbers.h"
 #include "coordtools/converter_ids.h"
 #include "frame/module.h"
 #include "qt/qt_desktop.h"
-#include "window/numbers.h"
-#include "window/user.h"
+#include "window/acting/user.h"
 #include "window/window_system.h"
 #include "workbench/workbench.h"
 #include "workbench_fixture.h"

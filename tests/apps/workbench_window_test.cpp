@@ -11,13 +11,13 @@
 #include <QToolBar>
 #include <QToolButton>
 
+#include "frame/kvcom/profile.h"
 #include "frame/module.h"
-#include "frame/profile.h"
 #include "pickers/abe_bar_ids.h"
 #include "qt/qt_desktop.h"
 #include "support/sqlite_file.h"
-#include "window/input.h"
-#include "window/user.h"
+#include "window/acting/input.h"
+#include "window/acting/user.h"
 #include "window/window_system.h"
 #include "workbench/workbench.h"
 #include "workbench_fixture.h"

@@ -4,7 +4,7 @@
 
 #include "blocks/block_fixture.h"
 #include "blocks/dyn_blk_ext_dlg.h"
-#include "frame/db_dataset_set.h"
+#include "frame/kvdbkvn/db_dataset_set.h"
 #include "support/sql_texts.h"
 #include "support/sqlite_file.h"
 

@@ -4,9 +4,9 @@
 #include <string>
 
 #include "blocks/block_fixture.h"
-#include "frame/misc.h"
-#include "frame/ut_registry.h"
-#include "window/file_dialog.h"
+#include "frame/kvcom/misc.h"
+#include "frame/kvcom/ut_registry.h"
+#include "window/dialogs/file_dialog.h"
 
 inline constexpr const char* kNotOpened = "Cannot open file.  Please close the file if opened";
 

@@ -6,9 +6,9 @@
 
 #include "blocks/blk_ext_dlg.h"
 #include "blocks/blk_ext_ids.h"
-#include "frame/db_abs_data_mgr.h"
+#include "frame/kvdbkvn/db_abs_data_mgr.h"
+#include "frame/kvdbkvn/statement_trace.h"
 #include "frame/module.h"
-#include "frame/statement_trace.h"
 #include "support/dialog_fixture.h"
 #include "support/small_database.h"
 #include "support/temp_folder.h"

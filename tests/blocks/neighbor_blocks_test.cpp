@@ -8,16 +8,16 @@
 #include <vector>
 
 #include "controls/progress_dlg_ids.h"
-#include "frame/db_abs_data_mgr.h"
-#include "frame/misc.h"
+#include "frame/kvcom/misc.h"
+#include "frame/kvdbkvn/db_abs_data_mgr.h"
+#include "frame/kvdbkvn/statement_trace.h"
 #include "frame/module.h"
-#include "frame/statement_trace.h"
 #include "support/database_helpers.h"
 #include "support/dialog_fixture.h"
 #include "support/neighbor_database.h"
 #include "support/sqlite_file.h"
 #include "support/temp_folder.h"
-#include "window/frame_wnd.h"
+#include "window/frames/frame_wnd.h"
 
 namespace {
 

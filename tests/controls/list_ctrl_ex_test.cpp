@@ -5,7 +5,7 @@
 #include <string>
 
 #include "support/dialog_fixture.h"
-#include "window/list_view_node.h"
+#include "window/list_view/list_view_node.h"
 
 namespace {
 

@@ -5,9 +5,9 @@
 #include <string>
 
 #include "support/dialog_fixture.h"
-#include "window/device_context.h"
+#include "window/drawing/device_context.h"
+#include "window/drawing/raster.h"
 #include "window/owner_draw.h"
-#include "window/raster.h"
 
 namespace {
 

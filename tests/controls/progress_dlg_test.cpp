@@ -7,8 +7,8 @@
 
 #include "frame/module.h"
 #include "support/dialog_fixture.h"
-#include "window/edit.h"
-#include "window/frame_wnd.h"
+#include "window/controls/edit.h"
+#include "window/frames/frame_wnd.h"
 
 namespace {
 

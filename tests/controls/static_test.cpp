@@ -3,10 +3,10 @@
 #include <gtest/gtest.h>
 
 #include "support/dialog_fixture.h"
-#include "window/device_context.h"
-#include "window/frame_wnd.h"
+#include "window/drawing/device_context.h"
+#include "window/drawing/raster.h"
+#include "window/frames/frame_wnd.h"
 #include "window/owner_draw.h"
-#include "window/raster.h"
 
 namespace {
 

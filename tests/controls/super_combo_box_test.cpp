@@ -6,9 +6,9 @@
 #include <vector>
 
 #include "support/dialog_fixture.h"
-#include "window/combo_box_node.h"
+#include "window/controls/combo_box_node.h"
+#include "window/drawing/raster.h"
 #include "window/owner_draw.h"
-#include "window/raster.h"
 
 namespace {
 

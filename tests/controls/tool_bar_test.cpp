@@ -5,10 +5,10 @@
 #include <cstdlib>
 #include <string>
 
-#include "frame/profile.h"
+#include "frame/kvcom/profile.h"
 #include "support/dialog_fixture.h"
 #include "support/temp_folder.h"
-#include "window/frame_wnd.h"
+#include "window/frames/frame_wnd.h"
 
 namespace {
 

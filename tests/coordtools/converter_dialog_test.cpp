@@ -1,11 +1,11 @@
 #include "coordtools/converter_dialog.h"
 
+#include "base/numbers.h"
 #include "coordtools/converter_ids.h"
 #include "coordtools/tool_fixture.h"
-#include "frame/util_lldrv.h"
+#include "frame/kvcom/util_lldrv.h"
 #include "mapbuild/proj_sel_ids.h"
 #include "support/sqlite_file.h"
-#include "window/numbers.h"
 
 using testing::ElementsAre;
 using testing::IsEmpty;

@@ -2,11 +2,11 @@
 
 #include <cstdlib>
 
+#include "base/numbers.h"
 #include "coordtools/nad_convert_ids.h"
 #include "coordtools/tool_fixture.h"
-#include "frame/angle.h"
-#include "frame/util_lldrv.h"
-#include "window/numbers.h"
+#include "frame/kvcom/angle.h"
+#include "frame/kvcom/util_lldrv.h"
 
 using testing::ElementsAre;
 using testing::ElementsAreArray;

@@ -5,12 +5,12 @@
 #include <vector>
 
 #include "coordtools/angle_ids.h"
-#include "frame/db_abs_data_mgr.h"
+#include "frame/kvdbkvn/db_abs_data_mgr.h"
 #include "frame/module.h"
 #include "support/dialog_fixture.h"
 #include "support/temp_folder.h"
 #include "support/zone_database.h"
-#include "window/edit.h"
+#include "window/controls/edit.h"
 
 namespace test {
 

@@ -7,9 +7,9 @@
 #include <random>
 #include <string>
 
-#include "frame/angle.h"
+#include "base/numbers.h"
+#include "frame/kvcom/angle.h"
 #include "support/comma_locale.h"
-#include "window/numbers.h"
 
 namespace {
 

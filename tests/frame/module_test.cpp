@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "window/dialog.h"
-#include "window/headless_desktop.h"
+#include "window/acting/headless_desktop.h"
+#include "window/dialogs/dialog.h"
 #include "window/window_system.h"
 
 namespace {

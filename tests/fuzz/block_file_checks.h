@@ -6,8 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "base/text.h"
 #include "blocks/block_file.h"
-#include "window/text.h"
 
 /// What holds for whatever the readers of block selection files are given.
 namespace block_file_checks {

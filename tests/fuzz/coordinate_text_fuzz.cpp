@@ -6,9 +6,9 @@
 #include <string>
 #include <string_view>
 
-#include "frame/angle.h"
+#include "base/numbers.h"
 #include "frame/coordinate_text.h"
-#include "window/numbers.h"
+#include "frame/kvcom/angle.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include <cstdlib>
 #include <string_view>
 
-#include "services/kvdbkvn/dialect.h"
+#include "services/kvdbkvn/dialect/translate.h"
 
 using kv::dialect::Context;
 using kv::dialect::Kind;

@@ -5,8 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "base/text.h"
 #include "blocks/import_format.h"
-#include "window/text.h"
 
 namespace {
 

@@ -4,8 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "base/text.h"
 #include "services/kvcom/ini_file.h"
-#include "window/text.h"
 
 namespace {
 

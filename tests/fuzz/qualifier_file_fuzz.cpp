@@ -6,8 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "base/text.h"
 #include "qualifiers/qualifier_file.h"
-#include "window/text.h"
 
 namespace {
 

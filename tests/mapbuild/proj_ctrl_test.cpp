@@ -1,7 +1,7 @@
 #include "mapbuild/proj_ctrl.h"
 
+#include "base/numbers.h"
 #include "mapbuild/projection_fixture.h"
-#include "window/numbers.h"
 
 using kv::ControlKind;
 using test::ProjCtrl;

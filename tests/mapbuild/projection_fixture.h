@@ -5,16 +5,16 @@
 #include <string>
 #include <vector>
 
-#include "frame/db_abs_data_mgr.h"
+#include "frame/kvdbkvn/db_abs_data_mgr.h"
+#include "frame/kvdbkvn/statement_trace.h"
 #include "frame/module.h"
-#include "frame/statement_trace.h"
 #include "mapbuild/proj_ctrl.h"
 #include "mapbuild/proj_sel_ids.h"
 #include "support/dialog_fixture.h"
 #include "support/sqlite_file.h"
 #include "support/temp_folder.h"
 #include "support/zone_database.h"
-#include "window/combo_box.h"
+#include "window/controls/combo_box.h"
 
 namespace test {
 

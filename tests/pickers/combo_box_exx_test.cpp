@@ -2,14 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include "window/acting/headless_desktop.h"
+#include "window/acting/input.h"
 #include "window/desktop.h"
-#include "window/device_context.h"
-#include "window/dialog.h"
-#include "window/headless_desktop.h"
-#include "window/input.h"
+#include "window/dialogs/dialog.h"
+#include "window/drawing/device_context.h"
+#include "window/drawing/raster.h"
 #include "window/owner_draw.h"
-#include "window/raster.h"
-#include "window/resources.h"
+#include "window/templates/resources.h"
 #include "window/window_system.h"
 
 namespace {

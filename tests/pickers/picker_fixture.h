@@ -6,15 +6,15 @@
 #include <string>
 #include <vector>
 
-#include "frame/db_abs_data_mgr.h"
+#include "frame/kvdbkvn/db_abs_data_mgr.h"
+#include "frame/kvdbkvn/statement_trace.h"
 #include "frame/module.h"
-#include "frame/statement_trace.h"
 #include "pickers/abe_bar.h"
 #include "pickers/abe_bar_ids.h"
 #include "support/small_database.h"
 #include "support/temp_folder.h"
-#include "window/frame_wnd.h"
-#include "window/headless_desktop.h"
+#include "window/acting/headless_desktop.h"
+#include "window/frames/frame_wnd.h"
 #include "window/window_system.h"
 
 /// A frame with the bar in it, on a small database, and a user who works on the bar.

@@ -2,7 +2,7 @@
 #include <QLabel>
 
 #include "qt_fixture.h"
-#include "window/button_node.h"
+#include "window/controls/button_node.h"
 
 using enum kv::ControlKind;
 using testing::ElementsAre;

@@ -4,7 +4,7 @@
 #include <QFrame>
 
 #include "qt_fixture.h"
-#include "window/combo_box_node.h"
+#include "window/controls/combo_box_node.h"
 
 using enum kv::ControlKind;
 using testing::ElementsAre;

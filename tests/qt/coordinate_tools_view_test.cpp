@@ -8,7 +8,7 @@
 #include "coordtools/converter_ids.h"
 #include "coordtools/nad_convert_dlg.h"
 #include "coordtools/nad_convert_ids.h"
-#include "frame/db_abs_data_mgr.h"
+#include "frame/kvdbkvn/db_abs_data_mgr.h"
 #include "frame/module.h"
 #include "qt_fixture.h"
 #include "support/temp_folder.h"

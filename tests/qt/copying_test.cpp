@@ -5,7 +5,7 @@
 #include <QWindow>
 
 #include "qt_fixture.h"
-#include "window/list_ctrl.h"
+#include "window/list_view/list_ctrl.h"
 
 using enum kv::ControlKind;
 

@@ -3,7 +3,7 @@
 #include <QPlainTextEdit>
 
 #include "qt_fixture.h"
-#include "window/edit_node.h"
+#include "window/controls/edit_node.h"
 
 using enum kv::ControlKind;
 using test::Row;

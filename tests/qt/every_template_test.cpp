@@ -5,7 +5,7 @@
 
 #include "dark_palette.h"
 #include "qt_fixture.h"
-#include "window/button_node.h"
+#include "window/controls/button_node.h"
 
 namespace {
 

@@ -4,8 +4,8 @@
 
 #include "dark_palette.h"
 #include "qt_fixture.h"
-#include "window/list_ctrl.h"
-#include "window/progress_node.h"
+#include "window/controls/progress_node.h"
+#include "window/list_view/list_ctrl.h"
 
 using enum kv::ControlKind;
 

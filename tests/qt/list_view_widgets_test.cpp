@@ -4,13 +4,13 @@
 #include <QScrollBar>
 #include <QTreeView>
 
-#include "qt/scale.h"
+#include "qt/drawing/scale.h"
 #include "qt_fixture.h"
-#include "window/image_list.h"
-#include "window/list_box.h"
-#include "window/list_box_node.h"
-#include "window/list_ctrl.h"
-#include "window/list_view_node.h"
+#include "window/controls/list_box.h"
+#include "window/controls/list_box_node.h"
+#include "window/drawing/image_list.h"
+#include "window/list_view/list_ctrl.h"
+#include "window/list_view/list_view_node.h"
 
 using enum kv::ControlKind;
 using testing::ElementsAre;

@@ -7,15 +7,15 @@
 
 #include "qt/binding.h"
 #include "qt_fixture.h"
-#include "window/bitmap_button.h"
-#include "window/combo_box.h"
-#include "window/control_bar.h"
-#include "window/edit.h"
-#include "window/frame_wnd.h"
-#include "window/progress_node.h"
-#include "window/spin_node.h"
-#include "window/static_text.h"
-#include "window/tool_bar.h"
+#include "window/controls/bitmap_button.h"
+#include "window/controls/combo_box.h"
+#include "window/controls/edit.h"
+#include "window/controls/progress_node.h"
+#include "window/controls/spin_node.h"
+#include "window/controls/static_text.h"
+#include "window/frames/control_bar.h"
+#include "window/frames/frame_wnd.h"
+#include "window/frames/tool_bar.h"
 
 using enum kv::ControlKind;
 using test::kTestTemplate;
@@ -175,6 +175,9 @@ protected:
         frame_.DockControlBar(&bar_);
         frame_.ShowWindow(SW_SHOW);
         Process();
+        // Without a window manager a window becomes the active one some time after it came up, and
+        // until then the toolkit moves no focus in it.
+        EXPECT_TRUE(QTest::qWaitForWindowActive(Main()));
     }
     ~Frame() override {
         if (frame_.m_hWnd) frame_.DestroyWindow();

@@ -1,11 +1,11 @@
-#include "qt/painter_surface.h"
+#include "qt/drawing/painter_surface.h"
 
 #include <QPushButton>
 
 #include "qt_fixture.h"
-#include "window/button.h"
+#include "window/controls/button.h"
+#include "window/drawing/raster.h"
 #include "window/owner_draw.h"
-#include "window/raster.h"
 
 using enum kv::ControlKind;
 

@@ -11,8 +11,8 @@
 #include "qt/platform_dialogs.h"
 #include "qt_fixture.h"
 #include "support/temp_folder.h"
-#include "window/file_dialog.h"
-#include "window/print_dialog.h"
+#include "window/dialogs/file_dialog.h"
+#include "window/dialogs/print_dialog.h"
 
 namespace {
 

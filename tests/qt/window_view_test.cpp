@@ -2,9 +2,9 @@
 #include <QMessageBox>
 #include <QPushButton>
 
-#include "qt/scale.h"
+#include "qt/drawing/scale.h"
 #include "qt_fixture.h"
-#include "window/message_box.h"
+#include "window/dialogs/message_box.h"
 
 using enum kv::ControlKind;
 using test::kTestTemplate;

@@ -5,10 +5,10 @@
 #include <algorithm>
 #include <random>
 
-#include "window/frame_wnd.h"
-#include "window/headless_desktop.h"
-#include "window/list_box.h"
-#include "window/text.h"
+#include "base/text.h"
+#include "window/acting/headless_desktop.h"
+#include "window/controls/list_box.h"
+#include "window/frames/frame_wnd.h"
 #include "window/window_system.h"
 
 namespace {

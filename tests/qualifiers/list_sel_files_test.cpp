@@ -4,14 +4,14 @@
 
 #include <filesystem>
 
-#include "frame/misc.h"
-#include "frame/ut_registry.h"
+#include "frame/kvcom/misc.h"
+#include "frame/kvcom/ut_registry.h"
 #include "qualifiers/lease_list_sel.h"
 #include "qualifiers/list_sel.h"
 #include "qualifiers/qualifier_fixture.h"
 #include "support/file_size_limit.h"
 #include "support/plain_user.h"
-#include "window/file_dialog.h"
+#include "window/dialogs/file_dialog.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "qualifiers/qualifier_fixture.h"
-#include "window/list_box.h"
+#include "window/controls/list_box.h"
 
 namespace {
 

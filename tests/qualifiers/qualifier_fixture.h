@@ -3,16 +3,16 @@
 #include <string>
 #include <vector>
 
-#include "frame/db_abs_data_mgr.h"
+#include "frame/kvdbkvn/db_abs_data_mgr.h"
+#include "frame/kvdbkvn/statement_trace.h"
 #include "frame/module.h"
-#include "frame/statement_trace.h"
 #include "qualifiers/list_sel_ids.h"
 #include "support/dialog_fixture.h"
 #include "support/qualifier_database.h"
 #include "support/temp_folder.h"
-#include "window/combo_box.h"
-#include "window/edit.h"
-#include "window/frame_wnd.h"
+#include "window/controls/combo_box.h"
+#include "window/controls/edit.h"
+#include "window/frames/frame_wnd.h"
 
 /// A caller with a combo box, an edit and a vector of its own, on a small database.
 class QualifierTest : public test::DialogTest {

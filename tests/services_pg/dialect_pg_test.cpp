@@ -1,4 +1,4 @@
-#include "services/kvdbkvn/dialect.h"
+#include "services/kvdbkvn/dialect/translate.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -9,10 +9,10 @@
 #include <string>
 #include <vector>
 
-#include "services/kvdbkvn/lease_sort.h"
+#include "base/text.h"
+#include "services/kvdbkvn/dialect/lease_sort.h"
 #include "support/dialect_forms.h"
 #include "support/postgres_database.h"
-#include "window/text.h"
 
 namespace {
 

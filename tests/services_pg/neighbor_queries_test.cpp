@@ -11,9 +11,9 @@
 #include <vector>
 
 #include "blocks/neighbor_blocks.h"
+#include "frame/kvdbkvn/statement_trace.h"
 #include "frame/module.h"
-#include "frame/statement_trace.h"
-#include "services/kvdbkvn/dialect.h"
+#include "services/kvdbkvn/dialect/translate.h"
 #include "services/kvdbkvn/session_pool.h"
 #include "support/database_helpers.h"
 #include "support/dialog_fixture.h"

@@ -16,7 +16,7 @@
 #include "services/kvdbkvn/session_pool.h"
 #include "support/database_helpers.h"
 #include "support/postgres_database.h"
-#include "window/headless_desktop.h"
+#include "window/acting/headless_desktop.h"
 #include "window/window_system.h"
 
 namespace test {

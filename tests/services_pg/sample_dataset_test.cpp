@@ -1,7 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "frame/db_util.h"
+#include "frame/kvdbkvn/db_util.h"
 #include "sampledata/dataset.h"
 #include "sampledata/digest.h"
 #include "sampledata/loader_postgres.h"

@@ -1,4 +1,4 @@
-#include "frame/db_util.h"
+#include "frame/kvdbkvn/db_util.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -7,8 +7,8 @@
 #include <cstdlib>
 #include <filesystem>
 
-#include "frame/db_dataset_set.h"
-#include "frame/util_lldrv.h"
+#include "frame/kvcom/util_lldrv.h"
+#include "frame/kvdbkvn/db_dataset_set.h"
 #include "sampledata/blocks.h"
 #include "support/database_helpers.h"
 #include "support/sqlite_file.h"

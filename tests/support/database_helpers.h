@@ -3,7 +3,7 @@
 #include <functional>
 #include <string>
 
-#include "frame/db_abs_data_mgr.h"
+#include "frame/kvdbkvn/db_abs_data_mgr.h"
 
 namespace test {
 

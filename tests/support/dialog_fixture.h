@@ -10,11 +10,11 @@
 #include <utility>
 #include <vector>
 
-#include "window/dialog.h"
-#include "window/dialog_template.h"
-#include "window/headless_desktop.h"
-#include "window/input.h"
-#include "window/resources.h"
+#include "window/acting/headless_desktop.h"
+#include "window/acting/input.h"
+#include "window/dialogs/dialog.h"
+#include "window/templates/dialog_template.h"
+#include "window/templates/resources.h"
 #include "window/window_system.h"
 
 namespace test {

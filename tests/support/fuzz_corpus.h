@@ -16,8 +16,7 @@ namespace test {
 /// Hands each file of a fuzz target's corpus to the target, which ends the process when something
 /// is wrong, and answers 0.
 inline void RunCorpus(const std::string& name, int (*target)(const std::uint8_t*, std::size_t)) {
-    const auto folder =
-        std::filesystem::path(__FILE__).parent_path().parent_path() / "fuzz" / "corpus" / name;
+    const auto folder = std::filesystem::path(KVGUICTL_FUZZ_CORPUS) / name;
     std::vector<std::filesystem::path> files;
     for (const auto& entry : std::filesystem::directory_iterator(folder))
         files.push_back(entry.path());

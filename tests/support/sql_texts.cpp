@@ -4,8 +4,8 @@
 #include <array>
 #include <stdexcept>
 
-#include "window/numbers.h"
-#include "window/text.h"
+#include "base/numbers.h"
+#include "base/text.h"
 
 namespace kv::test {
 namespace {

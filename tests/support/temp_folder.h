@@ -8,7 +8,7 @@
 #include <sstream>
 #include <string>
 
-#include "window/paths.h"
+#include "base/paths.h"
 
 namespace test {
 

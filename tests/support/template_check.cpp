@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <map>
 
+#include "base/text.h"
 #include "window/desktop.h"
-#include "window/text.h"
-#include "window/text_metrics.h"
+#include "window/drawing/text_metrics.h"
 
 namespace test {
 

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "window/dialog_template.h"
+#include "window/templates/dialog_template.h"
 
 namespace test {
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "support/template_check.h"
-#include "window/resources.h"
+#include "window/templates/resources.h"
 
 namespace {
 

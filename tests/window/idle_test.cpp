@@ -1,8 +1,8 @@
 #include <stdexcept>
 
 #include "support/dialog_fixture.h"
-#include "window/control_bar.h"
-#include "window/frame_wnd.h"
+#include "window/frames/control_bar.h"
+#include "window/frames/frame_wnd.h"
 
 using enum kv::ControlKind;
 using test::Row;

@@ -1,5 +1,5 @@
 #include "support/dialog_fixture.h"
-#include "window/frame_wnd.h"
+#include "window/frames/frame_wnd.h"
 
 using enum kv::ControlKind;
 using test::FocusedId;

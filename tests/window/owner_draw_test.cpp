@@ -5,9 +5,10 @@
 #include <string>
 #include <vector>
 
-#include "window/headless_desktop.h"
-#include "window/message_map.h"
-#include "window/raster.h"
+#include "window/acting/headless_desktop.h"
+#include "window/drawing/raster.h"
+#include "window/message_handlers.h"
+#include "window/paint_context.h"
 #include "window/window_system.h"
 #include "window/wnd.h"
 

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "window/text.h"
+#include "base/text.h"
 
 namespace workbench {
 

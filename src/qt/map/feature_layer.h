@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "qt/export.h"
+#include "base/export.h"
 #include "qt/map/geometry.h"
 #include "qt/map/grid_index.h"
 
@@ -14,7 +14,7 @@ namespace kv::map {
 
 /// Things of one sort on the map: outlines, lines, or single points. Each has a label and a kind.
 /// All points stand in one row of memory, and so do all labels.
-class KVGUICTL_QT_API FeatureLayer {
+class KVGUICTL_API FeatureLayer {
 public:
     /// Begins a thing; its points follow.
     void Begin(std::string_view label, std::uint8_t kind = 0);
@@ -51,9 +51,9 @@ private:
 };
 
 /// Whether the point lies inside the closed outline.
-KVGUICTL_QT_API bool Inside(std::span<const Point> outline, const Point& point);
+KVGUICTL_API bool Inside(std::span<const Point> outline, const Point& point);
 
 /// The area that the closed outline encloses, in square map units; negative for a clockwise one.
-KVGUICTL_QT_API double SignedArea(std::span<const Point> outline);
+KVGUICTL_API double SignedArea(std::span<const Point> outline);
 
 }  // namespace kv::map

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <limits>
 
-#include "qt/export.h"
+#include "base/export.h"
 
 /// Places on the earth and on the map. The map is drawn on Mercator's projection of the sphere: a
 /// map unit is a degree of longitude, X grows to the east and Y to the north.
@@ -23,8 +23,8 @@ struct Point {
 };
 
 /// Latitudes beyond 85 degrees count as 85.
-KVGUICTL_QT_API Point ToMap(const Place& place);
-KVGUICTL_QT_API Place ToPlace(const Point& point);
+KVGUICTL_API Point ToMap(const Place& place);
+KVGUICTL_API Place ToPlace(const Point& point);
 
 /// A box in map units; empty, and without any point, until something is included.
 struct Box {
@@ -62,9 +62,9 @@ struct Segment {
 };
 
 /// Square of the distance between a point and a segment.
-KVGUICTL_QT_API double SquaredDistance(const Point& point, const Segment& segment);
+KVGUICTL_API double SquaredDistance(const Point& point, const Segment& segment);
 
 /// Miles of 1,852 m between two places, along a great circle of the sphere of 6,371 km.
-KVGUICTL_QT_API double NauticalMiles(const Place& a, const Place& b);
+KVGUICTL_API double NauticalMiles(const Place& a, const Place& b);
 
 }  // namespace kv::map

@@ -4,14 +4,14 @@
 #include <span>
 #include <vector>
 
-#include "qt/export.h"
+#include "base/export.h"
 #include "qt/map/geometry.h"
 
 namespace kv::map {
 
 /// Finds the boxes that meet a box: a grid of cells, each with the numbers of the boxes that reach
 /// into it.
-class KVGUICTL_QT_API GridIndex {
+class KVGUICTL_API GridIndex {
 public:
     GridIndex() = default;
     /// Keeps nothing of `boxes` but what cells they reach; they stay where they are and as they

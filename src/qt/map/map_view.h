@@ -1,6 +1,6 @@
 #pragma once
 
-#include "qt/export.h"
+#include "base/export.h"
 #include "qt/map/geometry.h"
 
 namespace kv::map {
@@ -12,7 +12,7 @@ struct ScreenPoint {
 };
 
 /// What part of the map is seen, and how large.
-class KVGUICTL_QT_API MapView {
+class KVGUICTL_API MapView {
 public:
     /// In pixels; at least one by one. The middle stays in the middle.
     void Resize(int width, int height);

@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-#include "qt/export.h"
+#include "base/export.h"
 #include "qt/map/map_view.h"
 
 class QPainter;
@@ -11,7 +11,7 @@ namespace kv::map {
 
 /// A widget that shows a map and lets the user move it: the wheel, "+" and "-" zoom, the arrow keys
 /// pan, "Home" shows all. Until then it shows all of the map, whatever its size.
-class KVGUICTL_QT_API MapWidget : public QWidget {
+class KVGUICTL_API MapWidget : public QWidget {
 public:
     explicit MapWidget(QWidget* parent);
 

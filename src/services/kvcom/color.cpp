@@ -1,4 +1,4 @@
-#include "frame/color.h"
+#include "frame/kvcom/color.h"
 
 #include <algorithm>
 #include <array>

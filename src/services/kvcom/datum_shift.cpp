@@ -2,8 +2,8 @@
 #include <numbers>
 #include <string>
 
-#include "frame/log.h"
-#include "frame/util_lldrv.h"
+#include "frame/kvcom/util_lldrv.h"
+#include "frame/kvlogs/log.h"
 #include "services/kvcom/projections.h"
 
 namespace {

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <set>
 
-#include "frame/log.h"
-#include "window/paths.h"
-#include "window/text.h"
+#include "base/paths.h"
+#include "base/text.h"
+#include "frame/kvlogs/log.h"
 
 namespace kv {
 

@@ -1,13 +1,13 @@
-#include "frame/map_bounds.h"
+#include "frame/kvcom/map_bounds.h"
 
 #include <cmath>
 #include <tuple>
 #include <utility>
 
-#include "frame/angle.h"
-#include "frame/util_lldrv.h"
-#include "window/numbers.h"
-#include "window/text.h"
+#include "base/numbers.h"
+#include "base/text.h"
+#include "frame/kvcom/angle.h"
+#include "frame/kvcom/util_lldrv.h"
 
 namespace {
 

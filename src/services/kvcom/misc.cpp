@@ -1,4 +1,4 @@
-#include "frame/misc.h"
+#include "frame/kvcom/misc.h"
 
 #include <unistd.h>
 
@@ -6,10 +6,10 @@
 #include <cstdint>
 #include <utility>
 
+#include "base/paths.h"
+#include "base/text.h"
 #include "services/kvdbkvn/connection.h"
-#include "services/kvdbkvn/secrets.h"
-#include "window/paths.h"
-#include "window/text.h"
+#include "services/kvdbkvn/engines/secrets.h"
 
 namespace {
 

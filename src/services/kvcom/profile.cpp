@@ -1,8 +1,8 @@
-#include "frame/profile.h"
+#include "frame/kvcom/profile.h"
 
+#include "base/numbers.h"
+#include "base/user_folders.h"
 #include "services/kvcom/ini_file.h"
-#include "services/kvcom/user_folders.h"
-#include "window/numbers.h"
 
 namespace kv::profile {
 

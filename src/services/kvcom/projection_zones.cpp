@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <charconv>
 
-#include "frame/projection_code.h"
+#include "frame/kvcom/projection_code.h"
 
 namespace kv::coord {
 namespace {

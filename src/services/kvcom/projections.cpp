@@ -5,8 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include "base/text.h"
 #include "services/kvcom/projection_zones.h"
-#include "window/text.h"
 
 namespace kv::coord {
 

@@ -1,12 +1,12 @@
-#include "frame/ut_registry.h"
+#include "frame/kvcom/ut_registry.h"
 
 #include <array>
 
-#include "frame/log.h"
+#include "base/paths.h"
+#include "base/text.h"
+#include "base/user_folders.h"
+#include "frame/kvlogs/log.h"
 #include "services/kvcom/ini_file.h"
-#include "services/kvcom/user_folders.h"
-#include "window/paths.h"
-#include "window/text.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "frame/util_geo.h"
+#include "frame/kvcom/util_geo.h"
 
 #include <geos_c.h>
 

@@ -1,11 +1,11 @@
-#include "frame/util_lldrv.h"
+#include "frame/kvcom/util_lldrv.h"
 
 #include <cmath>
 #include <cstdint>
 #include <limits>
 #include <numbers>
 
-#include "frame/log.h"
+#include "frame/kvlogs/log.h"
 #include "services/kvcom/projections.h"
 
 namespace {

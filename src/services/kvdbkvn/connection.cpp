@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "services/kvcom/user_folders.h"
+#include "base/user_folders.h"
 
 namespace kv::db {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "frame/db_info.h"
+#include "frame/kvdbkvn/db_info.h"
 
 /// The connection record of the whole process.
 namespace kv::db {

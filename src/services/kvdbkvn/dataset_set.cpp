@@ -1,6 +1,6 @@
-#include "frame/db_dataset_set.h"
-#include "frame/ut_registry.h"
-#include "window/text.h"
+#include "base/text.h"
+#include "frame/kvcom/ut_registry.h"
+#include "frame/kvdbkvn/db_dataset_set.h"
 
 namespace {
 

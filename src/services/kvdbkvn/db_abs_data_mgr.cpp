@@ -1,12 +1,12 @@
-#include "frame/db_abs_data_mgr.h"
+#include "frame/kvdbkvn/db_abs_data_mgr.h"
 
 #include <utility>
 
-#include "frame/log.h"
-#include "frame/statement_trace.h"
+#include "frame/kvdbkvn/statement_trace.h"
+#include "frame/kvlogs/log.h"
 #include "services/kvdbkvn/connection.h"
-#include "services/kvdbkvn/dialect.h"
-#include "services/kvdbkvn/engine.h"
+#include "services/kvdbkvn/dialect/translate.h"
+#include "services/kvdbkvn/engines/engine.h"
 #include "services/kvdbkvn/session_pool.h"
 
 namespace {

@@ -1,4 +1,4 @@
-#include "frame/db_info.h"
+#include "frame/kvdbkvn/db_info.h"
 
 namespace {
 

@@ -1,17 +1,17 @@
-#include "frame/db_util.h"
+#include "frame/kvdbkvn/db_util.h"
 
 #include <algorithm>
 #include <cmath>
 #include <limits>
 
+#include "base/numbers.h"
+#include "base/text.h"
 #include "frame/catalogue.h"
-#include "frame/db_abs_data_mgr.h"
-#include "frame/db_dataset_set.h"
-#include "frame/log.h"
-#include "frame/table_owner.h"
-#include "frame/util_lldrv.h"
-#include "window/numbers.h"
-#include "window/text.h"
+#include "frame/kvcom/util_lldrv.h"
+#include "frame/kvdbkvn/db_abs_data_mgr.h"
+#include "frame/kvdbkvn/db_dataset_set.h"
+#include "frame/kvdbkvn/table_owner.h"
+#include "frame/kvlogs/log.h"
 
 namespace {
 

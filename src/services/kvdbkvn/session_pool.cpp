@@ -1,5 +1,7 @@
 #include "services/kvdbkvn/session_pool.h"
 
+#include "services/kvdbkvn/engines/open_session.h"
+
 #include <algorithm>
 #include <utility>
 

@@ -4,8 +4,8 @@
 #include <deque>
 #include <memory>
 
-#include "frame/db_info.h"
-#include "services/kvdbkvn/engine.h"
+#include "frame/kvdbkvn/db_info.h"
+#include "services/kvdbkvn/engines/engine.h"
 
 namespace kv::db {
 

@@ -1,4 +1,4 @@
-#include "frame/statement_trace.h"
+#include "frame/kvdbkvn/statement_trace.h"
 
 namespace kv::db {
 

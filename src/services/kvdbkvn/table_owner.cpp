@@ -1,6 +1,6 @@
-#include "frame/table_owner.h"
+#include "frame/kvdbkvn/table_owner.h"
 
-#include "frame/ut_registry.h"
+#include "frame/kvcom/ut_registry.h"
 
 CString CKvTableOwner::GetTableOwner() const {
     return CKvUtRegistry().GetRegistry("SOFTWARE\\KVI", "TABLE_OWNER", true);

@@ -1,12 +1,12 @@
-#include "frame/log.h"
+#include "frame/kvlogs/log.h"
 
 #include <array>
 #include <cstdio>
 #include <ctime>
 
-#include "services/kvcom/user_folders.h"
-#include "window/paths.h"
-#include "window/text.h"
+#include "base/paths.h"
+#include "base/text.h"
+#include "base/user_folders.h"
 
 namespace {
 

@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
+#include "base/text.h"
 #include "support/temp_folder.h"
-#include "window/text.h"
 
 namespace test {
 

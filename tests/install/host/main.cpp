@@ -5,8 +5,8 @@
 #include "frame/module.h"
 #include "pickers/abe_bar.h"
 #include "pickers/abe_bar_ids.h"
-#include "window/frame_wnd.h"
-#include "window/user.h"
+#include "window/acting/user.h"
+#include "window/frames/frame_wnd.h"
 
 using namespace kv::abe_bar;
 

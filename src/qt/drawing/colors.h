@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QColor>
+
+#include "base/types.h"
+#include "window/desktop.h"
+
+namespace kv::qt {
+
+inline QColor ToQColor(COLORREF color) {
+    return {GetRValue(color), GetGValue(color), GetBValue(color)};
+}
+inline COLORREF ToColorRef(const QColor& color) {
+    return RGB(color.red(), color.green(), color.blue());
+}
+
+/// Of the application's palette.
+COLORREF PaletteColor(SystemColor which);
+
+}  // namespace kv::qt

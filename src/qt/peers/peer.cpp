@@ -1,0 +1,267 @@
+#include "qt/peers/peer.h"
+
+#include <QHash>
+#include <algorithm>
+
+#include "qt/drawing/colors.h"
+#include "qt/drawing/text.h"
+#include "qt/peers/acting.h"
+#include "qt/peers/keyboard.h"
+#include "window/owner_draw.h"
+#include "window/window_system.h"
+
+namespace kv::qt {
+
+namespace {
+
+QHash<const QWidget*, Peer*>& Peers() {
+    static QHash<const QWidget*, Peer*> peers;
+    return peers;
+}
+
+bool IsGroupBox(const Node& node) {
+    return node.Class() == NodeClass::kButton && (node.Style() & BS_TYPEMASK) == BS_GROUPBOX;
+}
+
+bool IsLabel(const Node& node) {
+    return node.Class() == NodeClass::kStatic && !node.Text().empty() &&
+           (node.Style() & SS_TYPEMASK) != SS_ICON;
+}
+
+bool ShowsOwnText(const Node& node) {
+    return node.Class() == NodeClass::kButton || node.Class() == NodeClass::kStatic ||
+           node.Class() == NodeClass::kDialog || node.Class() == NodeClass::kFrame ||
+           node.Class() == NodeClass::kBar || node.Class() == NodeClass::kToolBar;
+}
+
+/// A control's text as the name of another one.
+QString NameFrom(const Node& node) {
+    QString name = PlainText(node.Text()).trimmed();
+    if (name.endsWith(u':')) name.chop(1);
+    return name;
+}
+
+/// A check box or radio button that has its text in another control.
+bool IsBareCheck(const Node& node) {
+    const DWORD kind = node.Style() & BS_TYPEMASK;
+    return node.Class() == NodeClass::kButton && node.Text().empty() &&
+           (kind == BS_AUTOCHECKBOX || kind == BS_AUTORADIOBUTTON);
+}
+
+/// The control with a text close to the right of another one, null for none.
+const Node* TextBeside(const Node& node) {
+    constexpr int kMostGap = 12;
+    const CRect& own = node.Rect();
+    for (const auto& sibling : node.Parent()->Children()) {
+        const CRect& other = sibling->Rect();
+        const int gap = other.left - own.right;
+        const bool beside =
+            gap >= 0 && gap <= kMostGap && other.top < own.bottom && other.bottom > own.top;
+        if (beside && ShowsOwnText(*sibling) && !sibling->Text().empty()) return sibling.get();
+    }
+    return nullptr;
+}
+
+/// Whether a label is the unit of the number that the spin button ahead of it steps.
+bool IsUnit(const Node& label, const Node& ahead) {
+    return ahead.Class() == NodeClass::kSpin && TextBeside(ahead) == &label;
+}
+
+/// The unit behind a spin button, or behind a control that has one; null for none.
+template <typename Next>
+const Node* UnitOf(const Node& node, Next next) {
+    const auto& siblings = node.Parent()->Children();
+    const Node* spin = &node;
+    if (node.Class() != NodeClass::kSpin) spin = next == siblings.end() ? nullptr : next->get();
+    if (!spin || spin->Class() != NodeClass::kSpin) return nullptr;
+    const Node* unit = TextBeside(*spin);
+    return unit && IsLabel(*unit) ? unit : nullptr;
+}
+
+}  // namespace
+
+Peer::Peer(Node& node, QWidget* widget) : node_(node), widget_(widget) {
+    AddWidget(*this, widget);
+    widget->setFocusPolicy(Qt::NoFocus);
+}
+
+Peer::~Peer() {
+    Peers().removeIf([this](const auto& each) { return each.value() == this; });
+    if (widget_) LetGo(widget_);
+    if (!node_.Parent()) SettleSoon();
+}
+
+Peer* PeerOf(const QWidget* widget) {
+    for (; widget; widget = widget->parentWidget()) {
+        if (Peer* peer = Peers().value(widget)) return peer;
+    }
+    return nullptr;
+}
+
+Peer* PeerOf(const Node& node) {
+    return dynamic_cast<Peer*>(node.GetView());
+}
+
+void AddWidget(Peer& peer, QWidget* widget) {
+    Peers().insert(widget, &peer);
+    TakeKeysOf(widget, peer.GetNode());
+}
+
+void Peer::ShowAll() {
+    ShowStyle();
+    ShowText();
+    ShowRect();
+    ShowEnabled();
+    ShowColors();
+    ShowName();
+    if (ChildHost()) MakeChildren();
+    ShowVisible();
+    if (WindowSystem::Get().Focus() == &node_) ShowFocus();
+}
+
+void Peer::Changed(Change change) {
+    if (!widget_) return;
+    switch (change) {
+        case Change::kText:
+            ShowText();
+            ShowName();
+            break;
+        case Change::kRect:
+            ShowRect();
+            break;
+        case Change::kEnabled:
+            ShowEnabled();
+            ShowColors();
+            SettleSoon();
+            break;
+        case Change::kVisible:
+            ShowVisible();
+            SettleSoon();
+            break;
+        case Change::kStyle:
+        case Change::kDefault:
+            ShowStyle();
+            ShowColors();
+            break;
+        case Change::kFocus:
+            ShowFocus();
+            break;
+        case Change::kChildren:
+            if (ChildHost()) MakeChildren();
+            break;
+        case Change::kZOrder:
+            ShowOrder();
+            break;
+        case Change::kPaint:
+            ShowColors();
+            widget_->update();
+            break;
+        default:
+            widget_->update();
+            break;
+    }
+}
+
+void Peer::ShowRect() {
+    widget_->setGeometry(CurrentScale().ToScreen(node_.Rect()));
+}
+
+void Peer::ShowEnabled() {
+    widget_->setEnabled(node_.Enabled());
+}
+
+void Peer::ShowVisible() {
+    widget_->setVisible(node_.Visible());
+}
+
+void Peer::ShowFocus() {
+    if (WindowSystem::Get().Focus() != &node_) return;
+    widget_->setFocus(Qt::OtherFocusReason);
+    QWidget* window = widget_->window();
+    if (window->isVisible() && !window->isActiveWindow()) window->activateWindow();
+}
+
+/// The first child of the order lies in front.
+void Peer::ShowOrder() {
+    for (const auto& child : node_.Children()) {
+        if (Peer* peer = PeerOf(*child); peer && peer->Widget()) peer->Widget()->lower();
+    }
+}
+
+void Peer::MakeChildren() {
+    const auto children = node_.Children();
+    for (const auto& child : children) {
+        if (!child->GetView() && !child->Destroyed()) MakePeer(*child, ChildHost());
+    }
+    for (const auto& child : children) {
+        Peer* peer = IsGroupBox(*child) ? PeerOf(*child) : nullptr;
+        if (peer && peer->Widget()) peer->Widget()->lower();
+    }
+}
+
+void Peer::ShowColors() {
+    CDC context;
+    const ControlColors colors = AskColors(node_, context);
+    const bool field = node_.Class() == NodeClass::kEdit || node_.Class() == NodeClass::kComboBox ||
+                       node_.Class() == NodeClass::kListBox ||
+                       node_.Class() == NodeClass::kListView;
+    const std::initializer_list<SystemColor> texts = {
+        SystemColor::kWindowText, SystemColor::kButtonText, SystemColor::kGrayText};
+    const std::initializer_list<SystemColor> backgrounds = {SystemColor::kWindow,
+                                                            SystemColor::kButtonFace};
+    const auto isPlatform = [](COLORREF color, std::initializer_list<SystemColor> own) {
+        return std::any_of(own.begin(), own.end(),
+                           [color](SystemColor each) { return PaletteColor(each) == color; });
+    };
+    QPalette palette = OwnPalette();
+    if (!isPlatform(colors.text, texts)) {
+        palette.setColor(field ? QPalette::Text : QPalette::WindowText, ToQColor(colors.text));
+        palette.setColor(QPalette::ButtonText, ToQColor(colors.text));
+    }
+    const bool ownBackground = colors.background && !isPlatform(*colors.background, backgrounds);
+    if (ownBackground) {
+        palette.setColor(field ? QPalette::Base : QPalette::Window, ToQColor(*colors.background));
+    }
+    if (palette.resolveMask() == 0 && !widget_->testAttribute(Qt::WA_SetPalette)) return;
+    widget_->setPalette(palette);
+    widget_->setAutoFillBackground(ownBackground && !field);
+}
+
+QString AccessibleName(const Node& node) {
+    if (ShowsOwnText(node) && !node.Text().empty()) return PlainText(node.Text());
+    const Node* parent = node.Parent();
+    if (parent && parent->Class() == NodeClass::kComboBox) return AccessibleName(*parent);
+    if (!parent || node.Class() == NodeClass::kStatic) return {};
+    if (const Node* beside = IsBareCheck(node) ? TextBeside(node) : nullptr) {
+        return NameFrom(*beside);
+    }
+    const auto& siblings = parent->Children();
+    auto at = std::find_if(siblings.begin(), siblings.end(),
+                           [&](const auto& each) { return each.get() == &node; });
+    const Node* unit = UnitOf(node, at == siblings.end() ? at : std::next(at));
+    const QString behind = unit ? u' ' + NameFrom(*unit) : QString();
+    while (at != siblings.begin()) {
+        --at;
+        const bool label =
+            IsLabel(**at) && !(at != siblings.begin() && IsUnit(**at, **std::prev(at)));
+        if (label || (IsGroupBox(**at) && !(*at)->Text().empty())) {
+            return NameFrom(**at) + behind;
+        }
+    }
+    return PlainText(parent->Text()) + behind;
+}
+
+void Peer::ShowName() {
+    widget_->setAccessibleName(AccessibleName(node_));
+    if (!ShowsOwnText(node_) || !node_.Parent()) return;
+    // Controls without a text of their own may go by this one's.
+    for (const auto& sibling : node_.Parent()->Children()) {
+        const bool ownText = ShowsOwnText(*sibling) && !sibling->Text().empty();
+        Peer* peer = ownText ? nullptr : PeerOf(*sibling);
+        if (peer && peer->Widget()) {
+            peer->Widget()->setAccessibleName(AccessibleName(*sibling));
+        }
+    }
+}
+
+}  // namespace kv::qt

@@ -1,0 +1,141 @@
+#include "qt/peers/static_peer.h"
+
+#include <QContextMenuEvent>
+#include <QMenu>
+#include <QPainter>
+#include <QStyle>
+#include <algorithm>
+
+#include "qt/drawing/paint.h"
+#include "qt/drawing/text.h"
+#include "window/desktop.h"
+#include "window/window_system.h"
+
+namespace kv::qt {
+
+namespace {
+
+constexpr int kGap = 3;
+
+/// How wide a label could be without touching what lies beside it, on the screen.
+int FreeWidth(const Node& label) {
+    const CRect own = label.Rect();
+    int right = label.Parent()->Rect().Width();
+    for (const auto& sibling : label.Parent()->Children()) {
+        const CRect& other = sibling->Rect();
+        const bool beside = other.top < own.bottom && other.bottom > own.top;
+        const bool around = other.left <= own.left && other.right >= own.right;
+        if (sibling.get() == &label || !beside) continue;
+        if (around) {
+            right = std::min(right, other.right);
+        } else if (other.left >= own.right) {
+            right = std::min(right, other.left);
+        }
+    }
+    return CurrentScale().ToScreen(CSize{right - own.left, 0}).width() - kGap;
+}
+
+bool IsPicture(const Node& node) {
+    const DWORD kind = node.Style() & SS_TYPEMASK;
+    return kind == SS_ICON || kind == SS_BITMAP;
+}
+
+/// How much narrower a text that finds no room may be drawn before it is cut.
+constexpr double kLeastStretch = 0.8;
+
+class LabelView : public QLabel {
+public:
+    LabelView(Node& node, QWidget* host) : QLabel(host), node_(node.weak_from_this()) {}
+
+protected:
+    void paintEvent(QPaintEvent* event) override {
+        const auto node = node_.lock();
+        if (!node || PaintByLayer(*this, *node)) return;
+        if (IsPicture(*node)) {
+            QLabel::paintEvent(event);
+            return;
+        }
+        QPainter painter(this);
+        PaintText(painter, *node);
+    }
+
+    void contextMenuEvent(QContextMenuEvent* event) override {
+        const auto node = node_.lock();
+        if (!node || node->Text().empty() || IsPicture(*node)) return;
+        auto* menu = new QMenu(this);
+        menu->setAttribute(Qt::WA_DeleteOnClose);
+        menu->addAction(tr("&Copy"), [weak = node_] {
+            if (const auto label = weak.lock()) {
+                WindowSystem::Get().GetDesktop().SetClipboardText(label->Text());
+            }
+        });
+        menu->popup(event->globalPos());
+    }
+
+private:
+    /// A label as high as several lines breaks its text; in one of a single line it stands in the
+    /// middle, as the text of the edit beside it does.
+    void PaintText(QPainter& painter, const Node& node) {
+        const QFontMetrics metrics = fontMetrics();
+        const bool severalLines = height() >= 2 * metrics.lineSpacing() - 2;
+        const DWORD kind = node.Style() & SS_TYPEMASK;
+        int flags = kind == SS_CENTER  ? Qt::AlignHCenter
+                    : kind == SS_RIGHT ? Qt::AlignRight
+                                       : Qt::AlignLeft;
+        flags |= severalLines ? Qt::AlignTop | Qt::TextWordWrap : Qt::AlignVCenter;
+        if (!node.HasStyle(SS_NOPREFIX)) flags |= Qt::TextShowMnemonic;
+        QString text = ToQString(node.Text());
+        QRect place = rect();
+        const int wanted = severalLines ? 0 : metrics.size(flags, text).width();
+        if (wanted > width()) {
+            const double narrower = std::max(kLeastStretch, 1.0 * width() / wanted);
+            painter.scale(narrower, 1);
+            place.setWidth(static_cast<int>(width() / narrower) + 1);
+            text = metrics.elidedText(text, Qt::ElideRight, place.width(), flags);
+        }
+        style()->drawItemText(&painter, place, flags, palette(), isEnabled(), text,
+                              foregroundRole());
+    }
+
+    std::weak_ptr<Node> node_;
+};
+
+}  // namespace
+
+StaticPeer::StaticPeer(StaticNode& node, QWidget* host) : Peer(node, new LabelView(node, host)) {}
+
+void StaticPeer::Changed(Change change) {
+    Peer::Changed(change);
+    if (change == Change::kImage) ShowStyle();
+}
+
+/// A text that is wider in the platform's font than in the layer's takes the free space behind it.
+void StaticPeer::ShowRect() {
+    Peer::ShowRect();
+    const Node& node = GetNode();
+    const QRect place = Widget()->geometry();
+    const int wanted =
+        Widget()->fontMetrics().size(Qt::TextShowMnemonic, ToQString(node.Text())).width() + 1;
+    const bool growable = !IsPicture(node) && (node.Style() & SS_TYPEMASK) == SS_LEFT &&
+                          place.height() < 2 * Widget()->fontMetrics().lineSpacing() - 2;
+    if (!growable || wanted <= place.width() || !node.Parent()) return;
+    const int grown = std::max(place.width(), std::min(wanted, FreeWidth(node)));
+    Widget()->resize(grown, place.height());
+}
+
+void StaticPeer::ShowText() {
+    ShowRect();
+    auto* label = static_cast<QLabel*>(Widget());
+    if (!IsPicture(GetNode())) label->setText(PlainText(GetNode().Text()));
+}
+
+void StaticPeer::ShowStyle() {
+    auto* label = static_cast<QLabel*>(Widget());
+    label->setTextFormat(Qt::PlainText);
+    if (!IsPicture(GetNode())) return;
+    const auto image = static_cast<int>(static_cast<StaticNode&>(GetNode()).Image());
+    label->setPixmap(PixmapOf(image));
+    label->setAlignment(Qt::AlignCenter);
+}
+
+}  // namespace kv::qt

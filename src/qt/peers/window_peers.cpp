@@ -1,0 +1,282 @@
+#include "qt/peers/window_peers.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QDialog>
+#include <QKeyEvent>
+#include <QMainWindow>
+#include <QToolBar>
+#include <algorithm>
+
+#include "qt/drawing/paint.h"
+#include "qt/drawing/text.h"
+#include "qt/peers/acting.h"
+#include "qt/peers/keyboard.h"
+#include "window/acting/input.h"
+#include "window/dialogs/dialog.h"
+#include "window/frames/control_bar.h"
+#include "window/window_system.h"
+
+namespace kv::qt {
+
+namespace {
+
+constexpr int kBarMargin = 7;
+
+QWidget* OwnerOf(const Node& node) {
+    Peer* owner = node.Owner() ? PeerOf(*node.Owner()->Root()) : nullptr;
+    return owner ? owner->Widget() : nullptr;
+}
+
+/// Brings a window that has just been shown to the front. Where no window manager does so, the
+/// keyboard is to be fetched, too.
+void ComeUp(const Node& node, QWidget& window) {
+    window.raise();
+    if (WindowSystem::Get().ActiveWindow() == &node) window.activateWindow();
+}
+
+/// A window of the platform, whose user closes, moves and activates it through the layer.
+template <typename Base>
+class WindowView : public Base {
+public:
+    WindowView(Node& node, QWidget* owner) : Base(owner), node_(node.weak_from_this()) {}
+
+    void Place(const CRect& rect, bool fixedSize) {
+        mirroring_ = true;
+        const Scale scale = CurrentScale();
+        const QRect place = scale.ToScreen(rect);
+        // A place that is only rounded otherwise is the same one.
+        const CRect stands = scale.ToLogical(ClientPlace());
+        if (fixedSize) {
+            this->setFixedSize(place.size());
+        } else if (!placed_ || stands.Size() != rect.Size()) {
+            this->resize(place.size());
+        }
+        if (!placed_ || stands.TopLeft() != rect.TopLeft()) {
+            const QPoint frame = this->geometry().topLeft() - this->pos();
+            this->move(place.topLeft() - frame);
+        }
+        placed_ = true;
+        mirroring_ = false;
+    }
+
+protected:
+    bool event(QEvent* event) override {
+        const bool done = Base::event(event);
+        if (event->type() == QEvent::WindowActivate && !HostHasFocus()) {
+            Act(node_, [](Node& window) { input::Activate(window); });
+        }
+        return done;
+    }
+    void closeEvent(QCloseEvent* event) override {
+        event->ignore();
+        Act(node_, [](Node& window) { input::CloseWindow(window); });
+    }
+    void moveEvent(QMoveEvent* event) override {
+        Base::moveEvent(event);
+        TellPlace();
+    }
+    void resizeEvent(QResizeEvent* event) override {
+        Base::resizeEvent(event);
+        TellPlace();
+    }
+    void paintEvent(QPaintEvent* event) override {
+        const auto node = node_.lock();
+        if (node && !PaintByLayer(*this, *node)) Base::paintEvent(event);
+    }
+    void mousePressEvent(QMouseEvent* event) override {
+        if (event->button() != Qt::LeftButton) return;
+        Act(node_, [&](Node& window) {
+            input::Press(window, PlaceOf(*event), ToModifiers(event->modifiers()));
+        });
+    }
+    void mouseReleaseEvent(QMouseEvent* event) override {
+        if (event->button() != Qt::LeftButton) return;
+        Act(node_, [&](Node& window) { input::Release(window, PlaceOf(*event)); });
+    }
+    void keyPressEvent(QKeyEvent* event) override { event->ignore(); }
+
+    std::weak_ptr<Node> node_;
+
+private:
+    static CPoint PlaceOf(const QMouseEvent& event) {
+        return CurrentScale().ToLogical(event.position().toPoint());
+    }
+    QRect ClientPlace() const { return this->geometry(); }
+
+    /// A widget that the host has put into the window keeps the focus.
+    bool HostHasFocus() const {
+        const QWidget* focus = this->focusWidget();
+        Peer* peer = focus ? PeerOf(focus) : nullptr;
+        return focus && focus != this && peer && peer->Widget() == this;
+    }
+
+    void TellPlace() {
+        if (mirroring_ || !this->isVisible()) return;
+        const auto node = node_.lock();
+        if (!node || node->Destroyed()) return;
+        mirroring_ = true;
+        CRect rect = CurrentScale().ToLogical(ClientPlace());
+        if (this->minimumSize() == this->maximumSize()) {
+            rect.right = rect.left + node->Rect().Width();
+            rect.bottom = rect.top + node->Rect().Height();
+        }
+        node->SetRect(rect);
+        mirroring_ = false;
+    }
+
+    bool mirroring_ = false;
+    bool placed_ = false;
+};
+
+class DialogView : public WindowView<QDialog> {
+public:
+    DialogView(Node& node, QWidget* owner) : WindowView(node, owner) {
+        setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+        const auto* dialog = dynamic_cast<const DialogNode*>(&node);
+        if (!dialog || !dialog->Modal()) return;
+        setWindowModality(owner ? Qt::WindowModal : Qt::ApplicationModal);
+    }
+    /// It is the node that ends.
+    void done(int) override {
+        Act(node_, [](Node& window) { input::CloseWindow(window); });
+    }
+};
+
+class BodyView : public QWidget {
+public:
+    BodyView(Node& node, QWidget* parent) : QWidget(parent), node_(node.weak_from_this()) {}
+
+protected:
+    void paintEvent(QPaintEvent* event) override {
+        const auto node = node_.lock();
+        if (node && !PaintByLayer(*this, *node)) QWidget::paintEvent(event);
+    }
+
+private:
+    std::weak_ptr<Node> node_;
+};
+
+QWidget* MakeBar(Node& node, QWidget* host) {
+    auto* frame = qobject_cast<QMainWindow*>(host);
+    if (!frame) return new BodyView(node, host);
+    auto* bar = new QToolBar(frame);
+    bar->setObjectName(QStringLiteral("bar%1").arg(node.Id()));
+    bar->addWidget(new BodyView(node, bar));
+    frame->addToolBar(bar);
+    const auto weak = node.weak_from_this();
+    QObject::connect(bar, &QToolBar::visibilityChanged, bar, [weak, bar] {
+        const auto shown = weak.lock();
+        if (!shown || shown->Destroyed() || shown->Visible() == !bar->isHidden()) return;
+        Act(weak, [bar](Node& each) { each.SetVisible(!bar->isHidden()); });
+    });
+    return bar;
+}
+
+const CControlBar* HandleOf(Node& node) {
+    return dynamic_cast<CControlBar*>(node.Handle());
+}
+
+Qt::ToolBarAreas AreasOf(DWORD sides) {
+    Qt::ToolBarAreas areas;
+    areas.setFlag(Qt::LeftToolBarArea, sides & CBRS_ALIGN_LEFT);
+    areas.setFlag(Qt::TopToolBarArea, sides & CBRS_ALIGN_TOP);
+    areas.setFlag(Qt::RightToolBarArea, sides & CBRS_ALIGN_RIGHT);
+    areas.setFlag(Qt::BottomToolBarArea, sides & CBRS_ALIGN_BOTTOM);
+    return areas;
+}
+
+}  // namespace
+
+DialogPeer::DialogPeer(Node& node) : Peer(node, new DialogView(node, OwnerOf(node))) {}
+
+void DialogPeer::ShowText() {
+    Widget()->setWindowTitle(ToQString(GetNode().Text()));
+}
+
+void DialogPeer::ShowRect() {
+    static_cast<DialogView*>(Widget())->Place(GetNode().Rect(), true);
+}
+
+void DialogPeer::ShowVisible() {
+    const bool visible = GetNode().Visible();
+    if (visible == Widget()->isVisible()) return;
+    Widget()->setVisible(visible);
+    if (visible) ComeUp(GetNode(), *Widget());
+}
+
+FramePeer::FramePeer(Node& node) : Peer(node, new WindowView<QMainWindow>(node, nullptr)) {
+    // Which bars there are is for the host to say.
+    Widget()->setContextMenuPolicy(Qt::NoContextMenu);
+}
+
+void FramePeer::ShowText() {
+    Widget()->setWindowTitle(ToQString(GetNode().Text()));
+}
+
+void FramePeer::ShowRect() {
+    static_cast<WindowView<QMainWindow>*>(Widget())->Place(GetNode().Rect(), false);
+}
+
+void FramePeer::ShowVisible() {
+    const bool visible = GetNode().Visible();
+    if (visible == Widget()->isVisible()) return;
+    Widget()->setVisible(visible);
+    if (visible) ComeUp(GetNode(), *Widget());
+}
+
+BarPeer::BarPeer(Node& node, QWidget* host) : Peer(node, MakeBar(node, host)) {}
+
+QMainWindow* BarPeer::Frame() const {
+    return qobject_cast<QMainWindow*>(Widget()->parentWidget());
+}
+
+QWidget* BarPeer::ChildHost() {
+    if (!Frame()) return Widget();
+    auto* bar = static_cast<QToolBar*>(Widget());
+    return bar->widgetForAction(bar->actions().constFirst());
+}
+
+void BarPeer::Changed(Change change) {
+    Peer::Changed(change);
+    if (Widget() && change == Change::kChildren) ShowRect();
+}
+
+void BarPeer::ShowText() {
+    if (Frame()) Widget()->setWindowTitle(ToQString(GetNode().Text()));
+}
+
+void BarPeer::ShowVisible() {
+    ShowDocking();
+    Peer::ShowVisible();
+}
+
+/// In a frame it lies where it is docked, as wide as its controls ask for.
+void BarPeer::ShowRect() {
+    if (!Frame()) {
+        Peer::ShowRect();
+        return;
+    }
+    ShowDocking();
+    CSize extent{0, GetNode().Rect().Height()};
+    for (const auto& child : GetNode().Children()) {
+        extent.cx = std::max(extent.cx, child->Rect().right + kBarMargin);
+    }
+    ChildHost()->setFixedSize(CurrentScale().ToScreen(extent));
+}
+
+void BarPeer::ShowDocking() {
+    const CControlBar* handle = HandleOf(GetNode());
+    if (!Frame() || !handle) return;
+    auto* bar = static_cast<QToolBar*>(Widget());
+    const DWORD sides = handle->GetDockStyle();
+    bar->setMovable(sides != 0);
+    bar->setFloatable(sides != 0);
+    if (sides) bar->setAllowedAreas(AreasOf(sides));
+    const bool atBottom = handle->GetBarStyle() & CBRS_ALIGN_BOTTOM;
+    if (atBottom && Frame()->toolBarArea(bar) != Qt::BottomToolBarArea && !Widget()->isVisible()) {
+        Frame()->addToolBar(Qt::BottomToolBarArea, bar);
+    }
+}
+
+}  // namespace kv::qt

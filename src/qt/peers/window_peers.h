@@ -1,0 +1,58 @@
+#pragma once
+
+#include "qt/peers/peer.h"
+
+class QMainWindow;
+
+namespace kv::qt {
+
+/// A dialog: a window of its own, modal or not.
+class DialogPeer : public Peer {
+public:
+    explicit DialogPeer(Node& node);
+
+    void ShowRect() override;
+
+protected:
+    void ShowText() override;
+    /// The owner of a modal dialog does not react, and looks as ever.
+    void ShowEnabled() override {}
+    void ShowVisible() override;
+    void ShowFocus() override {}
+    QWidget* ChildHost() override { return Widget(); }
+};
+
+/// A main window.
+class FramePeer : public Peer {
+public:
+    explicit FramePeer(Node& node);
+
+    void ShowRect() override;
+
+protected:
+    void ShowText() override;
+    void ShowEnabled() override {}
+    void ShowVisible() override;
+    void ShowFocus() override {}
+    QWidget* ChildHost() override { return Widget(); }
+};
+
+/// A bar with controls: of a frame it docks and floats, anywhere else it is a control.
+class BarPeer : public Peer {
+public:
+    BarPeer(Node& node, QWidget* host);
+
+    void Changed(Change change) override;
+    void ShowRect() override;
+
+protected:
+    void ShowText() override;
+    void ShowVisible() override;
+    QWidget* ChildHost() override;
+
+private:
+    QMainWindow* Frame() const;
+    void ShowDocking();
+};
+
+}  // namespace kv::qt

@@ -1,0 +1,162 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "services/kvdbkvn/dialect/ast.h"
+#include "services/kvdbkvn/dialect/context.h"
+#include "services/kvdbkvn/dialect/types.h"
+
+namespace kv::dialect {
+
+/// Thrown when the text to print gets out of proportion to the text that was read: forms that name
+/// an operand several times can be put into one another.
+struct TooLong {};
+
+/// Prints a statement for SQLite or PostgreSQL. One printer prints one statement.
+class Printer {
+public:
+    /// `mostText`: the longest text that is printed, in bytes.
+    Printer(const Context& context, std::size_t mostText, std::vector<std::string>& notes);
+
+    /// Empty when the engine has no counterpart.
+    std::string Print(const Statement& statement);
+
+private:
+    /// How tightly the outermost operator of an expression binds.
+    enum class Rank { kAny, kAnd, kNot, kPredicate, kSum, kProduct, kSign, kPrimary };
+
+    /// What rows are ordered by: one of their columns, or an expression.
+    struct SortKey {
+        std::optional<std::size_t> column;
+        const Expr* expr = nullptr;
+        bool descending = false;
+        Nulls nulls = Nulls::kDefault;
+    };
+
+    /// Which integers of a union stand beside texts, by column.
+    using AsTextFlags = std::vector<bool>;
+
+    bool ForPostgres() const { return context_.target == Target::kPostgres; }
+
+    void Put(std::string_view text);
+    void Put(std::size_t number);
+    template <typename List, typename PutOne>
+    void PutList(const List& list, PutOne putOne);
+
+    // Statements
+    void PutStatement(Query* const& query);
+    void PutStatement(const InsertStatement& insert);
+    void PutStatement(const DeleteStatement& statement);
+    void PutStatement(const UpdateStatement& update);
+    void PutStatement(const CreateTableStatement& create);
+    void PutStatement(const DropTableStatement& drop);
+    void PutStatement(const OtherDefinition& definition);
+    void PutStatement(const GrantStatement& grant);
+    void PutStatement(const CommitStatement& commit);
+    void PutAssignment(const Assignment& assignment);
+    void PutColumn(const ColumnDefinition& column, bool inPrimaryKey);
+    void PutKey(const KeyDefinition& key);
+    void PutWhere(const Expr* where);
+    std::vector<std::string_view> GrantedPrivileges(const GrantStatement& grant);
+    bool PutLiteralRows(const Query& query);
+
+    // Names
+    bool HasSchema(std::string_view name);
+    void PutName(std::string_view name);
+    void PutNames(const std::vector<std::string_view>& names);
+    void PutNamesInBrackets(const std::vector<std::string_view>& names);
+    void PutTableName(const TableName& table);
+
+    // Queries
+    void PutQuery(const Query& query, bool outermost);
+    void PutMembers(const Query& query, const AsTextFlags& asText, bool named);
+    void PutMember(const Member& member, const AsTextFlags& asText, bool named);
+    void PutSelect(const Select& select, const AsTextFlags& asText, bool named);
+    void PutSelectItem(const SelectItem& item, bool asText);
+    void PutFrom(const Select& select);
+    void PutTableRef(const TableRef& ref);
+    void PutTableDictionary();
+    AsTextFlags FindIntegersBesideTexts(const Query& query) const;
+
+    // Order
+    std::vector<SortKey> SortKeysOf(const Query& query, bool outermost) const;
+    void PutOrderOfRows(const Query& query, const std::vector<SortKey>& keys);
+    void PutOrdinals(const std::vector<SortKey>& keys);
+    void PutWrapped(const Query& query, const AsTextFlags& asText,
+                    const std::vector<SortKey>& keys);
+    void PutSortKey(const SortKey& key, Type type, const std::function<void()>& putValue);
+    void PutDirection(const SortKey& key);
+    static Type ColumnType(const Query& query, std::size_t column, const AsTextFlags& asText);
+
+    // Expressions
+    Rank RankOf(const Expr& expr) const;
+    void PutExpr(const Expr& expr);
+    /// In brackets if its operator binds less tightly.
+    void PutExpr(const Expr& expr, Rank atLeast);
+    void PutText(const Expr& expr);
+    void PutColumnName(const Expr& column);
+    void PutConcat(const Expr& concat, bool emptyIsNull);
+    void PutConcatPart(const Expr& part);
+    void PutArithmetic(const Expr& expr);
+    void PutChain(const Expr& chain, std::string_view between, Rank atLeast);
+    void PutComparison(const Expr& comparison);
+    void PutComparand(const Expr& expr, const Expr& other, std::string_view sign);
+    void PutInByteOrder(const Expr& expr);
+    void PutLike(const Expr& like);
+    void PutBetween(const Expr& between);
+    void PutIn(const Expr& in);
+    void PutCase(const Expr& choice);
+    void PutNested(const Query& query);
+
+    // Functions
+    struct Function;
+    static const Function* FindFunction(const Expr& call);
+    void PutCall(const Expr& call);
+    void PutDecode(const Expr& call);
+    void PutDecodeTest(const Expr& value, const Expr& search);
+    void PutDecodeSearch(const Expr& value, const Expr& search);
+    void PutDecodeResult(const Expr& result, Type first);
+    void PutAsTextLiteral(const Expr& expr);
+    void PutInteger(const Expr& expr);
+    void PutNvl(const Expr& call);
+    void PutSubstr(const Expr& call);
+    void PutSubstrFrom(const Expr& call, const std::function<void()>& putStart);
+    void PutSubstrAnywhere(const Expr& call);
+    void PutToChar(const Expr& call);
+    void PutToNumber(const Expr& call);
+    void PutLeaseSort(const Expr& call);
+
+    /// The column of the rows being ordered that an expression is; only inside of `PutWrapped`.
+    std::optional<std::size_t> OutputOf(const Expr& expr) const;
+
+    const Context& context_;
+    std::size_t mostText_;
+    std::vector<std::string>& notes_;
+    std::string out_;
+    std::vector<std::pair<std::string_view, bool>> schemas_;
+    const std::vector<SelectItem>* outputs_ = nullptr;
+    int insideNot_ = 0;
+    std::size_t unnamedQueries_ = 0;
+};
+
+/// Index of the select item that an order's key means: by its number, its alias, or as the same
+/// expression. Without a value where it is an expression of its own.
+std::optional<std::size_t> FindItem(const std::vector<SelectItem>& items, const Expr& key);
+
+template <typename List, typename PutOne>
+void Printer::PutList(const List& list, PutOne putOne) {
+    bool first = true;
+    for (const auto& element : list) {
+        if (!first) Put(", ");
+        first = false;
+        putOne(element);
+    }
+}
+
+}  // namespace kv::dialect

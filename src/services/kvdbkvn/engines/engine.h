@@ -1,0 +1,52 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "base/export.h"
+#include "services/kvdbkvn/dialect/context.h"
+
+/// The engines below `CKvDbAbsDataMgr`: a small class over each client library.
+namespace kv::db {
+
+/// What a text that does more than read is refused with, when it comes where only a query may.
+inline constexpr const char* kOnlyReads =
+    "Refused: only a statement that reads may be run here, and this one does more";
+/// What a text that holds several statements is refused with.
+inline constexpr const char* kOneStatement = "Refused: the text holds more than one statement";
+
+/// Rows of a query: cells as the engine's own text, null as "".
+class KVGUICTL_API Rows {
+public:
+    virtual ~Rows() = default;
+    virtual int Count() const = 0;
+    virtual int Columns() const = 0;
+    /// Both indices in range. Valid as long as the object.
+    virtual const char* Cell(int row, int column) const = 0;
+};
+
+/// One open session. Every operation throws CKvException with the engine's own words; none of these
+/// ever holds the password.
+class Session {
+public:
+    virtual ~Session() = default;
+    virtual dialect::Target Target() const = 0;
+    /// Whether statements may call the function `lesort`.
+    virtual bool HasLeaseSort() const = 0;
+    /// False once the server is known to be gone: the session is then not used again.
+    virtual bool IsAlive() = 0;
+    /// Whether there is a schema of that name, whatever the case of its letters.
+    virtual bool HasSchema(const std::string& name) = 0;
+
+    /// Runs one statement that reads; refuses any other, whatever `sql` claims to be. Sees what
+    /// the open transaction has changed.
+    virtual std::unique_ptr<Rows> Query(const std::string& sql) = 0;
+    /// Runs one statement inside the session's open transaction, which it begins if there is none.
+    /// A failure undoes that statement alone. Returns the number of rows changed.
+    virtual int Execute(const std::string& sql) = 0;
+    /// End the open transaction, if there is one.
+    virtual void Commit() = 0;
+    virtual void Rollback() noexcept = 0;
+};
+
+}  // namespace kv::db

@@ -1,0 +1,333 @@
+#include <libpq-fe.h>
+#include <poll.h>
+
+#include <charconv>
+#include <cstring>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "base/text.h"
+#include "services/kvdbkvn/engines/engine_module.h"
+#include "services/kvdbkvn/engines/postgres_set_up.h"
+
+namespace kv::db {
+namespace {
+
+/// What holds unless the URL says otherwise: a host that does not answer, or no longer answers, is
+/// given up within seconds, since a user waits.
+constexpr std::pair<const char*, const char*> kDefaults[] = {
+    {"fallback_application_name", "KVGuiCtl"},
+    {"connect_timeout", "10"},
+    {"keepalives_idle", "30"},
+    {"tcp_user_timeout", "30000"},
+};
+
+constexpr const char* kSetUp[] = {
+    kPostgresSearchPath,
+    "set standard_conforming_strings to on",
+    "set datestyle to 'ISO'",
+};
+
+struct Clear {
+    void operator()(PGresult* result) const { PQclear(result); }
+    void operator()(PGconn* connection) const { PQfinish(connection); }
+};
+using Result = std::unique_ptr<PGresult, Clear>;
+using Connection = std::unique_ptr<PGconn, Clear>;
+
+class PostgresRows final : public Rows {
+public:
+    explicit PostgresRows(Result result) : result_(std::move(result)) {}
+    int Count() const override { return PQntuples(result_.get()); }
+    int Columns() const override { return PQnfields(result_.get()); }
+    const char* Cell(int row, int column) const override {
+        return PQgetvalue(result_.get(), row, column);
+    }
+
+private:
+    Result result_;
+};
+
+/// The server now expects rows to be copied, or sends them so, which nobody here does.
+bool IsCopy(const Result& result) {
+    const ExecStatusType status = PQresultStatus(result.get());
+    return status == PGRES_COPY_IN || status == PGRES_COPY_OUT || status == PGRES_COPY_BOTH;
+}
+
+bool Succeeded(const Result& result) {
+    const ExecStatusType status = PQresultStatus(result.get());
+    return status == PGRES_COMMAND_OK || status == PGRES_TUPLES_OK;
+}
+
+/// One command of a batch: a statement to be run, to be prepared, or described; the last two look
+/// at the one that was prepared.
+struct Command {
+    enum class Kind { kRun, kPrepare, kDescribePrepared, kRunPrepared } kind;
+    std::string sql = {};
+};
+
+Command Run(std::string sql) {
+    return {Command::Kind::kRun, std::move(sql)};
+}
+
+class PostgresSession final : public ModuleSession {
+public:
+    explicit PostgresSession(Connection connection) : connection_(std::move(connection)) {}
+
+    /// Settles what the statements rely on. False, with the reason, when the server will not.
+    bool SetUp(std::string& failure) {
+        PQsetNoticeProcessor(
+            connection_.get(), [](void*, const char*) {}, nullptr);
+        if (PQenterPipelineMode(connection_.get()) != 1) return Fail(failure);
+        std::vector<Command> commands;
+        for (const char* sql : kSetUp)
+            commands.push_back(Run(sql));
+        // Such a server keeps bytes as they come and converts none.
+        const char* encoding = PQparameterStatus(connection_.get(), "server_encoding");
+        if (encoding && std::strcmp(encoding, "SQL_ASCII") == 0)
+            commands.push_back(Run("set client_encoding to SQL_ASCII"));
+        return RunAll(std::move(commands), failure);
+    }
+
+    dialect::Target Target() const noexcept override { return dialect::Target::kPostgres; }
+
+    /// A server that went away has closed the connection; taking in what it sent last tells.
+    bool IsAlive() noexcept override {
+        PGconn* connection = connection_.get();
+        constexpr int kMostMessages = 8;
+        for (int i = 0; i < kMostMessages && PQstatus(connection) == CONNECTION_OK; ++i) {
+            pollfd socket{PQsocket(connection), POLLIN, 0};
+            if (poll(&socket, 1, 0) <= 0) break;
+            if (PQconsumeInput(connection) != 1) return false;
+        }
+        return PQstatus(connection) == CONNECTION_OK;
+    }
+
+    bool HasSchema(const std::string& name) noexcept override {
+        if (const auto known = schemas_.find(name); known != schemas_.end()) return known->second;
+        const std::string lower = ToLower(name);
+        char* quoted = PQescapeLiteral(connection_.get(), lower.data(), lower.size());
+        if (!quoted) return false;
+        const std::string sql = std::string("select 1 from pg_namespace where nspname = ") + quoted;
+        PQfreemem(quoted);
+        const std::vector<Result> results = Batch({Run(sql)});
+        if (!Succeeded(results[0])) return false;
+        return schemas_[name] = PQntuples(results[0].get()) > 0;
+    }
+
+    /// Runs inside a read-only part of the transaction, or a read-only transaction of its own,
+    /// which is undone afterwards: what a function in the text sets or locks ends with it. Whether
+    /// the text gives rows at all is known before it runs, so that none can end the transaction.
+    std::unique_ptr<Rows> Query(const std::string& sql, std::string& failure) noexcept override {
+        std::vector<Command> commands;
+        if (inTransaction_)
+            commands = {Run("savepoint kv_read"), Run("set transaction read only")};
+        else
+            commands = {Run("begin read only")};
+        commands.push_back({Command::Kind::kPrepare, sql});
+        commands.push_back({Command::Kind::kDescribePrepared});
+        const bool prepared = RunAll(std::move(commands), failure);
+        if (!prepared || describedColumns_ == 0) {
+            if (prepared) failure = kOnlyReads;
+            EndReading();
+            return nullptr;
+        }
+        std::vector<Result> results = Batch({{Command::Kind::kRunPrepared}});
+        EndReading();
+        if (PQresultStatus(results[0].get()) != PGRES_TUPLES_OK) {
+            failure = Words(results[0]);
+            return nullptr;
+        }
+        return std::make_unique<PostgresRows>(std::move(results[0]));
+    }
+
+    int Execute(const std::string& sql, std::string& failure) noexcept override {
+        const bool begins = !inTransaction_;
+        if (ToLower(sql).find("schema") != std::string::npos) schemas_.clear();
+        std::vector<Command> commands = {Run(begins ? "begin" : "savepoint kv_statement"),
+                                         Run(sql)};
+        if (!begins) commands.push_back(Run("release savepoint kv_statement"));
+        const std::vector<Result> results = Batch(commands);
+        NoteTransaction();
+        for (const Result& result : results) {
+            if (Succeeded(result)) continue;
+            failure = Words(result);
+            UndoStatement(begins);
+            return -1;
+        }
+        return RowsChanged(results[1]);
+    }
+
+    bool Commit(std::string& failure) noexcept override {
+        if (!inTransaction_) return true;
+        const std::vector<Result> results = Batch({Run("commit")});
+        NoteTransaction();
+        if (!Succeeded(results[0])) {
+            failure = Words(results[0]);
+            return false;
+        }
+        const bool committed = std::strcmp(PQcmdStatus(results[0].get()), "COMMIT") == 0;
+        if (!committed) failure = "The server undid the transaction instead of committing it";
+        return committed;
+    }
+
+    void Rollback() noexcept override {
+        if (inTransaction_) Batch({Run("rollback")});
+        NoteTransaction();
+    }
+
+private:
+    bool Send(const Command& command) {
+        PGconn* connection = connection_.get();
+        const char* sql = command.sql.c_str();
+        switch (command.kind) {
+            case Command::Kind::kRun:
+                return PQsendQueryParams(connection, sql, 0, nullptr, nullptr, nullptr, nullptr,
+                                         0) == 1;
+            case Command::Kind::kPrepare:
+                return PQsendPrepare(connection, "", sql, 0, nullptr) == 1;
+            case Command::Kind::kDescribePrepared:
+                return PQsendDescribePrepared(connection, "") == 1;
+            case Command::Kind::kRunPrepared:
+                return PQsendQueryPrepared(connection, "", 0, nullptr, nullptr, nullptr, 0) == 1;
+        }
+        return false;
+    }
+
+    /// Sends the commands at once and waits for all of them. A result each; null for those that
+    /// did not come to run.
+    std::vector<Result> Batch(const std::vector<Command>& commands) {
+        std::vector<Result> results(commands.size());
+        PGconn* connection = connection_.get();
+        for (const Command& command : commands)
+            if (!Send(command)) return results;
+        if (PQpipelineSync(connection) != 1) return results;
+        for (Result& result : results) {
+            result.reset(PQgetResult(connection));
+            if (IsCopy(result)) {
+                connection_.reset();
+                return results;
+            }
+            while (Result more{PQgetResult(connection)}) {
+            }
+        }
+        while (Result more{PQgetResult(connection)})
+            if (PQresultStatus(more.get()) == PGRES_PIPELINE_SYNC) break;
+        return results;
+    }
+
+    /// False, with the words of the first that failed.
+    bool RunAll(std::vector<Command> commands, std::string& failure) {
+        const std::vector<Result> results = Batch(commands);
+        for (const Result& result : results) {
+            if (Succeeded(result)) continue;
+            failure = Words(result);
+            return false;
+        }
+        describedColumns_ = PQnfields(results.back().get());
+        return true;
+    }
+
+    void EndReading() {
+        if (!inTransaction_)
+            Batch({Run("rollback")});
+        else
+            Batch({Run("rollback to savepoint kv_read"), Run("release savepoint kv_read")});
+    }
+
+    /// A statement may have ended the transaction by itself: then there is nothing left to undo.
+    void UndoStatement(bool began) {
+        if (!inTransaction_) return;
+        if (began)
+            Batch({Run("rollback")});
+        else
+            Batch(
+                {Run("rollback to savepoint kv_statement"), Run("release savepoint kv_statement")});
+        NoteTransaction();
+    }
+
+    void NoteTransaction() {
+        const PGTransactionStatusType status = PQtransactionStatus(connection_.get());
+        inTransaction_ = status == PQTRANS_INTRANS || status == PQTRANS_INERROR;
+    }
+
+    static int RowsChanged(const Result& result) {
+        int rows = 0;
+        const char* count = PQcmdTuples(result.get());
+        if (PQresultStatus(result.get()) == PGRES_COMMAND_OK)
+            std::from_chars(count, count + std::strlen(count), rows);
+        return rows;
+    }
+
+    std::string Words(const Result& result) {
+        const auto field = [&](int code) {
+            const char* text = PQresultErrorField(result.get(), code);
+            return std::string(text ? text : "");
+        };
+        const std::string message = field(PG_DIAG_MESSAGE_PRIMARY);
+        if (IsCopy(result)) return "Refused: rows are not copied over this connection";
+        if (message.empty()) return TrimSpace(PQerrorMessage(connection_.get()));
+        const std::string detail = field(PG_DIAG_MESSAGE_DETAIL);
+        const std::string hint = field(PG_DIAG_MESSAGE_HINT);
+        static constexpr std::string_view kReadOnlyTransaction = "25006";
+        std::string words = field(PG_DIAG_SQLSTATE) == kReadOnlyTransaction
+                                ? std::string(kOnlyReads) + ": " + message
+                                : message;
+        if (!detail.empty()) words += "\n" + detail;
+        if (!hint.empty()) words += "\n" + hint;
+        return words;
+    }
+
+    bool Fail(std::string& failure) {
+        failure = TrimSpace(PQerrorMessage(connection_.get()));
+        return false;
+    }
+
+    Connection connection_;
+    bool inTransaction_ = false;
+    /// Columns of the statement that was described last.
+    int describedColumns_ = 0;
+    /// Asked for with nearly every statement, so they are remembered until something changes.
+    std::map<std::string, bool> schemas_;
+};
+
+/// User and password of the record go ahead of those in the URL.
+Connection Connect(const CKvDbInfo& info) {
+    std::vector<const char*> keywords;
+    std::vector<const char*> values;
+    const auto add = [&](const char* keyword, const char* value) {
+        if (!*value) return;
+        keywords.push_back(keyword);
+        values.push_back(value);
+    };
+    for (const auto& [keyword, value] : kDefaults)
+        add(keyword, value);
+    add("dbname", info.GetServer().c_str());
+    add("user", info.GetUser().c_str());
+    add("password", info.GetPassword().c_str());
+    add("client_encoding", "UTF8");
+    keywords.push_back(nullptr);
+    values.push_back(nullptr);
+    constexpr int kReadUrl = 1;
+    return Connection(PQconnectdbParams(keywords.data(), values.data(), kReadUrl));
+}
+
+}  // namespace
+}  // namespace kv::db
+
+extern "C" KVGUICTL_API kv::db::ModuleSession* KVGuiCtlOpenSession(const CKvDbInfo& info,
+                                                                   std::string& failure) {
+    kv::db::Connection connection = kv::db::Connect(info);
+    if (PQstatus(connection.get()) != CONNECTION_OK) {
+        failure =
+            "Cannot connect to PostgreSQL: " + kv::TrimSpace(PQerrorMessage(connection.get()));
+        return nullptr;
+    }
+    auto session = std::make_unique<kv::db::PostgresSession>(std::move(connection));
+    if (!session->SetUp(failure)) return nullptr;
+    return session.release();
+}

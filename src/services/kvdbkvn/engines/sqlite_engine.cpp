@@ -1,0 +1,281 @@
+#include "services/kvdbkvn/engines/sqlite_engine.h"
+
+#include <sqlite3.h>
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <deque>
+#include <string>
+#include <string_view>
+
+#include "base/paths.h"
+#include "frame/kvcom/exception.h"
+#include "services/kvdbkvn/dialect/lease_sort.h"
+#include "services/kvdbkvn/engines/row_arena.h"
+
+namespace kv::db {
+namespace {
+
+constexpr std::string_view kPrefix = "sqlite:";
+constexpr int kBusyMilliseconds = 5000;
+constexpr std::size_t kMostKept = 8;
+constexpr std::size_t kLongestKept = 4096;
+
+struct CloseDatabase {
+    void operator()(sqlite3* database) const { sqlite3_close_v2(database); }
+};
+using Database = std::unique_ptr<sqlite3, CloseDatabase>;
+
+struct FinalizeStatement {
+    void operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
+};
+using Statement = std::unique_ptr<sqlite3_stmt, FinalizeStatement>;
+
+/// SQL function lesort(text); null stays null.
+void LeaseSort(sqlite3_context* context, int, sqlite3_value** values) {
+    const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(values[0]));
+    if (!text) return sqlite3_result_null(context);
+    const auto length = static_cast<std::size_t>(sqlite3_value_bytes(values[0]));
+    const std::string key = dialect::LeaseSortKey(std::string_view(text, length));
+    sqlite3_result_text(context, key.data(), static_cast<int>(key.size()), SQLITE_TRANSIENT);
+}
+
+/// Which file a path means now.
+struct FileIdentity {
+    dev_t device = 0;
+    ino_t inode = 0;
+    bool operator==(const FileIdentity&) const = default;
+};
+
+bool Identify(const std::string& path, FileIdentity& out) {
+    struct stat status {};
+    if (stat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode)) return false;
+    out = {status.st_dev, status.st_ino};
+    return true;
+}
+
+class SqliteSession final : public Session {
+public:
+    SqliteSession(Database database, std::string path)
+        : database_(std::move(database)), path_(std::move(path)) {
+        sqlite3_busy_timeout(database_.get(), kBusyMilliseconds);
+        sqlite3_set_authorizer(database_.get(), &Authorize, this);
+        sqlite3_create_function_v2(database_.get(), "lesort", 1, SQLITE_UTF8 | SQLITE_DETERMINISTIC,
+                                   nullptr, &LeaseSort, nullptr, nullptr, nullptr);
+        Run("pragma case_sensitive_like=on");
+        // The file is first read here, so this is where one that is no database is found out.
+        Run("select 1 from sqlite_master limit 1");
+        Identify(path_, identity_);
+    }
+
+    dialect::Target Target() const override { return dialect::Target::kSqlite; }
+    bool HasLeaseSort() const override { return true; }
+
+    /// The open file lives on when its name is given to another, or taken away.
+    bool IsAlive() override {
+        FileIdentity now;
+        return Identify(path_, now) && now == identity_;
+    }
+
+    bool HasSchema(const std::string& name) override {
+        return sqlite3_db_filename(database_.get(), name.c_str()) != nullptr;
+    }
+
+    std::unique_ptr<Rows> Query(const std::string& sql) override {
+        const GuardScope guard(*this, Guard::kReading);
+        Statement statement = TakePrepared(sql);
+        if (!statement) statement = Prepare(sql);
+        if (!sqlite3_stmt_readonly(statement.get()) || sqlite3_column_count(statement.get()) == 0)
+            throw CKvException(kOnlyReads, sql);
+        auto rows = Fetch(statement.get(), sql);
+        Keep(sql, std::move(statement));
+        return rows;
+    }
+
+    int Execute(const std::string& sql) override {
+        const bool begins = !InTransaction();
+        Run(begins ? "begin immediate" : "savepoint kv_statement");
+        try {
+            const int changed = Change(sql);
+            if (!begins) Run("release kv_statement");
+            return changed;
+        } catch (const CKvException& failure) {
+            if (!begins && !InTransaction())
+                throw CKvException(failure.GetErrorMessage(false, false) +
+                                       "; the earlier changes of this connection were undone, too",
+                                   sql);
+            TryRun(begins ? "rollback" : "rollback to kv_statement; release kv_statement");
+            throw;
+        }
+    }
+
+    void Commit() override {
+        if (InTransaction()) Run("commit");
+    }
+    void Rollback() noexcept override {
+        if (InTransaction()) TryRun("rollback");
+    }
+
+private:
+    /// Whose statement is being prepared: the session's own, or a caller's.
+    enum class Guard { kNone, kReading, kChanging };
+
+    class GuardScope {
+    public:
+        GuardScope(SqliteSession& session, Guard guard) : session_(session) {
+            session_.guard_ = guard;
+        }
+        ~GuardScope() { session_.guard_ = Guard::kNone; }
+        GuardScope(const GuardScope&) = delete;
+        GuardScope& operator=(const GuardScope&) = delete;
+
+    private:
+        SqliteSession& session_;
+    };
+
+    /// What changes the session or its transaction counts as read-only to SQLite.
+    static int Authorize(void* self, int action, const char* name, const char*, const char*,
+                         const char*) {
+        const Guard guard = static_cast<SqliteSession*>(self)->guard_;
+        if (guard == Guard::kNone) return SQLITE_OK;
+        if (action == SQLITE_TRANSACTION || action == SQLITE_SAVEPOINT) return SQLITE_DENY;
+        if (guard == Guard::kChanging) return SQLITE_OK;
+        if (action == SQLITE_ATTACH || action == SQLITE_DETACH) return SQLITE_DENY;
+        if (action == SQLITE_PRAGMA && !DescribesOnly(name)) return SQLITE_DENY;
+        return SQLITE_OK;
+    }
+
+    static bool DescribesOnly(std::string_view pragma) {
+        return pragma.ends_with("_info") || pragma.ends_with("_list");
+    }
+
+    bool InTransaction() const { return sqlite3_get_autocommit(database_.get()) == 0; }
+
+    [[noreturn]] void Throw(const std::string& sql) const {
+        const int code = sqlite3_errcode(database_.get());
+        if (code == SQLITE_AUTH && guard_ == Guard::kReading) throw CKvException(kOnlyReads, sql);
+        if (code == SQLITE_AUTH)
+            throw CKvException("Refused: the connection itself begins and ends its transaction",
+                               sql);
+        throw CKvException(sqlite3_errmsg(database_.get()), sql);
+    }
+
+    Statement Prepare(const std::string& sql) {
+        const char* rest = nullptr;
+        Statement statement = PrepareFirst(sql.c_str(), rest, sql);
+        if (!statement) throw CKvException("The statement is empty", sql);
+        if (HoldsMore(rest)) throw CKvException(kOneStatement, sql);
+        return statement;
+    }
+
+    /// Dialogs ask the same again and again, and reading a statement takes longer than running it.
+    Statement TakePrepared(const std::string& sql) {
+        const auto found = std::ranges::find(prepared_, sql, &Prepared::sql);
+        if (found == prepared_.end()) return nullptr;
+        Statement statement = std::move(found->statement);
+        prepared_.erase(found);
+        return statement;
+    }
+
+    void Keep(const std::string& sql, Statement statement) {
+        if (sql.size() > kLongestKept) return;
+        // Without this it would hold its lock on the file.
+        sqlite3_reset(statement.get());
+        if (prepared_.size() == kMostKept) prepared_.pop_front();
+        prepared_.push_back({sql, std::move(statement)});
+    }
+
+    Statement PrepareFirst(const char* text, const char*& rest, const std::string& sql) {
+        sqlite3_stmt* raw = nullptr;
+        const int code = sqlite3_prepare_v2(database_.get(), text, -1, &raw, &rest);
+        Statement statement(raw);
+        if (code != SQLITE_OK) Throw(sql);
+        return statement;
+    }
+
+    /// Whether the text holds anything but comments, blanks and semicolons.
+    bool HoldsMore(const char* text) {
+        while (*text) {
+            sqlite3_stmt* raw = nullptr;
+            const int code = sqlite3_prepare_v2(database_.get(), text, -1, &raw, &text);
+            const Statement statement(raw);
+            if (code != SQLITE_OK || statement) return true;
+        }
+        return false;
+    }
+
+    std::unique_ptr<Rows> Fetch(sqlite3_stmt* statement, const std::string& sql) {
+        int code = sqlite3_step(statement);
+        // A statement that was kept learns only here that its tables have been changed.
+        const int columns = sqlite3_column_count(statement);
+        auto rows = std::make_unique<RowArena>(columns);
+        for (; code == SQLITE_ROW; code = sqlite3_step(statement)) {
+            for (int column = 0; column < columns; ++column) {
+                const auto* text =
+                    reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
+                const int length = sqlite3_column_bytes(statement, column);
+                if (text)
+                    rows->Add({text, static_cast<std::size_t>(length)});
+                else
+                    rows->AddNull();
+            }
+        }
+        if (code != SQLITE_DONE) Throw(sql);
+        return rows;
+    }
+
+    int Change(const std::string& sql) {
+        const GuardScope guard(*this, Guard::kChanging);
+        const Statement statement = Prepare(sql);
+        const int before = sqlite3_total_changes(database_.get());
+        int code = SQLITE_ROW;
+        while (code == SQLITE_ROW)
+            code = sqlite3_step(statement.get());
+        if (code != SQLITE_DONE) Throw(sql);
+        // A statement that changes no rows leaves the count of the one before.
+        const bool changed = sqlite3_total_changes(database_.get()) != before;
+        return changed ? sqlite3_changes(database_.get()) : 0;
+    }
+
+    void Run(const char* sql) {
+        if (sqlite3_exec(database_.get(), sql, nullptr, nullptr, nullptr) != SQLITE_OK) Throw(sql);
+    }
+    void TryRun(const char* sql) noexcept {
+        sqlite3_exec(database_.get(), sql, nullptr, nullptr, nullptr);
+    }
+
+    struct Prepared {
+        std::string sql;
+        Statement statement;
+    };
+
+    Database database_;
+    std::string path_;
+    FileIdentity identity_;
+    Guard guard_ = Guard::kNone;
+    /// The one used last stands last.
+    std::deque<Prepared> prepared_;
+};
+
+}  // namespace
+
+std::unique_ptr<Session> OpenSqlite(const CKvDbInfo& info) {
+    const std::string path = ToNative(info.GetServer().substr(kPrefix.size()));
+    const auto fail = [&](const std::string& reason) -> CKvException {
+        return CKvException("Cannot open the database file \"" + path + "\": " + reason);
+    };
+    FileIdentity identity;
+    if (!Identify(path, identity)) throw fail("there is no such file");
+
+    sqlite3* raw = nullptr;
+    const int code = sqlite3_open_v2(path.c_str(), &raw, SQLITE_OPEN_READWRITE, nullptr);
+    Database database(raw);
+    if (code != SQLITE_OK) throw fail(sqlite3_errstr(code));
+    try {
+        return std::make_unique<SqliteSession>(std::move(database), path);
+    } catch (const CKvException& failure) {
+        throw fail(failure.GetErrorMessage(false, false));
+    }
+}
+
+}  // namespace kv::db
