@@ -14,7 +14,7 @@
 #include "frame/kvdbkvn/db_abs_data_mgr.h"
 #include "ratio.h"
 #include "services/kvdbkvn/dialect/translate.h"
-#include "services/kvdbkvn/engines/engine.h"
+#include "services/kvdbkvn/engines/open_session.h"
 #include "support/postgres_cluster.h"
 #include "support/sqlite_file.h"
 
