@@ -19,6 +19,9 @@ BOOL CKvABEBar::Create(CWnd* parent, UINT, UINT style, UINT id) {
     m_areaCombo.SubclassDlgItem(kArea, this);
     m_blkCombo.SubclassDlgItem(kBlock, this);
     m_areaCombo.SetBlkCombo(&m_blkCombo);
+    // A bar may be made again, and is then a new one.
+    m_bFirstUse = true;
+    m_eLayer = KV_LAYER_NONE;
 
     PopulateLayerCombo();
     Control<CComboBox>(kLayer).SetCurSel(0);
@@ -60,7 +63,13 @@ void CKvABEBar::SetRadioState(bool bReport) {
 void CKvABEBar::FillAreasOnce() {
     if (!m_bFirstUse) return;
     m_bFirstUse = false;
+    // The key that made it the first use is in the box already, and filling may empty it.
+    const std::string typed = m_areaCombo.WindowText();
+    const DWORD selection = m_areaCombo.GetEditSel();
     m_areaCombo.V_InitializeCombo();
+    if (typed.empty() || m_areaCombo.WindowText() == typed) return;
+    m_areaCombo.SetWindowText(typed.c_str());
+    m_areaCombo.SetEditSel(LOWORD(selection), HIWORD(selection));
 }
 
 void CKvABEBar::SetArea(const std::string& areacode) {

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "base/text.h"
 #include "frame/kvdbkvn/db_dataset_set.h"
 #include "frame/kvdbkvn/db_util.h"
 #include "frame/kvlogs/log.h"
@@ -64,7 +65,7 @@ std::string CKvAreaComboBox::AreaQuery() const {
 }
 
 void CKvAreaComboBox::Fill(const std::string& query, bool& firstFill) {
-    m_pBlkCombo->ResetContent();
+    if (m_pBlkCombo) m_pBlkCombo->ResetContent();
     const bool clear = !firstFill;
     firstFill = false;
     FillFromQuery(query, clear);
@@ -160,6 +161,14 @@ std::string CKvAreaComboBox::GetAreacode(bool bQuoted) const {
     return bQuoted && !code.empty() ? Quoted(code) : code;
 }
 
+int CKvAreaComboBox::RowOf(const std::string& area) const {
+    const int row = FindString(0, area.c_str());
+    CString found;
+    if (row != CB_ERR) GetLBText(row, found);
+    // A column of fixed width pads its texts.
+    return kv::EqualsNoCase(kv::Trim(found.str()), kv::Trim(area)) ? row : CB_ERR;
+}
+
 void CKvAreaComboBox::SetArea(const std::string& areacode) {
     std::string text;
     switch (m_nMode) {
@@ -175,10 +184,11 @@ void CKvAreaComboBox::SetArea(const std::string& areacode) {
         default:
             break;
     }
-    if (text.empty()) {
+    const int row = text.empty() ? CB_ERR : RowOf(text);
+    if (row == CB_ERR) {
         CKvLog::Output("Selected area could not be found from the database table", 101, false);
         return;
     }
-    SetCurSel(FindString(0, text.c_str()));
+    SetCurSel(row);
     V_SelChanged(true);
 }

@@ -10,8 +10,7 @@
 /// the pick.
 class KVGUICTL_API CKvAreaComboBox : public CKvDbComboBox {
 public:
-    /// Binds the block box, which is not owned, and gives it the present mode. To be called ahead
-    /// of `V_InitializeCombo`.
+    /// Binds the block box, which is not owned, and gives it the present mode. Null for none.
     void SetBlkCombo(CKvBlkComboBox* combo);
 
     int GetMode() const { return m_nMode; }
@@ -29,8 +28,8 @@ public:
     /// for an empty box.
     std::string GetAreacode(bool bQuoted) const;
 
-    /// Selects the area with that area code. One that the database does not know is logged, and the
-    /// box stays as it was; so it does while the list is not filled yet.
+    /// Selects the area with that area code. One that the database does not know, or that is not in
+    /// the list, which may not be filled yet, is logged, and the box stays as it was.
     void SetArea(const std::string& areacode);
 
     /// Whether the text is a row of the list, wholly entered: the block box may then be used. If it
@@ -51,4 +50,6 @@ protected:
 private:
     std::string AreacodesOfMms(const std::string& mmsCode, bool bQuoted) const;
     void TakeText(const std::string& text);
+    /// The row that is the area, not one that merely begins with it; CB_ERR for none.
+    int RowOf(const std::string& area) const;
 };

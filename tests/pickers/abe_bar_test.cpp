@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #include "pickers/picker_fixture.h"
+#include "window/acting/input.h"
 
 namespace {
 
@@ -192,6 +193,114 @@ TEST_F(AbeBar, AFrameWithoutADatabaseStillComesUp) {
     user->Drop(kArea);
     EXPECT_THAT(user->Rows(kArea), IsEmpty());
     EXPECT_THAT(desktop.Messages(), IsEmpty());
+}
+
+TEST_F(AbeBar, WithoutAWindowItTakesAnAreaAndFillsAsAnyOther) {
+    CVZABEBar unmade;
+    unmade.SetArea("018");
+    EXPECT_EQ(unmade.GetArea(), "");
+    EXPECT_EQ(unmade.GetAreacode(true), "");
+    bar.DestroyWindow();
+    bar.SetArea("018");
+    CreateBar();
+    user->Drop(kArea);
+    EXPECT_THAT(user->Rows(kArea), Not(IsEmpty()));
+}
+
+TEST_F(AbeBar, MadeAgainItIsANewOne) {
+    CompleteThePick();
+    user->Click(kReport);
+    user->Select(kLayer, "2D Shotpoints");
+    bar.DestroyWindow();
+    CreateBar();
+    EXPECT_EQ(user->Text(kLayer), "Wells");
+    EXPECT_EQ(user->Text(kArea), "");
+    CompleteThePick();
+    EXPECT_TRUE(user->Enabled(kReport));
+    EXPECT_EQ(bar.GetBlk(false), "9A");
+}
+
+/// A second bar, in a frame of its own, in a process where areas were listed before.
+class SecondAbeBar : public AbeBar {
+protected:
+    void SetUp() override {
+        CreateBar();
+        user->Drop(kArea);
+        statements.clear();
+        other.Create("Other");
+        second.Create(&other, kTemplate, CBRS_TOP, kTemplate);
+        other.ShowWindow(SW_SHOW);
+        kv::WindowSystem::Get().Settle();
+        user = std::make_unique<kv::User>(*second.m_hWnd,
+                                          [](const std::string& words) { FAIL() << words; });
+    }
+
+    CFrameWnd other;
+    CVZABEBar second;
+};
+
+TEST_F(SecondAbeBar, KeepsTheFirstKeyAndFillsTheAreasAtIt) {
+    ASSERT_THAT(statements, IsEmpty());
+    ASSERT_EQ(CWnd::GetFocus()->GetParent(), second.GetDlgItem(kArea));
+    kv::input::TypeHere("H");
+    kv::WindowSystem::Get().Settle();
+    EXPECT_EQ(user->Text(kArea), "H");
+    EXPECT_THAT(user->Rows(kArea), ::testing::Contains("HB"));
+    kv::input::TypeHere("B");
+    kv::WindowSystem::Get().Settle();
+    EXPECT_EQ(user->Text(kArea), "HB");
+    EXPECT_THAT(user->Rows(kBlock), ElementsAre("ALL", "8-BAY"));
+}
+
+TEST_F(SecondAbeBar, KeepsTheCaretBehindTheFirstKey) {
+    kv::input::TypeHere("G");
+    EXPECT_EQ(second.GetAreaCombo()->GetEditSel(), static_cast<DWORD>(MAKELPARAM(1, 1)));
+}
+
+// What is told of the area box.
+
+TEST_F(AbeBar, AKeyListsTheBlocksOfTheAreaThatItCompletes) {
+    user->Drop(kArea);
+    user->Key(kArea, "H");
+    EXPECT_EQ(user->Text(kArea), "HB");
+    EXPECT_THAT(user->Rows(kBlock), ElementsAre("ALL", "8-BAY"));
+}
+
+TEST_F(AbeBar, WhatAHostTellsOfTheAreaBoxIsAPick) {
+    user->Drop(kArea);
+    for (const int code : {CBN_SELCHANGE, CBN_EDITCHANGE}) {
+        bar.GetAreaCombo()->SetWindowText("SL");
+        bar.OnCmdMsg(kBlock, code, nullptr, nullptr);
+        bar.OnCmdMsg(kArea, CBN_DROPDOWN, nullptr, nullptr);
+        EXPECT_THAT(user->Rows(kBlock), IsEmpty());
+        bar.OnCmdMsg(kArea, code, nullptr, nullptr);
+        EXPECT_THAT(user->Rows(kBlock), ElementsAre("ALL", "123A-S"));
+        bar.GetAreaCombo()->SetWindowText("NOWHERE");
+        bar.OnCmdMsg(kArea, code, nullptr, nullptr);
+        user->Select(kArea, " -AREA NAME-");
+        user->Select(kArea, " -MMS CODE-");
+    }
+}
+
+TEST_F(AbeBar, WhatItHearsGoesOnToADerivedBar) {
+    struct HostBar : CKvABEBar {
+        static const kv::MessageMap& Messages() {
+            static const kv::MessageEntry kEntries[] = {
+                kv::OnControl<&HostBar::OnArea>(CBN_SELCHANGE, kArea)};
+            static const kv::MessageMap kHostMap{&CKvABEBar::Messages(), kEntries};
+            return kHostMap;
+        }
+        const kv::MessageMap& GetMessageMap() const override { return Messages(); }
+        void OnArea() { ++picks; }
+        int picks = 0;
+    } host;
+    ASSERT_EQ(host.Create(&frame, kTemplate, CBRS_TOP, kTemplate), 1);
+    kv::WindowSystem::Get().Settle();
+    kv::User person(*host.m_hWnd, [](const std::string& words) { FAIL() << words; });
+    person.Select(kArea, "GI");
+    EXPECT_EQ(host.picks, 1);
+    EXPECT_EQ(host.OnCmdMsg(kArea, CBN_SELCHANGE, nullptr, nullptr), TRUE);
+    EXPECT_EQ(host.OnCmdMsg(kArea, CBN_CLOSEUP, nullptr, nullptr), FALSE);
 }
 
 TEST(AbeBarBeforeTheLibraryWasInitialised, IsNotCreated) {

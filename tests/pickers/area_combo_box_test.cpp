@@ -217,9 +217,60 @@ TEST_F(AreaComboBox, AnUnknownAreaCodeIsLoggedAndLeavesTheBoxAsItWas) {
                 HasSubstr("Selected area could not be found from the database table"));
 }
 
+TEST_F(AreaComboBox, AnAreaCodeThatIsNoRowLeavesAListOfCodesAsItWas) {
+    user->Select(kArea, " -AREA CODE-");
+    user->Select(kArea, "017");
+    user->Select(kBlock, "9A");
+    statements.clear();
+    // Neither the beginning of a code is one, nor a code with something behind it.
+    for (const char* code : {"nowhere", "42", "4201x"}) {
+        SCOPED_TRACE(code);
+        folder.Write("log.txt", "");
+        area->SetArea(code);
+        EXPECT_EQ(area->GetMode(), 2);
+        EXPECT_EQ(area->GetArea(), "017");
+        EXPECT_EQ(user->Text(kBlock), "9A");
+        EXPECT_THAT(folder.Read("log.txt"),
+                    HasSubstr("Selected area could not be found from the database table"));
+    }
+    EXPECT_THAT(statements, IsEmpty());
+    EXPECT_THAT(BlockRows(), ElementsAre("ALL", "10", "100", "9", "9A"));
+}
+
+TEST_F(AreaComboBox, FindsACodeThatItsColumnPadsWithBlanks) {
+    area->SetMode(2);
+    area->AddString("4202  ");
+    area->SetArea("4202");
+    EXPECT_EQ(area->GetArea(), "4202  ");
+}
+
 TEST_F(AreaComboBox, FindsNoRowInABoxThatWasNotFilled) {
     area->SetArea("018");
     EXPECT_EQ(area->GetArea(), "");
+    EXPECT_THAT(folder.Read("log.txt"),
+                HasSubstr("Selected area could not be found from the database table"));
+}
+
+TEST_F(AreaComboBox, WorksWithoutABlockBox) {
+    CKvAreaComboBox alone;
+    alone.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWN | CBS_SORT, {0, 0, 90, 90}, &frame, 1);
+    alone.V_InitializeCombo();
+    alone.SetArea("4281");
+    EXPECT_EQ(alone.GetArea(), "HB");
+    EXPECT_TRUE(alone.EnableBlkCombo());
+    EXPECT_EQ(alone.GetAreacode(true), "('4281')");
+    alone.SetCurSel(alone.FindStringExact(-1, " -AREA NAME-"));
+    alone.V_SelChanged(true);
+    EXPECT_EQ(alone.GetMode(), 1);
+    EXPECT_EQ(alone.GetArea(), "");
+}
+
+TEST_F(AreaComboBox, WithoutAWindowItDoesNothing) {
+    CKvAreaComboBox unmade;
+    unmade.V_InitializeCombo();
+    unmade.SetArea("018");
+    EXPECT_EQ(unmade.GetArea(), "");
+    EXPECT_FALSE(unmade.EnableBlkCombo());
 }
 
 TEST_F(AreaComboBox, BindingHandsTheModeToTheBlockBox) {
