@@ -43,10 +43,12 @@ void DeleteRows(CListBox& list, const std::vector<std::string>& texts) {
     }
 }
 
-/// Runs a statement and fills a list with its first column, but for what is held back.
-void FillList(CListBox& list, const std::string& sql,
+/// Runs a statement and fills a list with its first column, but for what is held back. False when
+/// the database failed, which is told.
+bool FillList(CListBox& list, const std::string& sql,
               const std::function<bool(const char*)>& isHeldBack) {
     CKvDbAbsDataMgr manager(1);
+    bool filled = false;
     try {
         manager.Connect();
         manager.Select(sql);
@@ -57,11 +59,13 @@ void FillList(CListBox& list, const std::string& sql,
             const char* text = manager.GetItem(row, 0);
             if (!isHeldBack(text)) list.AddString(text);
         }
+        filled = true;
     } catch (const CKvException& e) {
         AfxMessageBox(e.GetErrorMessage(true, true).c_str(), 0, 0);
     }
     manager.FreeData();
     manager.Disconnect();
+    return filled;
 }
 
 std::vector<int> SelectedRows(const CListCtrl& list) {
@@ -266,8 +270,10 @@ std::string CKvGuiBlkExtDlg::SearchPattern() const {
 void CKvGuiBlkExtDlg::Search() {
     const std::string pattern = SearchPattern();
     const IndexedSelection selection(*m_pSelection);
-    FillList(m_listAvail, GetAreaQuery(pattern),
-             [&selection](const char* area) { return selection.Has(area, ""); });
+    const bool searched =
+        FillList(m_listAvail, GetAreaQuery(pattern),
+                 [&selection](const char* area) { return selection.Has(area, ""); });
+    if (!searched) return;
     // No area begins with a percent sign; the index -1 selects every row.
     m_listAvail.SetSel(m_listAvail.FindString(-1, pattern.c_str()), TRUE);
     UpdateActionButtons();
@@ -304,8 +310,9 @@ void CKvGuiBlkExtDlg::OnDblclkAvailList() {
 
 void CKvGuiBlkExtDlg::listExt(const std::string& area) {
     const IndexedSelection selection(*m_pSelection);
-    FillList(m_listExt, GetBlkExtQuery(area),
-             [&](const char* block) { return selection.Has(area, block); });
+    const bool listed = FillList(m_listExt, GetBlkExtQuery(area),
+                                 [&](const char* block) { return selection.Has(area, block); });
+    if (!listed) return;
     m_listAvail.SetSel(m_listAvail.FindString(-1, area.c_str()), TRUE);
     UpdateActionButtons();
 }

@@ -161,36 +161,40 @@ void CKvGuiListSel::OnSearchButton() {
 }
 
 void CKvGuiListSel::Search() {
-    CListBox& available = Available();
     CKvDbAbsDataMgr manager(1);
-    bool stopped = false;
+    bool searched = false;
     try {
         manager.Connect();
         const std::string sql = V_SqlQuery();
-        if (sql.empty()) {
-            stopped = true;
-        } else {
+        if (!sql.empty()) {
             manager.Select(sql);
-            const int rows = manager.NumberOfRows();
-            if (rows == 0) AfxMessageBox("No Matches found!", 0, 0);
-            available.ResetContent();
-            RowBeginnings selected(Selected());
-            for (int row = 0; row < rows; ++row) {
-                // A row that some row of Selected merely begins with is held back, too.
-                const char* text = manager.GetItem(row, 0);
-                if (!selected.AnyBeginsWith(text)) available.AddString(text);
-            }
+            ShowFound(manager);
+            searched = true;
         }
     } catch (const CKvException& e) {
         AfxMessageBox(e.GetErrorMessage(true, true).c_str(), 0, 0);
     }
     manager.FreeData();
     manager.Disconnect();
-    if (stopped) return;
+    // What failed was told, and leaves the selection as it was.
+    if (!searched) return;
 
     // A text that no row begins with gives the index -1, which selects every row.
-    available.SetSel(available.FindString(-1, FindText().c_str()), TRUE);
+    Available().SetSel(Available().FindString(-1, FindText().c_str()), TRUE);
     UpdateActionButtons();
+}
+
+void CKvGuiListSel::ShowFound(const CKvDbAbsDataMgr& found) {
+    CListBox& available = Available();
+    const int rows = found.NumberOfRows();
+    if (rows == 0) AfxMessageBox("No Matches found!", 0, 0);
+    available.ResetContent();
+    RowBeginnings selected(Selected());
+    for (int row = 0; row < rows; ++row) {
+        // A row that some row of Selected merely begins with is held back, too.
+        const char* text = found.GetItem(row, 0);
+        if (!selected.AnyBeginsWith(text)) available.AddString(text);
+    }
 }
 
 void CKvGuiListSel::Insert() {

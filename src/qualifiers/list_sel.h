@@ -7,6 +7,7 @@
 
 class CComboBox;
 class CEdit;
+class CKvDbAbsDataMgr;
 class CListBox;
 
 /// Lets the user build a list of values, a qualifier, for one database column: a search fills the
@@ -102,7 +103,8 @@ protected:
 private:
     CWnd* CallersControl() const;
     void Search();
-    void ShowFound(int row, const std::string& text);
+    /// Fills the Available list.
+    void ShowFound(const CKvDbAbsDataMgr& found);
     void Insert();
     bool WriteQualifiers(const std::string& path) const;
     std::string CallersText() const;

@@ -9,6 +9,7 @@
 namespace {
 
 using ::testing::ElementsAre;
+using ::testing::EndsWith;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
 using namespace kv::blk_ext;
@@ -121,6 +122,18 @@ TEST_F(BlkExtDlg, TheRadiosTellWhereTheTextStands) {
     });
 }
 
+TEST_F(BlkExtDlg, BlanksAtTheEndsOfTheTextAreSearchedFor) {
+    Run(dialog, [](kv::User& user) {
+        Search(user, " la");
+        EXPECT_THAT(user.Rows(kAvailable), ElementsAre("LAKE LANDS", "SHORE LANDS"));
+        Search(user, "gulf ");
+        EXPECT_THAT(user.Rows(kAvailable), ElementsAre("GULF BAY"));
+    });
+    ASSERT_THAT(statements, SizeIs(2));
+    EXPECT_THAT(statements[0], EndsWith(" like '% LA%'"));
+    EXPECT_THAT(statements[1], EndsWith(" like '%GULF %'"));
+}
+
 TEST_F(BlkExtDlg, ASearchWithoutMatchesSaysSoAndEmptiesTheAreas) {
     desktop.ExpectMessage("No Matches found!");
     Run(dialog, [](kv::User& user) {
@@ -155,10 +168,13 @@ TEST_F(BlkExtDlg, AFailedSearchIsToldAndTheListsKeepWhatTheyHold) {
         desktop.ExpectMessage("");
         Search(user, "o'neil");
         EXPECT_THAT(user.Rows(kAvailable), ElementsAre("GRAND ISLE", "GRAND ISLE SOUTH"));
+        EXPECT_THAT(user.Selected(kAvailable), ElementsAre(1));
         desktop.ExpectMessage("");
         dialog.SetFieldString("nosuchcolumn");
         user.Click(kSearch);
         EXPECT_THAT(user.Rows(kAvailable), SizeIs(2));
+        user.Click(kAdd);
+        EXPECT_THAT(Entries(), ElementsAre("GRAND ISLE SOUTH/"));
     });
     EXPECT_THAT(desktop.Messages(), SizeIs(2));
 }
@@ -243,8 +259,9 @@ TEST_F(BlkExtDlg, AFailureWhileBlocksAreListedIsTold) {
         Search(user, "grand");
         dialog.SetType(selection, "nobody.where");
         desktop.ExpectMessage("");
-        user.DoubleClick(kAvailable, 0);
+        user.DoubleClick(kAvailable, 1);
         EXPECT_THAT(user.Rows(kBlocks), IsEmpty());
+        EXPECT_THAT(user.Selected(kAvailable), ElementsAre(1));
     });
 }
 

@@ -57,6 +57,14 @@ TEST_F(ListSelQuery, APercentSignGoesInAsItStands) {
                 ElementsAre("select distinct lessee from lease where lessee like 'A%F%'"));
 }
 
+TEST_F(ListSelQuery, BlanksAtTheEndsOfTheTextAreSearchedFor) {
+    EXPECT_THAT(RowsAfter(dialog_, " shelf", {kContain}), ElementsAre("AMBER SHELF", "BLUE SHELF"));
+    EXPECT_THAT(RowsAfter(dialog_, "shelf ", {kContain}), ElementsAre("SHELF OIL"));
+    EXPECT_THAT(statements,
+                ElementsAre("select distinct lessee from lease where lessee like '% SHELF%'",
+                            "select distinct lessee from lease where lessee like '%SHELF %'"));
+}
+
 TEST_F(ListSelQuery, LeaseOrder) {
     CKvGuiListSel dialog("lease_no", "lease", &combo, values, kTemplate, nullptr);
     dialog.SetSpecialOrderByFlag(true);

@@ -176,6 +176,20 @@ TEST_F(ListSel, OneRowWithAListFileShowsTheMarker) {
     EXPECT_EQ(dialog.GetListFileName(), "C:\\lists\\a.txt");
 }
 
+TEST_F(ListSel, AListFileWithoutRowsShowsTheMarkerToo) {
+    Given("<LIST>");
+    CKvGuiListSel dialog("lessee", "lease", &combo, values, kTemplate, nullptr);
+    dialog.SetListFileName("C:\\lists\\a.txt");
+    dialog.SetListFileFlag(true);
+    Run(dialog, [this](kv::User& user) {
+        combo.SetWindowText("");
+        user.Click(IDOK);
+    });
+    EXPECT_EQ(Shown(), "<LIST>");
+    EXPECT_THAT(values, IsEmpty());
+    EXPECT_TRUE(dialog.GetListFileFlag());
+}
+
 TEST_F(ListSel, AnEmptyControlTakesTheListFileOutOfUse) {
     CKvGuiListSel dialog("lessee", "lease", &combo, values, kTemplate, nullptr);
     dialog.SetListFileName("C:\\lists\\a.txt");
@@ -312,9 +326,10 @@ TEST_F(ListSel, AFailureOfTheDatabaseIsShownAndLeavesAvailableAsItWas) {
         Search(user, "SHELF' or");
         EXPECT_THAT(user.Rows(kAvailable),
                     ElementsAre("AMBER", "AMBER SHELF", "BLUE SHELF", "SHELF", "SHELF OIL"));
-        // No row begins with the text, so that all are selected.
-        EXPECT_THAT(user.Selected(kAvailable), ElementsAre(0, 1, 2, 3, 4));
+        EXPECT_THAT(user.Selected(kAvailable), ElementsAre(4));
         EXPECT_TRUE(user.Open());
+        user.Click(kAdd);
+        EXPECT_THAT(user.Rows(kSelected), ElementsAre("SHELF OIL"));
     });
     ASSERT_EQ(desktop.Messages().size(), 1u);
     EXPECT_THAT(desktop.Messages()[0], HasSubstr("like '%SHELF' OR%'"));
