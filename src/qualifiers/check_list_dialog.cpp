@@ -15,11 +15,11 @@ CheckListDialog::CheckListDialog(UINT templateId, CWnd* parent, std::span<const 
                                  std::span<const int> saveOrder, CComboBox* combo,
                                  std::vector<std::string>& values, bool readOnly)
     : CDialog(templateId, parent),
-      m_groups(groups),
-      m_saveOrder(saveOrder),
       m_pValues(&values),
       m_pCombo(combo),
-      m_bReadOnly(readOnly) {
+      m_bReadOnly(readOnly),
+      m_groups(groups),
+      m_saveOrder(saveOrder) {
     const std::string shown = combo ? combo->WindowText() : std::string();
     if (shown == catalogue::kListMarker) return;
     values.clear();
@@ -28,8 +28,8 @@ CheckListDialog::CheckListDialog(UINT templateId, CWnd* parent, std::span<const 
 
 BOOL CheckListDialog::OnInitDialog() {
     CDialog::OnInitDialog();
-    for (const CheckGroup& group : m_groups) {
-        for (const CheckMember& member : group.members) {
+    for (int group = 0; group < static_cast<int>(m_groups.size()); ++group) {
+        for (const CheckMember& member : Group(group).members) {
             const bool chosen = m_pValues && std::find(m_pValues->begin(), m_pValues->end(),
                                                        member.word) != m_pValues->end();
             if (chosen) CheckDlgButton(member.id, BST_CHECKED);
@@ -40,48 +40,34 @@ BOOL CheckListDialog::OnInitDialog() {
     return TRUE;
 }
 
-void CheckListDialog::OnBox(UINT id) {
-    const auto box = static_cast<int>(id);
-    for (const CheckGroup& group : m_groups) {
-        if (box == group.allId) {
-            CheckMembers(group, IsDlgButtonChecked(box) != 0);
-            return;
-        }
-        const bool isMember =
-            std::any_of(group.members.begin(), group.members.end(),
-                        [box](const CheckMember& member) { return member.id == box; });
-        if (isMember) {
-            UpdateAllBox(group);
-            return;
-        }
-    }
+const CheckGroup& CheckListDialog::Group(int index) const {
+    return m_groups[static_cast<std::size_t>(index)];
 }
 
-void CheckListDialog::CheckMembers(const CheckGroup& group, bool checked) {
-    for (const CheckMember& member : group.members)
+void CheckListDialog::TakeAllBox(int group) {
+    const UINT checked = IsDlgButtonChecked(Group(group).allId);
+    for (const CheckMember& member : Group(group).members)
         CheckDlgButton(member.id, checked);
 }
 
-bool CheckListDialog::AllChecked(const CheckGroup& group) const {
-    return std::all_of(group.members.begin(), group.members.end(), [this](const CheckMember& each) {
+void CheckListDialog::UpdateAllBox(int group) {
+    const auto isChecked = [this](const CheckMember& each) {
         return IsDlgButtonChecked(each.id) != 0;
-    });
-}
-
-void CheckListDialog::UpdateAllBox(const CheckGroup& group) {
-    CheckDlgButton(group.allId, AllChecked(group));
+    };
+    const auto& members = Group(group).members;
+    CheckDlgButton(Group(group).allId, std::all_of(members.begin(), members.end(), isChecked));
 }
 
 void CheckListDialog::ClearAll() {
-    for (const CheckGroup& group : m_groups) {
-        CheckDlgButton(group.allId, BST_UNCHECKED);
-        CheckMembers(group, false);
+    for (int group = 0; group < static_cast<int>(m_groups.size()); ++group) {
+        CheckDlgButton(Group(group).allId, BST_UNCHECKED);
+        TakeAllBox(group);
     }
 }
 
 void CheckListDialog::SaveGroup(int index) {
     if (!m_pValues) return;
-    const CheckGroup& group = m_groups[static_cast<std::size_t>(index)];
+    const CheckGroup& group = Group(index);
     const bool all = IsDlgButtonChecked(group.allId) != 0;
     const auto exception = all ? group.allOrder : group.singleOrder;
     for (const CheckMember& member : exception.empty() ? group.members : exception) {

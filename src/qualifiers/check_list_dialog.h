@@ -1,10 +1,12 @@
 #pragma once
 
+#include <cstddef>
 #include <span>
 #include <string>
 #include <vector>
 
 #include "window/dialogs/dialog.h"
+#include "window/message_map.h"
 
 class CComboBox;
 
@@ -26,6 +28,25 @@ struct CheckGroup {
     std::span<const CheckMember> singleOrder = {};
 };
 
+/// What makes the entries of a group's boxes in the message table: of its ALL box, and of a member.
+struct CheckHandlers {
+    MessageEntry (*all)(int id);
+    MessageEntry (*member)(int id);
+};
+
+/// The entries of every box; `handlers` in the order of the groups.
+template <std::size_t kCount>
+std::vector<MessageEntry> CheckEntries(const CheckGroup (&groups)[kCount],
+                                       const CheckHandlers (&handlers)[kCount]) {
+    std::vector<MessageEntry> entries;
+    for (std::size_t group = 0; group < kCount; ++group) {
+        entries.push_back(handlers[group].all(groups[group].allId));
+        for (const CheckMember& member : groups[group].members)
+            entries.push_back(handlers[group].member(member.id));
+    }
+    return entries;
+}
+
 /// Picks words from groups of check boxes. The status, product and lease dialogs are this machine
 /// with three tables.
 ///
@@ -46,8 +67,10 @@ protected:
                     std::span<const int> saveOrder, CComboBox* combo,
                     std::vector<std::string>& values, bool readOnly);
 
-    /// A click on a box: an ALL box sets its members, a member its ALL box.
-    void OnBox(UINT id);
+    /// Groups go by their indices. Sets every member to the state of the ALL box.
+    void TakeAllBox(int group);
+    /// Checks the ALL box where every member is checked, else unchecks it.
+    void UpdateAllBox(int group);
     /// Unchecks every box.
     void ClearAll();
     /// Appends a group's checked words to the vector.
@@ -55,16 +78,15 @@ protected:
     /// Where the dialog only shows the selection, nothing but OK can be used.
     void EnableDisable();
 
-private:
-    void CheckMembers(const CheckGroup& group, bool checked);
-    void UpdateAllBox(const CheckGroup& group);
-    bool AllChecked(const CheckGroup& group) const;
-
-    std::span<const CheckGroup> m_groups;
-    std::span<const int> m_saveOrder;
     std::vector<std::string>* m_pValues = nullptr;
     CComboBox* m_pCombo = nullptr;
     bool m_bReadOnly = false;
+
+private:
+    const CheckGroup& Group(int index) const;
+
+    std::span<const CheckGroup> m_groups;
+    std::span<const int> m_saveOrder;
 };
 
 }  // namespace kv

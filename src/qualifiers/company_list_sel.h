@@ -18,16 +18,17 @@ public:
     static const kv::MessageMap& Messages();
     const kv::MessageMap& GetMessageMap() const override { return Messages(); }
 
+protected:
+    bool* m_pDesignatedOperator = nullptr;
+    bool* m_pOperatingRights = nullptr;
+    bool* m_pBid = nullptr;
+    bool* m_pLessee = nullptr;
+    bool* m_pOperator = nullptr;
+
 private:
     struct Role {
         int id;
         bool* CKvGuiCompanyListSel::*flag;
     };
     static const Role kRoles[5];
-
-    bool* m_pDesignatedOperator = nullptr;
-    bool* m_pOperatingRights = nullptr;
-    bool* m_pBid = nullptr;
-    bool* m_pLessee = nullptr;
-    bool* m_pOperator = nullptr;
 };

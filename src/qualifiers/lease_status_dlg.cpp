@@ -1,6 +1,7 @@
 #include "qualifiers/lease_status_dlg.h"
 
 #include "qualifiers/lease_status_ids.h"
+#include "window/message_handlers.h"
 
 using namespace kv::lease_status;
 
@@ -58,11 +59,52 @@ void CKvGuiLeaseStatusDlg::SaveSpecials() {
     SaveGroup(kSpecialGroup);
 }
 
+void CKvGuiLeaseStatusDlg::OnCheckActiveAll() {
+    TakeAllBox(kActiveGroup);
+}
+void CKvGuiLeaseStatusDlg::OnCheckInactiveAll() {
+    TakeAllBox(kInactiveGroup);
+}
+void CKvGuiLeaseStatusDlg::OnCheckStateAll() {
+    TakeAllBox(kStateGroup);
+}
+void CKvGuiLeaseStatusDlg::OnCheckHeldAll() {
+    TakeAllBox(kHeldGroup);
+}
+void CKvGuiLeaseStatusDlg::OnCheckSpecialAll() {
+    TakeAllBox(kSpecialGroup);
+}
+
+void CKvGuiLeaseStatusDlg::OnActive() {
+    UpdateAllBox(kActiveGroup);
+}
+void CKvGuiLeaseStatusDlg::OnInactive() {
+    UpdateAllBox(kInactiveGroup);
+}
+void CKvGuiLeaseStatusDlg::OnState() {
+    UpdateAllBox(kStateGroup);
+}
+void CKvGuiLeaseStatusDlg::OnHold() {
+    UpdateAllBox(kHeldGroup);
+}
+void CKvGuiLeaseStatusDlg::OnSpecial() {
+    UpdateAllBox(kSpecialGroup);
+}
+
 const kv::MessageMap& CKvGuiLeaseStatusDlg::Messages() {
-    static const kv::MessageEntry kEntries[] = {
-        kv::OnClicked<&CKvGuiLeaseStatusDlg::OnButtonClear>(kClear),
-        kv::OnControlRange<&CKvGuiLeaseStatusDlg::OnBox>(BN_CLICKED, kFirstBox, kLastBox),
+    using Self = CKvGuiLeaseStatusDlg;
+    static constexpr kv::CheckHandlers kHandlers[] = {
+        {kv::OnClicked<&Self::OnCheckActiveAll>, kv::OnClicked<&Self::OnActive>},
+        {kv::OnClicked<&Self::OnCheckInactiveAll>, kv::OnClicked<&Self::OnInactive>},
+        {kv::OnClicked<&Self::OnCheckStateAll>, kv::OnClicked<&Self::OnState>},
+        {kv::OnClicked<&Self::OnCheckHeldAll>, kv::OnClicked<&Self::OnHold>},
+        {kv::OnClicked<&Self::OnCheckSpecialAll>, kv::OnClicked<&Self::OnSpecial>},
     };
+    static const auto kEntries = [] {
+        auto entries = kv::CheckEntries(kGroups, kHandlers);
+        entries.push_back(kv::OnClicked<&Self::OnButtonClear>(kClear));
+        return entries;
+    }();
     static const kv::MessageMap kMap{&CDialog::Messages(), kEntries};
     return kMap;
 }

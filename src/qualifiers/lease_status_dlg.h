@@ -22,5 +22,17 @@ public:
     const kv::MessageMap& GetMessageMap() const override { return Messages(); }
 
 protected:
+    /// A click on an ALL box sets its members.
+    void OnCheckActiveAll();
+    void OnCheckInactiveAll();
+    void OnCheckStateAll();
+    void OnCheckHeldAll();
+    void OnCheckSpecialAll();
+    /// A click on a member sets its ALL box.
+    void OnActive();
+    void OnInactive();
+    void OnState();
+    void OnHold();
+    void OnSpecial();
     void OnButtonClear() { ClearAll(); }
 };

@@ -5,9 +5,6 @@ namespace kv::lease_status {
 
 inline constexpr int kTemplate = 12002;
 inline constexpr int kClear = 12011;
-/// Every box lies between these two.
-inline constexpr int kFirstBox = 12007;
-inline constexpr int kLastBox = 12035;
 
 inline constexpr int kAllActive = 12007;
 inline constexpr int kAllInactive = 12012;

@@ -19,7 +19,7 @@ public:
     static const kv::MessageMap& Messages();
     const kv::MessageMap& GetMessageMap() const override { return Messages(); }
 
-private:
+protected:
     std::string m_sOptrKeyColumn;
     std::string m_sOptrTable;
     std::string m_sOptrCondition;

@@ -18,4 +18,16 @@ public:
 
     static const kv::MessageMap& Messages();
     const kv::MessageMap& GetMessageMap() const override { return Messages(); }
+
+protected:
+    /// A click on an ALL box sets its members.
+    void OnCheckPpCombServAll();
+    void OnCheckPpOilRelAll();
+    void OnCheckPpGasRelAll();
+    void OnCheckPpOtherServAll();
+    /// A click on a member sets its ALL box.
+    void OnCombServ();
+    void OnOilRel();
+    void OnGasRel();
+    void OnOtherServ();
 };

@@ -1,6 +1,7 @@
 #include "qualifiers/pipe_status_dlg.h"
 
 #include "qualifiers/pipe_ids.h"
+#include "window/message_handlers.h"
 
 using namespace kv::pipe_status;
 
@@ -35,10 +36,27 @@ void CKvGuiPipeStatusDlg::SaveInactives() {
     SaveGroup(kInactiveGroup);
 }
 
+void CKvGuiPipeStatusDlg::OnCheckActiveAll() {
+    TakeAllBox(kActiveGroup);
+}
+void CKvGuiPipeStatusDlg::OnCheckInactiveAll() {
+    TakeAllBox(kInactiveGroup);
+}
+
+void CKvGuiPipeStatusDlg::OnActive() {
+    UpdateAllBox(kActiveGroup);
+}
+void CKvGuiPipeStatusDlg::OnInActive() {
+    UpdateAllBox(kInactiveGroup);
+}
+
 const kv::MessageMap& CKvGuiPipeStatusDlg::Messages() {
-    static const kv::MessageEntry kEntries[] = {
-        kv::OnControlRange<&CKvGuiPipeStatusDlg::OnBox>(BN_CLICKED, kFirstBox, kLastBox),
+    using Self = CKvGuiPipeStatusDlg;
+    static constexpr kv::CheckHandlers kHandlers[] = {
+        {kv::OnClicked<&Self::OnCheckActiveAll>, kv::OnClicked<&Self::OnActive>},
+        {kv::OnClicked<&Self::OnCheckInactiveAll>, kv::OnClicked<&Self::OnInActive>},
     };
+    static const auto kEntries = kv::CheckEntries(kGroups, kHandlers);
     static const kv::MessageMap kMap{&CDialog::Messages(), kEntries};
     return kMap;
 }

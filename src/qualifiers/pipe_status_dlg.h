@@ -16,4 +16,12 @@ public:
 
     static const kv::MessageMap& Messages();
     const kv::MessageMap& GetMessageMap() const override { return Messages(); }
+
+protected:
+    /// A click on an ALL box sets its members.
+    void OnCheckActiveAll();
+    void OnCheckInactiveAll();
+    /// A click on a member sets its ALL box.
+    void OnActive();
+    void OnInActive();
 };

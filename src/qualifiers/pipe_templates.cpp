@@ -66,7 +66,7 @@ constexpr ControlRow kRows[] = {
     {13037, kCheckBox, "Gas Condensate (G/C)", {147, 55, 132, 10}},
     {13038, kCheckBox, "Gas After Process (GAS)", {147, 67, 132, 10}},
     {13039, kCheckBox, "Liquid Propane (LPRO)", {147, 79, 132, 10}},
-    {kTraceGas, kCheckBox, "Bulk Gas with Trace H2S (BLGH)", {147, 91, 132, 10}},
+    {29287, kCheckBox, "Bulk Gas with Trace H2S (BLGH)", {147, 91, 132, 10}},
     {13040, kLabel, "Other Services", {287, 7, 126, 8}},
     {kAllOther, kCheckBox, "ALL", {287, 18, 28, 10}, kFirstOfGroup},
     {13042, kCheckBox, "Acid (ACID)", {295, 31, 118, 10}},

@@ -458,4 +458,102 @@ TEST_F(CheckListWords, StaticsNameTheGroups) {
                                             "Gas Related Service:", "Other Services"));
 }
 
+// Hosts derive, and call and map the handlers by their names.
+
+TEST_F(CheckListWords, ADerivedLeaseDialogHasAHandlerForEachGroup) {
+    struct HostDialog : CKvGuiLeaseStatusDlg {
+        using CKvGuiLeaseStatusDlg::CKvGuiLeaseStatusDlg;
+        static const kv::MessageMap& Messages() {
+            static const kv::MessageEntry kEntries[] = {kv::OnClicked<&HostDialog::OnUnit>(12031)};
+            static const kv::MessageMap kMap{&CKvGuiLeaseStatusDlg::Messages(), kEntries};
+            return kMap;
+        }
+        const kv::MessageMap& GetMessageMap() const override { return Messages(); }
+        void OnUnit() {
+            ++units;
+            OnHold();
+        }
+        void ExpectEachSetsItsMembers() {
+            void (HostDialog::*const all[])() = {
+                &HostDialog::OnCheckActiveAll, &HostDialog::OnCheckInactiveAll,
+                &HostDialog::OnCheckStateAll, &HostDialog::OnCheckHeldAll,
+                &HostDialog::OnCheckSpecialAll};
+            void (HostDialog::*const member[])() = {&HostDialog::OnActive, &HostDialog::OnInactive,
+                                                    &HostDialog::OnState, &HostDialog::OnHold,
+                                                    &HostDialog::OnSpecial};
+            const int boxes[] = {12007, 12012, 12013, 12014, 12015};
+            const int first[] = {12008, 12009, 12010, 12030, 12033};
+            for (int group = 0; group < 5; ++group) {
+                CheckDlgButton(boxes[group], BST_CHECKED);
+                (this->*all[group])();
+                EXPECT_TRUE(IsDlgButtonChecked(first[group])) << group;
+                CheckDlgButton(first[group], BST_UNCHECKED);
+                (this->*member[group])();
+                EXPECT_FALSE(IsDlgButtonChecked(boxes[group])) << group;
+            }
+        }
+        void ExpectFields(std::vector<std::string>* list, CComboBox* box) {
+            EXPECT_EQ(m_pValues, list);
+            EXPECT_EQ(m_pCombo, box);
+            EXPECT_FALSE(m_bReadOnly);
+        }
+        int units = 0;
+    };
+    Given("<LIST>", {"SUSPENS OF PROD", "PRODUCING"});
+    HostDialog dialog(&combo, values, false, nullptr);
+    dialog.ExpectFields(&values, &combo);
+    Run(dialog, [&](kv::User& user) {
+        user.Click(12031);
+        EXPECT_EQ(dialog.units, 1);
+        EXPECT_TRUE(user.Checked(12014));
+        dialog.ExpectEachSetsItsMembers();
+    });
+}
+
+TEST_F(CheckListWords, ADerivedPipelineStatusDialogHasAHandlerForEachGroup) {
+    struct HostDialog : CKvGuiPipeStatusDlg {
+        using CKvGuiPipeStatusDlg::CKvGuiPipeStatusDlg;
+        void ExpectEachSetsItsMembers() {
+            CheckDlgButton(13004, BST_CHECKED);
+            OnCheckActiveAll();
+            EXPECT_TRUE(IsDlgButtonChecked(13005));
+            CheckDlgButton(13005, BST_UNCHECKED);
+            OnActive();
+            EXPECT_FALSE(IsDlgButtonChecked(13004));
+            CheckDlgButton(13007, BST_CHECKED);
+            OnCheckInactiveAll();
+            EXPECT_TRUE(IsDlgButtonChecked(13021));
+            CheckDlgButton(13021, BST_UNCHECKED);
+            OnInActive();
+            EXPECT_FALSE(IsDlgButtonChecked(13007));
+        }
+    } dialog(&combo, values, false, nullptr);
+    Run(dialog, [&](kv::User&) { dialog.ExpectEachSetsItsMembers(); });
+}
+
+TEST_F(CheckListWords, ADerivedPipelineProductDialogHasAHandlerForEachGroup) {
+    struct HostDialog : CKvGuiPipeProductDlg {
+        using CKvGuiPipeProductDlg::CKvGuiPipeProductDlg;
+        void ExpectEachSetsItsMembers() {
+            void (HostDialog::*const all[])() = {
+                &HostDialog::OnCheckPpCombServAll, &HostDialog::OnCheckPpOilRelAll,
+                &HostDialog::OnCheckPpGasRelAll, &HostDialog::OnCheckPpOtherServAll};
+            void (HostDialog::*const member[])() = {&HostDialog::OnCombServ, &HostDialog::OnOilRel,
+                                                    &HostDialog::OnGasRel,
+                                                    &HostDialog::OnOtherServ};
+            const int boxes[] = {13023, 13027, 13034, 13041};
+            const int last[] = {13025, 13032, 29287, 13059};
+            for (int group = 0; group < 4; ++group) {
+                CheckDlgButton(boxes[group], BST_CHECKED);
+                (this->*all[group])();
+                EXPECT_TRUE(IsDlgButtonChecked(last[group])) << group;
+                CheckDlgButton(last[group], BST_UNCHECKED);
+                (this->*member[group])();
+                EXPECT_FALSE(IsDlgButtonChecked(boxes[group])) << group;
+            }
+        }
+    } dialog(&combo, values, false, nullptr);
+    Run(dialog, [&](kv::User&) { dialog.ExpectEachSetsItsMembers(); });
+}
+
 }  // namespace

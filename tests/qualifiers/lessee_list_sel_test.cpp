@@ -205,6 +205,20 @@ TEST_F(LesseeListSel, RangesWaitForASelectedRow) {
     });
 }
 
+TEST_F(LesseeListSel, RangesAreThoseOfTheRowAtTheCaretAndWaitWhereItIsNotSelected) {
+    GivenRanges({"A", "B"}, {{"A", 20, 30}});
+    Open([](kv::User& user) {
+        kv::Node& list = *user.Window().GetDlgItem(kSelected)->m_hWnd;
+        user.Select(kSelected, std::vector<int>{0, 1});
+        ExpectShown(user, "0", "100");
+        // The caret stays on B, and only A is selected.
+        kv::input::ClickRow(list, 1, {.ctrl = true});
+        EXPECT_THAT(user.Selected(kSelected), ElementsAre(0));
+        ExpectEnabled(user, true, true, false);
+        ExpectShown(user, "0", "100");
+    });
+}
+
 TEST_F(LesseeListSel, KeepsWhatIsPickedForEachCompany) {
     GivenRanges({"A", "B"});
     Open([](kv::User& user) {
