@@ -1,7 +1,10 @@
 #include <gmock/gmock.h>
 
+#include <algorithm>
+
 #include "pickers/picker_fixture.h"
 #include "window/acting/input.h"
+#include "window/drawing/image_resource.h"
 
 namespace {
 
@@ -47,6 +50,20 @@ TEST_F(AbeBar, OffersNineLayersInTheirOrder) {
 TEST_F(AbeBar, RunCarriesItsIcon) {
     EXPECT_NE(bar.GetDlgItem(kRun)->SendMessage(BM_GETIMAGE, 1), 0);
     EXPECT_NE(kv::FindImage(kRunIcon), nullptr);
+}
+
+TEST_F(AbeBar, TheIconIsDrawnWhole) {
+    const kv::ImageResource* icon = kv::FindImage(13066);
+    ASSERT_NE(icon, nullptr);
+    EXPECT_THAT(icon->rows, ::testing::SizeIs(icon->height));
+    for (const std::string_view row : icon->rows) {
+        EXPECT_THAT(row, ::testing::SizeIs(icon->width));
+        for (const char pixel : row) {
+            EXPECT_TRUE(pixel == '.' ||
+                        std::ranges::count(icon->palette, pixel, &kv::PaletteEntry::symbol) == 1)
+                << pixel;
+        }
+    }
 }
 
 TEST_F(AbeBar, FillsTheAreasWhenTheListIsFirstDropped) {
