@@ -35,6 +35,10 @@ TEST_F(AbeBar, ComesUpWithMapCheckedLayerWellsAndNothingToRun) {
     EXPECT_TRUE(user->Enabled(kArea));
 }
 
+TEST_F(AbeBar, ReadsTheLayerThatItShows) {
+    EXPECT_EQ(bar.GetLayer(), 25);
+}
+
 TEST_F(AbeBar, CreationMovesTheFocusAndTouchesNoDatabase) {
     EXPECT_EQ(CWnd::GetFocus()->GetParent(), bar.GetDlgItem(kArea));
     EXPECT_THAT(statements, IsEmpty());

@@ -123,6 +123,41 @@ TEST_F(AreaComboBox, AHalfTypedTextRunsNoQuery) {
     EXPECT_EQ(CWnd::GetFocus()->GetParent(), bar.GetDlgItem(kBlock));
 }
 
+TEST_F(AreaComboBox, TheFirstAreaBehindTheLabelsIsNoLabel) {
+    area->V_InitializeCombo();
+    area->SetCurSel(2);
+    ASSERT_EQ(area->GetArea(), "EM");
+    area->SetEditSel(1, 2);
+    statements.clear();
+    area->V_SelChanged(false);
+    EXPECT_THAT(statements, IsEmpty());
+    EXPECT_THAT(BlockRows(), IsEmpty());
+}
+
+TEST_F(AreaComboBox, AnEmptyTextAsksForNoBlocks) {
+    user->Select(kArea, "GI");
+    area->SetWindowText("");
+    statements.clear();
+    area->V_SelChanged(true);
+    EXPECT_THAT(statements, IsEmpty());
+    EXPECT_THAT(BlockRows(), ElementsAre("ALL", "10", "100", "45", "46B", "9", "9A"));
+}
+
+TEST_F(AreaComboBox, APickOpensTheBlockBoxAndGoesThere) {
+    // Outside of a bar nothing but the pick itself does.
+    CKvAreaComboBox areas;
+    CKvBlkComboBox blocks;
+    areas.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWN | CBS_SORT, {0, 0, 90, 90}, &frame, 1);
+    blocks.Create(WS_CHILD | WS_VISIBLE | WS_DISABLED | CBS_DROPDOWN, {0, 0, 90, 90}, &frame, 2);
+    areas.SetBlkCombo(&blocks);
+    areas.V_InitializeCombo();
+    areas.SetCurSel(areas.FindStringExact(-1, "GI"));
+    areas.V_SelChanged(false);
+    EXPECT_TRUE(blocks.IsWindowEnabled());
+    EXPECT_EQ(CWnd::GetFocus()->GetParent(), &blocks);
+    EXPECT_EQ(blocks.GetCount(), 7);
+}
+
 TEST_F(AreaComboBox, ALabelRowSwitchesTheModeAlsoWhileItIsHalfSelected) {
     area->V_InitializeCombo();
     area->SetCurSel(1);
@@ -136,6 +171,12 @@ TEST_F(AreaComboBox, GivesTheAreaCodesOfAnMmsCodeQuotedInBrackets) {
     EXPECT_EQ(area->GetAreacode(true), "('017','018')");
     EXPECT_EQ(area->GetAreacode(false), "017,018");
     user->Select(kBlock, "ALL");
+    EXPECT_EQ(area->GetAreacode(true), "('017','018')");
+}
+
+TEST_F(AreaComboBox, TakesAllBlocksForAllAlsoWithAWaterBehind) {
+    user->Select(kArea, "GI");
+    bar.SetBlkExt("ALL-S");
     EXPECT_EQ(area->GetAreacode(true), "('017','018')");
 }
 
