@@ -21,7 +21,7 @@ public:
                       int nOne, float fHundred, float fZeroA, float fZeroB);
 
     /// The reverse. Both angles become `HUGE_VAL` where there is no answer, which no test of a
-    /// range lets through.
+    /// range lets through: also for X and Y that no place on earth has, as with a digit too many.
     static void XYdrv(double dX, double dY, double* pLat, double* pLon, int nProjection, int nUnits,
                       int nOne, float fHundred, float fZeroA, float fZeroB);
 
@@ -30,11 +30,17 @@ public:
     static void SetRectLat(double dLat);
     static void SetRectLon(double dLon);
 
-    /// Gives a code of the host's own a meaning: PROJ's text of a projection, such as "+proj=lcc
-    /// ...", or the name of a projected reference system. Units and datum of the text are put
-    /// aside. False, with nothing changed, when PROJ cannot read it, when it is no projection, and
-    /// for a code that the library knows by itself; a code that was registered before is replaced.
+    /// Gives a code a meaning, or another one than the library's own, as where a database numbers
+    /// its zones by itself: PROJ's text of a projection, such as "+proj=lcc ...", or the name of a
+    /// projected reference system. Units and datum of the text are put aside. A zone's code and its
+    /// negated state plane number are two codes. False, with nothing changed, when PROJ cannot read
+    /// it, when it is no projection, and for 0 and -1; a code that was registered before is
+    /// replaced.
     static bool RegisterProjection(int nCode, const std::string& definition);
+
+    /// What the library itself calls a zone, a spheroid, or a negated state plane number, as
+    /// "Louisiana South" of 3. Empty for other codes, and for one that is registered.
+    static std::string BuiltInName(int nCode);
 
     /// Splits decimal degrees. The sign stands on the first part that is not 0, so that angles
     /// between -1 and 0 keep it: -0.5 is 0, -30, 0.0. Seconds are below 60 by more than half a

@@ -253,12 +253,12 @@ constexpr Zone kZones[] = {
     {400, "Bessel 1841", kSpheroid, 0, "+ellps=bessel"},
     {500, "Bessel 1841 (Namibia)", kSpheroid, 0, "+ellps=bess_nam"},
     {600, "Airy 1830", kSpheroid, 0, "+ellps=airy"},
-    {700, "Modified Airy", kSpheroid, 0, "+ellps=mod_airy"},
+    {700, "Modified Airy", kSpheroid, 0, kModifiedAiry},
     {800, "Australian National", kSpheroid, 0, "+ellps=aust_SA"},
     {900, "Clarke 1880 (IGN)", kSpheroid, 0, "+ellps=clrk80ign"},
     {1000, "Everest 1830", kSpheroid, 0, "+ellps=evrst30"},
     {1100, "Everest 1948", kSpheroid, 0, "+ellps=evrst48"},
-    {1200, "Everest 1956", kSpheroid, 0, "+ellps=evrst56"},
+    {1200, "Everest 1956", kSpheroid, 0, "+a=6377301.243 +rf=300.8017255"},
     {1300, "Everest 1969", kSpheroid, 0, "+ellps=evrst69"},
     {1400, "Everest (Sabah and Sarawak)", kSpheroid, 0, "+ellps=evrstSS"},
     {1500, "Fischer 1960 (Mercury)", kSpheroid, 0, "+ellps=fschr60"},
@@ -269,13 +269,14 @@ constexpr Zone kZones[] = {
     {2000, "Helmert 1906", kSpheroid, 0, "+ellps=helmert"},
     {2100, "Hough 1960", kSpheroid, 0, "+ellps=hough"},
     {2200, "Krassovsky 1940", kSpheroid, 0, "+ellps=krass"},
-    {2300, "Plessis 1817", kSpheroid, 0, "+ellps=plessis"},
+    {2300, "Plessis 1817", kSpheroid, 0, "+a=6376523 +rf=308.64"},
     {2400, "South East Asia 1956", kSpheroid, 0, "+ellps=SEasia"},
     {2500, "WGS 1960", kSpheroid, 0, "+ellps=WGS60"},
     {2600, "WGS 1966", kSpheroid, 0, "+ellps=WGS66"},
     {2700, "WGS 1972", kSpheroid, 0, "+ellps=WGS72"},
     {2800, "WGS 1984", kSpheroid, 0, "+ellps=WGS84"},
     {2900, "Walbeck", kSpheroid, 0, "+ellps=walbeck"},
+    {3000, "Clarke 1880 (RGS)", kSpheroid, 0, "+a=6378249.145 +rf=293.465"},
     {5001, "Alabama East", kStateTransverse, 101,
      "+proj=tmerc +ellps=clrk66 +lon_0=-85.8333333333333 +lat_0=30.5 +k_0=.99996 "
      "+x_0=152400.3048006096"},
@@ -462,11 +463,11 @@ constexpr Zone kZones[] = {
     {5108, "Jamaica", kMiscLambert, 0,
      "+proj=lcc +lat_1=18 +lat_0=18 +lon_0=-77 +x_0=250000 +y_0=150000 +ellps=clrk66"},
     {5109, "Cuba North", kMiscLambert, 0,
-     "+proj=lcc +lat_1=22.35 +lat_0=22.35 +lon_0=-81 +k_0=0.99993602 +x_0=500000 +y_0=280296.016 "
+     "+proj=lcc +lat_0=22.35 +lon_0=-81 +lat_1=23 +lat_2=21.7 +x_0=500000 +y_0=280296.016 "
      "+ellps=clrk66"},
     {5110, "Cuba South", kMiscLambert, 0,
-     "+proj=lcc +lat_1=20.7166666666667 +lat_0=20.7166666666667 +lon_0=-76.8333333333333 "
-     "+k_0=0.99994848 +x_0=500000 +y_0=229126.939 +ellps=clrk66"},
+     "+proj=lcc +lat_0=20.7166666666667 +lon_0=-76.8333333333333 +lat_1=21.3 "
+     "+lat_2=20.1333333333333 +x_0=500000 +y_0=229126.939 +ellps=clrk66"},
     {5111, "Quebec", kMiscLambert, 0,
      "+proj=lcc +lat_0=44 +lon_0=-68.5 +lat_1=60 +lat_2=46 +ellps=clrk66"},
     {5201, "BLM Zone 14", kMiscTransverse, 0,
@@ -483,9 +484,9 @@ constexpr Zone kZones[] = {
      "+proj=tmerc +lat_0=53.5 +lon_0=-8 +k_0=1.000035 +x_0=200000 +y_0=250000 +a=6377340.189 "
      "+rf=299.3249646"},
     {5207, "Italy Zone 1", kMiscTransverse, 0,
-     "+proj=tmerc +lat_0=0 +lon_0=9 +k_0=0.9996 +x_0=1500000 +ellps=intl +pm=rome"},
+     "+proj=tmerc +lat_0=0 +lon_0=9 +k_0=0.9996 +x_0=1500000 +ellps=intl"},
     {5208, "Italy Zone 2", kMiscTransverse, 0,
-     "+proj=tmerc +lat_0=0 +lon_0=15 +k_0=0.9996 +x_0=2520000 +ellps=intl +pm=rome"},
+     "+proj=tmerc +lat_0=0 +lon_0=15 +k_0=0.9996 +x_0=2520000 +ellps=intl"},
     {5209, "Egypt Blue Belt", kMiscTransverse, 0,
      "+proj=tmerc +lat_0=30 +lon_0=35 +x_0=300000 +y_0=1100000 +ellps=helmert"},
     {5210, "Egypt Red Belt", kMiscTransverse, 0,
@@ -506,7 +507,7 @@ constexpr Zone kZones[] = {
      "+proj=tmerc +lat_0=22.3121333333333 +lon_0=114.178555555556 +x_0=836694.05 +y_0=819069.8 "
      "+ellps=intl"},
     {5301, "France Bonne", kMiscBonne, 0,
-     "+proj=bonne +lat_1=45 +lon_0=0 +pm=paris +ellps=plessis"},
+     "+proj=bonne +lat_1=45 +lon_0=0 +pm=paris +a=6376523 +rf=308.64"},
     {5302, "Portugal Bonne", kMiscBonne, 0,
      "+proj=bonne +lat_1=39.6666666666667 +lon_0=1 +pm=lisbon +ellps=bessel"},
     {5401, "Trinidad", kMiscCassini, 0,
@@ -578,6 +579,10 @@ const Zone* FindStatePlane(int statePlaneCode) {
     return found != std::end(kZones) ? found : nullptr;
 }
 
+const Zone* FindZoneOf(int code) {
+    return code < 0 ? FindStatePlane(-code) : FindZone(code);
+}
+
 bool IsStraightMercator(int code) {
     return projection::IsOnSpheroid(code) &&
            projection::ZoneOf(code) == projection::kStraightMercator;
@@ -585,7 +590,7 @@ bool IsStraightMercator(int code) {
 
 std::string DefinitionOf(int code, double rectLat, double rectLon) {
     if (!projection::IsOnSpheroid(code)) {
-        const Zone* zone = code < 0 ? FindStatePlane(-code) : FindZone(code);
+        const Zone* zone = FindZoneOf(code);
         return zone ? zone->definition : "";
     }
     const int utmZone = projection::ZoneOf(code);

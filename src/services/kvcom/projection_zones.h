@@ -16,6 +16,9 @@ struct Zone {
     const char* definition;
 };
 
+/// The spheroid of Ireland by its figures: PROJ's own text for it rounds them.
+inline constexpr const char* kModifiedAiry = "+a=6377340.189 +rf=299.3249646";
+
 /// Every zone, by code.
 ///
 /// The state plane zones are those of the North American Datum of 1927 (Coast and Geodetic Survey,
@@ -25,6 +28,9 @@ std::span<const Zone> Zones();
 
 /// The zone with that code, null where there is none.
 const Zone* FindZone(int code);
+
+/// The zone with that code, or the state plane zone with that number negated; null for others.
+const Zone* FindZoneOf(int code);
 
 /// The state plane zone with that number, null where there is none.
 const Zone* FindStatePlane(int statePlaneCode);

@@ -6,23 +6,26 @@
 #include <vector>
 
 #include "base/text.h"
+#include "frame/kvcom/projection_code.h"
 #include "services/kvcom/projection_zones.h"
 
 namespace kv::coord {
 
 namespace {
 
-/// A datum by its name brings a shift along; the driver takes its spheroid alone. PROJ's names.
-struct Datum {
+/// A datum by its name brings a shift along; the driver takes its spheroid alone. PROJ's names; of
+/// the spheroid that PROJ rounds, the figures.
+struct Replacement {
     std::string_view parameter;
     const char* spheroid;
 };
-constexpr Datum kDatums[] = {
+constexpr Replacement kReplacements[] = {
     {"+datum=WGS84", "+ellps=WGS84"},          {"+datum=GGRS87", "+ellps=GRS80"},
     {"+datum=NAD83", "+ellps=GRS80"},          {"+datum=NAD27", "+ellps=clrk66"},
     {"+datum=potsdam", "+ellps=bessel"},       {"+datum=carthage", "+ellps=clrk80ign"},
-    {"+datum=hermannskogel", "+ellps=bessel"}, {"+datum=ire65", "+ellps=mod_airy"},
+    {"+datum=hermannskogel", "+ellps=bessel"}, {"+datum=ire65", kModifiedAiry},
     {"+datum=nzgd49", "+ellps=intl"},          {"+datum=OSGB36", "+ellps=airy"},
+    {"+ellps=mod_airy", kModifiedAiry},
 };
 
 /// Parameters of PROJ's texts that say in what a result is given, or what is shifted ahead of the
@@ -39,9 +42,9 @@ bool IsPutAside(const std::string& parameter) {
 std::string ProjectionAlone(const std::string& definition) {
     std::string bare;
     for (const std::string& parameter : Split(definition, ' ')) {
-        const Datum* datum = std::ranges::find(kDatums, parameter, &Datum::parameter);
-        if (datum != std::end(kDatums)) {
-            bare += std::string(datum->spheroid) + " ";
+        const auto* at = std::ranges::find(kReplacements, parameter, &Replacement::parameter);
+        if (at != std::end(kReplacements)) {
+            bare += std::string(at->spheroid) + " ";
         } else if (!parameter.empty() && !IsPutAside(parameter)) {
             bare += parameter + " ";
         }
@@ -71,12 +74,12 @@ bool IsProjection(PJ* operation) {
 }  // namespace
 
 PJ_CONTEXT* Context() {
-    static const std::unique_ptr<PJ_CONTEXT, Release> context = [] {
-        std::unique_ptr<PJ_CONTEXT, Release> created(proj_context_create());
-        proj_log_level(created.get(), PJ_LOG_NONE);
-        proj_context_set_enable_network(created.get(), 0);
-        return created;
-    }();
+    static std::unique_ptr<PJ_CONTEXT, Release> context;
+    if (!context) {
+        context.reset(proj_context_create());
+        proj_log_level(context.get(), PJ_LOG_NONE);
+        proj_context_set_enable_network(context.get(), 0);
+    }
     return context.get();
 }
 
@@ -91,12 +94,17 @@ Projections& Projections::Get() {
     return projections;
 }
 
-PJ* Projections::Build(int code) {
+const Projection* Projections::Build(int code) {
     const auto own = registered_.find(code);
     const std::string definition =
         own != registered_.end() ? own->second : DefinitionOf(code, rectLat_, rectLon_);
-    Operation operation = definition.empty() ? nullptr : CreateOperation(definition);
-    return kept_.insert_or_assign(code, std::move(operation)).first->second.get();
+    return definition.empty() ? nullptr : Keep(code, CreateOperation(definition), definition);
+}
+
+const Projection* Projections::Keep(int code, Operation operation, const std::string& definition) {
+    if (!operation) return nullptr;
+    const Domain domain = DomainOf(operation.get(), definition);
+    return &kept_.insert_or_assign(code, Projection{std::move(operation), domain}).first->second;
 }
 
 void Projections::SetRectLat(double degrees) {
@@ -116,12 +124,12 @@ void Projections::ForgetStraightMercator() {
 }
 
 bool Projections::Register(int code, const std::string& definition) {
-    if (!DefinitionOf(code).empty()) return false;
+    if (code == 0 || code == projection::kNone) return false;
     const std::string bare = ProjectionAlone(ParametersOf(definition));
     Operation operation = CreateOperation(bare);
     if (!IsProjection(operation.get())) return false;
     registered_[code] = bare;
-    kept_[code] = std::move(operation);
+    Keep(code, std::move(operation), bare);
     return true;
 }
 

@@ -6,6 +6,8 @@
 #include <string>
 #include <unordered_map>
 
+#include "services/kvcom/projection_domain.h"
+
 /// What PROJ is asked for, built once and kept.
 namespace kv::coord {
 
@@ -21,16 +23,22 @@ PJ_CONTEXT* Context();
 /// The operation of PROJ's text, null where PROJ refuses it.
 Operation CreateOperation(const std::string& definition);
 
-/// The projections by their codes. An operation takes longitude and latitude in radians and gives
-/// X and Y in metres.
+/// An operation that takes longitude and latitude in radians and gives X and Y in metres.
+struct Projection {
+    Operation operation;
+    Domain domain;
+};
+
+/// The projections by their codes.
 class Projections {
 public:
     static Projections& Get();
 
-    /// Null for an unknown code, and for Straight Mercator at an impossible rectifying point.
-    PJ* Find(int code) {
+    /// Null for an unknown code, and for Straight Mercator at an impossible rectifying point. What
+    /// PROJ refuses is tried again the next time.
+    const Projection* Find(int code) {
         const auto found = kept_.find(code);
-        return found != kept_.end() ? found->second.get() : Build(code);
+        return found != kept_.end() ? &found->second : Build(code);
     }
 
     /// The rectifying point of the Straight Mercator codes, in degrees.
@@ -39,13 +47,14 @@ public:
 
     /// See `CKvUtilLLdrv::RegisterProjection`.
     bool Register(int code, const std::string& definition);
+    bool IsRegistered(int code) const { return registered_.contains(code); }
 
 private:
-    PJ* Build(int code);
+    const Projection* Build(int code);
+    const Projection* Keep(int code, Operation operation, const std::string& definition);
     void ForgetStraightMercator();
 
-    /// A null one is an unknown code's.
-    std::unordered_map<int, Operation> kept_;
+    std::unordered_map<int, Projection> kept_;
     std::unordered_map<int, std::string> registered_;
     double rectLat_ = 0.0;
     double rectLon_ = 0.0;

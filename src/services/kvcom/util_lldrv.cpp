@@ -1,15 +1,14 @@
 #include "frame/kvcom/util_lldrv.h"
 
 #include <cmath>
-#include <cstdint>
-#include <limits>
 #include <numbers>
 
-#include "frame/kvlogs/log.h"
+#include "services/kvcom/projection_zones.h"
 #include "services/kvcom/projections.h"
 
 namespace {
 
+using kv::coord::Projection;
 using kv::coord::Projections;
 
 constexpr double kDegreesPerRadian = 180.0 / std::numbers::pi;
@@ -27,10 +26,11 @@ void CKvUtilLLdrv::LLdrv(double dLat, double dLon, double* pX, double* pY, int n
                          int nUnits, int /*nOne*/, float /*fHundred*/, float /*fZeroA*/,
                          float /*fZeroB*/) {
     *pX = *pY = kNoXY;
-    PJ* projection = Projections::Get().Find(nProjection);
+    const Projection* projection = Projections::Get().Find(nProjection);
     if (!projection) return;
-    const PJ_COORD place = proj_trans(
-        projection, PJ_FWD, {{dLon / kDegreesPerRadian, dLat / kDegreesPerRadian, 0.0, 0.0}});
+    const PJ_COORD place =
+        proj_trans(projection->operation.get(), PJ_FWD,
+                   {{dLon / kDegreesPerRadian, dLat / kDegreesPerRadian, 0.0, 0.0}});
     if (!std::isfinite(place.xy.x) || !std::isfinite(place.xy.y)) return;
     *pX = place.xy.x * UnitsPerMeter(nUnits);
     *pY = place.xy.y * UnitsPerMeter(nUnits);
@@ -40,11 +40,14 @@ void CKvUtilLLdrv::XYdrv(double dX, double dY, double* pLat, double* pLon, int n
                          int nUnits, int /*nOne*/, float /*fHundred*/, float /*fZeroA*/,
                          float /*fZeroB*/) {
     *pLat = *pLon = HUGE_VAL;
-    PJ* projection = Projections::Get().Find(nProjection);
+    const Projection* projection = Projections::Get().Find(nProjection);
     if (!projection || !std::isfinite(dX) || !std::isfinite(dY)) return;
-    const PJ_COORD place = proj_trans(
-        projection, PJ_INV, {{dX / UnitsPerMeter(nUnits), dY / UnitsPerMeter(nUnits), 0.0, 0.0}});
+    PJ* operation = projection->operation.get();
+    const double x = dX / UnitsPerMeter(nUnits);
+    const double y = dY / UnitsPerMeter(nUnits);
+    const PJ_COORD place = proj_trans(operation, PJ_INV, {{x, y, 0.0, 0.0}});
     if (!std::isfinite(place.lp.lam) || !std::isfinite(place.lp.phi)) return;
+    if (!projection->domain.Holds(x, y) && !kv::coord::ComesBack(operation, place, x, y)) return;
     *pLat = place.lp.phi * kDegreesPerRadian;
     *pLon = place.lp.lam * kDegreesPerRadian;
 }
@@ -59,4 +62,9 @@ void CKvUtilLLdrv::SetRectLon(double dLon) {
 
 bool CKvUtilLLdrv::RegisterProjection(int nCode, const std::string& definition) {
     return Projections::Get().Register(nCode, definition);
+}
+
+std::string CKvUtilLLdrv::BuiltInName(int nCode) {
+    const kv::coord::Zone* zone = kv::coord::FindZoneOf(nCode);
+    return zone && !Projections::Get().IsRegistered(nCode) ? zone->description : "";
 }

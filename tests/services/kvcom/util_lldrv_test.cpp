@@ -11,6 +11,7 @@
 
 #include "frame/kvcom/projection_code.h"
 #include "services/kvcom/projection_zones.h"
+#include "services/kvcom/projections.h"
 
 namespace test {
 namespace {
@@ -178,6 +179,47 @@ TEST(CoordinateDriver, HasNoAnswerForImpossiblePlaces) {
     }
 }
 
+TEST(CoordinateDriver, HasNoAnswerForXAndYThatNoPlaceHas) {
+    struct Nowhere {
+        int code;
+        Planar feet;
+    };
+    constexpr Nowhere kNowhere[] = {
+        // A digit too many in Y, and a turn round the earth.
+        {115, {1'900'000.0, 101'234'567.0}},
+        {115, {1'900'000.0, 10'123'456.0 + 131'234'000.0}},
+        {115, {1'900'000.0, -101'234'567.0}},
+        {5202, {1'900'000.0, 101'234'567.0}},
+        // Beyond the pole of a cone, and beyond the sheet that it is unrolled to.
+        {3, {2'000'000.0, 60'000'000.0}},
+        {3, {150'000'000.0, 40'000'000.0}},
+        {-101, {500'000.0, 99'000'000.0}},
+        {199, {70'000'000.0, 0.0}},
+        {5505, {0.0, 20'000'000.0}},
+        {5507, {50'000'000.0, 50'000'000.0}},
+    };
+    CKvUtilLLdrv::SetRectLat(28.0);
+    CKvUtilLLdrv::SetRectLon(-90.0);
+    for (const auto& [code, feet] : kNowhere) {
+        const Angles angles = ToAngles(feet, code, kFeet);
+        EXPECT_EQ(angles.lat, HUGE_VAL) << code << " " << feet.x << " " << feet.y;
+        EXPECT_EQ(angles.lon, HUGE_VAL) << code << " " << feet.x << " " << feet.y;
+    }
+}
+
+TEST(CoordinateDriver, AnswersFarFromAProjectionsRegionWhereAPlaceIs) {
+    CKvUtilLLdrv::SetRectLat(28.0);
+    CKvUtilLLdrv::SetRectLon(-90.0);
+    for (const int code : {3, 115, -101, 199, 5509}) {
+        for (const Angles& place :
+             {Angles{28.0, -30.0}, Angles{75.0, -120.0}, Angles{-40.0, -60.0}}) {
+            const Angles back = ToAngles(ToXY(place, code, kFeet), code, kFeet);
+            EXPECT_NEAR(back.lat, place.lat, 1e-8) << code;
+            EXPECT_NEAR(back.lon, place.lon, 1e-8) << code;
+        }
+    }
+}
+
 TEST(CoordinateDriver, AFailureLeavesTheNextAnswerAsItWas) {
     const Planar before = ToXY({28.0, -90.0}, 3, kFeet);
     ToXY({1000.0, 1000.0}, 3, kFeet);
@@ -213,10 +255,65 @@ TEST(RegisterProjection, RefusesWhatIsNoProjection) {
     EXPECT_EQ(ToXY({28.0, -90.0}, 6004, kFeet).x, CKvUtilLLdrv::kNoXY);
 }
 
-TEST(RegisterProjection, LeavesTheLibrarysOwnCodesAlone) {
-    for (const int code : {1, 3, 115, 199, -4204, 5501})
-        EXPECT_FALSE(CKvUtilLLdrv::RegisterProjection(code, "+proj=utm +zone=3 +ellps=WGS84"));
+TEST(RegisterProjection, OverridesACodeOfTheLibrary) {
+    constexpr const char* kText = "+proj=utm +zone=16 +ellps=clrk66";
+    constexpr int kCodes[] = {1, 115, 399, -401, 5501};
+    for (const int code : kCodes) {
+        ASSERT_TRUE(CKvUtilLLdrv::RegisterProjection(code, kText)) << code;
+        EXPECT_EQ(ToXY({28.0, -90.0}, code, kFeet).x, ToXY({28.0, -90.0}, 116, kFeet).x) << code;
+        EXPECT_NEAR(ToAngles(ToXY({28.0, -90.0}, code, kFeet), code, kFeet).lat, 28.0, 1e-9);
+    }
+    // Not the rectifying point's any more.
+    CKvUtilLLdrv::SetRectLat(10.0);
+    EXPECT_EQ(ToXY({28.0, -90.0}, 399, kFeet).x, ToXY({28.0, -90.0}, 116, kFeet).x);
+    // Its number is another code.
+    EXPECT_NEAR(ToXY({28.5, -96.0}, -4204, kFeet).x, 2963503.91, 0.01);
+
+    // Back again, for other tests.
+    for (const int code : kCodes) {
+        ASSERT_TRUE(
+            CKvUtilLLdrv::RegisterProjection(code, kv::coord::DefinitionOf(code, 28.0, -90.0)));
+    }
     EXPECT_NEAR(ToXY({28.5, -96.0}, 1, kFeet).x, 2963503.91, 0.01);
+}
+
+TEST(RegisterProjection, RefusesTheCodesThatMeanNone) {
+    for (const int code : {0, -1}) {
+        EXPECT_FALSE(CKvUtilLLdrv::RegisterProjection(code, "+proj=utm +zone=16 +ellps=clrk66"));
+        EXPECT_EQ(ToXY({28.0, -90.0}, code, kFeet).x, CKvUtilLLdrv::kNoXY);
+    }
+}
+
+TEST(RegisterProjection, KeepsWhatACodeMeantWhereItRefuses) {
+    EXPECT_FALSE(CKvUtilLLdrv::RegisterProjection(3, "+proj=nonsense"));
+    EXPECT_EQ(CKvUtilLLdrv::BuiltInName(3), "Louisiana South");
+    EXPECT_NEAR(ToXY({Degrees(28, 40, 0), Degrees(-91, 20, 0)}, 3, kFeet).x, 2'000'000.0, 1e-4);
+}
+
+/// The figures of the spheroid, and not PROJ's, which are 2 mm off.
+TEST(RegisterProjection, TakesTheSpheroidOfIrelandByItsFigures) {
+    ASSERT_TRUE(CKvUtilLLdrv::RegisterProjection(6010, "EPSG:29903"));
+    ASSERT_TRUE(CKvUtilLLdrv::RegisterProjection(
+        6011,
+        "+proj=tmerc +lat_0=53.5 +lon_0=-8 +k_0=1.000035 +x_0=200000 +y_0=250000 +datum=ire65"));
+    for (const int code : {6010, 6011}) {
+        EXPECT_NEAR(ToXY({51.5, -6.0}, code, kMeters).y, ToXY({51.5, -6.0}, 5206, kMeters).y, 1e-6);
+    }
+}
+
+TEST(BuiltInName, IsThatOfAZoneASpheroidAndAStatePlaneNumber) {
+    EXPECT_EQ(CKvUtilLLdrv::BuiltInName(3), "Louisiana South");
+    EXPECT_EQ(CKvUtilLLdrv::BuiltInName(-1702), "Louisiana South");
+    EXPECT_EQ(CKvUtilLLdrv::BuiltInName(5505), "Krovak");
+    EXPECT_EQ(CKvUtilLLdrv::BuiltInName(2200), "Krassovsky 1940");
+    for (const int code : {-1, 0, 99, 115, 199, 4900, 6000, -9999})
+        EXPECT_EQ(CKvUtilLLdrv::BuiltInName(code), "") << code;
+}
+
+TEST(BuiltInName, EndsWhereTheHostGivesACodeItsOwnMeaning) {
+    ASSERT_TRUE(CKvUtilLLdrv::RegisterProjection(4, kv::coord::DefinitionOf(4)));
+    EXPECT_EQ(CKvUtilLLdrv::BuiltInName(4), "");
+    EXPECT_EQ(CKvUtilLLdrv::BuiltInName(5), "Arkansas South");
 }
 
 /// Every code that there is; of Straight Mercator one rectifying point will do.
@@ -246,7 +343,6 @@ Angles MiddleOf(const std::string& definition) {
     double lon = Parameter(definition, "lon_0", Parameter(definition, "lonc", 0.0));
     if (definition.find("+proj=utm") == 0) lon = Parameter(definition, "zone", 1) * 6.0 - 183.0;
     if (definition.find("+pm=paris") != std::string::npos) lon += 2.33722917;
-    if (definition.find("+pm=rome") != std::string::npos) lon += 12.45233333;
     if (definition.find("+pm=lisbon") != std::string::npos) lon -= 9.131906111;
     if (definition.find("+proj=krovak") == 0) lon = 15.0;
     const double first = Parameter(definition, "lat_1", Parameter(definition, "lat_0", 30.0));
@@ -306,6 +402,59 @@ TEST_F(EveryCodeTest, ComesBackToWhereItWentOut) {
                                  std::abs(std::remainder(back.lon - place.lon, 360.0))});
         }
         EXPECT_LE(farthest, 1e-9) << code << ": " << definition;
+    }
+}
+
+/// On a plain of 80,000 km across.
+TEST_F(EveryCodeTest, GivesNoPlaceThatHasOtherXAndY) {
+    std::uniform_real_distribution<double> anywhere(-4e7, 4e7);
+    int answers = 0;
+    int none = 0;
+    for (const int code : EveryCode()) {
+        for (int i = 0; i < 200; ++i) {
+            const Planar planar{anywhere(random_), anywhere(random_)};
+            const Angles angles = ToAngles(planar, code, kMeters);
+            if (!std::isfinite(angles.lat)) {
+                ++none;
+                continue;
+            }
+            ++answers;
+            const Planar back = ToXY(angles, code, kMeters);
+            EXPECT_NEAR(back.x, planar.x, 0.02) << code;
+            EXPECT_NEAR(back.y, planar.y, 0.02) << code;
+        }
+    }
+    EXPECT_GT(answers, 10'000);
+    EXPECT_GT(none, 10'000);
+}
+
+/// Where it is not looked whether a place comes back, it does.
+TEST_F(EveryCodeTest, ComesBackEverywhereInItsDomain) {
+    for (const int code : EveryCode()) {
+        const kv::coord::Projection* projection = kv::coord::Projections::Get().Find(code);
+        ASSERT_TRUE(projection) << code;
+        const kv::coord::Domain& domain = projection->domain;
+        EXPECT_GE(domain.east - domain.west, 2e6) << code;
+        EXPECT_GE(domain.north - domain.south, 1.9e6) << code;
+        std::uniform_real_distribution<double> x(domain.west, domain.east);
+        std::uniform_real_distribution<double> y(domain.south, domain.north);
+        for (int i = 0; i < 200; ++i) {
+            const Planar planar{x(random_), y(random_)};
+            const Planar back = ToXY(ToAngles(planar, code, kMeters), code, kMeters);
+            EXPECT_NEAR(back.x, planar.x, 0.02) << code;
+            EXPECT_NEAR(back.y, planar.y, 0.02) << code;
+        }
+    }
+}
+
+/// A domain holds what maps are drawn of.
+TEST_F(EveryCodeTest, HasItsLandInItsDomain) {
+    for (const int code : EveryCode()) {
+        const kv::coord::Projection* projection = kv::coord::Projections::Get().Find(code);
+        const Planar middle =
+            ToXY(MiddleOf(kv::coord::DefinitionOf(code, 28.0, -90.0)), code, kMeters);
+        EXPECT_TRUE(projection->domain.Holds(middle.x, middle.y))
+            << code << " " << middle.x << " " << middle.y;
     }
 }
 
