@@ -4,9 +4,12 @@
 #include <iterator>
 
 #include "base/numbers.h"
+#include "base/text.h"
 #include "frame/kvcom/projection_code.h"
+#include "frame/kvcom/util_lldrv.h"
 #include "frame/kvdbkvn/db_abs_data_mgr.h"
 #include "frame/kvdbkvn/db_dataset_set.h"
+#include "frame/kvlogs/log.h"
 #include "mapbuild/proj_sel.h"
 #include "window/controls/combo_box.h"
 #include "window/dialogs/dialog.h"
@@ -39,6 +42,8 @@ constexpr std::size_t kCodeDigits = 4;
 constexpr const char* kTable = ".gulf_mexico_zone_code";
 constexpr const char* kSpheroidCategory = "utm_spheroids";
 
+constexpr int kLogLevel = 101;
+
 /// The line of a favourite, -1 for any other code.
 int LineOf(int code) {
     const auto at = std::find_if(std::begin(kFavourites), std::end(kFavourites),
@@ -46,11 +51,35 @@ int LineOf(int code) {
     return at == std::end(kFavourites) ? -1 : static_cast<int>(at - kFavourites);
 }
 
+/// Letters and digits alone, since tables differ in the rest.
+std::string Bare(const std::string& name) {
+    std::string bare;
+    for (const char ch : name) {
+        const bool letter = kv::ToUpper(ch) >= 'A' && kv::ToUpper(ch) <= 'Z';
+        if (letter || kv::IsDigit(ch)) bare += kv::ToUpper(ch);
+    }
+    return bare;
+}
+
+/// The coordinate driver asks no database: a code means there what it is built for.
+void LogContradiction(int code, const std::string& name) {
+    const std::string builtIn = CKvUtilLLdrv::BuiltInName(code);
+    if (builtIn.empty() || Bare(builtIn) == Bare(name)) return;
+    CKvLog::Output("Projection code " + std::to_string(code) + " is \"" + name +
+                       "\" in the table of zones, but coordinates are converted as \"" + builtIn +
+                       "\" until RegisterProjection gives the code another meaning.",
+                   kLogLevel, false);
+}
+
 }  // namespace
 
 std::map<int, std::string> CKvGuiProjCtrl::m_tMapDesc;
 bool CKvGuiProjCtrl::m_bMapDescHasData = false;
 int CKvGuiProjCtrl::s_nLastInitCode = kNone;
+
+void CKvGuiProjCtrl::Enter(int nCode, const std::string& name, const std::string& description) {
+    if (m_tMapDesc.emplace(nCode, description).second) LogContradiction(nCode, name);
+}
 
 void CKvGuiProjCtrl::BuildCodeDescMap() {
     // First, so that a load that fails is not tried again.
@@ -65,14 +94,18 @@ void CKvGuiProjCtrl::BuildCodeDescMap() {
             const std::string code = manager.GetItem(row, 0);
             const std::string name = manager.GetItem(row, 1);
             const bool spheroid = manager.GetItem(row, 2) == std::string(kSpheroidCategory);
-            m_tMapDesc.emplace(kv::Atoi(code), spheroid ? name : "Zone : " + code + ": " + name);
+            Enter(kv::Atoi(code), name, spheroid ? name : "Zone : " + code + ": " + name);
         }
         manager.Select(
             "select 'Zone: ' || to_char(-1*state_plane_code) || ': ' || description, "
             "state_plane_code from " +
             table + " where state_plane_code is not null order by description");
         for (int row = 0; row < manager.NumberOfRows(); ++row) {
-            m_tMapDesc.emplace(-kv::Atoi(manager.GetItem(row, 1)), manager.GetItem(row, 0));
+            const int code = -kv::Atoi(manager.GetItem(row, 1));
+            const std::string description = manager.GetItem(row, 0);
+            const std::string ahead = "Zone: " + std::to_string(code) + ": ";
+            Enter(code, description.substr(std::min(ahead.size(), description.size())),
+                  description);
         }
     } catch (const CKvException& e) {
         AfxMessageBox(e.GetErrorMessage(true, true).c_str(), 0, 0);

@@ -17,6 +17,9 @@ class CDialog;
 /// - below -1: a state plane zone, its number negated;
 /// - -1: none.
 ///
+/// A zone that the table calls otherwise than the coordinate driver does
+/// (`CKvUtilLLdrv::BuiltInName`) is told to the log when the table is read.
+///
 /// It owns neither the host nor the combo box. `Initialize` comes first.
 class KVGUICTL_API CKvGuiProjCtrl {
 public:
@@ -69,6 +72,8 @@ protected:
 
 private:
     static void BuildCodeDescMap();
+    /// A code that is entered already keeps its description.
+    static void Enter(int nCode, const std::string& name, const std::string& description);
     static void FillCatalogue();
     /// An unknown code gets an empty description, and stays.
     static const std::string& Description(int nCode);

@@ -1,6 +1,9 @@
 #include "mapbuild/proj_ctrl.h"
 
+#include <fstream>
+
 #include "base/numbers.h"
+#include "frame/kvcom/util_lldrv.h"
 #include "mapbuild/projection_fixture.h"
 
 using kv::ControlKind;
@@ -139,6 +142,73 @@ TEST_F(ProjectionCatalogue, KeepsWhatItReadBeforeAFailure) {
     EXPECT_EQ(CKvGuiProjCtrl::S_GetProjDesc(-4203), "");
 }
 
+class ProjectionContradictions : public Host {
+protected:
+    /// The lines of the log that tell of a code.
+    std::vector<std::string> Told() const {
+        std::vector<std::string> told;
+        std::ifstream log(folder.Native("log.txt"));
+        for (std::string line; std::getline(log, line);) {
+            const std::size_t at = line.find("Projection code ");
+            if (at != std::string::npos) told.push_back(line.substr(at));
+        }
+        return told;
+    }
+    static std::string Line(const std::string& code, const std::string& table,
+                            const std::string& builtIn) {
+        return "Projection code " + code + " is \"" + table +
+               "\" in the table of zones, but coordinates are converted as \"" + builtIn +
+               "\" until RegisterProjection gives the code another meaning.";
+    }
+};
+
+TEST_F(ProjectionContradictions, AreLoggedOnceByCodeAndBothNames) {
+    const std::vector<std::string> lines{
+        Line("4", "North Coast", "Arkansas North"),
+        Line("40", "West Hills", "New York Long Island"),
+        Line("60", "Two Parallels", "Utah North"),
+        Line("200", "International", "Clarke 1880"),
+        Line("300", "Bessel", "International 1924"),
+        Line("5001", "Heart", "Alabama East"),
+        Line("5002", "Globe", "Alabama West"),
+        Line("-4203", "North Coast", "Texas Central"),
+        Line("-102", "West Hills", "Alabama West"),
+    };
+    CKvGuiProjCtrl::S_GetProjDesc(4);
+    EXPECT_THAT(Told(), testing::ElementsAreArray(lines));
+    Show([](kv::User&) {});
+    CKvGuiProjCtrl::S_GetProjDesc(-102);
+    EXPECT_THAT(Told(), SizeIs(lines.size()));
+    EXPECT_THAT(desktop.Messages(), IsEmpty());
+}
+
+TEST_F(ProjectionContradictions, AreNoneInCaseBlanksAndSigns) {
+    test::RunOnSqliteFile(
+        zones,
+        "delete from gulf_mexico_zone_code; insert into gulf_mexico_zone_code values "
+        "(1, 'TEXAS, SOUTH-CENTRAL', 'state_lambert', 4204), (100, 'clarke  1866', "
+        "'utm_spheroids', null), (74, 'Virgin Islands (St Croix)', 'state_lambert', 5202)");
+    CKvGuiProjCtrl::S_GetProjDesc(1);
+    EXPECT_THAT(Told(), IsEmpty());
+    EXPECT_EQ(ProjCtrl::m_tMapDesc.at(-4204), "Zone: -4204: TEXAS, SOUTH-CENTRAL");
+}
+
+TEST_F(ProjectionContradictions, ADigitIsOne) {
+    test::RunOnSqliteFile(zones,
+                          "delete from gulf_mexico_zone_code; insert into gulf_mexico_zone_code "
+                          "values (100, 'Clarke 1868', 'utm_spheroids', null)");
+    CKvGuiProjCtrl::S_GetProjDesc(1);
+    EXPECT_THAT(Told(), ElementsAre(Line("100", "Clarke 1868", "Clarke 1866")));
+}
+
+TEST_F(ProjectionContradictions, AreNoneWhereTheHostToldTheMeaning) {
+    for (const int code : {4, -4203, 5001})
+        ASSERT_TRUE(CKvUtilLLdrv::RegisterProjection(code, "+proj=utm +zone=15 +ellps=clrk66"));
+    CKvGuiProjCtrl::S_GetProjDesc(4);
+    EXPECT_THAT(Told(), Not(testing::Contains(HasSubstr("North Coast"))));
+    EXPECT_THAT(Told(), SizeIs(6));
+}
+
 // The lines.
 
 TEST_F(ProjCtrlTest, OffersSevenFavouritesAndMore) {
@@ -159,6 +229,75 @@ TEST_F(ProjCtrlTest, GivesTheCodeOfEachFavourite) {
             user.Select(kCombo, line);
             EXPECT_EQ(given, codes[line]);
         }
+    });
+}
+
+TEST_F(ProjCtrlTest, InitializeTakesTheZoneAndTheRectifyingPoint) {
+    dialog.onInit = [&] {
+        control.IsXYBounded(true);
+        control.Initialize(&dialog, kCombo, 399, 99, true, 28.5, -91.25);
+        EXPECT_EQ(control.m_nUTMZone, 99);
+        EXPECT_TRUE(control.m_bRectSpec);
+        EXPECT_EQ(control.m_dRectLat, 28.5);
+        EXPECT_EQ(control.m_dRectLon, -91.25);
+        EXPECT_EQ(control.m_nProjection, 399);
+        // The host's, which it told ahead.
+        EXPECT_TRUE(control.m_bXYBounded);
+        other.Initialize(&dialog, kOtherCombo, -1, 15, false, 1.0, 2.0);
+        EXPECT_EQ(other.m_nUTMZone, 15);
+        EXPECT_FALSE(other.m_bRectSpec);
+        EXPECT_EQ(other.m_nProjection, -1);
+        EXPECT_FALSE(other.m_bXYBounded);
+        return TRUE;
+    };
+    Run(dialog, [&](kv::User& user) {
+        EXPECT_EQ(user.Text(kCombo), "399 Straight Mercator");
+        EXPECT_EQ(user.Text(kOtherCombo), "");
+        EXPECT_THAT(user.Rows(kOtherCombo), SizeIs(8));
+    });
+}
+
+TEST_F(ProjCtrlTest, TheRectifyingPointOfInitializeGoesIntoTheSelection) {
+    dialog.onInit = [&] {
+        control.Initialize(&dialog, kCombo, 115, 15, true, 28.5, -91.25);
+        return TRUE;
+    };
+    Run(dialog, [&](kv::User& user) {
+        ExpectPick(kStraightMercator, "Bessel");
+        desktop.ExpectWindow("CKvGuiUTMZoneDlg", [](kv::User& zone) {
+            EXPECT_TRUE(zone.Checked(kv::utm_zone::kUserSpecified));
+            EXPECT_EQ(zone.Text(kv::utm_zone::kLat), "28");
+            EXPECT_EQ(zone.Text(kv::utm_zone::kLon), "-91");
+            zone.Click(IDCANCEL);
+        });
+        user.Select(kCombo, "More...");
+        control.GetProjection();
+        EXPECT_EQ(control.m_dRectLat, 28.5);
+    });
+}
+
+TEST_F(ProjCtrlTest, ASpheroidOfFourDigitsKeepsItsZone) {
+    test::RunOnSqliteFile(zones,
+                          "insert into gulf_mexico_zone_code values (2800, 'WGS 1984', "
+                          "'utm_spheroids', null)");
+    Show(2815, 116, [&](kv::User& user) {
+        EXPECT_EQ(user.Text(kCombo), "2815 UTM");
+        EXPECT_EQ(CKvGuiProjCtrl::S_GetProjDesc(2815), "Zone: 15: WGS 1984");
+        ExpectPick(kUtmSpheroids, "WGS 1984");
+        desktop.ExpectWindow("CKvGuiUTMZoneDlg", [](kv::User& zone) {
+            EXPECT_EQ(zone.Text(kv::utm_zone::kZone), "15");
+            zone.Type(kv::utm_zone::kZone, "17");
+            zone.Click(IDOK);
+        });
+        user.Select(kCombo, "More...");
+        EXPECT_EQ(given, 2817);
+        EXPECT_EQ(control.m_nUTMZone, 17);
+        EXPECT_EQ(user.Text(kCombo), "2817 UTM");
+        ExpectPick(kStraightMercator, "WGS 1984");
+        ExpectZone();
+        user.Select(kCombo, "More...");
+        EXPECT_EQ(given, 2899);
+        EXPECT_EQ(user.Text(kCombo), "2899 Straight Mercator");
     });
 }
 

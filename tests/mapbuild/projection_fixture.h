@@ -22,6 +22,7 @@ namespace test {
 class ProjCtrl : public CKvGuiProjCtrl {
 public:
     using CKvGuiProjCtrl::m_bMapDescHasData;
+    using CKvGuiProjCtrl::m_bXYBounded;
     using CKvGuiProjCtrl::m_nMoreCode;
     using CKvGuiProjCtrl::m_nProjection;
     using CKvGuiProjCtrl::m_tMapDesc;
