@@ -4,6 +4,7 @@
 
 #include "base/numbers.h"
 #include "base/text.h"
+#include "window/dialog_keys.h"
 #include "window/dialogs/message_box.h"
 #include "window/window_system.h"
 
@@ -22,6 +23,19 @@ bool LetThroughUnjudged(UINT character) {
     // The other characters below the blank are commands of the edit, and type nothing.
     return character < ' ' || character == '.' ||
            (character < 0x80 && kv::IsDigit(static_cast<char>(character)));
+}
+
+/// Whether the key presses a push button, which takes no focus from the box, or sends OK. Cancel
+/// gives up what the box holds.
+bool PressesWithoutLeaving(const MSG& message) {
+    kv::Node& host = *message.hwnd->Host();
+    if (message.message == WM_KEYDOWN && message.wParam == VK_RETURN) {
+        const kv::Node* button = kv::DefaultButton(host);
+        return !button || button->Id() != IDCANCEL;
+    }
+    if (message.message != WM_SYSCHAR) return false;
+    const kv::Node* button = kv::ButtonOf(host, static_cast<char>(message.wParam));
+    return button && button->Id() != IDCANCEL;
 }
 
 }  // namespace
@@ -104,17 +118,31 @@ void CNumEdit::Restore(double dValue) {
     }
 }
 
+/// Whether the text is a number within the range, or empty. Tells about any other, and empties it.
+/// The message takes the focus, which is not to be judged once more.
+bool CNumEdit::MayBeLeft() {
+    const auto window = m_hWnd->shared_from_this();
+    const std::string text = WindowText();
+    const auto number = kv::ScanNumber(text);
+    if (m_bTelling || text.empty() || (number && InRange(*number))) return true;
+    m_bTelling = true;
+    AfxMessageBox("Value out of range");
+    if (window->Handle() != this || window->Destroyed()) return false;
+    m_bTelling = false;
+    SetWindowText("");
+    SetFocus();
+    return false;
+}
+
 void CNumEdit::OnKillFocus(CWnd*) {
     const auto window = m_hWnd->shared_from_this();
     Default();
-    if (window->Handle() != this || window->Destroyed()) return;
-    const std::string text = WindowText();
-    const auto number = kv::ScanNumber(text);
-    if (text.empty() || (number && InRange(*number))) return;
-    AfxMessageBox("Value out of range");
-    if (window->Handle() != this || window->Destroyed()) return;
-    SetWindowText("");
-    SetFocus();
+    if (window->Handle() == this && !window->Destroyed()) MayBeLeft();
+}
+
+BOOL CNumEdit::PreTranslateMessage(MSG* message) {
+    if (message->hwnd == m_hWnd && PressesWithoutLeaving(*message) && !MayBeLeft()) return TRUE;
+    return CEdit::PreTranslateMessage(message);
 }
 
 const kv::MessageMap& CNumEdit::Messages() {

@@ -8,8 +8,9 @@
 /// An edit for one number within a range.
 ///
 /// A character that makes the text wrong is taken back as it is typed; digits, the point and the
-/// backspace are let through, and what they make is judged when the focus leaves. Until its range
-/// is set, a box takes 0 alone.
+/// backspace are let through, and what they make is judged when the focus leaves, and ahead of a
+/// push button other than Cancel that Enter or its own key presses while the focus stays. Until its
+/// range is set, a box takes 0 alone.
 class KVGUICTL_API CNumEdit : public CEdit {
 public:
     CNumEdit() = default;
@@ -52,6 +53,8 @@ public:
     static const kv::MessageMap& Messages();
     const kv::MessageMap& GetMessageMap() const override { return Messages(); }
 
+    BOOL PreTranslateMessage(MSG* message) override;
+
 protected:
     void OnChar(UINT nChar, UINT nRepCnt, UINT nFlags);
     void OnKillFocus(CWnd* pNewWnd);
@@ -66,4 +69,7 @@ private:
     bool InRange(double dValue) const { return dValue >= m_dMinValue && dValue <= m_dMaxValue; }
     int Judge(const CString& text) const;
     void Restore(double dValue);
+    bool MayBeLeft();
+
+    bool m_bTelling = false;
 };

@@ -202,6 +202,11 @@ bool HandleMnemonic(Node& host, char letter) {
     return true;
 }
 
+Node* ButtonOf(Node& host, char letter) {
+    const std::vector<Node*> reached = ReachedBy(host, ToUpper(letter));
+    return reached.size() == 1 && IsPushButton(*reached.front()) ? reached.front() : nullptr;
+}
+
 bool HandleDialogCharacter(const MSG& message) {
     Node& focused = *message.hwnd;
     const char ch = static_cast<char>(message.wParam);

@@ -26,6 +26,10 @@ KVGUICTL_API char CharacterOf(const MSG& keyDown);
 /// none is pressed. False when there is none that a person could reach.
 KVGUICTL_API bool HandleMnemonic(Node& host, char letter);
 
+/// The push button that Alt and the letter presses while the focus stays; null where it means
+/// something else.
+KVGUICTL_API Node* ButtonOf(Node& host, char letter);
+
 /// The visible, enabled tab stop behind (or ahead of) `from`, going round; `from` itself where it
 /// is the only one, null where there is none. Of a radio group it is the checked button.
 KVGUICTL_API Node* NextTabStop(Node& host, Node* from, bool forward);

@@ -319,6 +319,18 @@ TEST_F(NumEdit, KeysThatWaitAreDroppedWithTheWrongOne) {
     });
 }
 
+TEST_F(NumEdit, OtherMessagesThatWaitComeThrough) {
+    RunDialog([&](kv::User& user) {
+        number.SetRange(0.0, 60.0);
+        user.Type(kBox, "12");
+        number.PostMessage(WM_CHAR, 'x');
+        number.PostMessage(WM_SETTEXT, 0, kv::AsParam("45"));
+        number.PostMessage(WM_CHAR, '3');
+        kv::WindowSystem::Get().Settle();
+        EXPECT_EQ(Text(), "45");
+    });
+}
+
 TEST_F(NumEdit, KeysThatWaitBehindARightOneAreTyped) {
     RunDialog([&](kv::User& user) {
         number.SetRange(0.0, 1000.0);
@@ -420,6 +432,112 @@ TEST_F(NumEdit, EscapeEndsTheDialogWithoutAWarning) {
         number.SetRange(0.0, 60.0);
         user.Type(kBox, "200");
         user.Key(kBox, "Escape");
+        EXPECT_FALSE(user.Open());
+    });
+    EXPECT_TRUE(desktop.Messages().empty());
+}
+
+// Keys that press a button while the focus stays.
+
+constexpr int kConvert = 20;
+constexpr int kFlag = 21;
+
+class NumEditKeys : public NumEdit {
+protected:
+    void RunKeys(kv::ControlKind ok, kv::ControlKind cancel,
+                 const std::function<void(kv::User&)>& act) {
+        using enum kv::ControlKind;
+        const test::TestTemplate dialogTemplate(
+            {test::Row(kBox, kEdit), test::Row(12, kLabel, "O&ther"), test::Row(kOther, kEdit),
+             test::Row(kConvert, kPushButton, "Con&vert"), test::Row(kFlag, kCheckBox, "&Flag"),
+             test::Row(IDOK, ok, "&OK"), test::Row(IDCANCEL, cancel, "&Cancel")});
+        Run(dialog, [&](kv::User& user) {
+            person = &user;
+            number.SetRange(0.0, 60.0);
+            act(user);
+        });
+    }
+    void RunKeys(const std::function<void(kv::User&)>& act) {
+        RunKeys(kv::ControlKind::kDefaultButton, kv::ControlKind::kPushButton, act);
+    }
+};
+
+TEST_F(NumEditKeys, EnterOkByItsKeyAndOtherButtonsJudgeTheBoxAsLeavingItDoes) {
+    RunKeys([&](kv::User& user) {
+        for (const char* key : {"Enter", "Alt+O", "Alt+V"}) {
+            user.Type(kBox, "95");
+            dialog.told.clear();
+            desktop.ExpectMessage("Value out of range");
+            user.Key(kBox, key);
+            EXPECT_TRUE(user.Open()) << key;
+            EXPECT_EQ(Text(), "") << key;
+            EXPECT_EQ(test::FocusedId(), kBox) << key;
+            EXPECT_FALSE(dialog.WasTold("20 clicked")) << key;
+        }
+        user.Type(kBox, "60");
+        user.Key(kBox, "Alt+V");
+        EXPECT_TRUE(dialog.WasTold("20 clicked"));
+        EXPECT_EQ(Text(), "60");
+        user.Key(kBox, "Enter");
+        EXPECT_FALSE(user.Open());
+    });
+    EXPECT_EQ(desktop.ScenesLeft(), 0);
+}
+
+TEST_F(NumEditKeys, OkByItsKeyTakesANumberInRangeAndAnEmptyBox) {
+    for (const char* text : {"", "30"}) {
+        RunKeys([&](kv::User& user) {
+            user.Type(kBox, text);
+            user.Key(kBox, "Alt+O");
+            EXPECT_FALSE(user.Open()) << text;
+        });
+    }
+    EXPECT_TRUE(desktop.Messages().empty());
+}
+
+TEST_F(NumEditKeys, EnterIsJudgedWhereThereIsNoDefaultButton) {
+    RunKeys(kv::ControlKind::kPushButton, kv::ControlKind::kPushButton, [&](kv::User& user) {
+        user.Type(kBox, "95");
+        desktop.ExpectMessage("Value out of range");
+        user.Key(kBox, "Enter");
+        EXPECT_TRUE(user.Open());
+        user.Key(kBox, "Enter");
+        EXPECT_FALSE(user.Open());
+    });
+}
+
+TEST_F(NumEditKeys, CancelGivesUpWhatTheBoxHolds) {
+    RunKeys([&](kv::User& user) {
+        user.Type(kBox, "95");
+        user.Key(kBox, "Alt+C");
+        EXPECT_FALSE(user.Open());
+    });
+    RunKeys(kv::ControlKind::kPushButton, kv::ControlKind::kDefaultButton, [&](kv::User& user) {
+        user.Type(kBox, "95");
+        user.Key(kBox, "Enter");
+        EXPECT_FALSE(user.Open());
+    });
+    EXPECT_TRUE(desktop.Messages().empty());
+}
+
+TEST_F(NumEditKeys, KeysThatMoveTheFocusAreToldAboutOnce) {
+    RunKeys([&](kv::User& user) {
+        for (const char* key : {"Alt+T", "Alt+F"}) {
+            user.Type(kBox, "95");
+            desktop.ExpectMessage("Value out of range");
+            user.Key(kBox, key);
+            EXPECT_EQ(test::FocusedId(), kBox) << key;
+            EXPECT_FALSE(user.Checked(kFlag));
+        }
+    });
+    EXPECT_EQ(desktop.ScenesLeft(), 0);
+}
+
+TEST_F(NumEditKeys, EnterInAnotherBoxLeavesTheNumberAlone) {
+    RunKeys([&](kv::User& user) {
+        user.Focus(kOther);
+        number.SetWindowText("95");
+        user.Key(kOther, "Enter");
         EXPECT_FALSE(user.Open());
     });
     EXPECT_TRUE(desktop.Messages().empty());

@@ -165,6 +165,22 @@ TEST_F(DMSDlg, APastedAngleFillsASide) {
     EXPECT_EQ(dialog.GetDMSMin(), -95.5);
 }
 
+TEST_F(DMSDlg, EnterDoesNotTakeDegreesOutOfRange) {
+    CKvGuiDMSDlg dialog("29", "28", true);
+    EXPECT_EQ(Run(dialog,
+                  [&](kv::User& user) {
+                      user.Type(kMaxDegEdit, "95");
+                      desktop.ExpectMessage("Value out of range");
+                      user.Key(kMaxDegEdit, "Enter");
+                      ASSERT_TRUE(user.Open());
+                      EXPECT_EQ(Max(user), "|0|0.00");
+                      user.Type(kMaxDegEdit, "30");
+                      user.Key(kMaxDegEdit, "Enter");
+                  }),
+              IDOK);
+    EXPECT_EQ(dialog.GetDMSMax(), 30.0);
+}
+
 TEST_F(DMSDlg, RunsAgainAsItRanFirst) {
     CKvGuiDMSDlg dialog("29", "28", true);
     for (int i = 0; i < 2; ++i) {
