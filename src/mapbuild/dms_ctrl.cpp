@@ -27,25 +27,11 @@ std::string DegreesText(const kv::AngleParts& parts) {
     return (parts.negative ? "-" : "") + std::to_string(parts.degrees);
 }
 
-/// The decimals behind the point of a number, its last digits left out where they are 0.
-std::size_t DecimalsOf(const std::string& number) {
-    const std::size_t point = number.find('.');
-    if (point == std::string::npos) return 0;
-    return number.find_last_not_of('0') - point;
-}
-
 /// Gives the part of an angle between -1 and 0 that has the minus to the degrees.
 kv::AngleParts PartsOf(int nDeg, int nMin, double dSec) {
     const bool below = nDeg == 0 && (nMin < 0 || (nMin == 0 && dSec < 0.0));
     if (!below) return {nDeg < 0, std::abs(nDeg), nMin, dSec};
     return {true, 0, -nMin, nMin < 0 ? dSec : -dSec};
-}
-
-/// Seconds that the boxes would round up to 60 are carried over.
-kv::AngleParts Carried(const kv::AngleParts& parts) {
-    constexpr double kRoundedUp = 59.9995;
-    const bool carries = parts.seconds >= kRoundedUp && parts.seconds < kMostMinutes;
-    return carries ? kv::SplitAngle(kv::JoinAngle(parts), kBoxDecimals) : parts;
 }
 
 }  // namespace
@@ -75,6 +61,10 @@ private:
 
 CKvGuiDMSCtrl::~CKvGuiDMSCtrl() {
     SetPartner(nullptr);
+    LetBoxesGo();
+}
+
+void CKvGuiDMSCtrl::LetBoxesGo() {
     m_pDegEdit.reset();
     m_pDegSpin.reset();
     m_pMinEdit.reset();
@@ -95,6 +85,8 @@ void CKvGuiDMSCtrl::Initialize(CDialog* pParent, int degEdit, int degSpin, int m
     m_dDMS = dValue;
     m_bLat = bLat;
 
+    // Ahead of others on the same boxes.
+    LetBoxesGo();
     m_pDegEdit = MakeEdit(degEdit);
     m_pDegEdit->SetPrecision(kDegreePrecision);
     m_pDegSpin = MakeSpin(degSpin, *m_pDegEdit, -Limit(), Limit(), 1.0);
@@ -138,6 +130,16 @@ void CKvGuiDMSCtrl::SetPositions(const kv::AngleParts& parts) {
     m_pDegSpin->SetPos(parts.negative ? -degrees : degrees);
     m_pMinSpin->SetPos(parts.minutes);
     m_pSecSpin->SetPos(parts.seconds);
+}
+
+/// Seconds that their box would round up to 60 are carried over, unless a box could not show what
+/// comes of it.
+kv::AngleParts CKvGuiDMSCtrl::Carried(const kv::AngleParts& parts) const {
+    constexpr double kRoundedUp = 59.9995;
+    const bool up = parts.seconds >= kRoundedUp && parts.seconds < kMostMinutes;
+    if (!up || parts.minutes < 0 || parts.minutes > kMostMinutes) return parts;
+    const kv::AngleParts carried = kv::SplitAngle(kv::JoinAngle(parts), kBoxDecimals);
+    return carried.degrees <= Limit() ? carried : parts;
 }
 
 /// Nothing like it is done for a longitude above 180.
@@ -286,15 +288,13 @@ void CKvGuiDMSCtrl::SetPartner(CKvGuiDMSCtrl* pPartner) {
     pPartner->m_pPartner = this;
 }
 
-/// Whether the text is a bare number such as this box shows: 30 is minutes in the box of minutes,
-/// 15.25 seconds in that of seconds, but 28.504236 is neither.
-bool CKvGuiDMSCtrl::ShowsAsItIs(const CNumEdit& box, const std::string& text) const {
-    if (!kv::ScanLoneNumber(text)) return false;
-    const std::size_t decimals = DecimalsOf(kv::TrimSpace(text));
+/// Whether the text is a bare number, which is the box's own. Only a fraction of degrees belongs to
+/// the boxes of minutes and seconds, where they are shown.
+bool CKvGuiDMSCtrl::IsOwnNumber(const CNumEdit& box, const std::string& text) const {
+    const auto number = kv::ScanLoneNumber(text);
+    if (!number) return false;
     const bool degrees = &box == m_pDegEdit.get();
-    const bool seconds = &box == m_pSecEdit.get();
-    if (degrees) return decimals == 0;
-    return decimals <= (seconds ? kBoxDecimals : 0) && box.CNumEdit::IsValid(text.c_str()) == 0;
+    return !degrees || m_bDecimal || *number == std::trunc(*number);
 }
 
 std::optional<double> CKvGuiDMSCtrl::Own(const kv::Coordinate& coordinate) const {
@@ -309,7 +309,7 @@ bool CKvGuiDMSCtrl::CanFill() const {
 }
 
 bool CKvGuiDMSCtrl::Paste(const CNumEdit& box, const std::string& text) {
-    if (!CanFill() || ShowsAsItIs(box, text)) return false;
+    if (!CanFill() || IsOwnNumber(box, text)) return false;
     const auto coordinate = kv::ParseCoordinate(text);
     const auto own = coordinate ? Own(*coordinate) : std::nullopt;
     if (!own) return false;

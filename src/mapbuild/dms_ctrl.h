@@ -18,8 +18,8 @@
 /// angle between -1 and 0 are shown, and read, as -0.
 ///
 /// A coordinate that is pasted into any of the boxes (see `kv::ParseCoordinate`) fills all of them,
-/// and those of the partner where it tells both angles. A bare number that the box can show is
-/// pasted as what it is.
+/// and those of the partner where it tells both angles. A bare number is pasted into the one box as
+/// it is; but decimal degrees fill the boxes of minutes and seconds, too, where these are shown.
 class KVGUICTL_API CKvGuiDMSCtrl {
 public:
     static constexpr double kNoValue = 1000.0;
@@ -31,7 +31,7 @@ public:
 
     /// Takes over the boxes of a dialog, which is not owned, in its `OnInitDialog`. They show the
     /// angle, or stay as the template has them where it lies outside of -90 to 90, of a longitude
-    /// -180 to 180. Nothing else may be called ahead of this.
+    /// -180 to 180. Nothing else may be called ahead of this. A further call takes over anew.
     void Initialize(CDialog* pParent, int degEdit, int degSpin, int minEdit, int minSpin,
                     int secEdit, int secSpin, double dValue, bool bLat);
     /// Shows an angle in the present format, or empties the boxes for 1000.0. A longitude from -360
@@ -63,6 +63,7 @@ public:
 private:
     class AngleEdit;
 
+    void LetBoxesGo();
     std::unique_ptr<CNumEdit> MakeEdit(int id);
     std::unique_ptr<CNumSpinCtrl> MakeSpin(int id, CNumEdit& edit, double dMin, double dMax,
                                            double dDelta) const;
@@ -71,12 +72,13 @@ private:
     bool Takes(double dValue) const;
     void SetBoxes();
     void SetPositions(const kv::AngleParts& parts);
+    kv::AngleParts Carried(const kv::AngleParts& parts) const;
     CRect RectInHost(int id) const;
     void Place(int id, const CRect& rect) const;
     void SetLabel(int id, const char* text) const;
 
     bool Paste(const CNumEdit& box, const std::string& text);
-    bool ShowsAsItIs(const CNumEdit& box, const std::string& text) const;
+    bool IsOwnNumber(const CNumEdit& box, const std::string& text) const;
     std::optional<double> Own(const kv::Coordinate& coordinate) const;
     bool CanFill() const;
     void Fill(double dValue);

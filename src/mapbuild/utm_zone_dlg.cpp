@@ -106,7 +106,6 @@ const kv::MessageMap& CKvGuiUTMZoneDlg::Messages() {
     static const kv::MessageEntry kEntries[] = {
         kv::OnClicked<&CKvGuiUTMZoneDlg::OnCenterRadio>(kCenterOfMap),
         kv::OnClicked<&CKvGuiUTMZoneDlg::OnUserRadio>(kUserSpecified),
-        kv::OnClicked<&CKvGuiUTMZoneDlg::OnUserRadio>(kUserSpecified),
         kv::OnControl<&CKvGuiUTMZoneDlg::OnChangeZone>(EN_CHANGE, kZone),
     };
     static const kv::MessageMap kMap{&CDialog::Messages(), kEntries};

@@ -71,8 +71,6 @@ TEST_F(DMSCtrlPaste, ASingleAngleFillsItsGroupOnly) {
         user.Paste(kLonGroup + kDegEdit, "-89.125");
         EXPECT_EQ(LonBoxes(), "-89|7|30.00");
         EXPECT_EQ(LatBoxes(), "28|30|15.25");
-        user.Paste(kLonGroup + kSecEdit, "28.504236");
-        EXPECT_EQ(LonBoxes(), "28|30|15.25");
     });
 }
 
@@ -84,7 +82,7 @@ TEST_F(DMSCtrlPaste, WithoutAPartnerAGroupTakesItsOwnAngle) {
     });
 }
 
-TEST_F(DMSCtrlPaste, ABareNumberThatTheBoxShowsIsWhatItIs) {
+TEST_F(DMSCtrlPaste, ABareNumberIsTheBoxesOwn) {
     RunBound([&](kv::User& user) {
         Lat().SetDMS(1.5);
         user.Paste(kLatGroup + kDegEdit, "28");
@@ -93,11 +91,46 @@ TEST_F(DMSCtrlPaste, ABareNumberThatTheBoxShowsIsWhatItIs) {
         EXPECT_EQ(LatBoxes(), "28|45|15.25");
         user.Paste(kLatGroup + kDegEdit, "-29");
         EXPECT_EQ(LatBoxes(), "-29|45|15.25");
-        // As a part it would be out of range.
+        user.Paste(kLatGroup + kMinEdit, "28.5");
+        user.Paste(kLatGroup + kSecEdit, "15.2534");
+        EXPECT_EQ(LatBoxes(), "-29|28.5|15.2534");
+        user.Paste(kLatGroup + kSecEdit, " 28.504236 ");
+        EXPECT_EQ(LatBoxes(), "-29|28.5| 28.504236 ");
+    });
+}
+
+TEST_F(DMSCtrlPaste, ABareNumberOutOfItsBoxesRangeReplacesNoAngle) {
+    RunBound([&](kv::User& user) {
+        Lat().SetDMS(1.5);
         user.Paste(kLatGroup + kMinEdit, "75");
-        EXPECT_EQ(LatBoxes(), "75|0|0.00");
+        EXPECT_EQ(LatBoxes(), "1|75|0.00");
+        desktop.ExpectMessage("Value out of range");
+        user.Focus(kLatGroup + kSecEdit);
+        user.Paste(kLatGroup + kMinEdit, "30");
         user.Paste(kLatGroup + kSecEdit, "-12");
-        EXPECT_EQ(LatBoxes(), "-12|0|0.00");
+        EXPECT_EQ(LatBoxes(), "1|30|-12");
+        Lat().SetDMS(1.5);
+    });
+}
+
+TEST_F(DMSCtrlPaste, AMarkOfDegreesSpreadsAlsoFromMinutesAndSeconds) {
+    RunBound([&](kv::User& user) {
+        for (const char* text : {"28.504236°", "28.504236 N", "28 30.254167", "28.504236 deg"}) {
+            for (const int box : {kMinEdit, kSecEdit}) {
+                Lat().SetDMS(1.5);
+                user.Paste(kLatGroup + box, text);
+                EXPECT_EQ(LatBoxes(), "28|30|15.25") << text;
+            }
+        }
+    });
+}
+
+TEST_F(DMSCtrlPaste, DecimalDegreesStandAsTheyAreWhereThatIsTheForm) {
+    RunBound([&](kv::User& user) {
+        Lat().SetFormat(true);
+        user.Paste(kLatGroup + kDegEdit, "28.5042361111");
+        EXPECT_EQ(person->Text(kLatGroup + kDegEdit), "28.5042361111");
+        EXPECT_EQ(Lat().GetDMS(), 28.5042361111);
     });
 }
 

@@ -193,6 +193,45 @@ TEST_F(DMSCtrl, APartOutOfRangeLeavesItsBox) {
     });
 }
 
+TEST_F(DMSCtrl, SecondsCarryNothingWhereAnotherPartIsOutOfRange) {
+    RunDialog([&](kv::User&) {
+        for (const auto& [degrees, minutes] : {std::pair{28, 75}, {28, -5}, {95, 10}, {89, 59}}) {
+            Write(kLatGroup, "1", "2", "3");
+            Lat().SetDMS(degrees, minutes, 59.9999);
+            const std::string expected = degrees == 95   ? "1|10|60.000"
+                                         : degrees == 89 ? "90|0|0"
+                                                         : "28|2|60.000";
+            EXPECT_EQ(LatBoxes(), expected) << degrees << " " << minutes;
+        }
+        Write(kLatGroup, "1", "2", "3");
+        Lat().SetDMS(-90, 59, 59.9999);
+        EXPECT_EQ(LatBoxes(), "-90|59|60.000");
+        Lat().SetDMS(28, 60, 59.9999);
+        EXPECT_EQ(LatBoxes(), "29|1|0");
+    });
+}
+
+TEST_F(DMSCtrl, MayBeInitializedAgain) {
+    dialog.firstLat = 28.5;
+    RunDialog([&](kv::User& user) {
+        const auto again = [&](double value) {
+            Lat().Initialize(&dialog, kLatGroup + kDegEdit, kLatGroup + kDegSpin,
+                             kLatGroup + kMinEdit, kLatGroup + kMinSpin, kLatGroup + kSecEdit,
+                             kLatGroup + kSecSpin, value, true);
+        };
+        again(29.25);
+        EXPECT_EQ(LatBoxes(), "29|15|0");
+        user.Type(kLatGroup + kDegEdit, "30");
+        EXPECT_EQ(Lat().GetDMS(), 30.25);
+        user.Type(kLatGroup + kDegEdit, "95");
+        desktop.ExpectMessage("Value out of range");
+        user.Focus(kLatGroup + kMinEdit);
+        again(1000.0);
+        kv::input::StepSpin(*dialog.GetDlgItem(kLatGroup + kMinSpin)->m_hWnd, true);
+        EXPECT_EQ(person->Text(kLatGroup + kMinEdit), "16");
+    });
+}
+
 TEST_F(DMSCtrl, WritesItsTextsPastTheRangeOfTheBox) {
     RunDialog([&](kv::User&) {
         auto& degrees = static_cast<CNumEdit&>(*dialog.GetDlgItem(kLatGroup + kDegEdit));
