@@ -81,6 +81,7 @@ BOOL CKvConverterDialog::OnInitDialog() {
         for (const char* unit : kv::length::kUnits)
             Control<CComboBox>(id).AddString(unit);
         Control<CComboBox>(id).SetCurSel(0);
+        if (CWnd* box = GetDlgItem(id)) box->m_hWnd->SetToolTip(kv::length::kFootRemark);
     }
     kv::coordtools::FillFormats(Control<CComboBox>(kFormat));
 

@@ -15,10 +15,17 @@ inline constexpr double kNoValue = 100000000.0;
 /// The units, as lists have them.
 inline constexpr const char* kUnits[] = {"feet", "meter", "mile", "km"};
 
+/// What a person is told beside the list, since figures in feet and in meters are compared.
+inline constexpr const char* kFootRemark =
+    "Feet are US survey feet (1200/3937 m), as the coordinates are computed in. For meters and "
+    "kilometers they are multiplied by 0.3048 m, which is 2 millionths less: 6.5 m of northing in "
+    "the Gulf.";
+
 /// Whether the text is one of them.
 KVGUICTL_API bool IsUnit(std::string_view unit);
 /// A length in feet as one in the unit, and the reverse; unchanged where the text is no unit. A
-/// mile has 1/0.000189394 feet, which is a rounded value, a foot 0.3048 metres.
+/// mile has 1/0.000189394 feet, which is a rounded value, a foot 0.3048 metres: 2 millionths less
+/// than the US survey foot that the coordinate driver gives.
 KVGUICTL_API double FromFeet(double feet, std::string_view unit);
 KVGUICTL_API double ToFeet(double value, std::string_view unit);
 

@@ -77,6 +77,16 @@ void Node::SetText(std::string text) {
     Tell(Change::kText);
 }
 
+void Node::SetFont(const Font* font) {
+    font_ = font ? std::optional(*font) : std::nullopt;
+    Tell(Change::kFont);
+}
+
+void Node::SetToolTip(std::string text) {
+    toolTip_ = std::move(text);
+    Tell(Change::kToolTip);
+}
+
 void Node::SetStyle(DWORD style) {
     const DWORD changed = style_ ^ style;
     if (!changed) return;
@@ -148,8 +158,13 @@ CWnd* Node::AnyHandle() {
     return handle_ ? handle_ : CWnd::LookupHandle(this);
 }
 
-LRESULT Node::Process(UINT message, WPARAM, LPARAM lParam) {
+LRESULT Node::Process(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
+        case WM_SETFONT:
+            SetFont(reinterpret_cast<const Font*>(wParam));
+            return 0;
+        case WM_GETFONT:
+            return reinterpret_cast<LRESULT>(font_ ? &*font_ : nullptr);
         case WM_SETTEXT:
             SetText(lParam ? TextOf(lParam) : "");
             return TRUE;

@@ -1,11 +1,13 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "base/export.h"
 #include "base/types.h"
+#include "window/drawing/font.h"
 #include "window/messages.h"
 #include "window/node_class.h"
 
@@ -33,6 +35,8 @@ enum class Change {
     kRange,
     kPosition,
     kPaint,  ///< colours or owner-drawn content: paint again
+    kFont,
+    kToolTip,
 };
 
 /// What shows a node. It mirrors the node and stores nothing; the node tells it of every change.
@@ -81,6 +85,13 @@ public:
 
     const std::string& Text() const { return text_; }
     void SetText(std::string text);
+
+    /// The font that WM_SETFONT gave it; none for the one that all controls have.
+    const std::optional<Font>& OwnFont() const { return font_; }
+
+    /// What is told where the pointer rests on it; at first nothing.
+    const std::string& ToolTip() const { return toolTip_; }
+    void SetToolTip(std::string text);
 
     DWORD Style() const { return style_; }
     bool HasStyle(DWORD style) const { return (style_ & style) == style; }
@@ -151,10 +162,14 @@ private:
     friend class WindowSystem;
     friend class ::CWnd;
 
+    void SetFont(const Font* font);
+
     NodeClass class_;
     int id_;
     DWORD style_;
     std::string text_;
+    std::optional<Font> font_;
+    std::string toolTip_;
     CRect rect_;
     bool shown_ = false;
     bool destroying_ = false;

@@ -496,8 +496,17 @@ TEST_F(MsMask, KeepsTheRestOfItsProperties) {
         mask.SetRefMouseIcon(&icon);
         EXPECT_EQ(mask.GetMouseIcon(), &icon);
         CFont font;
+        font.CreatePointFont(120, "Courier");
         mask.SetRefFont(&font);
         EXPECT_EQ(mask.GetFont(), &font);
+        ASSERT_TRUE(mask.m_hWnd->OwnFont());
+        EXPECT_EQ(mask.m_hWnd->OwnFont()->face, "Courier");
+        EXPECT_EQ(*reinterpret_cast<const kv::Font*>(mask.SendMessage(WM_GETFONT)),
+                  *mask.m_hWnd->OwnFont());
+        mask.SetRefFont(nullptr);
+        EXPECT_EQ(mask.GetFont(), nullptr);
+        EXPECT_FALSE(mask.m_hWnd->OwnFont());
+        EXPECT_EQ(mask.SendMessage(WM_GETFONT), 0);
     });
 }
 

@@ -84,6 +84,26 @@ TEST_F(Converter, OpensInDegreesToXY) {
     EXPECT_FALSE(user->Visible(kNad83));
 }
 
+TEST_F(Converter, TheListsOfUnitsSayWhichFootItIs) {
+    for (const int id : {kUnit, kFromUnit, kToUnit}) {
+        EXPECT_EQ(tool.GetDlgItem(id)->m_hWnd->ToolTip(),
+                  "Feet are US survey feet (1200/3937 m), as the coordinates are computed in. For "
+                  "meters and kilometers they are multiplied by 0.3048 m, which is 2 millionths "
+                  "less: 6.5 m of northing in the Gulf.");
+    }
+}
+
+/// Its meters are those of feet of 0.3048 m, 2 millionths short of the driver's.
+TEST_F(Converter, MetersAreShortOfTheDrivers) {
+    TypePosition();
+    user->Select(kUnit, "meter");
+    double x = 0.0;
+    double y = 0.0;
+    CKvUtilLLdrv::LLdrv(28.5, -91.25, &x, &y, 115, 1, 1, 100.0F, 0.0F, 0.0F);
+    EXPECT_NEAR(y - kv::Atof(user->Text(kY)), 6.31, 0.01);
+    EXPECT_NEAR(x - kv::Atof(user->Text(kX)), 1.34, 0.01);
+}
+
 TEST_F(Converter, SortsItsLists) {
     for (const int id : {kUnit, kFromUnit, kToUnit}) {
         EXPECT_THAT(user->Rows(id), ElementsAre("feet", "km", "meter", "mile"));
@@ -272,6 +292,7 @@ TEST_F(Converter, APositionOutOfRangeIsToldAndLeavesTheFocusOnX) {
 
 // The unit.
 
+/// In feet of 0.3048 m, as the converter has them.
 TEST_F(Converter, AnotherUnitShowsTheSamePosition) {
     tool.ResetToDefault();
     user->Click(kToLatLon);
@@ -293,6 +314,7 @@ TEST_F(Converter, ReadsTheBoxesInTheUnitThatTheyWereShownIn) {
     EXPECT_THAT(XY(), ElementsAre("0.19", "0.38"));
 }
 
+/// Kilometres of feet of 0.3048 m, 2 millionths short of the driver's.
 TEST_F(Converter, ShowsAPositionInKilometres) {
     TypePosition();
     user->Click(kConvert);

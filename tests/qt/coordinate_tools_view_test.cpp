@@ -13,6 +13,7 @@
 #include "qt_fixture.h"
 #include "support/temp_folder.h"
 #include "support/zone_database.h"
+#include "window/drawing/gdi_objects.h"
 
 namespace {
 
@@ -101,6 +102,38 @@ TEST_F(CoordinateTools, TheConverterShowsBothForms) {
     EXPECT_NE(parts, number);
     user->Select(kFormat, "d/m/s");
     ExpectParts(tool, kLatitude);
+    tool.CloseDlg();
+    tool.DestroyWindow();
+}
+
+TEST_F(CoordinateTools, TheListsOfUnitsHaveTheirRemarkAsAToolTip) {
+    using namespace kv::converter;
+    CKvConverterDialog tool(nullptr);
+    Open(tool);
+    for (const int id : {kUnit, kFromUnit, kToUnit}) {
+        EXPECT_TRUE(WidgetOf(tool, id)->toolTip().contains("US survey feet")) << id;
+    }
+    EXPECT_EQ(WidgetOf(tool, kFormat)->toolTip(), "");
+    tool.GetDlgItem(kFormat)->m_hWnd->SetToolTip("How angles are shown");
+    EXPECT_EQ(WidgetOf(tool, kFormat)->toolTip(), "How angles are shown");
+    tool.CloseDlg();
+    tool.DestroyWindow();
+}
+
+TEST_F(CoordinateTools, ABoxHasTheFontThatItIsGiven) {
+    using namespace kv::converter;
+    CKvConverterDialog tool(nullptr);
+    Open(tool);
+    const QFont own = WidgetOf(tool, kX)->font();
+    CFont font;
+    font.CreatePointFont(240, "Courier");
+    tool.GetDlgItem(kX)->SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(font.GetSafeHandle()),
+                                     TRUE);
+    EXPECT_EQ(WidgetOf(tool, kX)->font().family(), "Courier");
+    EXPECT_GT(WidgetOf(tool, kX)->font().pixelSize(), 0);
+    EXPECT_EQ(WidgetOf(tool, kY)->font(), own);
+    tool.GetDlgItem(kX)->SendMessage(WM_SETFONT, 0, TRUE);
+    EXPECT_EQ(WidgetOf(tool, kX)->font(), own);
     tool.CloseDlg();
     tool.DestroyWindow();
 }

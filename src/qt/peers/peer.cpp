@@ -114,6 +114,8 @@ void Peer::ShowAll() {
     ShowEnabled();
     ShowColors();
     ShowName();
+    if (node_.OwnFont()) ShowFont();
+    if (!node_.ToolTip().empty()) ShowToolTip();
     if (ChildHost()) MakeChildren();
     ShowVisible();
     if (WindowSystem::Get().Focus() == &node_) ShowFocus();
@@ -156,6 +158,12 @@ void Peer::Changed(Change change) {
             ShowColors();
             widget_->update();
             break;
+        case Change::kFont:
+            ShowFont();
+            break;
+        case Change::kToolTip:
+            ShowToolTip();
+            break;
         default:
             widget_->update();
             break;
@@ -172,6 +180,14 @@ void Peer::ShowEnabled() {
 
 void Peer::ShowVisible() {
     widget_->setVisible(node_.Visible());
+}
+
+void Peer::ShowFont() {
+    widget_->setFont(node_.OwnFont() ? ToQFont(*node_.OwnFont()) : QFont());
+}
+
+void Peer::ShowToolTip() {
+    widget_->setToolTip(ToQString(node_.ToolTip()));
 }
 
 void Peer::ShowFocus() {

@@ -39,6 +39,8 @@ protected:
     virtual void ShowVisible();
     virtual void ShowFocus();
     virtual void ShowStyle() {}
+    void ShowFont();
+    void ShowToolTip();
 
     /// The palette where nobody asks for other colours.
     virtual QPalette OwnPalette() const { return {}; }
