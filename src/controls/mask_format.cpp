@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <chrono>
 #include <cmath>
 #include <optional>
@@ -16,7 +17,7 @@ namespace {
 
 /// More digits than a number has are never shown.
 constexpr int kMostDecimals = 30;
-/// A number that leaves room for being shown in hundredths.
+/// Beyond it is nothing that people write out.
 constexpr double kGreatest = 1e300;
 
 // Numbers.
@@ -117,26 +118,69 @@ std::string ExponentOf(int exponent, const NumberFormat& format) {
     return std::string("E") + (exponent < 0 ? "-" : format.plus ? "+" : "") + digits;
 }
 
-/// Fixed notation, a half being rounded up.
-std::string RoundedFixed(double value, int decimals) {
-    const double scaled = value * std::pow(10, decimals);
-    const bool half = scaled - std::floor(scaled) == 0.5;
-    return FormatFixed(half ? std::nextafter(value, HUGE_VAL) : value, decimals);
+/// A number as people write it, which is what they round: the shortest digits that are read as it,
+/// the first of them ahead of the point, and a power of ten.
+struct Decimal {
+    std::string digits;
+    int exponent = 0;
+};
+
+/// `value` is not negative.
+Decimal DecimalOf(double value) {
+    char text[64];
+    const auto end = std::to_chars(text, std::end(text), value, std::chars_format::scientific).ptr;
+    const std::string_view written(text, static_cast<std::size_t>(end - text));
+    const std::size_t mark = written.find('e');
+    std::string digits(written.substr(0, mark));
+    std::erase(digits, '.');
+    return {digits, Atoi(written.substr(mark + 1))};
+}
+
+/// The first so many digits, a half being rounded up.
+Decimal Rounded(Decimal number, int count) {
+    auto& [digits, exponent] = number;
+    if (count < 0) return {"0", exponent};
+    const auto kept = static_cast<std::size_t>(count);
+    if (kept >= digits.size()) return number;
+    const bool up = digits[kept] >= '5';
+    digits.resize(kept);
+    if (!up) return digits.empty() ? Decimal{"0", exponent} : number;
+    const std::size_t last = digits.find_last_not_of('9');
+    if (last == std::string::npos) return {"1", exponent + 1};
+    ++digits[last];
+    digits.resize(last + 1);
+    return number;
+}
+
+std::string FixedText(const Decimal& number, int decimals) {
+    const Decimal rounded = Rounded(number, number.exponent + 1 + decimals);
+    const auto digitOf = [&](int power) {
+        const int at = rounded.exponent - power;
+        const bool there = at >= 0 && at < static_cast<int>(rounded.digits.size());
+        return there ? rounded.digits[static_cast<std::size_t>(at)] : '0';
+    };
+    std::string text;
+    for (int power = std::max(rounded.exponent, 0); power >= -decimals; --power) {
+        if (power == -1) text += '.';
+        text += digitOf(power);
+    }
+    return text;
 }
 
 /// `value` is not negative.
 std::string FormatSection(std::string_view section, double value) {
     const NumberFormat format = ParseNumberFormat(section);
     if (!format.digits) return format.ahead + format.behind;
-    if (format.percent) value *= 100;
+    Decimal number = DecimalOf(value);
+    if (format.percent && value != 0) number.exponent += 2;
     if (!format.exponent) {
-        return format.ahead + WithDigits(RoundedFixed(value, format.mostDecimals), format) +
+        return format.ahead + WithDigits(FixedText(number, format.mostDecimals), format) +
                format.behind;
     }
-    const std::string scientific = FormatText("%.*e", format.mostDecimals, value);
-    const std::size_t mark = scientific.find('e');
-    return format.ahead + WithDigits(scientific.substr(0, mark), format) +
-           ExponentOf(Atoi(scientific.substr(mark + 1)), format) + format.behind;
+    number = Rounded(number, 1 + format.mostDecimals);
+    const std::string mantissa = FixedText({number.digits, 0}, format.mostDecimals);
+    return format.ahead + WithDigits(mantissa, format) + ExponentOf(number.exponent, format) +
+           format.behind;
 }
 
 /// The sections between the semicolons that are not quoted.
