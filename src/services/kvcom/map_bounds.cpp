@@ -15,11 +15,20 @@ using AngleTexts = std::array<std::string, 3>;
 
 constexpr double kNoAngle = 1000.0;
 
-AngleTexts Split(double angle) {
-    // Nothing finer than six significant digits show of the seconds.
+/// Rounded to what six significant digits show, so that these are never 60.
+kv::AngleParts Rounded(double angle) {
     constexpr int kDecimals = 4;
+    constexpr int kDecimalsBelowTen = 6;
+    // Less would be written as a power of ten.
+    constexpr double kLeast = 1e-4;
+    const kv::AngleParts fine = kv::SplitAngle(angle, kDecimalsBelowTen);
+    const bool belowTen = fine.seconds >= kLeast && fine.seconds < 10.0;
+    return belowTen ? fine : kv::SplitAngle(angle, kDecimals);
+}
+
+AngleTexts Split(double angle) {
     if (!(std::abs(angle) < kNoAngle)) return {};
-    const kv::AngleParts parts = kv::SplitAngle(angle, kDecimals);
+    const kv::AngleParts parts = Rounded(angle);
     return {(parts.negative ? "-" : "") + std::to_string(parts.degrees),
             std::to_string(parts.minutes), kv::FormatStream(parts.seconds)};
 }

@@ -180,6 +180,29 @@ TEST(MapBounds, TextsAreMadeFromAnglesWithoutSixtySeconds) {
     EXPECT_EQ(MinTexts(bounds), (Texts{"0", "0", "0", "12", "20", "44.444"}));
 }
 
+TEST(MapBounds, SecondsOfTextsHaveSixSignificantDigits) {
+    struct Made {
+        double seconds;
+        const char* minutes;
+        const char* text;
+    };
+    constexpr Made kMade[] = {
+        {44.44404, "15", "44.444"},   {44.44456, "15", "44.4446"},   {5.1234561, "15", "5.12346"},
+        {0.123456, "15", "0.123456"}, {0.0123456, "15", "0.012346"}, {0.0001234, "15", "0.000123"},
+        {9.9999996, "15", "10"},      {9.999996, "15", "10"},        {9.99999, "15", "9.99999"},
+        {0.00003, "15", "0"},         {59.9999, "15", "59.9999"},    {59.99996, "16", "0"},
+        {59.9999999, "16", "0"},
+    };
+    for (const Made& made : kMade) {
+        CKvMapBounds bounds;
+        bounds.SetLatMin(29.25 + made.seconds / 3600.0);
+        bounds.SetLonMin(-90.25 - made.seconds / 3600.0);
+        EXPECT_EQ(MinTexts(bounds),
+                  (Texts{"29", made.minutes, made.text, "-90", made.minutes, made.text}))
+            << made.seconds;
+    }
+}
+
 TEST(MapBounds, AnAngleWithoutValueHasEmptyTexts) {
     CKvMapBounds bounds;
     bounds.SetLatMax(1000.0);
