@@ -267,6 +267,62 @@ TEST_F(ProgressDlg, MessagesForOtherWindowsGetThrough) {
     EXPECT_EQ(other.painted, 1);
 }
 
+TEST_F(ProgressDlg, EachCallThatMovesTheBarLetsMessagesThrough) {
+    Progress dialog;
+    dialog.Create(&frame);
+    const std::function<void()> kMoves[] = {[&] { dialog.SetPos(10); },
+                                            [&] { dialog.OffsetPos(10); }, [&] { dialog.StepIt(); },
+                                            [&] { dialog.CheckCancelButton(); }};
+    int pumped = 0;
+    for (const auto& move : kMoves) {
+        desktop.ExpectPump([&](kv::User&) { ++pumped; });
+        dialog.PostMessage(WM_SETTEXT, 0, kv::AsParam("Moved"));
+        move();
+        EXPECT_EQ(dialog.WindowText(), "Moved");
+        dialog.SetWindowText("Progress");
+    }
+    EXPECT_EQ(pumped, 4);
+}
+
+TEST_F(ProgressDlg, KeysThatWaitAreItsOwnAsADialogs) {
+    Progress dialog;
+    dialog.Create(&frame);
+    CWnd* cancel = dialog.GetDlgItem(IDCANCEL);
+    cancel->PostMessage(WM_KEYDOWN, VK_ESCAPE);
+    dialog.SetPos(10);
+    EXPECT_EQ(dialog.CheckCancelButton(), 1);
+    EXPECT_FALSE(dialog.IsWindowVisible());
+}
+
+TEST_F(ProgressDlg, ARangeSetWhileItIsUpIsTheBars) {
+    Progress dialog;
+    dialog.Create(&frame);
+    dialog.SetPos(50);
+    dialog.SetRange(100, 300);
+    int lower = 0;
+    int upper = 0;
+    dialog.m_Progress.GetRange(lower, upper);
+    EXPECT_EQ(lower, 100);
+    EXPECT_EQ(upper, 300);
+    EXPECT_EQ(dialog.SetPos(200), 100);
+    EXPECT_EQ(dialog.m_Progress.GetPos(), 200);
+    EXPECT_EQ(Percent(dialog), "50%");
+    dialog.SetStep(50);
+    dialog.StepIt();
+    EXPECT_EQ(dialog.m_Progress.GetPos(), 250);
+}
+
+TEST_F(ProgressDlg, ARangeAndAStepSetAheadOfItAreTheBars) {
+    Progress dialog;
+    dialog.SetRange(100, 300);
+    dialog.SetStep(50);
+    dialog.Create(&frame);
+    EXPECT_EQ(dialog.m_Progress.GetPos(), 100);
+    EXPECT_EQ(dialog.StepIt(), 100);
+    EXPECT_EQ(dialog.m_Progress.GetPos(), 150);
+    EXPECT_EQ(Percent(dialog), "25%");
+}
+
 TEST(ProgressDlgBeforeTheModule, WithoutTheTemplateNothingOpensAndTheWindowIsEnabledAgain) {
     kv::HeadlessDesktop desktop;
     kv::WindowSystem::Get().SetDesktop(&desktop);
