@@ -26,6 +26,8 @@ std::vector<std::string> Feet(double lat, double lon, int projection) {
     return {kv::FormatFixed(x, 2), kv::FormatFixed(y, 2)};
 }
 
+/// Expected meters and kilometers are those of the converter, 0.3048 m to the foot, though feet are
+/// US survey feet: 2 millionths short of what the driver gives in meters.
 class Converter : public test::ToolTest<CKvConverterDialog> {
 protected:
     std::vector<std::string> XY() { return {user->Text(kX), user->Text(kY)}; }
@@ -93,7 +95,6 @@ TEST_F(Converter, TheListsOfUnitsSayWhichFootItIs) {
     }
 }
 
-/// Its meters are those of feet of 0.3048 m, 2 millionths short of the driver's.
 TEST_F(Converter, MetersAreShortOfTheDrivers) {
     TypePosition();
     user->Select(kUnit, "meter");
@@ -292,7 +293,6 @@ TEST_F(Converter, APositionOutOfRangeIsToldAndLeavesTheFocusOnX) {
 
 // The unit.
 
-/// In feet of 0.3048 m, as the converter has them.
 TEST_F(Converter, AnotherUnitShowsTheSamePosition) {
     tool.ResetToDefault();
     user->Click(kToLatLon);
@@ -314,7 +314,6 @@ TEST_F(Converter, ReadsTheBoxesInTheUnitThatTheyWereShownIn) {
     EXPECT_THAT(XY(), ElementsAre("0.19", "0.38"));
 }
 
-/// Kilometres of feet of 0.3048 m, 2 millionths short of the driver's.
 TEST_F(Converter, ShowsAPositionInKilometres) {
     TypePosition();
     user->Click(kConvert);
