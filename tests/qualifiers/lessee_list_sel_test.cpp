@@ -237,6 +237,18 @@ TEST_F(LesseeListSel, KeepsWhatIsPickedForEachCompany) {
     EXPECT_TRUE(any);
 }
 
+TEST_F(LesseeListSel, APercentLeavesTheOtherEndOfItsRange) {
+    GivenRanges({"A", "B"});
+    Open([](kv::User& user) {
+        user.Select(kSelected, "A");
+        user.Select(kMin, "10");
+        user.Select(kSelected, "B");
+        user.Type(kMax, "40");
+        user.Click(IDOK);
+    });
+    EXPECT_THAT(percents, ElementsAre(Range{"A", 10, 100}, Range{"B", 0, 40}));
+}
+
 TEST_F(LesseeListSel, KeepsAPercentThatIsNotInTheList) {
     GivenRanges({"A", "B"});
     Open([](kv::User& user) {
@@ -273,11 +285,12 @@ TEST_F(LesseeListSel, NothingIsCheckedInATypedPercent) {
 }
 
 TEST_F(LesseeListSel, AMaxUnderItsMinIsToldAndStored) {
-    GivenRanges({"A", "B", "C"}, {{"A", 80, 20}, {"C", 10, 0}});
+    GivenRanges({"A", "B", "C", "D"}, {{"A", 80, 20}, {"C", 10, 0}, {"D", 30, 30}});
     desktop.ExpectMessage("NOTE: Max Percent is less than Min Percent!");
     desktop.ExpectMessage("NOTE: Max Percent is less than Min Percent!");
     EXPECT_EQ(Open([](kv::User& user) { user.Click(IDOK); }), IDOK);
-    EXPECT_THAT(percents, ElementsAre(Range{"A", 80, 20}, Range{"B", 0, 100}, Range{"C", 10, 0}));
+    EXPECT_THAT(percents, ElementsAre(Range{"A", 80, 20}, Range{"B", 0, 100}, Range{"C", 10, 0},
+                                      Range{"D", 30, 30}));
 }
 
 TEST_F(LesseeListSel, RangesComeInTheOrderOfTheSortedList) {

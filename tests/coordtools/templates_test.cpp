@@ -1,0 +1,12 @@
+#include <gtest/gtest.h>
+
+#include "support/template_texts.h"
+
+namespace {
+
+TEST(CoordinateToolTemplates, HoldTheirTexts) {
+    for (const int id : {14608, 15113})
+        test::ExpectToldTexts(id);
+}
+
+}  // namespace

@@ -1,0 +1,12 @@
+#include <gtest/gtest.h>
+
+#include "support/template_texts.h"
+
+namespace {
+
+TEST(PickerTemplates, HoldTheirTexts) {
+    for (const int id : {13060})
+        test::ExpectToldTexts(id);
+}
+
+}  // namespace

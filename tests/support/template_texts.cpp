@@ -1,0 +1,616 @@
+#include "support/template_texts.h"
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "base/text.h"
+#include "window/list_view/list_view_messages.h"
+#include "window/templates/resources.h"
+
+namespace test {
+
+namespace {
+
+using kv::ControlKind;
+
+/// Each template's id and caption, and below it its rows: id, kind, text, and how it starts.
+constexpr const char* kTexts = R"texts(
+180 "Multiple Selections Dialog"
+    12039 label "Find:"
+    1191 edit ""
+    1192 default button "Search..."
+    12037 radio "Search..."
+    12038 radio "Insert..."
+    65535 label "Search records that"
+    2101 radio "Contain"
+    29148 radio "Start with"
+    2100 radio "End with"
+    65535 label "Available"
+    1193 extended list ""
+    1188 button "Add ->"
+    1189 button "<- Remove"
+    1194 button "Import..."
+    1195 button "Export..."
+    29300 check box ""
+    29299 button "File..."
+    65535 label "Selected"
+    1043 extended list ""
+    1 button "OK"
+    1190 button "Clear"
+    2 button "Cancel"
+
+182 "Area Block/Extension Selection Dialog"
+    65535 label "Find:"
+    1191 edit ""
+    1192 default button "Search..." disabled
+    12037 radio "Search..."
+    12038 radio "Insert..."
+    65535 label "Search records that"
+    2101 radio "Contain"
+    29148 radio "Start with"
+    2100 radio "End with"
+    65535 label "Available Areanames"
+    1193 extended list "" sorted
+    65535 label "Block/Extension"
+    1194 extended list ""
+    1188 button "Add ->"
+    1189 button "<- Remove"
+    12001 button "Select from Map"
+    12000 button "Import"
+    12004 button "Export"
+    12002 button "Neighbor Blocks"
+    29300 check box ""
+    29299 button "File..."
+    1042 list view "" always showing its selection
+    1 button "OK"
+    1190 button "Clear" disabled
+    2 button "Cancel"
+
+250 "Dialog"
+    3001 edit ""
+    65535 label "To"
+    3002 edit ""
+    2099 radio "Meters"
+    3000 radio "Feet"
+    1 default button "OK"
+    2 button "Cancel"
+
+1536 "Open"
+    1091 label "Look &in:"
+    1137 edit "" read-only
+    1120 list ""
+    1090 label "File &name:"
+    1152 edit ""
+    1 default button "&Open"
+    1089 label "Files of &type:"
+    1136 drop list ""
+    2 button "Cancel"
+
+12000 "Lessee Match"
+    12039 label "Find:"
+    1191 edit ""
+    1192 default button "Search..."
+    12037 radio "Search..."
+    12038 radio "Insert..."
+    65535 label "Search records that"
+    2101 radio "Contain"
+    29148 radio "Start with"
+    2100 radio "End with"
+    65535 label "Available"
+    1193 extended list "" sorted
+    1188 button "Add ->"
+    1189 button "<- Remove"
+    1194 button "Import..."
+    1195 button "Export..."
+    65535 label "Selected"
+    1043 extended list "" sorted
+    1087 group box "Lessee Options"
+    1088 radio "Highest Percentage Lessee"
+    1089 radio "Any Percent Lessee"
+    1090 radio "OR" disabled
+    1091 radio "AND" disabled
+    1001 check box "Specify Percentage" disabled
+    12034 label "Min" disabled
+    1092 editable combo "" disabled
+    12035 label "Max" disabled
+    1093 editable combo "" disabled
+    1 button "OK"
+    1190 button "Clear"
+    2 button "Cancel"
+
+12001 "Progress"
+    1005 label ""
+    1003 progress bar ""
+    1004 right label " 0 %"
+    2 button "Cancel"
+
+12002 "Lease Status"
+    65535 label "ACTIVE LEASE:"
+    12007 check box "ALL"
+    12008 check box "Direct Sus of Oper"
+    12016 check box "Extended Term"
+    12018 check box "Operations"
+    12019 check box "Preliminary"
+    12020 check box "Primary DSO"
+    12021 check box "Primary Term"
+    12022 check box "Suspens of Oper"
+    65535 label "INACTIVE LEASE:"
+    12012 check box "ALL"
+    12009 check box "Consolidated"
+    12023 check box "Expired"
+    12017 check box "Not Issued"
+    12024 check box "Forfeited"
+    12025 check box "Rejected"
+    12026 check box "Relinquished or Cancelled"
+    12027 check box "Terminated"
+    65535 label "STATE LEASE ONLY:"
+    12013 check box "ALL"
+    12010 check box "Active HBP"
+    12028 check box "Active 3 Years"
+    12029 check box "Active 5 Years"
+    65535 label "HELD BY PRODUCTION:"
+    12014 check box "ALL"
+    12030 check box "Suspens of Prod"
+    12031 check box "Unit"
+    12032 check box "Producing"
+    65535 label "SPECIAL CASE:"
+    12015 check box "ALL"
+    12033 check box "Never Been Leased"
+    12034 check box "No Information"
+    12035 check box "Deferred"
+    1 default button "OK"
+    12011 button "Clear"
+    2 button "Cancel"
+
+12003 "Company Match Dialog"
+    12039 label "Find:"
+    1191 edit ""
+    1192 default button "Search..."
+    12037 radio "Search..."
+    12038 radio "Insert..."
+    65535 label "Search records that"
+    2101 radio "Contain"
+    29148 radio "Start with"
+    2100 radio "End with"
+    65535 label "Available"
+    1193 extended list "" sorted
+    1188 button "Add ->"
+    1189 button "<- Remove"
+    1194 button "Import..."
+    1195 button "Export..."
+    65535 label "Selected"
+    1043 extended list "" sorted
+    1086 group box "Company Types"
+    1011 check box "Operator"
+    1012 check box "Lessee"
+    1013 check box "Bid"
+    1014 check box "Operating Rights"
+    1015 check box "Designated Operator"
+    1 button "OK"
+    1190 button "Clear"
+    2 button "Cancel"
+
+13000 "Pipeline Status"
+    13003 label "ACTIVE Status"
+    13004 check box "ALL"
+    13005 check box "Active (ACT)"
+    13006 label "INACTIVE Status"
+    13007 check box "ALL"
+    13008 check box "Abandoned (ABN)"
+    13009 check box "Abandoned/Comb. (A/C)"
+    13010 check box "Cancelled (CNCL)"
+    13011 check box "Out of Service (OUT)"
+    13012 check box "Out/Combined (O/C)"
+    13013 check box "Relinquished (RELQ)"
+    13014 check box "Relinquished/Removed (R/R)"
+    13015 check box "Removed (REM)"
+    13016 check box "Proposal to remove (PREM)"
+    13017 check box "Removed/Abandoned (R/A)"
+    13018 check box "Removed/Comb (R/C)"
+    13019 check box "Proposed (PROP)"
+    13020 check box "Combined (COMB)"
+    13021 check box "Proposal to abandon (PABN)"
+    1 default button "OK"
+    2 button "Cancel"
+
+13001 "Pipeline Product Codes:"
+    13022 label "Combined Service:"
+    13023 check box "ALL"
+    13024 check box "Gas and Oil (G/O)"
+    13025 check box "Oil and Water (O/W)"
+    13026 label "Oil Related Service:"
+    13027 check box "ALL"
+    13028 check box "Oil Before Process (BLKO)"
+    13029 check box "Bulk Oil/Lift (BO/L)"
+    13030 check box "Bulk Oil/Service (BO/S)"
+    13031 check box "Condensate (COND)"
+    13032 check box "Oil After Process (OIL)"
+    13033 label "Gas Related Service:"
+    13034 check box "ALL"
+    13035 check box "Bulk Gas/Service (BG/S)"
+    13036 check box "Gas Before Process (BLKG)"
+    13037 check box "Gas Condensate (G/C)"
+    13038 check box "Gas After Process (GAS)"
+    13039 check box "Liquid Propane (LPRO)"
+    29287 check box "Bulk Gas with Trace H2S (BLGH)"
+    13040 label "Other Services"
+    13041 check box "ALL"
+    13042 check box "Acid (ACID)"
+    13043 check box "Pneumatic (AIR)"
+    13044 check box "Chemicals (CHEM)"
+    13045 check box "Diesel (DIES)"
+    13046 check box "Flare Gas (FLG)"
+    13047 check box "Water (H2O)"
+    13048 check box "Gas Injection (INU)"
+    13049 check box "Liquid Gas Enhanc. (LGER)"
+    13050 check box "Gas Lift (LIFT)"
+    13051 check box "Methanol/Glycol (METH)"
+    13052 check box "Nat. Gas Enhanc. (NGER)"
+    13053 check box "Utility Line (SERV)"
+    13059 check box "Supply Gas (SPLY)"
+    13054 check box "Spare (SPRE)"
+    13055 check box "Liquidified Sulfur (SULF)"
+    13056 check box "Test (TEST)"
+    13057 check box "Tow Route (TOW)"
+    13058 check box "Umbilical Hydraulic (UMB)"
+    1 default button "OK"
+    2 button "Cancel"
+
+13002 "DMS Dialog"
+    18092 label "Maximum"
+    23071 edit ""
+    23072 spin ""
+    23096 label "Degrees"
+    23073 edit ""
+    23074 spin ""
+    23097 label "Minutes"
+    23075 edit ""
+    23076 spin ""
+    23098 label "Seconds"
+    18093 label "Minimum"
+    23099 edit ""
+    23100 spin ""
+    23106 label "Degrees"
+    23102 edit ""
+    23103 spin ""
+    23107 label "Minutes"
+    23104 edit ""
+    23105 spin ""
+    23108 label "Seconds"
+    1 default button "OK"
+    2 button "Cancel"
+
+13062 "Projection"
+    65535 label "Projection"
+    29080 editable combo ""
+    1 default button "OK"
+    2 button "Cancel"
+
+13060 ""
+    65535 label "Area"
+    13070 editable combo "" sorted
+    65535 label "Blk/Ext"
+    13071 editable combo ""
+    65535 label "Layer"
+    29083 drop list ""
+    29084 radio "Map"
+    29085 radio "Report"
+    29086 button "Run"
+
+14608 "LatLon and XY Converter"
+    65535 group box " X/Y to Lat/Lon   Or   Lat/Lon to X/Y"
+    65535 group box "Convert From"
+    29005 radio "Lat, Lon to X, Y"
+    29006 radio "X, Y to Lat, Lon"
+    65535 group box "NAD coordinates" hidden
+    29081 radio "NAD 27" hidden
+    29082 radio "NAD 83" hidden
+    65535 label "Projection"
+    29007 editable combo ""
+    65535 label "Unit"
+    29009 drop list "" sorted
+    65535 label "x Coordinate"
+    29010 edit ""
+    65535 label "y Coordinate"
+    29011 edit ""
+    29014 button "Convert"
+    65535 label "Format"
+    29008 drop list "" sorted
+    65535 label "Latitude"
+    7011 edit ""
+    7014 spin ""
+    29021 label "D"
+    7012 edit ""
+    7015 spin ""
+    29022 label "M"
+    7013 edit ""
+    7016 spin ""
+    29023 label "S"
+    65535 label "Longitude"
+    7017 edit ""
+    7020 spin ""
+    29024 label "D"
+    7018 edit ""
+    7021 spin ""
+    29025 label "M"
+    7019 edit ""
+    7022 spin ""
+    29026 label "S"
+    65535 group box "X/Y to X/Y"
+    65535 group box "From:"
+    65535 label "Projection"
+    29312 editable combo ""
+    65535 label "Unit"
+    29308 drop list "" sorted
+    65535 label "X"
+    29306 edit ""
+    65535 label "Y"
+    29307 edit ""
+    29314 button "Convert"
+    65535 group box "To:"
+    65535 label "Projection"
+    29313 editable combo ""
+    65535 label "Unit"
+    29311 drop list "" sorted
+    65535 label "X"
+    29309 edit "" read-only
+    65535 label "Y"
+    29310 edit "" read-only
+    1 default button "OK"
+
+15103 "Projection Selection Dialog"
+    65535 group box "Projection Type"
+    1285 radio "State Standard Lambert"
+    2102 radio "State Transverse Mercator"
+    2105 radio "Miscellaneous Lambert"
+    2100 radio "Misc Transverse Mercator"
+    2103 radio "UTM - Various Spheroids"
+    2104 radio "Miscellaneous Other"
+    2107 radio "State Plane"
+    2108 radio "Straight Mercator"
+    2101 radio "Miscellaneous Cassini" hidden
+    2106 radio "Miscellaneous Bonne" hidden
+    1287 list ""
+    1 default button "OK"
+    2 button "Cancel"
+
+15112 "Import Configuration"
+    65535 group box "Area Type"
+    29104 radio "Areaname"
+    29105 radio "Areacode"
+    29106 radio "MMS code"
+    65535 group box "Block/Ext"
+    65535 label "Order"
+    29107 radio "Block+Ext"
+    29108 radio "Ext+Block"
+    65535 label "Delimiter"
+    29113 radio "Yes"
+    29112 radio "No"
+    29114 edit "" disabled
+    65535 group box "Column Delimiter"
+    29109 check box "Use tab as a delimiter"
+    29111 label "Use user specified delimiter" disabled
+    29110 edit "" disabled
+    1 default button "Close"
+
+15113 "Nad27 and Nad83 Converter"
+    65535 group box "Convert From"
+    29116 radio "Nad27 to Nad83"
+    29117 radio "Nad83 to Nad27"
+    65535 group box "Nad27"
+    65535 label "Format"
+    29009 drop list "" sorted
+    65535 label "Latitude"
+    7023 edit ""
+    7026 spin ""
+    29027 label "D"
+    7024 edit ""
+    7027 spin ""
+    29028 label "M"
+    7025 edit ""
+    7028 spin ""
+    29029 label "S"
+    65535 label "Longitude"
+    7029 edit ""
+    7032 spin ""
+    29030 label "D"
+    7030 edit ""
+    7033 spin ""
+    29031 label "M"
+    7031 edit ""
+    7034 spin ""
+    29032 label "S"
+    29115 button "Convert"
+    65535 group box "Nad83"
+    65535 label "Format"
+    29118 drop list "" sorted
+    65535 label "Latitude"
+    29119 edit ""
+    29120 spin ""
+    29121 label "D"
+    29122 edit ""
+    29123 spin ""
+    29124 label "M"
+    29125 edit ""
+    29126 spin ""
+    29127 label "S"
+    65535 label "Longitude"
+    29128 edit ""
+    29129 spin ""
+    29130 label "D"
+    29131 edit ""
+    29132 spin ""
+    29133 label "M"
+    29134 edit ""
+    29135 spin ""
+    29136 label "S"
+    1 default button "OK"
+    2 button "Cancel" hidden
+
+15114 "UTM Zone Code"
+    65535 label "Zone Code"
+    29139 edit ""
+    29143 group box "Straight Mercator"
+    29142 label "Rectifying Lat-Lon"
+    29140 radio "Center of map"
+    29141 radio "User-specified"
+    65535 label "Lat"
+    29144 edit ""
+    65535 label "Lon"
+    29145 edit ""
+    1 default button "OK"
+    2 button "Cancel"
+
+15129 "Area Selection Dialog"
+    65535 label "Find:"
+    1191 edit ""
+    1192 default button "Search..." disabled
+    12037 radio "Search..."
+    12038 radio "Insert..."
+    65535 label "Search records that"
+    2101 radio "Contain"
+    29148 radio "Start with"
+    2100 radio "End with"
+    65535 label "Available Areanames"
+    1193 extended list "" sorted
+    65535 label "Block/Extension" hidden
+    1194 extended list "" hidden
+    1188 button "Add ->"
+    1189 button "<- Remove"
+    12001 button "Select from Map" hidden
+    12000 button "Import" hidden
+    12004 button "Export" hidden
+    12002 button "Neighbor Blocks" hidden
+    1042 list view "" always showing its selection
+    1 button "OK"
+    1190 button "Clear" disabled
+    2 button "Cancel"
+
+15130 "Lease Match"
+    12039 label "Find:"
+    1191 edit ""
+    1192 default button "Search..."
+    12037 radio "Search..."
+    12038 radio "Insert..."
+    65535 label "Search records that"
+    2101 radio "Contain"
+    29148 radio "Start with"
+    2100 radio "End with"
+    65535 label "Lease Dataset"
+    29274 check box "Federal"
+    29275 check box "Louisiana State"
+    29276 check box "Texas State"
+    65535 label "Available"
+    1193 extended list ""
+    1188 button "Add ->"
+    1189 button "<- Remove"
+    1194 button "Import..."
+    1195 button "Export..."
+    29300 check box ""
+    29299 button "File..."
+    65535 label "Selected"
+    1043 extended list ""
+    1 button "OK"
+    1190 button "Clear"
+    2 button "Cancel"
+)texts";
+
+std::string KindInWords(ControlKind kind) {
+    static const std::map<ControlKind, const char*> kWords{
+        {ControlKind::kLabel, "label"},
+        {ControlKind::kRightLabel, "right label"},
+        {ControlKind::kCenterLabel, "center label"},
+        {ControlKind::kIcon, "icon"},
+        {ControlKind::kGroupBox, "group box"},
+        {ControlKind::kEdit, "edit"},
+        {ControlKind::kPushButton, "button"},
+        {ControlKind::kDefaultButton, "default button"},
+        {ControlKind::kOwnerDrawButton, "swatch"},
+        {ControlKind::kCheckBox, "check box"},
+        {ControlKind::kRadio, "radio"},
+        {ControlKind::kDropDown, "editable combo"},
+        {ControlKind::kDropList, "drop list"},
+        {ControlKind::kListBox, "list"},
+        {ControlKind::kMultiList, "extended list"},
+        {ControlKind::kListView, "list view"},
+        {ControlKind::kSpin, "spin"},
+        {ControlKind::kProgress, "progress bar"},
+    };
+    return kWords.at(kind);
+}
+
+/// How the control starts, as its window is told.
+std::string StateInWords(const kv::ControlRow& row) {
+    const DWORD style = kv::StyleOf(row);
+    const bool combo = row.kind == ControlKind::kDropDown || row.kind == ControlKind::kDropList;
+    const bool list = row.kind == ControlKind::kListBox || row.kind == ControlKind::kMultiList;
+    std::string words;
+    if ((combo && (style & CBS_SORT)) || (list && (style & LBS_SORT))) words += " sorted";
+    if (row.kind == ControlKind::kEdit && (style & ES_READONLY)) words += " read-only";
+    if (row.kind == ControlKind::kListView && (style & LVS_SHOWSELALWAYS)) {
+        words += " always showing its selection";
+    }
+    if (style & WS_DISABLED) words += " disabled";
+    if (!(style & WS_VISIBLE)) words += " hidden";
+    return words;
+}
+
+struct Texts {
+    std::string caption;
+    std::vector<std::string> rows;
+};
+
+std::map<int, Texts> ReadTexts() {
+    std::map<int, Texts> texts;
+    Texts* current = nullptr;
+    for (const std::string& line : kv::SplitLines(kTexts)) {
+        if (line.empty()) continue;
+        if (line.front() == ' ') {
+            current->rows.push_back(kv::Trim(line));
+            continue;
+        }
+        const std::size_t quote = line.find('"');
+        current = &texts[std::stoi(line)];
+        current->caption = line.substr(quote + 1, line.size() - quote - 2);
+    }
+    return texts;
+}
+
+const std::map<int, Texts>& ToldTexts() {
+    static const std::map<int, Texts> texts = ReadTexts();
+    return texts;
+}
+
+}  // namespace
+
+std::vector<int> ToldTemplates() {
+    std::vector<int> ids;
+    for (const auto& [id, texts] : ToldTexts())
+        ids.push_back(id);
+    return ids;
+}
+
+void ExpectToldTexts(int id) {
+    SCOPED_TRACE(id);
+    const auto& templates = kv::LibraryResources().templates;
+    const auto found = std::ranges::find(templates, id, &kv::DialogTemplate::id);
+    ASSERT_NE(found, templates.end());
+    ASSERT_TRUE(ToldTexts().contains(id)) << "is not told";
+    Texts told = ToldTexts().at(id);
+    EXPECT_EQ((*found)->caption, told.caption);
+    std::vector<std::string> rows;
+    for (const kv::ControlRow& row : (*found)->rows) {
+        rows.push_back(std::to_string(row.id) + " " + KindInWords(row.kind) + " \"" + row.text +
+                       "\"" + StateInWords(row));
+    }
+    // The text is in nobody's tab order.
+    std::ranges::sort(rows);
+    std::ranges::sort(told.rows);
+    EXPECT_THAT(rows, testing::ElementsAreArray(told.rows));
+}
+
+}  // namespace test
