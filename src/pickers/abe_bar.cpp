@@ -61,7 +61,7 @@ void CKvABEBar::SetRadioState(bool bReport) {
 }
 
 void CKvABEBar::FillAreasOnce() {
-    if (!m_bFirstUse) return;
+    if (!m_bFirstUse || !m_areaCombo.m_hWnd) return;
     m_bFirstUse = false;
     // The key that made it the first use is in the box already, and filling may empty it.
     const std::string typed = m_areaCombo.WindowText();
@@ -80,7 +80,7 @@ void CKvABEBar::SetArea(const std::string& areacode) {
 BOOL CKvABEBar::OnCmdMsg(UINT id, int code, void* extra, void* info) {
     if (id == kArea) {
         const bool touched = code == CBN_EDITCHANGE || code == CBN_DROPDOWN || code == CBN_SETFOCUS;
-        if (touched && m_areaCombo.m_hWnd) FillAreasOnce();
+        if (touched) FillAreasOnce();
         if (code == CBN_EDITCHANGE || code == CBN_SELCHANGE) m_areaCombo.V_SelChanged(true);
     }
     return CDialogBar::OnCmdMsg(id, code, extra, info);

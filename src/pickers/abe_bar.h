@@ -16,7 +16,8 @@ public:
     /// The message that Run sends, with both parameters 0.
     static constexpr UINT kRunMessage = 1039;
 
-    /// Makes the bar from the template `id`; the second argument is ignored. 1 when it was made.
+    /// Makes the bar from the template `id`; the second argument is ignored. 1 when it was made. A
+    /// bar whose window was destroyed can be made again, and then begins anew.
     BOOL Create(CWnd* parent, UINT templateId, UINT style, UINT id) override;
 
     virtual E_Layer GetLayer();
