@@ -11,6 +11,8 @@
 #include <string>
 #include <vector>
 
+#include "fuzz_corpus_folder.h"
+
 namespace test {
 
 /// Hands each file of a fuzz target's corpus to the target, which ends the process when something
