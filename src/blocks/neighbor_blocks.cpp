@@ -71,6 +71,23 @@ void Close(CKvDbAbsDataMgr& db) {
     db.Disconnect();
 }
 
+/// Lets `change` work on a connection, and keeps all that it changed or, on a failure, which is
+/// shown, nothing.
+template <typename Change>
+void ChangeWhole(const Change& change) {
+    CKvDbAbsDataMgr db(1);
+    try {
+        db.Connect();
+        change(db);
+        db.Commit();
+    } catch (const CKvException& failure) {
+        // Ahead of the box, which may stand for long: others wait for what is locked.
+        db.Rollback();
+        Show(failure);
+    }
+    Close(db);
+}
+
 std::string DeleteOfMachine(const std::string& table) {
     return "delete from " + table + " where machine_ID = '" + CKvMisc::GetMachineID(true).str() +
            "'";
@@ -211,17 +228,12 @@ void CNeighborBlocks::InsertToMap(const std::string& area, const std::string& bl
 
 void CNeighborBlocks::InsertMapToTable(NeighborRelation& relation) {
     const std::string table = m_mapTables.at(kWorkTable).str();
-    CKvDbAbsDataMgr db(1);
-    try {
-        db.Connect();
+    ChangeWhole([&](CKvDbAbsDataMgr& db) {
         db.Delete(DeleteOfMachine(table));
         InsertRows(db, relation);
         db.Delete("delete from " + table +
                   " where (n_area, n_bext) in (select o_area, o_bext from " + table + ")");
-    } catch (const CKvException& failure) {
-        Show(failure);
-    }
-    Close(db);
+    });
 }
 
 void CNeighborBlocks::InsertRows(CKvDbAbsDataMgr& db, const NeighborRelation& relation) {
@@ -247,12 +259,5 @@ void CNeighborBlocks::InsertRows(CKvDbAbsDataMgr& db, const NeighborRelation& re
 }
 
 void CNeighborBlocks::DeleteFromABE2(CString table) {
-    CKvDbAbsDataMgr db(1);
-    try {
-        db.Connect();
-        db.Delete(DeleteOfMachine(table.str()));
-    } catch (const CKvException& failure) {
-        Show(failure);
-    }
-    Close(db);
+    ChangeWhole([&](CKvDbAbsDataMgr& db) { db.Delete(DeleteOfMachine(table.str())); });
 }

@@ -32,11 +32,11 @@ public:
 
     /// Writes the relation into the temporary table, in place of this machine's earlier rows, but
     /// for neighbors that are themselves selected on this or any other machine. A failure is shown,
-    /// and ends it.
+    /// ends it, and leaves the table as it was.
     void InsertMapToTable(kv::blocks::NeighborRelation& relation);
 
     /// Deletes this machine's rows from the table, whose name is taken as it stands. A failure is
-    /// shown.
+    /// shown, and leaves the table as it was.
     void DeleteFromABE2(CString table);
 
 protected:

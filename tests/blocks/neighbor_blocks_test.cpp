@@ -9,9 +9,11 @@
 
 #include "controls/progress_dlg_ids.h"
 #include "frame/kvcom/misc.h"
+#include "frame/kvdbkvn/database_fault.h"
 #include "frame/kvdbkvn/db_abs_data_mgr.h"
 #include "frame/kvdbkvn/statement_trace.h"
 #include "frame/module.h"
+#include "services/kvdbkvn/session_pool.h"
 #include "support/database_helpers.h"
 #include "support/dialog_fixture.h"
 #include "support/neighbor_database.h"
@@ -481,14 +483,88 @@ TEST_F(NeighborTable, NeighborsThatAreSelectedThemselvesGoOnEveryMachine) {
     EXPECT_EQ(WorkTable(), "ALPHA|1|ALPHA|4|N ALPHA|2|ALPHA|5|N ALPHA|3|THEIRS|4|N");
 }
 
-TEST_F(NeighborTable, AFailureIsShownAndEndsIt) {
+TEST_F(NeighborTable, AFailureIsShownEndsItAndLeavesTheTableAsItWas) {
+    Run("insert into nvd2000_tmp_abe2 values ('" + Machine() + "', 'OLD', '1', 'OLD', '2', 'N')");
     Relate(25);
     relation[{"AREA", KeyOf(15)}] = InArea("O'NEIL", {"1"});
     desktop.ExpectMessage("");
     Finder().InsertMapToTable(relation);
     EXPECT_THAT(desktop.Messages(), ElementsAre(HasSubstr("O'NEIL")));
     EXPECT_THAT(statements, SizeIs(3));
-    EXPECT_EQ(Rows("select count(*) from nvd2000_tmp_abe2", 1), "10");
+    EXPECT_EQ(WorkTable(), "OLD|1|OLD|2|N");
+}
+
+TEST_F(NeighborTable, NobodyIsKeptWaitingWhileAFailureIsShown) {
+    relation[{"AREA", "1"}] = InArea("O'NEIL", {"1"});
+    class Looking : public test::TestDesktop {
+    public:
+        std::function<void()> look;
+        int RunMessageBox(const kv::MessageBoxRequest&) override {
+            look();
+            return IDOK;
+        }
+    } looking;
+    // Who writes would wait for the lock, and then fail.
+    looking.look = [this] { Run("delete from nvd2000_tmp_abe2"); };
+    kv::WindowSystem::Get().SetDesktop(&looking);
+    EXPECT_NO_THROW(Finder().InsertMapToTable(relation));
+    kv::WindowSystem::Get().SetDesktop(&desktop);
+}
+
+TEST_F(NeighborTable, ACommitThatFailsBecauseOthersReadIsShownAndNothingIsStored) {
+    Run("insert into nvd2000_tmp_abe2 values ('" + Machine() + "', 'OLD', '1', 'OLD', '2', 'N')");
+    Relate(3);
+    desktop.ExpectMessage("");
+    {
+        const test::SqliteReader reader(path, "select * from gulf_mexico_lbi");
+        Finder().InsertMapToTable(relation);
+    }
+    EXPECT_THAT(desktop.Messages(),
+                ElementsAre("Database error: The changes could not be committed, and are undone: "
+                            "database is locked"));
+    EXPECT_EQ(WorkTable(), "OLD|1|OLD|2|N");
+}
+
+TEST_F(NeighborTable, WithAWriteAheadLogThoseWhoReadHoldUpNobody) {
+    Run("pragma journal_mode = wal");
+    Relate(3);
+    const test::SqliteReader reader(path, "select * from gulf_mexico_lbi");
+    Finder().InsertMapToTable(relation);
+    EXPECT_EQ(Rows("select count(*) from nvd2000_tmp_abe2", 1), "3");
+}
+
+TEST_F(NeighborTable, WhicheverCallFailsIsShownOnceAndAllOrNothingIsStored) {
+    const std::string old =
+        "insert into nvd2000_tmp_abe2 values ('" + Machine() + "', 'OLD', '1', 'OLD', '2', 'N')";
+    const auto failAt = [&](int nth, const std::function<void()>& change) {
+        int calls = 0;
+        Run("delete from nvd2000_tmp_abe2; " + old);
+        // So that each run makes the same calls.
+        kv::db::SessionPool::Instance().Clear();
+        kv::db::SetDatabaseFault([&](std::string_view) { return ++calls == nth; });
+        if (nth > 0) desktop.ExpectMessage("");
+        change();
+        kv::db::SetDatabaseFault(nullptr);
+        EXPECT_EQ(desktop.ScenesLeft(), 0);
+        return calls;
+    };
+    Relate(11);
+    const auto insert = [&] { Finder().InsertMapToTable(relation); };
+    const auto clear = [&] { Finder().DeleteFromABE2("nvd2000_tmp_abe2"); };
+    const int ofInsert = failAt(0, insert);
+    EXPECT_EQ(Rows("select count(*) from nvd2000_tmp_abe2", 1), "11");
+    const int ofClear = failAt(0, clear);
+    EXPECT_EQ(Rows("select count(*) from nvd2000_tmp_abe2", 1), "0");
+    EXPECT_GT(ofInsert, ofClear);
+    EXPECT_GE(ofClear, 4);
+    for (const auto& [calls, change] :
+         {std::pair<int, std::function<void()>>(ofInsert, insert), {ofClear, clear}}) {
+        for (int nth = 1; nth <= calls; ++nth) {
+            SCOPED_TRACE(nth);
+            failAt(nth, change);
+            EXPECT_EQ(WorkTable(), "OLD|1|OLD|2|N");
+        }
+    }
 }
 
 TEST_F(NeighborTable, IsClearedOfThisMachinesRowsUnderTheNameThatIsGiven) {

@@ -55,6 +55,12 @@ public:
                 "vacuum"};
     }
 
+    std::shared_ptr<void> ForbidCommit() const override {
+        Raw("alter table kvt add constraint kv_once unique (a) deferrable initially deferred");
+        return std::shared_ptr<void>(
+            nullptr, [this](void*) { Raw("alter table kvt drop constraint kv_once"); });
+    }
+
 private:
     PostgresDatabase database_;
     bool odbc_;

@@ -5,11 +5,14 @@
 #include <ostream>
 #include <string>
 
+#include "frame/kvcom/misc.h"
 #include "services/kvdbkvn/session_pool.h"
 #include "support/database_helpers.h"
 #include "support/postgres_cluster.h"
 #include "support/postgres_database.h"
 #include "support/temp_folder.h"
+#include "window/acting/headless_desktop.h"
+#include "window/window_system.h"
 
 namespace test {
 namespace {
@@ -230,6 +233,30 @@ TEST_F(PostgresEngine, NoPasswordStandsInAFailureOrInTheLog) {
     EXPECT_THAT(folder_.Read("log.txt"), Not(HasSubstr("s3cret")));
 }
 
+TEST_F(PostgresEngine, TheSchemeOfTheUrlMayBeInCapitals) {
+    for (const std::string scheme : {"POSTGRESQL", "Postgres"}) {
+        const std::string url = database_.Url();
+        Use(scheme + url.substr(url.find(':')));
+        manager_.Connect();
+        EXPECT_EQ(Cell("select current_database()"), database_.Name());
+        manager_.Disconnect();
+    }
+}
+
+TEST_F(PostgresEngine, AUrlTakenApartConnectsAsTheWholeOneDoes) {
+    std::string url = database_.Url();
+    Use(url.replace(url.find("//kv@"), 5,
+                    std::string("//guarded:") + PostgresCluster::kGuardedPassword + "@"));
+    std::string user;
+    std::string password;
+    std::string server;
+    CKvMisc::GetParsedConnectString(user, password, server, true);
+    EXPECT_EQ(server + "|" + user, database_.Url().replace(url.find("//"), 5, "//") + "|guarded");
+    Use(server, user.c_str(), password.c_str());
+    manager_.Connect();
+    EXPECT_EQ(Cell("select current_user"), "guarded");
+}
+
 TEST_F(PostgresEngine, AnIdleSessionThatTheServerClosedIsReplacedWhenItIsLent) {
     manager_.Connect();
     const std::string first = Cell("select pg_backend_pid()");
@@ -239,6 +266,78 @@ TEST_F(PostgresEngine, AnIdleSessionThatTheServerClosedIsReplacedWhenItIsLent) {
     manager_.Connect();
     EXPECT_NE(Cell("select pg_backend_pid()"), first);
 }
+
+/// On the shared server, by its own driver and over ODBC.
+class PostgresSessions : public testing::TestWithParam<bool> {
+protected:
+    PostgresSessions() {
+        kv::db::SessionPool::Instance().Clear();
+        Use(GetParam() ? "odbc:Driver=PostgreSQL Unicode;Servername=" + database_.SocketFolder() +
+                             ";Database=" + database_.Name() + ";UID=kv"
+                       : database_.Url());
+        manager_.Connect();
+    }
+    ~PostgresSessions() override { kv::db::SessionPool::Instance().Clear(); }
+
+    /// How many advisory locks are held in this test's database.
+    std::string Locks() {
+        return database_.Run(
+            "select count(*) from pg_locks where locktype = 'advisory' and "
+            "database = (select oid from pg_database where datname = "
+            "current_database())");
+    }
+
+    TempFolder folder_;
+    PostgresDatabase database_;
+    CKvDbAbsDataMgr manager_{1};
+};
+
+TEST_P(PostgresSessions, ALockThatAQueryTookEndsWithIt) {
+    manager_.Select("select pg_advisory_lock(61)");
+    EXPECT_EQ(Locks(), "0");
+    EXPECT_NE(FailureOf([&] { manager_.Select("select pg_advisory_lock(61), 1 / 0"); }), "");
+    EXPECT_EQ(Locks(), "0");
+}
+
+TEST_P(PostgresSessions, OneThatWasTakenAmongChangesEndsWithThem) {
+    database_.Run("create table kvt (a text)");
+    for (const bool keep : {true, false}) {
+        manager_.Insert("insert into kvt values ('x')");
+        manager_.Select("select pg_advisory_lock(61)");
+        EXPECT_EQ(Locks(), "1");
+        if (keep)
+            manager_.Commit();
+        else
+            manager_.Rollback();
+        EXPECT_EQ(Locks(), "0");
+    }
+    EXPECT_EQ(database_.Run("select count(*) from kvt"), "1");
+}
+
+TEST_P(PostgresSessions, AStatementThatAnAdministratorEndedIsNotRunAgain) {
+    database_.Run(
+        "create sequence kvs; create table kvt (a text);"
+        "create function kv_ends() returns text language plpgsql as "
+        "'begin perform nextval(''kvs''); perform pg_terminate_backend(pg_backend_pid()); "
+        "perform pg_sleep(60); return 1; end';"
+        // A sequence is counted on whatever becomes of the transaction.
+        "create function kv_starts() returns trigger language plpgsql as "
+        "'begin new.a = kv_ends(); return new; end';"
+        "create trigger kv_start before insert on kvt for each row execute function kv_starts()");
+    EXPECT_NE(FailureOf([&] { manager_.Insert("insert into kvt values ('x')"); }), "");
+    EXPECT_EQ(database_.Run("select last_value, is_called from kvs"), "1");
+    EXPECT_EQ(manager_.Select("select a from kvt"), 0);
+    EXPECT_NE(FailureOf([&] {
+                  manager_.Select("select pg_terminate_backend(pg_backend_pid()), pg_sleep(60)");
+              }),
+              "");
+    EXPECT_EQ(manager_.Select("select a from kvt"), 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Engines, PostgresSessions, testing::Bool(),
+                         [](const testing::TestParamInfo<bool>& odbc) {
+                             return odbc.param ? "PostgresOverOdbc" : "Postgres";
+                         });
 
 /// A server that can be stopped, and how to reach it.
 struct StoppableServer {
@@ -253,6 +352,7 @@ void PrintTo(const StoppableServer& server, std::ostream* out) {
 class StoppedServer : public testing::TestWithParam<StoppableServer> {
 protected:
     StoppedServer() {
+        kv::WindowSystem::Get().SetDesktop(&desktop_);
         kv::db::SessionPool::Instance().Clear();
         PostgresClient(cluster_.Url())
             .Run(
@@ -264,6 +364,7 @@ protected:
     ~StoppedServer() override { kv::db::SessionPool::Instance().Clear(); }
 
     TempFolder folder_;
+    kv::HeadlessDesktop desktop_;
     PostgresCluster cluster_;
     CKvDbAbsDataMgr manager_{1};
 };
@@ -326,13 +427,29 @@ TEST_P(StoppedServer, ChangesThatWereLostAreNotCommittedInPart) {
     EXPECT_EQ(manager_.Select("select a from kvt"), 2);
 }
 
-TEST_P(StoppedServer, ADisconnectThatCannotCommitIsLoggedWithoutThePassword) {
+TEST_P(StoppedServer, StartedAgainAheadOfACommitTheCommitSaysThatAllIsLost) {
     manager_.Insert("insert into kvt values ('lost')");
     cluster_.Stop();
+    cluster_.Start();
+    EXPECT_THAT(FailureOf([&] { manager_.Commit(); }),
+                testing::AnyOf(HasSubstr("what it had not committed is undone"),
+                               HasSubstr("is not known, since the connection was lost")));
+    manager_.Rollback();
+    manager_.Disconnect();
+    EXPECT_EQ(PostgresClient(cluster_.Url()).Run("select count(*) from kvt"), "2");
+}
+
+TEST_P(StoppedServer, ADisconnectThatCannotCommitIsShownWithoutThePassword) {
+    manager_.Insert("insert into kvt values ('lost')");
+    cluster_.Stop();
+    cluster_.Start();
+    desktop_.ExpectMessage("");
     manager_.Disconnect();
     EXPECT_FALSE(manager_.IsConnected());
-    EXPECT_THAT(folder_.Read("log.txt"), HasSubstr("Changes could not be committed"));
-    EXPECT_THAT(folder_.Read("log.txt"), Not(HasSubstr("s3cret")));
+    ASSERT_EQ(desktop_.Messages().size(), 1u);
+    EXPECT_THAT(desktop_.Messages()[0],
+                testing::AnyOf(HasSubstr("undone"), HasSubstr("not known")));
+    EXPECT_THAT(desktop_.Messages()[0], Not(HasSubstr("s3cret")));
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -12,9 +12,12 @@
 #include <string>
 #include <vector>
 
+#include "frame/kvdbkvn/database_fault.h"
 #include "services/kvdbkvn/session_pool.h"
 #include "support/database_helpers.h"
 #include "support/temp_folder.h"
+#include "window/acting/headless_desktop.h"
+#include "window/window_system.h"
 
 /// What every engine behind `CKvDbAbsDataMgr` keeps to. A program that includes this names its
 /// engines with INSTANTIATE_TEST_SUITE_P.
@@ -33,6 +36,8 @@ public:
     virtual std::string FailsAtThree() const = 0;
     /// Texts of this engine's own that do more than read.
     virtual std::vector<std::string> WritingTexts() const = 0;
+    /// Until the returned object goes, the row ('one', 3) can be put into kvt but not committed.
+    virtual std::shared_ptr<void> ForbidCommit() const = 0;
 };
 
 struct ContractEngine {
@@ -51,6 +56,7 @@ inline std::string NameOfEngine(const testing::TestParamInfo<ContractEngine>& in
 class DatabaseContract : public testing::TestWithParam<ContractEngine> {
 protected:
     DatabaseContract() : database_(GetParam().make()) {
+        kv::WindowSystem::Get().SetDesktop(&desktop_);
         ConnectTo(database_->Info());
         CKvDbAbsDataMgr manager(1);
         manager.Connect();
@@ -59,7 +65,10 @@ protected:
         manager.Insert("insert into kvt values ('two', 2)");
         manager.Disconnect();
     }
-    ~DatabaseContract() override { kv::db::SessionPool::Instance().Clear(); }
+    ~DatabaseContract() override {
+        kv::db::SetDatabaseFault(nullptr);
+        kv::db::SessionPool::Instance().Clear();
+    }
 
     /// The rows of kvt as another connection sees them.
     static std::string Table() {
@@ -70,6 +79,7 @@ protected:
     }
 
     TempFolder folder_;
+    kv::HeadlessDesktop desktop_;
     std::unique_ptr<ContractDatabase> database_;
     CKvDbAbsDataMgr manager_{1};
 };
@@ -196,6 +206,79 @@ TEST_P(DatabaseContract, ASelectSeesTheChangesOfItsConnectionAndOthersSeeThemOnc
     EXPECT_EQ(manager_.Delete("delete from kvt where b < 3"), 2);
     manager_.Disconnect();
     EXPECT_EQ(Table(), "three|3");
+}
+
+TEST_P(DatabaseContract, CommitMakesChangesLastAndRollbackUndoesThem) {
+    manager_.Commit();
+    manager_.Rollback();
+    manager_.Connect();
+    manager_.Insert("insert into kvt values ('three', 3)");
+    manager_.Commit();
+    EXPECT_EQ(Table(), "one|1 two|2 three|3");
+    manager_.Delete("delete from kvt");
+    manager_.Rollback();
+    manager_.Insert("insert into kvt values ('four', 4)");
+    manager_.Disconnect();
+    EXPECT_EQ(Table(), "one|1 two|2 three|3 four|4");
+    manager_.Commit();
+    manager_.Rollback();
+}
+
+TEST_P(DatabaseContract, ACommitThatFailsIsThrownUndoesAllAndItsSessionGoesOnClean) {
+    manager_.Connect();
+    {
+        const auto forbidden = database_->ForbidCommit();
+        manager_.Delete("delete from kvt where b = 2");
+        manager_.Insert("insert into kvt values ('one', 3)");
+        EXPECT_THAT(FailureOf([&] { manager_.Commit(); }),
+                    testing::HasSubstr("The changes could not be committed, and are undone: "));
+    }
+    // Nobody sees the row that was lost, nor commits it: neither who has the session now, nor who
+    // gets it next.
+    EXPECT_EQ(manager_.Select("select a from kvt"), 2);
+    manager_.Disconnect();
+    manager_.Connect();
+    EXPECT_EQ(manager_.Select("select a from kvt"), 2);
+    manager_.Insert("insert into kvt values ('four', 4)");
+    manager_.Commit();
+    EXPECT_EQ(Table(), "one|1 two|2 four|4");
+}
+
+TEST_P(DatabaseContract, ADisconnectThatCannotCommitShowsWhyAndThrowsNothing) {
+    manager_.Connect();
+    manager_.Insert("insert into kvt values ('three', 3)");
+    kv::db::SetDatabaseFault([](std::string_view call) { return call == "commit"; });
+    desktop_.ExpectMessage("");
+    manager_.Disconnect();
+    kv::db::SetDatabaseFault(nullptr);
+    EXPECT_THAT(desktop_.Messages(),
+                testing::ElementsAre(testing::StartsWith(
+                    "Database error: The changes could not be committed, and are undone: ")));
+    EXPECT_FALSE(manager_.IsConnected());
+    EXPECT_EQ(Table(), "one|1 two|2");
+}
+
+TEST_P(DatabaseContract, WhicheverCallFailsIsToldAndAllOrNothingIsKept) {
+    const std::string before = "one|1 two|2";
+    const std::string after = "two|2 three|3 four|4";
+    std::string failure = "none yet";
+    for (int nth = 1; !failure.empty(); ++nth) {
+        SCOPED_TRACE(nth);
+        ASSERT_LT(nth, 40);
+        int calls = 0;
+        kv::db::SetDatabaseFault([&](std::string_view) { return ++calls == nth; });
+        CKvDbAbsDataMgr manager(1);
+        failure = FailureOf([&] {
+            manager.Connect();
+            manager.Delete("delete from kvt where b = 1");
+            manager.Insert("insert into kvt values ('three', 3)");
+            manager.Insert("insert into kvt values ('four', 4)");
+            manager.Commit();
+        });
+        if (!failure.empty()) manager.Rollback();
+        kv::db::SetDatabaseFault(nullptr);
+        EXPECT_EQ(Table(), failure.empty() ? after : before);
+    }
 }
 
 TEST_P(DatabaseContract, AFailedChangeUndoesItselfAloneAndTheTransactionLivesOn) {

@@ -22,4 +22,25 @@ inline void MakeSqliteFile(const std::string& path) {
     RunOnSqliteFile(path, "create table made (a); drop table made");
 }
 
+/// Another program in the middle of reading the rows of a query.
+class SqliteReader {
+public:
+    SqliteReader(const std::string& path, const std::string& sql) {
+        sqlite3_open(path.c_str(), &database_);
+        sqlite3_prepare_v2(database_, sql.c_str(), -1, &statement_, nullptr);
+        if (sqlite3_step(statement_) != SQLITE_ROW)
+            throw std::runtime_error(sqlite3_errmsg(database_));
+    }
+    ~SqliteReader() {
+        sqlite3_finalize(statement_);
+        sqlite3_close(database_);
+    }
+    SqliteReader(const SqliteReader&) = delete;
+    SqliteReader& operator=(const SqliteReader&) = delete;
+
+private:
+    sqlite3* database_ = nullptr;
+    sqlite3_stmt* statement_ = nullptr;
+};
+
 }  // namespace test

@@ -12,8 +12,10 @@ public:
     static CString S_GetImportFilePath();
     static void S_SetImportFilePath(CString path);
 
-    /// Fills the three texts from the connection record in force. With the flag the password is
-    /// given, otherwise it stays empty, and "***" stands for one in the server text.
+    /// Fills the three texts from the connection record in force; a record of the three connects as
+    /// it does. User and password are taken out of a server text that holds them (a URL, an ODBC
+    /// text), so that it can be shown. With the flag the password is given, otherwise it stays
+    /// empty, and "***" stands for any other one (a key's) that is left in the server text.
     static void GetParsedConnectString(std::string& user, std::string& password,
                                        std::string& server, bool withPassword);
 

@@ -45,12 +45,21 @@ public:
     /// Drops the rows. Harmless at any time.
     void FreeData();
 
-    /// Commits the data changes made over this manager and gives the session back. Harmless at any
-    /// time.
+    /// Commits the data changes made over this manager and not committed yet, and gives the session
+    /// back. Where they cannot be kept they are undone, and a message box shows why. Throws
+    /// nothing. Harmless at any time.
     void Disconnect();
 
+    /// Makes the changes last that were made over this manager since it connected, or since the
+    /// last `Commit` or `Rollback`. A failure is thrown, and undoes them all. Whoever changes rows
+    /// calls it last in the try block, and `Rollback` in the catch: a change that is left to
+    /// `Disconnect` can fail after its caller has gone on.
+    void Commit();
+    /// Undoes them. Throws nothing; harmless at any time.
+    void Rollback();
+
     /// Run one full INSERT or DELETE text. Return the number of rows; failure is thrown, and undoes
-    /// that statement alone.
+    /// that statement alone. What is changed is not lasting before `Commit` or `Disconnect`.
     int Insert(const std::string& sql);
     int Delete(const std::string& sql);
 
@@ -59,7 +68,8 @@ public:
     bool ExecuteDDL(std::string sql);
     bool ExecuteDML(std::string sql);
 
-    /// Sets the connection record for the whole process, not for this object.
+    /// Sets the connection record for the whole process, not for this object. A relative path in it
+    /// counts from the folder that is current now.
     void SetDbInfo(CKvDbInfo& info);
 
 private:

@@ -10,6 +10,7 @@
 #include "base/text.h"
 #include "services/kvdbkvn/connection.h"
 #include "services/kvdbkvn/engines/secrets.h"
+#include "services/kvdbkvn/engines/server_text.h"
 
 namespace {
 
@@ -52,10 +53,10 @@ void CKvMisc::S_SetImportFilePath(CString path) {
 void CKvMisc::GetParsedConnectString(std::string& user, std::string& password, std::string& server,
                                      bool withPassword) {
     const CKvDbInfo& connection = kv::db::ConnectionInForce();
-    user = connection.GetUser();
-    password = withPassword ? connection.GetPassword() : std::string();
-    server =
-        withPassword ? connection.GetServer() : kv::db::Scrub(connection.GetServer(), connection);
+    const CKvDbInfo parts = kv::db::TakenApart(connection);
+    user = parts.GetUser();
+    password = withPassword ? parts.GetPassword() : std::string();
+    server = withPassword ? parts.GetServer() : kv::db::Scrub(parts.GetServer(), connection);
 }
 
 CString CKvMisc::GetMachineID(bool upperCase) {

@@ -1,5 +1,6 @@
 #include "frame/kvdbkvn/db_abs_data_mgr.h"
 
+#include <new>
 #include <utility>
 
 #include "frame/kvdbkvn/statement_trace.h"
@@ -8,6 +9,7 @@
 #include "services/kvdbkvn/dialect/translate.h"
 #include "services/kvdbkvn/engines/engine.h"
 #include "services/kvdbkvn/session_pool.h"
+#include "window/dialogs/message_box.h"
 
 namespace {
 
@@ -19,6 +21,7 @@ using kv::dialect::Translation;
 
 constexpr int kConnected = 1;
 constexpr int kLogLevel = 101;
+constexpr const char* kGone = "The server has closed the connection, or the file was replaced";
 
 std::string WordsOf(const CKvException& failure) {
     return failure.GetErrorMessage(false, false);
@@ -81,19 +84,9 @@ struct CKvDbAbsDataMgr::State {
     ~State() { GiveBack(); }
 
     void Connect() {
-        Disconnect();
         info = kv::db::ConnectionInForce();
         session = SessionPool::Instance().Borrow(info);
         connected = true;
-    }
-
-    void Disconnect() noexcept {
-        try {
-            if (session) session->Commit();
-        } catch (const CKvException& failure) {
-            Log("Changes could not be committed: " + WordsOf(failure));
-        }
-        GiveBack();
     }
 
     void GiveBack() noexcept {
@@ -103,8 +96,16 @@ struct CKvDbAbsDataMgr::State {
         changed = false;
     }
 
-    void Commit(Session& s) {
-        s.Commit();
+    /// Whichever way it ends, no change is pending then.
+    void Commit() {
+        if (!changed) return;
+        if (!session->IsAlive()) ThrowLost(kGone);
+        changed = false;
+        session->Commit();
+    }
+
+    void Rollback() noexcept {
+        if (session && !session->Rollback()) session.reset();
         changed = false;
     }
 
@@ -119,29 +120,36 @@ struct CKvDbAbsDataMgr::State {
         }
     }
 
-    /// A server that was stopped and started again is not noticed before a statement fails. Where
-    /// nothing is lost by it the statement is run once more, on a new session.
+    /// A server that was stopped and started again, or a file that was replaced, costs nothing
+    /// where nothing was changed: there is a new session then. A statement that may have run is not
+    /// run again.
     template <typename Operation>
     auto RunOnLiveSession(const Operation& operation) {
         if (!connected) throw CKvException("There is no connection to a database");
-        if (session) {
-            try {
-                return operation(*session);
-            } catch (const CKvException& failure) {
-                if (session->IsAlive()) throw;
-                session.reset();
-                SessionPool::Instance().Forget(info);
-                if (changed) ThrowLost(failure);
-            }
+        if (session && !session->IsAlive()) LoseSession(kGone);
+        if (!session) session = SessionPool::Instance().Borrow(info);
+        try {
+            return operation(*session);
+        } catch (const CKvException& failure) {
+            if (session->IsAlive()) throw;
+            const bool hasNotRun = session->WasGoneAhead();
+            LoseSession(WordsOf(failure));
+            if (!hasNotRun) throw;
         }
         session = SessionPool::Instance().Borrow(info);
         return operation(*session);
     }
 
+    void LoseSession(const std::string& why) {
+        session.reset();
+        SessionPool::Instance().Forget(info);
+        if (changed) ThrowLost(why);
+    }
+
     /// Statements to come must not be committed without those that are lost.
-    [[noreturn]] void ThrowLost(const CKvException& failure) {
+    [[noreturn]] void ThrowLost(const std::string& why) {
         GiveBack();
-        throw CKvException(WordsOf(failure) +
+        throw CKvException(why +
                            "; the connection is closed, and what it had not committed is undone");
     }
 
@@ -159,11 +167,11 @@ struct CKvDbAbsDataMgr::State {
         return Run(sql, [&](Session& s) {
             const Translation translation = Translate(sql, s);
             const bool commits = Commits(translation.kind);
-            if (commits) Commit(s);
+            if (commits) Commit();
             if (translation.text.empty() || translation.kind == Kind::kCommit) return 0;
             const int count = s.Execute(translation.text);
             changed = true;
-            if (commits) Commit(s);
+            if (commits) Commit();
             return count;
         });
     }
@@ -175,6 +183,7 @@ CKvDbAbsDataMgr& CKvDbAbsDataMgr::operator=(const CKvDbAbsDataMgr&) = default;
 CKvDbAbsDataMgr::~CKvDbAbsDataMgr() = default;
 
 int CKvDbAbsDataMgr::Connect() {
+    Disconnect();
     m_pState->Connect();
     return kConnected;
 }
@@ -203,7 +212,25 @@ void CKvDbAbsDataMgr::FreeData() {
 }
 
 void CKvDbAbsDataMgr::Disconnect() {
-    m_pState->Disconnect();
+    const std::shared_ptr<State> state = m_pState;
+    try {
+        state->Commit();
+    } catch (const CKvException& failure) {
+        state->GiveBack();
+        AfxMessageBox(failure.GetErrorMessage(true, true).c_str(), 0, 0);
+    } catch (const std::bad_alloc&) {
+        state->GiveBack();
+        AfxMessageBox("The changes are undone: there is not enough memory to commit them", 0, 0);
+    }
+    state->GiveBack();
+}
+
+void CKvDbAbsDataMgr::Commit() {
+    m_pState->Commit();
+}
+
+void CKvDbAbsDataMgr::Rollback() {
+    m_pState->Rollback();
 }
 
 int CKvDbAbsDataMgr::Insert(const std::string& sql) {

@@ -3,6 +3,7 @@
 #include "services/kvdbkvn/engines/open_session.h"
 
 #include <algorithm>
+#include <new>
 #include <utility>
 
 namespace kv::db {
@@ -13,10 +14,13 @@ constexpr std::size_t kMostIdle = 16;
 
 }  // namespace
 
-/// Never destroyed: client libraries may have shut down by the time static objects go, and the
-/// system closes what is open.
+/// Never destroyed: who uses it may outlive a static object.
 SessionPool& SessionPool::Instance() {
     static auto* const pool = new SessionPool;
+    static const struct AtExit {
+        ~AtExit() { std::erase_if(pool->idle_, ClosesAtExit); }
+        static bool ClosesAtExit(const Entry& entry) { return entry.session->ClosesAtExit(); }
+    } atExit;
     return *pool;
 }
 
@@ -31,10 +35,13 @@ std::unique_ptr<Session> SessionPool::Borrow(const CKvDbInfo& info) {
 }
 
 void SessionPool::GiveBack(const CKvDbInfo& info, std::unique_ptr<Session> session) noexcept {
-    session->Rollback();
-    if (!session->IsAlive()) return;
-    idle_.push_back({info, std::move(session)});
-    CloseBeyondLimits(info);
+    try {
+        if (!session->Rollback() || !session->IsAlive()) return;
+        idle_.push_back({info, std::move(session)});
+        CloseBeyondLimits(info);
+    } catch (const std::bad_alloc&) {
+        // One that cannot be kept is closed.
+    }
 }
 
 void SessionPool::Forget(const CKvDbInfo& info) {

@@ -19,8 +19,9 @@ public:
     /// CKvException when that cannot be opened.
     std::unique_ptr<Session> Borrow(const CKvDbInfo& info);
 
-    /// Takes a session back. What its transaction has changed is undone, and it is closed if it is
-    /// not alive; otherwise the oldest idle one is closed where there are too many.
+    /// Takes a session back. What its transaction has changed is undone; it is closed if it is not
+    /// alive, if a transaction may still be open in it, or if there is no memory to keep it.
+    /// Otherwise the oldest idle one is closed where there are too many.
     void GiveBack(const CKvDbInfo& info, std::unique_ptr<Session> session) noexcept;
 
     /// Closes the idle sessions of a record whose server turned out to be gone: a client library

@@ -38,6 +38,10 @@ public:
                 "create temp table z (a)"};
     }
 
+    std::shared_ptr<void> ForbidCommit() const override {
+        return std::make_shared<SqliteReader>(path_, "select * from kvt");
+    }
+
 private:
     TempFolder folder_;
     std::string path_ = folder_.Native("contract.db");

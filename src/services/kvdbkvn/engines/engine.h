@@ -33,8 +33,15 @@ public:
     virtual dialect::Target Target() const = 0;
     /// Whether statements may call the function `lesort`.
     virtual bool HasLeaseSort() const = 0;
-    /// False once the server is known to be gone: the session is then not used again.
+    /// False once the server is known to be gone, or the file replaced: the session is then not
+    /// used again.
     virtual bool IsAlive() = 0;
+    /// Of a session that a failure showed to be gone: whether that was found out ahead of the
+    /// caller's statement, which therefore has not run.
+    virtual bool WasGoneAhead() const { return false; }
+    /// Whether it is closed when the process ends. Client libraries that were loaded may have shut
+    /// down by then, and their servers notice by themselves.
+    virtual bool ClosesAtExit() const { return false; }
     /// Whether there is a schema of that name, whatever the case of its letters.
     virtual bool HasSchema(const std::string& name) = 0;
 
@@ -44,9 +51,22 @@ public:
     /// Runs one statement inside the session's open transaction, which it begins if there is none.
     /// A failure undoes that statement alone. Returns the number of rows changed.
     virtual int Execute(const std::string& sql) = 0;
-    /// End the open transaction, if there is one.
+    /// Ends the open transaction, if there is one. A failure undoes it; the words then say so, or
+    /// that nobody can know.
     virtual void Commit() = 0;
-    virtual void Rollback() noexcept = 0;
+    /// The same by undoing it. False when a transaction may still be open: the session is then not
+    /// used again.
+    virtual bool Rollback() noexcept = 0;
 };
+
+/// The words of a commit that failed with `reason`.
+inline std::string CommitFailure(const std::string& reason) {
+    return "The changes could not be committed, and are undone: " + reason;
+}
+/// The same where the server went away before it had answered.
+inline std::string CommitUnanswered(const std::string& reason) {
+    return "Whether the changes were committed is not known, since the connection was lost: " +
+           reason;
+}
 
 }  // namespace kv::db

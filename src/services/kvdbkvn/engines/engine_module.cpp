@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "frame/kvcom/exception.h"
+#include "services/kvdbkvn/engines/database_fault.h"
 
 namespace kv::db {
 namespace {
@@ -26,25 +27,34 @@ public:
     dialect::Target Target() const override { return session_->Target(); }
     bool HasLeaseSort() const override { return session_->Target() == dialect::Target::kOracle; }
     bool IsAlive() override { return session_->IsAlive(); }
+    bool WasGoneAhead() const override { return session_->WasGoneAhead(); }
     bool HasSchema(const std::string& name) override { return session_->HasSchema(name); }
 
     std::unique_ptr<Rows> Query(const std::string& sql) override {
+        FailWhereAsked("query");
         std::string failure;
         auto rows = session_->Query(sql, failure);
         if (!rows) throw CKvException(failure, sql);
         return rows;
     }
     int Execute(const std::string& sql) override {
+        FailWhereAsked("execute");
         std::string failure;
         const int changed = session_->Execute(sql, failure);
         if (changed < 0) throw CKvException(failure, sql);
         return changed;
     }
     void Commit() override {
+        try {
+            FailWhereAsked("commit");
+        } catch (const CKvException& failure) {
+            session_->Rollback();
+            throw CKvException(CommitFailure(failure.what()));
+        }
         std::string failure;
         if (!session_->Commit(failure)) throw CKvException(failure);
     }
-    void Rollback() noexcept override { session_->Rollback(); }
+    bool Rollback() noexcept override { return session_->Rollback(); }
 
 private:
     std::unique_ptr<ModuleSession> session_;

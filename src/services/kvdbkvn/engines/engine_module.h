@@ -17,11 +17,12 @@ public:
     virtual ~ModuleSession() = default;
     virtual dialect::Target Target() const noexcept = 0;
     virtual bool IsAlive() noexcept = 0;
+    virtual bool WasGoneAhead() const noexcept { return false; }
     virtual bool HasSchema(const std::string& name) noexcept = 0;
     virtual std::unique_ptr<Rows> Query(const std::string& sql, std::string& failure) noexcept = 0;
     virtual int Execute(const std::string& sql, std::string& failure) noexcept = 0;
     virtual bool Commit(std::string& failure) noexcept = 0;
-    virtual void Rollback() noexcept = 0;
+    virtual bool Rollback() noexcept = 0;
 };
 
 /// The function that such a library exports, and its name. The caller owns the session.

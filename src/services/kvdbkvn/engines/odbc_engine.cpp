@@ -10,7 +10,8 @@
 
 #include "base/text.h"
 #include "services/kvdbkvn/engines/engine_module.h"
-#include "services/kvdbkvn/engines/postgres_set_up.h"
+#include "services/kvdbkvn/engines/file_identity.h"
+#include "services/kvdbkvn/engines/postgres_statements.h"
 #include "services/kvdbkvn/engines/row_arena.h"
 #include "services/kvdbkvn/engines/statement_words.h"
 
@@ -94,8 +95,11 @@ public:
     }
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;
+    /// Drivers do not disconnect from within a transaction.
     ~Connection() {
-        if (open_) SQLDisconnect(handle_.get());
+        if (!open_) return;
+        SQLEndTran(SQL_HANDLE_DBC, handle_.get(), SQL_ROLLBACK);
+        SQLDisconnect(handle_.get());
     }
 
     bool Open(const std::string& connectionString, std::string& failure) {
@@ -139,8 +143,7 @@ public:
     bool SetUp(std::string& failure) {
         SQLSetConnectAttr(connection_->get(), SQL_ATTR_AUTOCOMMIT,
                           reinterpret_cast<SQLPOINTER>(SQL_AUTOCOMMIT_OFF), SQL_IS_UINTEGER);
-        if (target_ == dialect::Target::kSqlite && !Run("pragma case_sensitive_like=on", failure))
-            return false;
+        if (target_ == dialect::Target::kSqlite && !SetUpSqlite(failure)) return false;
         if (target_ == dialect::Target::kPostgres && !Run(kPostgresSearchPath, failure))
             return false;
         return EndTransaction(SQL_COMMIT, failure);
@@ -151,8 +154,9 @@ public:
     bool IsAlive() noexcept override {
         SQLUINTEGER dead = SQL_CD_FALSE;
         SQLGetConnectAttr(connection_->get(), SQL_ATTR_CONNECTION_DEAD, &dead, 0, nullptr);
-        return !lost_ && dead != SQL_CD_TRUE;
+        return !lost_ && dead != SQL_CD_TRUE && (file_.empty() || IdentityOf(file_) == identity_);
     }
+    bool WasGoneAhead() const noexcept override { return !sent_; }
 
     bool HasSchema(const std::string& name) noexcept override {
         switch (target_) {
@@ -171,7 +175,9 @@ public:
             failure = kOnlyReads;
             return nullptr;
         }
+        sent_ = false;
         if (!BeginReading(failure)) return nullptr;
+        sent_ = true;
         auto rows = Fetch(sql, failure);
         if (!EndReading(failure)) return nullptr;
         return rows;
@@ -183,29 +189,53 @@ public:
             return -1;
         }
         const bool begins = !inTransaction_;
-        if (!begins && HasSavepoints() && !Run("savepoint kv_statement", failure)) return -1;
+        // Ahead of the first change, too: where the server is gone it shows here.
+        sent_ = false;
+        if (HasSavepoints() && !Run("savepoint kv_statement", failure)) return -1;
+        sent_ = true;
         const int changed = Change(sql, failure);
         if (changed < 0) {
             UndoStatement(begins, failure);
             return -1;
         }
         inTransaction_ = true;
-        if (!begins && HasSavepoints() && !Run("release savepoint kv_statement", failure))
-            return -1;
+        if (HasSavepoints() && !Run("release savepoint kv_statement", failure)) return -1;
         return changed;
     }
 
     bool Commit(std::string& failure) noexcept override {
-        return !inTransaction_ || EndTransaction(SQL_COMMIT, failure);
+        if (!inTransaction_) return true;
+        std::string reason;
+        if (EndTransaction(SQL_COMMIT, reason)) {
+            UndoAndUnlock();
+            return true;
+        }
+        failure = serverLost_ ? CommitUnanswered(reason) : CommitFailure(reason);
+        return false;
     }
-    void Rollback() noexcept override {
+    bool Rollback() noexcept override {
         std::string ignored;
-        if (inTransaction_) EndTransaction(SQL_ROLLBACK, ignored);
+        const bool mayHoldLocks = inTransaction_;
+        if (EndTransaction(SQL_ROLLBACK, ignored) && mayHoldLocks) UndoAndUnlock();
+        return !lost_;
     }
 
 private:
     /// The others undo a statement that failed by themselves.
     bool HasSavepoints() const { return target_ != dialect::Target::kOracle; }
+
+    /// None of this looks into the file, which others may have locked.
+    bool SetUpSqlite(std::string& failure) {
+        if (!Run("pragma case_sensitive_like=on", failure) ||
+            !Run("pragma busy_timeout=5000", failure))
+            return false;
+        const auto rows = Fetch("pragma database_list", failure);
+        if (!rows) return false;
+        constexpr int kFile = 2;
+        if (rows->Count() > 0) file_ = rows->Cell(0, kFile);
+        identity_ = IdentityOf(file_);
+        return true;
+    }
 
     bool BeginReading(std::string& failure) {
         if (target_ == dialect::Target::kSqlite) return Run("pragma query_only=on", failure);
@@ -214,12 +244,17 @@ private:
         return Run("set transaction read only", failure);
     }
 
-    /// False when what was changed before the query is lost with the transaction.
+    /// False when what was changed before the query is lost with the transaction. Without such
+    /// changes the rows hold whatever becomes of the session.
     bool EndReading(std::string& failure) {
         std::string reason;
         if (target_ == dialect::Target::kSqlite && !Run("pragma query_only=off", reason))
             lost_ = true;
-        if (!inTransaction_) return EndTransaction(SQL_ROLLBACK, failure);
+        if (!inTransaction_) {
+            if (!failure.empty()) EndTransaction(SQL_ROLLBACK, reason);
+            UndoAndUnlock();
+            return true;
+        }
         if (target_ != dialect::Target::kPostgres || UndoTo("kv_read", reason)) return true;
         AbandonTransaction(failure.empty() ? reason : failure, failure);
         return false;
@@ -244,11 +279,23 @@ private:
         failure = reason + "; the earlier changes of this connection were undone, too";
     }
 
+    /// Where it fails the session is given up: a driver may take the transaction for ended which
+    /// the database still holds open.
     bool EndTransaction(SQLSMALLINT how, std::string& failure) {
         inTransaction_ = false;
         if (SQL_SUCCEEDED(SQLEndTran(SQL_HANDLE_DBC, connection_->get(), how))) return true;
         failure = Note(Diagnose(SQL_HANDLE_DBC, connection_->get()));
+        lost_ = true;
         return false;
+    }
+
+    /// Undoes what is open, and gives up the locks that a function in a query took for the session:
+    /// unlike its other locks they outlast the transaction.
+    void UndoAndUnlock() {
+        std::string ignored;
+        if (target_ == dialect::Target::kPostgres && !Run(kPostgresGiveUpLocks, ignored))
+            lost_ = true;
+        EndTransaction(SQL_ROLLBACK, ignored);
     }
 
     bool HasPostgresSchema(const std::string& name) {
@@ -335,7 +382,7 @@ private:
 
     /// Remembers that the connection is lost, if that is what the diagnosis says.
     std::string Note(const Diagnosis& diagnosis) {
-        if (diagnosis.ConnectionLost()) lost_ = true;
+        if (diagnosis.ConnectionLost()) lost_ = serverLost_ = true;
         return diagnosis.WritesInReading() ? kOnlyReads + (": " + diagnosis.words)
                                            : diagnosis.words;
     }
@@ -344,6 +391,12 @@ private:
     dialect::Target target_;
     bool inTransaction_ = false;
     bool lost_ = false;
+    bool serverLost_ = false;
+    /// Whether the caller's statement that came last was sent.
+    bool sent_ = false;
+    /// Of SQLite; empty for one in memory, and for other databases.
+    std::string file_;
+    FileIdentity identity_;
     std::map<std::string, bool> schemas_;
 };
 
@@ -351,6 +404,11 @@ private:
 std::string Quoted(const std::string& value) {
     return "{" + ReplaceAll(value, "}", "}}") + "}";
 }
+
+/// The SQLite driver waits for minutes while others lock the file, on connecting, too; with this it
+/// leaves the waiting to SQLite. The first of two equal keywords counts: another time may be asked
+/// for.
+constexpr const char* kOwnWaits = ";Timeout=1";
 
 /// The first of two equal keywords counts, so the record's user and password go ahead.
 std::string ConnectionString(const CKvDbInfo& info) {
@@ -360,7 +418,8 @@ std::string ConnectionString(const CKvDbInfo& info) {
     if (!info.GetPassword().empty()) text += "PWD=" + Quoted(info.GetPassword()) + ";";
     text += rest.find('=') == std::string::npos ? "DSN=" + rest : rest;
     // Without it that driver makes an empty database of a mistyped name.
-    if (ToLower(rest).find("driver=sqlite") != std::string::npos) text += ";NoCreat=1";
+    if (ToLower(rest).find("driver=sqlite") != std::string::npos)
+        text += std::string(";NoCreat=1") + kOwnWaits;
     return text;
 }
 
@@ -371,12 +430,21 @@ constexpr const char* kPlainPostgres = "Protocol=7.4-0;";
 /// A connection of the kind that the product behind it needs; null, with the reason, when there is
 /// none. What the product is, only a connection tells.
 std::unique_ptr<Connection> Connect(const CKvDbInfo& info, std::string& failure) {
-    const std::string text = ConnectionString(info);
+    std::string text = ConnectionString(info);
     auto connection = std::make_unique<Connection>();
     if (!connection->Open(text, failure)) return nullptr;
-    if (TargetOf(connection->Product()) != dialect::Target::kPostgres) return connection;
+    switch (TargetOf(connection->Product())) {
+        case dialect::Target::kPostgres:
+            text = kPlainPostgres + text;
+            break;
+        case dialect::Target::kSqlite:
+            text += kOwnWaits;
+            break;
+        case dialect::Target::kOracle:
+            return connection;
+    }
     connection = std::make_unique<Connection>();
-    return connection->Open(kPlainPostgres + text, failure) ? std::move(connection) : nullptr;
+    return connection->Open(text, failure) ? std::move(connection) : nullptr;
 }
 
 }  // namespace

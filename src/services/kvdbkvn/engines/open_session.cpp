@@ -5,6 +5,7 @@
 
 #include "base/text.h"
 #include "frame/kvcom/exception.h"
+#include "services/kvdbkvn/engines/database_fault.h"
 #include "services/kvdbkvn/engines/engine_module.h"
 #include "services/kvdbkvn/engines/secrets.h"
 #include "services/kvdbkvn/engines/sqlite_engine.h"
@@ -48,6 +49,7 @@ std::unique_ptr<Session> Open(const CKvDbInfo& info) {
         kEngines, [&](const Engine& e) { return StartsWithNoCase(info.GetServer(), e.prefix); });
     try {
         if (engine == std::end(kEngines)) ThrowUnknownServer(info.GetServer());
+        FailWhereAsked("open");
         return engine->open(info);
     } catch (const CKvException& failure) {
         throw CKvException(Scrub(failure.GetErrorMessage(false, false), info));

@@ -12,7 +12,7 @@
 
 #include "base/text.h"
 #include "services/kvdbkvn/engines/engine_module.h"
-#include "services/kvdbkvn/engines/postgres_set_up.h"
+#include "services/kvdbkvn/engines/postgres_statements.h"
 
 namespace kv::db {
 namespace {
@@ -164,20 +164,22 @@ public:
 
     bool Commit(std::string& failure) noexcept override {
         if (!inTransaction_) return true;
-        const std::vector<Result> results = Batch({Run("commit")});
-        NoteTransaction();
-        if (!Succeeded(results[0])) {
-            failure = Words(results[0]);
-            return false;
-        }
-        const bool committed = std::strcmp(PQcmdStatus(results[0].get()), "COMMIT") == 0;
-        if (!committed) failure = "The server undid the transaction instead of committing it";
-        return committed;
+        const Result result = EndTransaction("commit");
+        const bool answered = Succeeded(result);
+        if (answered && std::strcmp(PQcmdStatus(result.get()), "COMMIT") == 0) return true;
+        if (answered)
+            failure = CommitFailure("the server gave no reason");
+        else if (IsAlive())
+            failure = CommitFailure(Words(result));
+        else
+            failure = CommitUnanswered(Words(result));
+        EndTransaction("rollback");
+        return false;
     }
 
-    void Rollback() noexcept override {
-        if (inTransaction_) Batch({Run("rollback")});
-        NoteTransaction();
+    bool Rollback() noexcept override {
+        if (inTransaction_) EndTransaction("rollback");
+        return PQtransactionStatus(connection_.get()) == PQTRANS_IDLE;
     }
 
 private:
@@ -234,16 +236,24 @@ private:
 
     void EndReading() {
         if (!inTransaction_)
-            Batch({Run("rollback")});
+            EndTransaction("rollback");
         else
             Batch({Run("rollback to savepoint kv_read"), Run("release savepoint kv_read")});
+    }
+
+    /// Also gives up the locks that a function in a query took for the session: unlike its other
+    /// locks and its settings they outlast the transaction.
+    Result EndTransaction(const char* how) {
+        std::vector<Result> results = Batch({Run(how), Run(kPostgresGiveUpLocks)});
+        NoteTransaction();
+        return std::move(results[0]);
     }
 
     /// A statement may have ended the transaction by itself: then there is nothing left to undo.
     void UndoStatement(bool began) {
         if (!inTransaction_) return;
         if (began)
-            Batch({Run("rollback")});
+            EndTransaction("rollback");
         else
             Batch(
                 {Run("rollback to savepoint kv_statement"), Run("release savepoint kv_statement")});
@@ -295,6 +305,14 @@ private:
     std::map<std::string, bool> schemas_;
 };
 
+/// With the scheme in small letters: the client library takes any other for the name of a database
+/// on this machine.
+std::string UrlOf(const CKvDbInfo& info) {
+    const std::string& server = info.GetServer();
+    const std::size_t colon = server.find(':');
+    return ToLower(server.substr(0, colon)) + server.substr(colon);
+}
+
 /// User and password of the record go ahead of those in the URL.
 Connection Connect(const CKvDbInfo& info) {
     std::vector<const char*> keywords;
@@ -306,7 +324,8 @@ Connection Connect(const CKvDbInfo& info) {
     };
     for (const auto& [keyword, value] : kDefaults)
         add(keyword, value);
-    add("dbname", info.GetServer().c_str());
+    const std::string url = UrlOf(info);
+    add("dbname", url.c_str());
     add("user", info.GetUser().c_str());
     add("password", info.GetPassword().c_str());
     add("client_encoding", "UTF8");

@@ -1,11 +1,11 @@
 #include "services/kvdbkvn/engines/secrets.h"
 
 #include <algorithm>
-#include <charconv>
 #include <string_view>
 #include <vector>
 
 #include "base/text.h"
+#include "services/kvdbkvn/engines/server_text.h"
 
 namespace kv::db {
 namespace {
@@ -13,22 +13,6 @@ namespace {
 bool IsWordByte(char c) {
     const char lower = ToLower(c);
     return IsDigit(c) || (lower >= 'a' && lower <= 'z') || static_cast<unsigned char>(c) >= 0x80;
-}
-
-std::string PercentDecoded(std::string_view text) {
-    std::string plain;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        unsigned code = 0;
-        const char* digits = text.data() + i + 1;
-        if (text[i] == '%' && i + 2 < text.size() &&
-            std::from_chars(digits, digits + 2, code, 16).ptr == digits + 2) {
-            plain.push_back(static_cast<char>(code));
-            i += 2;
-        } else {
-            plain.push_back(text[i]);
-        }
-    }
-    return plain;
 }
 
 using Secrets = std::vector<std::string>;

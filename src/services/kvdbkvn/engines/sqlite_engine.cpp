@@ -1,20 +1,28 @@
 #include "services/kvdbkvn/engines/sqlite_engine.h"
 
 #include <sqlite3.h>
-#include <sys/stat.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <deque>
+#include <filesystem>
+#include <fstream>
 #include <string>
 #include <string_view>
+#include <system_error>
 
 #include "base/paths.h"
+#include "base/text.h"
 #include "frame/kvcom/exception.h"
 #include "services/kvdbkvn/dialect/lease_sort.h"
+#include "services/kvdbkvn/engines/database_fault.h"
+#include "services/kvdbkvn/engines/file_identity.h"
 #include "services/kvdbkvn/engines/row_arena.h"
 
 namespace kv::db {
 namespace {
+
+namespace fs = std::filesystem;
 
 constexpr std::string_view kPrefix = "sqlite:";
 constexpr int kBusyMilliseconds = 5000;
@@ -40,42 +48,33 @@ void LeaseSort(sqlite3_context* context, int, sqlite3_value** values) {
     sqlite3_result_text(context, key.data(), static_cast<int>(key.size()), SQLITE_TRANSIENT);
 }
 
-/// Which file a path means now.
-struct FileIdentity {
-    dev_t device = 0;
-    ino_t inode = 0;
-    bool operator==(const FileIdentity&) const = default;
-};
-
-bool Identify(const std::string& path, FileIdentity& out) {
-    struct stat status {};
-    if (stat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode)) return false;
-    out = {status.st_dev, status.st_ino};
-    return true;
-}
-
 class SqliteSession final : public Session {
 public:
-    SqliteSession(Database database, std::string path)
-        : database_(std::move(database)), path_(std::move(path)) {
-        sqlite3_busy_timeout(database_.get(), kBusyMilliseconds);
+    /// One that is `frozen` is read as it stands, past its log and unguarded against who changes
+    /// it.
+    SqliteSession(Database database, std::string path, bool frozen)
+        : database_(std::move(database)),
+          path_(std::move(path)),
+          identity_(IdentityOf(path_)),
+          frozen_(frozen) {
         sqlite3_set_authorizer(database_.get(), &Authorize, this);
         sqlite3_create_function_v2(database_.get(), "lesort", 1, SQLITE_UTF8 | SQLITE_DETERMINISTIC,
                                    nullptr, &LeaseSort, nullptr, nullptr, nullptr);
         Run("pragma case_sensitive_like=on");
-        // The file is first read here, so this is where one that is no database is found out.
-        Run("select 1 from sqlite_master limit 1");
-        Identify(path_, identity_);
+        LookAtFile();
+        sqlite3_busy_timeout(database_.get(), kBusyMilliseconds);
     }
 
     dialect::Target Target() const override { return dialect::Target::kSqlite; }
     bool HasLeaseSort() const override { return true; }
 
     /// The open file lives on when its name is given to another, or taken away.
-    bool IsAlive() override {
-        FileIdentity now;
-        return Identify(path_, now) && now == identity_;
-    }
+    /// Each statement has a new look at a file that is frozen.
+    bool IsAlive() override { return !frozen_ && IdentityOf(path_) == identity_; }
+
+    /// The last to close a file takes its log away, which another file of that name would suffer
+    /// by.
+    bool ClosesAtExit() const override { return true; }
 
     bool HasSchema(const std::string& name) override {
         return sqlite3_db_filename(database_.get(), name.c_str()) != nullptr;
@@ -110,10 +109,17 @@ public:
     }
 
     void Commit() override {
-        if (InTransaction()) Run("commit");
+        if (!InTransaction()) return;
+        try {
+            Run("commit");
+        } catch (const CKvException& failure) {
+            Rollback();
+            throw CKvException(CommitFailure(failure.what()));
+        }
     }
-    void Rollback() noexcept override {
+    bool Rollback() noexcept override {
         if (InTransaction()) TryRun("rollback");
+        return !InTransaction();
     }
 
 private:
@@ -132,6 +138,16 @@ private:
     private:
         SqliteSession& session_;
     };
+
+    /// The file is first read here, so this is where one that is no database is found out. Who
+    /// only connects does not wait for those who lock it.
+    void LookAtFile() {
+        try {
+            Run("select 1 from sqlite_master limit 1");
+        } catch (const CKvException&) {
+            if (sqlite3_errcode(database_.get()) != SQLITE_BUSY) throw;
+        }
+    }
 
     /// What changes the session or its transaction counts as read-only to SQLite.
     static int Authorize(void* self, int action, const char* name, const char*, const char*,
@@ -186,6 +202,7 @@ private:
     }
 
     Statement PrepareFirst(const char* text, const char*& rest, const std::string& sql) {
+        FailWhereAsked("prepare");
         sqlite3_stmt* raw = nullptr;
         const int code = sqlite3_prepare_v2(database_.get(), text, -1, &raw, &rest);
         Statement statement(raw);
@@ -205,6 +222,7 @@ private:
     }
 
     std::unique_ptr<Rows> Fetch(sqlite3_stmt* statement, const std::string& sql) {
+        FailWhereAsked("step");
         int code = sqlite3_step(statement);
         // A statement that was kept learns only here that its tables have been changed.
         const int columns = sqlite3_column_count(statement);
@@ -227,6 +245,7 @@ private:
     int Change(const std::string& sql) {
         const GuardScope guard(*this, Guard::kChanging);
         const Statement statement = Prepare(sql);
+        FailWhereAsked("step");
         const int before = sqlite3_total_changes(database_.get());
         int code = SQLITE_ROW;
         while (code == SQLITE_ROW)
@@ -238,6 +257,7 @@ private:
     }
 
     void Run(const char* sql) {
+        FailWhereAsked(sql);
         if (sqlite3_exec(database_.get(), sql, nullptr, nullptr, nullptr) != SQLITE_OK) Throw(sql);
     }
     void TryRun(const char* sql) noexcept {
@@ -252,29 +272,61 @@ private:
     Database database_;
     std::string path_;
     FileIdentity identity_;
+    bool frozen_;
     Guard guard_ = Guard::kNone;
     /// The one used last stands last.
     std::deque<Prepared> prepared_;
 };
 
+Database OpenFile(const std::string& name, int flags) {
+    sqlite3* raw = nullptr;
+    const int code = sqlite3_open_v2(name.c_str(), &raw, flags, nullptr);
+    Database database(raw);
+    if (code != SQLITE_OK) throw CKvException(sqlite3_errstr(code));
+    return database;
+}
+
+/// Whether a file with a write-ahead log lies in a folder that is closed to us, and nobody has it
+/// open: SQLite cannot make the files there that it would share with others.
+bool IsFrozen(const std::string& path) {
+    std::error_code ignored;
+    const fs::path file = fs::canonical(path, ignored);
+    if (access(file.parent_path().c_str(), W_OK) == 0) return false;
+    if (fs::exists(file.string() + "-wal", ignored)) return false;
+    // The mark in the head of the file.
+    constexpr std::streamoff kMark = 18;
+    constexpr int kHasLog = 2;
+    std::ifstream head(file, std::ios::binary);
+    return head.seekg(kMark) && head.get() == kHasLog;
+}
+
+/// The name by which such a file is read as it stands.
+std::string FrozenName(const std::string& path) {
+    std::string name = "file:";
+    for (const char ch : path) {
+        const bool isSign = ch == '%' || ch == '?' || ch == '#';
+        name += isSign ? FormatText("%%%02X", static_cast<unsigned char>(ch)) : std::string(1, ch);
+    }
+    return name + "?immutable=1";
+}
+
+std::unique_ptr<Session> OpenPath(const std::string& path) {
+    const char* whyNot = "";
+    if (IdentityOf(path, &whyNot) == FileIdentity()) throw CKvException(whyNot);
+    const bool frozen = IsFrozen(path);
+    Database database = frozen ? OpenFile(FrozenName(path), SQLITE_OPEN_READONLY | SQLITE_OPEN_URI)
+                               : OpenFile(path, SQLITE_OPEN_READWRITE);
+    return std::make_unique<SqliteSession>(std::move(database), path, frozen);
+}
+
 }  // namespace
 
 std::unique_ptr<Session> OpenSqlite(const CKvDbInfo& info) {
     const std::string path = ToNative(info.GetServer().substr(kPrefix.size()));
-    const auto fail = [&](const std::string& reason) -> CKvException {
-        return CKvException("Cannot open the database file \"" + path + "\": " + reason);
-    };
-    FileIdentity identity;
-    if (!Identify(path, identity)) throw fail("there is no such file");
-
-    sqlite3* raw = nullptr;
-    const int code = sqlite3_open_v2(path.c_str(), &raw, SQLITE_OPEN_READWRITE, nullptr);
-    Database database(raw);
-    if (code != SQLITE_OK) throw fail(sqlite3_errstr(code));
     try {
-        return std::make_unique<SqliteSession>(std::move(database), path);
+        return OpenPath(path);
     } catch (const CKvException& failure) {
-        throw fail(failure.GetErrorMessage(false, false));
+        throw CKvException("Cannot open the database file \"" + path + "\": " + failure.what());
     }
 }
 

@@ -63,6 +63,27 @@ TEST_F(OdbcEngine, ADatabaseFileThatDoesNotExistIsAFailureAndNoneIsMade) {
     EXPECT_FALSE(folder_.Has("missing.db"));
 }
 
+TEST_F(OdbcEngine, ALockedFileIsConnectedToAndToldOfWithinSecondsWhenItIsAsked) {
+    sqlite3* other = nullptr;
+    sqlite3_open(path_.c_str(), &other);
+    ASSERT_EQ(sqlite3_exec(other, "begin exclusive", nullptr, nullptr, nullptr), SQLITE_OK);
+    EXPECT_EQ(FailureOf([&] { manager_.Connect(); }), "");
+    EXPECT_THAT(FailureOf([&] { manager_.Select("select a from kvt"); }), HasSubstr("locked"));
+    sqlite3_close(other);
+    EXPECT_EQ(manager_.Select("select a from kvt"), 0);
+}
+
+TEST_F(OdbcEngine, ASessionOfAFileThatWasReplacedIsNotLentAgain) {
+    manager_.Connect();
+    EXPECT_EQ(manager_.Select("select a from kvt"), 0);
+    manager_.Disconnect();
+    const std::string fresh = folder_.Native("fresh.db");
+    RunOnSqliteFile(fresh, "create table kvt (a text); insert into kvt values ('new')");
+    std::filesystem::rename(fresh, path_);
+    manager_.Connect();
+    EXPECT_EQ(manager_.Select("select a from kvt"), 1);
+}
+
 TEST_F(OdbcEngine, TextThatIsNotUtf8ComesAsItsBytes) {
     RunOnSqliteFile(path_, "insert into kvt values (cast(x'41FF42B0' as text), 1)");
     manager_.Connect();

@@ -1,12 +1,17 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+
+#include <cstdlib>
 #include <filesystem>
 
 #include "services/kvdbkvn/connection.h"
 #include "services/kvdbkvn/dialect/lease_sort.h"
 #include "services/kvdbkvn/session_pool.h"
 #include "support/database_helpers.h"
+#include "support/file_size_limit.h"
+#include "support/plain_user.h"
 #include "support/sqlite_file.h"
 #include "support/temp_folder.h"
 
@@ -113,19 +118,139 @@ TEST_F(SqliteEngine, APathMayHaveADriveAndBackslashes) {
     EXPECT_EQ(FailureToConnect("SQLite:" + folder_.Dialog("KV.DB")), "");
 }
 
-TEST_F(SqliteEngine, ARelativePathMeansTheFileInTheFolderThatIsThenCurrent) {
+TEST_F(SqliteEngine, ARelativePathMeansTheFileInTheFolderThatWasCurrentWhenItWasSet) {
     fs::create_directory(folder_.Native("other"));
-    MakeSqliteFile(folder_.Native("other/kv.db"));
-    RunOnSqliteFile(folder_.Native("other/kv.db"),
-                    "create table kvt (a text, b integer primary key);"
-                    "insert into kvt values ('other', 1)");
+    fs::current_path(folder_.Native());
     ConnectTo(InfoOf("kv.db"));
-    for (const auto& [folder, rows] : {std::pair<const char*, int>{"", 0}, {"other", 1}, {"", 0}}) {
-        fs::current_path(folder_.Native(folder));
+    fs::current_path(folder_.Native("other"));
+    manager_.Connect();
+    EXPECT_EQ(manager_.Select("select a from kvt"), 0);
+    manager_.Disconnect();
+    ConnectTo(InfoOf("..\\KV.DB"));
+    fs::current_path("/");
+    manager_.Connect();
+    EXPECT_EQ(manager_.Select("select a from kvt"), 0);
+}
+
+TEST_F(SqliteEngine, WhatIsNoPlainFileIsNamedForWhatItIs) {
+    EXPECT_THAT(FailureToConnect("sqlite:" + folder_.Native()), HasSubstr("it is a folder"));
+    ASSERT_EQ(mkfifo(folder_.Native("fifo").c_str(), 0600), 0);
+    EXPECT_THAT(FailureToConnect("sqlite:" + folder_.Native("fifo")),
+                HasSubstr("it is no plain file"));
+}
+
+TEST_F(SqliteEngine, WhoOnlyConnectsDoesNotWaitForALock) {
+    // Who waited would be refused in the end.
+    sqlite3* other = nullptr;
+    sqlite3_open(path_.c_str(), &other);
+    ASSERT_EQ(sqlite3_exec(other, "begin exclusive", nullptr, nullptr, nullptr), SQLITE_OK);
+    EXPECT_EQ(FailureOf([&] { manager_.Connect(); }), "");
+    EXPECT_TRUE(manager_.IsConnected());
+    sqlite3_close(other);
+    EXPECT_EQ(manager_.Select("select a from kvt"), 0);
+}
+
+TEST_F(SqliteEngine, AReaderHoldsUpNoWriterWhereTheFileHasAWriteAheadLog) {
+    RunOnSqliteFile(path_, "pragma journal_mode = wal; insert into kvt values ('one', 1)");
+    const SqliteReader reader(path_, "select a from kvt");
+    manager_.Connect();
+    manager_.Insert("insert into kvt values ('two', 2)");
+    EXPECT_EQ(FailureOf([&] { manager_.Commit(); }), "");
+    EXPECT_EQ(manager_.Select("select a from kvt"), 2);
+}
+
+TEST_F(SqliteEngine, AFileWithAWriteAheadLogIsReadInAFolderThatIsClosedToWriting) {
+    const std::string closed = folder_.Native("closed?");
+    fs::create_directory(closed);
+    const std::string path = closed + "/kv.db";
+    RunOnSqliteFile(path,
+                    "pragma journal_mode = wal; create table kvt (a text);"
+                    "insert into kvt values ('one')");
+    fs::permissions(path, fs::perms(0444));
+    fs::permissions(closed, fs::perms(0555));
+    fs::permissions(folder_.Native(), fs::perms(0755));
+    ConnectTo(InfoOf(path));
+    EXPECT_EXIT(ExitAsPlainUser(path,
+                                [&] {
+                                    manager_.Connect();
+                                    bool reads = true;
+                                    for (int i = 0; i < 2; ++i)
+                                        reads = reads && manager_.Select("select a from kvt") == 1;
+                                    const std::string failure = FailureOf(
+                                        [&] { manager_.Insert("insert into kvt values ('two')"); });
+                                    return reads && failure.find("readonly") != std::string::npos;
+                                }),
+                testing::ExitedWithCode(0), "");
+    EXPECT_FALSE(fs::exists(path + "-wal"));
+    fs::permissions(closed, fs::perms(0755));
+}
+
+TEST_F(SqliteEngine, AProcessThatEndsLeavesNoLogBeside) {
+    RunOnSqliteFile(path_, "pragma journal_mode = wal");
+    EXPECT_EXIT(
+        {
+            manager_.Connect();
+            manager_.Insert("insert into kvt values ('one', 1)");
+            manager_.Disconnect();
+            std::exit(folder_.Has("kv.db-wal") ? 0 : 1);
+        },
+        testing::ExitedWithCode(0), "");
+    EXPECT_FALSE(folder_.Has("kv.db-wal"));
+    manager_.Connect();
+    EXPECT_EQ(manager_.Select("select a from kvt"), 1);
+}
+
+TEST_F(SqliteEngine, TheManagerLeavesAFileTheKindOfLogItHas) {
+    // The head of the file tells the kind: 1 with a rollback journal, 2 with a write-ahead log.
+    for (const auto& [kind, mark] : {std::pair("delete", '\1'), {"wal", '\2'}}) {
+        RunOnSqliteFile(path_, std::string("pragma journal_mode = ") + kind);
         manager_.Connect();
-        EXPECT_EQ(manager_.Select("select a from kvt"), rows);
+        manager_.Insert("insert into kvt values ('x', null)");
         manager_.Disconnect();
+        kv::db::SessionPool::Instance().Clear();
+        EXPECT_EQ(folder_.Read("kv.db").at(18), mark) << kind;
     }
+}
+
+TEST_F(SqliteEngine, OnAFullDiskAllIsKeptOrNothingAndThatIsTold) {
+    std::string rows;
+    for (int i = 100; i < 400; ++i)
+        rows +=
+            (rows.empty() ? "('" : ", ('") + std::string(40, 'x') + "', " + std::to_string(i) + ")";
+    std::size_t kept = 0;
+    std::size_t told = 0;
+    for (const char* kind : {"delete", "wal"}) {
+        RunOnSqliteFile(path_, std::string("pragma journal_mode = ") + kind +
+                                   "; delete from kvt; insert into kvt values ('old', 1)");
+        for (rlim_t limit = 512; limit < 64 * 1024; limit = limit * 3 / 2) {
+            SCOPED_TRACE(std::string(kind) + ", " + std::to_string(limit));
+            kv::db::SessionPool::Instance().Clear();
+            CKvDbAbsDataMgr manager(1);
+            std::string failure;
+            {
+                const FileSizeLimit full(limit);
+                failure = FailureOf([&] {
+                    manager.Connect();
+                    manager.Delete("delete from kvt");
+                    manager.Insert("insert into kvt values ('new', 1)");
+                    manager.Insert("insert into kvt values " + rows);
+                    manager.Commit();
+                });
+                if (!failure.empty()) manager.Rollback();
+                manager.Disconnect();
+            }
+            CKvDbAbsDataMgr after(1);
+            after.Connect();
+            after.Select("select (select a from kvt where b = 1), count(*) from kvt");
+            EXPECT_EQ(RowsOf(after, 2), failure.empty() ? "new|301" : "old|1");
+            ++(failure.empty() ? kept : told);
+            after.Disconnect();
+            kv::db::SessionPool::Instance().Clear();
+            RunOnSqliteFile(path_, "delete from kvt; insert into kvt values ('old', 1)");
+        }
+    }
+    EXPECT_GT(kept, 1u);
+    EXPECT_GT(told, 1u);
 }
 
 TEST_F(SqliteEngine, ASessionOfAFileThatWasReplacedIsNotLentAgain) {
@@ -143,6 +268,24 @@ TEST_F(SqliteEngine, ASessionOfAFileThatWasReplacedIsNotLentAgain) {
     fs::remove(path_);
     EXPECT_THAT(FailureOf([&] { manager_.Connect(); }), HasSubstr("no such file"));
     EXPECT_FALSE(fs::exists(path_));
+}
+
+TEST_F(SqliteEngine, AFileThatIsReplacedUnderAConnectionIsFoundByTheNextStatement) {
+    const auto replace = [&] {
+        const std::string fresh = folder_.Native("fresh.db");
+        RunOnSqliteFile(fresh,
+                        "create table kvt (a text, b integer); insert into kvt values ('new', 1)");
+        fs::rename(fresh, path_);
+    };
+    manager_.Connect();
+    EXPECT_EQ(manager_.Select("select a from kvt"), 0);
+    replace();
+    EXPECT_EQ(manager_.Select("select a from kvt"), 1);
+    manager_.Insert("insert into kvt values ('lost', 2)");
+    replace();
+    EXPECT_THAT(FailureOf([&] { manager_.Commit(); }),
+                HasSubstr("what it had not committed is undone"));
+    EXPECT_FALSE(manager_.IsConnected());
 }
 
 TEST_F(SqliteEngine, TextThatIsNotUtf8ComesAsItsBytes) {

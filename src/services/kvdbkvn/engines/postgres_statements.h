@@ -8,4 +8,7 @@ inline constexpr const char* kPostgresSearchPath =
     "select set_config('search_path', concat_ws(', ', 'norvadon', "
     "nullif(current_setting('search_path'), '')), false)";
 
+/// Gives up the locks that functions took for the session, which no end of a transaction does.
+inline constexpr const char* kPostgresGiveUpLocks = "select pg_advisory_unlock_all()";
+
 }  // namespace kv::db
