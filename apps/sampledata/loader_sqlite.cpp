@@ -2,10 +2,26 @@
 
 #include <unistd.h>
 
+#include <cstring>
 #include <stdexcept>
 #include <system_error>
 
 namespace kv::sample {
+
+namespace {
+
+/// What SQLite keeps beside a database. Left beside another of the same name, it would be taken for
+/// that one's. False when some of it stays.
+bool RemoveWhatLiesBeside(const std::filesystem::path& database) {
+    std::error_code error;
+    for (const char* ending : {"-journal", "-wal", "-shm"}) {
+        std::filesystem::remove(database.string() + ending, error);
+        if (error) return false;
+    }
+    return true;
+}
+
+}  // namespace
 
 SqliteLoader::SqliteLoader(std::filesystem::path target)
     : target_(std::move(target)),
@@ -27,6 +43,7 @@ SqliteLoader::~SqliteLoader() {
     database_.reset();
     std::error_code ignored;
     std::filesystem::remove(unfinished_, ignored);
+    RemoveWhatLiesBeside(unfinished_);
 }
 
 void SqliteLoader::Begin(const Table& table) {
@@ -66,10 +83,23 @@ void SqliteLoader::End() {
 void SqliteLoader::Finish() {
     Run("commit");
     Run("analyze");
+    LetReadersShare();
     if (sqlite3_close(database_.release()) != SQLITE_OK) {
         throw std::runtime_error("The database does not close");
     }
+    if (!RemoveWhatLiesBeside(target_))
+        throw std::runtime_error("The log of the database that is replaced cannot be removed");
     std::filesystem::rename(unfinished_, target_);
+}
+
+void SqliteLoader::LetReadersShare() {
+    sqlite3_stmt* pragma = nullptr;
+    Check(sqlite3_prepare_v2(database_.get(), "pragma journal_mode = wal", -1, &pragma, nullptr));
+    const std::unique_ptr<sqlite3_stmt, Close> statement(pragma);
+    const bool answered = sqlite3_step(pragma) == SQLITE_ROW;
+    const auto* mode = reinterpret_cast<const char*>(sqlite3_column_text(pragma, 0));
+    if (!answered || !mode || std::strcmp(mode, "wal") != 0)
+        throw std::runtime_error("The database cannot have a write-ahead log");
 }
 
 void SqliteLoader::Run(const std::string& sql) {

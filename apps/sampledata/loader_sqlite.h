@@ -21,7 +21,7 @@ public:
     void Add(const Row& row) override;
     void End() override;
 
-    /// Puts the database in its place, over one that stands there.
+    /// Puts the database in its place, over one that stands there, whose log goes with it.
     void Finish();
 
 private:
@@ -30,6 +30,8 @@ private:
         void operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
     };
 
+    /// Gives the database the write-ahead log: who reads then holds up nobody who writes.
+    void LetReadersShare();
     void Run(const std::string& sql);
     void Check(int code) const;
 

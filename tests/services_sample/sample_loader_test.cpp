@@ -7,6 +7,7 @@
 
 #include "sampledata/loader_sqlite.h"
 #include "support/database_helpers.h"
+#include "support/sqlite_file.h"
 #include "support/temp_folder.h"
 
 namespace test {
@@ -53,6 +54,31 @@ TEST_F(SampleSqliteLoader, PutsTheDatabaseInItsPlaceWhenItIsComplete) {
     loader.Finish();
     EXPECT_TRUE(folder_.Has("made.db"));
     EXPECT_EQ(folder_.Count(), 1U);
+}
+
+TEST_F(SampleSqliteLoader, GivesItTheWriteAheadLog) {
+    SqliteLoader loader(path_);
+    LoadOneBlock(loader);
+    loader.Finish();
+    // Two in the head of the file, for who reads and for who writes.
+    EXPECT_EQ(folder_.Read("made.db").substr(18, 2), "\2\2");
+}
+
+TEST_F(SampleSqliteLoader, TakesAwayWhatLiesBesideTheDatabaseThatItReplaces) {
+    {
+        SqliteLoader loader(path_);
+        LoadOneBlock(loader);
+        loader.Finish();
+    }
+    // The log of a program that died.
+    RunOnSqliteFile(path_, "delete from gulf_mexico_lbv");
+    for (const char* ending : {"-wal", "-shm", "-journal"})
+        folder_.Write(std::string("made.db") + ending, "left behind");
+    SqliteLoader loader(path_);
+    LoadOneBlock(loader);
+    loader.Finish();
+    EXPECT_EQ(folder_.Count(), 1U);
+    EXPECT_EQ(Query(path_, "select count(*) from gulf_mexico_lbv", 1), "1");
 }
 
 TEST_F(SampleSqliteLoader, LeavesTheOldDatabaseAndNothingElseWhenItBreaksOff) {
