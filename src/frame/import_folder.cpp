@@ -1,5 +1,7 @@
 #include "frame/import_folder.h"
 
+#include <new>
+
 #include "base/paths.h"
 #include "frame/kvcom/misc.h"
 #include "frame/kvcom/ut_registry.h"
@@ -22,8 +24,12 @@ void EnsureImportFolder(const std::string& belowWork) {
 }
 
 BackToHome::~BackToHome() {
-    ChangeFolder(Folder(CKvUtRegistry::S_GetHomePath(), CKvUtRegistry::S_GetHomeKey()) +
-                 belowHome_);
+    try {
+        ChangeFolder(Folder(CKvUtRegistry::S_GetHomePath(), CKvUtRegistry::S_GetHomeKey()) +
+                     belowHome_);
+    } catch (const std::bad_alloc&) {
+        // The folder stays the one that the dialog left, which no file that is open depends on.
+    }
 }
 
 bool AskForFile(CFileDialog& dialog, const char* title, bool startInImportFolder) {

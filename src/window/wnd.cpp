@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <new>
 #include <string>
 
 #include "base/text.h"
@@ -54,7 +55,11 @@ CWnd::~CWnd() {
     if (!m_hWnd || m_hWnd->handle_ != this) return;
     const auto window = m_hWnd->shared_from_this();
     // A control outlives its handle; a window that holds controls does not.
-    if (window->Host() == window.get()) WindowSystem::Get().Destroy(*window);
+    try {
+        if (window->Host() == window.get()) WindowSystem::Get().Destroy(*window);
+    } catch (const std::bad_alloc&) {
+        // The window stays, as one that its owner left: without a handle.
+    }
     if (m_hWnd) Detach();
 }
 
