@@ -24,6 +24,7 @@ BOOL CKvGuiProgressDlg::Create(CWnd* pParent) {
     CWnd* window = pParent ? pParent : AfxGetMainWnd();
     m_pParent = window ? window->GetTopLevelParent() : nullptr;
     if (m_pParent && m_pParent->IsWindowEnabled()) {
+        m_parentWindow = m_pParent->m_hWnd->weak_from_this();
         m_pParent->EnableWindow(FALSE);
         m_bParentDisabled = 1;
     }
@@ -33,7 +34,8 @@ BOOL CKvGuiProgressDlg::Create(CWnd* pParent) {
 }
 
 void CKvGuiProgressDlg::ReenableParent() {
-    if (m_bParentDisabled && m_pParent) m_pParent->EnableWindow(TRUE);
+    const auto parent = m_parentWindow.lock();
+    if (m_bParentDisabled && parent) FromHandle(parent.get())->EnableWindow(TRUE);
     m_bParentDisabled = 0;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <memory>
+
 #include "window/controls/progress_ctrl.h"
 #include "window/dialogs/dialog.h"
 
@@ -59,4 +61,7 @@ private:
     void PumpMessages();
     void UpdatePercent(long long nPos);
     void ReenableParent();
+
+    /// The window of `m_pParent`, which may go while the dialog is up.
+    std::weak_ptr<kv::Node> m_parentWindow;
 };

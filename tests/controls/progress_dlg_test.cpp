@@ -112,6 +112,29 @@ TEST_F(ProgressDlg, MayOutliveTheWindowThatItStandsOver) {
     EXPECT_EQ(dialog.m_hWnd, nullptr);
 }
 
+TEST_F(ProgressDlg, IsTakenDownAfterTheWindowThatItStoodOver) {
+    auto other = std::make_unique<CFrameWnd>();
+    other->Create("Other");
+    Progress dialog;
+    dialog.Create(other.get());
+    other.reset();
+    EXPECT_FALSE(dialog.DestroyWindow());
+    EXPECT_EQ(dialog.m_bParentDisabled, 0);
+}
+
+TEST_F(ProgressDlg, EnablesTheWindowItStoodOverUnderWhateverHandleThatHasNow) {
+    auto other = std::make_unique<CFrameWnd>();
+    other->Create("Other");
+    Progress dialog;
+    dialog.Create(other.get());
+    CFrameWnd heir;
+    heir.Attach(other->Detach());
+    other.reset();
+    EXPECT_FALSE(heir.IsWindowEnabled());
+    EXPECT_TRUE(dialog.DestroyWindow());
+    EXPECT_TRUE(heir.IsWindowEnabled());
+}
+
 TEST_F(ProgressDlg, ASecondCreateFailsAndLeavesTheWindowAsItIs) {
     Progress dialog;
     dialog.Create(&frame);
