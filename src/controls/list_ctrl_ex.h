@@ -25,7 +25,7 @@ public:
     void OnSelchange();
 
     static const CRuntimeClass classCListCtrlEx;
-    virtual const CRuntimeClass* GetRuntimeClass() const { return &classCListCtrlEx; }
+    const CRuntimeClass* GetRuntimeClass() const override { return &classCListCtrlEx; }
 
 private:
     int AddRecord(LVITEM& item);

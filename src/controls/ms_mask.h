@@ -131,7 +131,7 @@ public:
     void OLEDrag();
 
     static const CRuntimeClass classCMSMask;
-    virtual const CRuntimeClass* GetRuntimeClass() const { return &classCMSMask; }
+    const CRuntimeClass* GetRuntimeClass() const override { return &classCMSMask; }
 
     static const kv::MessageMap& Messages();
     const kv::MessageMap& GetMessageMap() const override { return Messages(); }

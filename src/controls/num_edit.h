@@ -48,7 +48,7 @@ public:
     void SetPrecision(int nPrecision) { m_nPrecision = nPrecision; }
 
     static const CRuntimeClass classCNumEdit;
-    virtual const CRuntimeClass* GetRuntimeClass() const { return &classCNumEdit; }
+    const CRuntimeClass* GetRuntimeClass() const override { return &classCNumEdit; }
 
     static const kv::MessageMap& Messages();
     const kv::MessageMap& GetMessageMap() const override { return Messages(); }

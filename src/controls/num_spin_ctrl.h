@@ -24,7 +24,7 @@ public:
     virtual void SetPos(double dPos);
 
     static const CRuntimeClass classCNumSpinCtrl;
-    virtual const CRuntimeClass* GetRuntimeClass() const { return &classCNumSpinCtrl; }
+    const CRuntimeClass* GetRuntimeClass() const override { return &classCNumSpinCtrl; }
 
     static const kv::MessageMap& Messages();
     const kv::MessageMap& GetMessageMap() const override { return Messages(); }

@@ -52,5 +52,10 @@ const Loader g_loader;
 }  // namespace kv::module
 
 CDynLinkLibrary* InitControlDll() {
-    return new (std::nothrow) CDynLinkLibrary(ModuleRecord());
+    if (!ModuleRecord().bInitialized) return nullptr;
+    try {
+        return new CDynLinkLibrary(ModuleRecord());
+    } catch (const std::bad_alloc&) {
+        return nullptr;
+    }
 }

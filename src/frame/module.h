@@ -9,8 +9,9 @@
 /// themselves. In between, the host calls `InitControlDll` once, and from then on templates, icons
 /// and bitmaps of the library are found.
 
-/// Puts the library's resources in the chain. Returns what it allocated, or null when there was no
-/// memory; it is released with the module. Exported under this undecorated name.
+/// Puts the library's resources in the chain. Returns what it allocated, or null, with the chain as
+/// it was, when there was no memory, and where the module is not loaded; it is released with the
+/// module. Exported under this undecorated name.
 extern "C" KVGUICTL_API CDynLinkLibrary* InitControlDll();
 
 namespace kv::module {

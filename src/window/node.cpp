@@ -1,12 +1,21 @@
 #include "window/node.h"
 
 #include <algorithm>
+#include <cstring>
 
 #include "window/node_factory.h"
 #include "window/window_system.h"
 #include "window/wnd.h"
 
 namespace kv {
+
+int CopyText(std::string_view text, char* buffer, std::size_t size) {
+    if (!buffer || size == 0) return 0;
+    const std::size_t length = std::min(text.size(), size - 1);
+    std::memcpy(buffer, text.data(), length);
+    buffer[length] = '\0';
+    return static_cast<int>(length);
+}
 
 Node::Node(NodeClass nodeClass, int id, DWORD style) : class_(nodeClass), id_(id), style_(style) {}
 
@@ -168,6 +177,8 @@ LRESULT Node::Process(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_SETTEXT:
             SetText(lParam ? TextOf(lParam) : "");
             return TRUE;
+        case WM_GETTEXT:
+            return CopyText(text_, reinterpret_cast<char*>(lParam), wParam);
         case WM_GETTEXTLENGTH:
             return static_cast<LRESULT>(text_.size());
         case WM_GETDLGCODE:
@@ -199,9 +210,9 @@ LRESULT Send(Node& node, UINT message, WPARAM wParam, LPARAM lParam) {
     if (node.Destroyed()) return 0;
     const auto keep = node.shared_from_this();
     CWnd* handle = node.Handle();
-    if (!handle) return node.Process(message, wParam, lParam);
     try {
-        return handle->WindowProc(message, wParam, lParam);
+        return handle ? handle->WindowProc(message, wParam, lParam)
+                      : node.Process(message, wParam, lParam);
     } catch (...) {
         WindowSystem::Get().HandlerFailed();
     }

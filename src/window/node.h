@@ -3,6 +3,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "base/export.h"
@@ -191,6 +192,10 @@ KVGUICTL_API std::shared_ptr<Node> MakeNode(NodeClass nodeClass, int id, DWORD s
 /// Sends a message to a window: through the attached handle, if there is one. A window that is gone
 /// answers 0, and so does one whose handler failed: no exception comes out of here.
 KVGUICTL_API LRESULT Send(Node& node, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
+
+/// Copies as much of a text as a buffer of `size` bytes has room for, with a closing 0. Returns how
+/// much; a null buffer gets nothing.
+KVGUICTL_API int CopyText(std::string_view text, char* buffer, std::size_t size);
 
 /// Text as a message parameter.
 inline LPARAM AsParam(const char* text) {

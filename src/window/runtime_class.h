@@ -2,7 +2,9 @@
 
 #include <memory>
 
-#include "window/wnd.h"
+#include "base/export.h"
+
+class CWnd;
 
 /// What is known of a class while the program runs: its name, and how to make an object of it,
 /// where that can be done.
@@ -11,7 +13,5 @@ struct CRuntimeClass {
     std::unique_ptr<CWnd> (*m_pfnCreateObject)() = nullptr;
 
     /// Null where objects of the class cannot be made by name.
-    std::unique_ptr<CWnd> CreateObject() const {
-        return m_pfnCreateObject ? m_pfnCreateObject() : nullptr;
-    }
+    KVGUICTL_API std::unique_ptr<CWnd> CreateObject() const;
 };

@@ -1,7 +1,9 @@
 #include "window/window_system.h"
 
 #include <algorithm>
+#include <cstdio>
 #include <exception>
+#include <new>
 
 #include "window/desktop.h"
 #include "window/dialog_keys.h"
@@ -15,6 +17,14 @@ namespace {
 constexpr int kMostIdleRounds = 50;
 
 std::unique_ptr<Desktop> (*g_makeFallback)() = nullptr;
+
+/// The first window that fits, or null. What handlers may change is asked again for each, and not
+/// walked through in a copy: windows go without any memory to be had.
+template <typename Fits>
+std::shared_ptr<Node> FirstOf(const std::vector<std::shared_ptr<Node>>& windows, const Fits& fits) {
+    const auto at = std::find_if(windows.begin(), windows.end(), fits);
+    return at == windows.end() ? nullptr : *at;
+}
 
 }  // namespace
 
@@ -68,15 +78,31 @@ void WindowSystem::SendDestroy(Node& node) {
     if (node.destroying_) return;
     node.destroying_ = true;
     Send(node, WM_DESTROY);
-    const auto children = node.children_;
-    for (const auto& child : children)
+    const auto stands = [](const auto& child) { return !child->destroying_; };
+    while (const auto child = FirstOf(node.children_, stands))
         SendDestroy(*child);
+}
+
+/// Takes the focus out of a window that goes. Returns who is to have it then.
+std::weak_ptr<Node> WindowSystem::HeirOfFocus(Node& node) {
+    std::weak_ptr<Node> heir;
+    if (!focus_ || !focus_->IsSelfOrDescendantOf(node)) return heir;
+    const bool modal = std::find(modals_.begin(), modals_.end(), &node) != modals_.end();
+    Node* next = nullptr;
+    if (node.parent_) {
+        next = NextTabStop(*node.parent_->Host(), focus_, true);
+    } else if (!modal) {
+        next = node.owner_;
+    }
+    if (next && !next->IsSelfOrDescendantOf(node)) heir = next->weak_from_this();
+    SetFocusQuietly(nullptr);
+    return heir;
 }
 
 void WindowSystem::Release(Node& node) {
     if (node.destroyed_) return;
-    const auto children = node.children_;
-    for (const auto& child : children)
+    const auto stands = [](const auto& child) { return !child->destroyed_; };
+    while (const auto child = FirstOf(node.children_, stands))
         Release(*child);
     node.destroyed_ = true;
     Forget(node);
@@ -89,36 +115,14 @@ void WindowSystem::Release(Node& node) {
     Guarded([handle] { handle->PostNcDestroy(); });
 }
 
-void WindowSystem::Destroy(Node& node) {
-    if (node.destroying_) return;
-    const auto keep = node.shared_from_this();
-    const auto windows = topLevels_;
-    for (const auto& window : windows) {
-        if (window->owner_ && window->owner_->IsSelfOrDescendantOf(node)) Destroy(*window);
-    }
-    // All handles still stand while the windows are told.
-    SendDestroy(node);
-
-    std::weak_ptr<Node> heir;
-    if (focus_ && focus_->IsSelfOrDescendantOf(node)) {
-        const bool modal = std::find(modals_.begin(), modals_.end(), &node) != modals_.end();
-        Node* next = nullptr;
-        if (node.parent_) {
-            next = NextTabStop(*node.parent_->Host(), focus_, true);
-        } else if (!modal) {
-            next = node.owner_;
-        }
-        if (next && !next->IsSelfOrDescendantOf(node)) heir = next->weak_from_this();
-        SetFocusQuietly(nullptr);
-    }
-
-    const auto parent = node.parent_ ? node.parent_->shared_from_this() : nullptr;
-    Release(node);
+/// Takes a window that is gone out of the tree.
+void WindowSystem::TakeOut(Node& node) {
     const auto isNode = [&](const auto& each) { return each.get() == &node; };
-    if (parent) {
+    if (node.parent_) {
+        const auto parent = node.parent_->shared_from_this();
         node.parent_ = nullptr;
         std::erase_if(parent->children_, isNode);
-        if (!parent->destroyed_) parent->Tell(Change::kChildren);
+        if (!parent->destroyed_) Guarded([&] { parent->Tell(Change::kChildren); });
     } else {
         std::erase_if(topLevels_, isNode);
         NoteChange();
@@ -127,14 +131,28 @@ void WindowSystem::Destroy(Node& node) {
         const auto window = each->node.lock();
         return !window || window->Destroyed();
     });
+}
+
+void WindowSystem::Destroy(Node& node) {
+    if (node.destroying_) return;
+    const auto keep = node.shared_from_this();
+    const auto isOwned = [&](const auto& window) {
+        return window->owner_ && !window->destroying_ && window->owner_->IsSelfOrDescendantOf(node);
+    };
+    while (const auto window = FirstOf(topLevels_, isOwned))
+        Destroy(*window);
+    // All handles still stand while the windows are told.
+    SendDestroy(node);
+
+    std::weak_ptr<Node> heir;
+    Guarded([&] { heir = HeirOfFocus(node); });
+    const bool inParent = node.parent_ != nullptr;
+    Release(node);
+    TakeOut(node);
 
     const auto next = heir.lock();
     if (!next || focus_ || !next->ReallyVisible()) return;
-    if (parent) {
-        SetFocusQuietly(next.get());
-    } else {
-        Activate(*next->Root());
-    }
+    Guarded([&] { inParent ? SetFocusQuietly(next.get()) : Activate(*next->Root()); });
 }
 
 void WindowSystem::SetFocus(Node* node) {
@@ -334,17 +352,22 @@ void WindowSystem::Log(const std::string& line) const {
     if (log_) log_(line);
 }
 
-bool WindowSystem::Guarded(const std::function<void()>& handler) {
+void WindowSystem::HandlerFailed() {
     try {
-        handler();
-        return true;
-    } catch (...) {
-        HandlerFailed();
+        TellOfFailure();
+        return;
+    } catch (const std::bad_alloc&) {
     }
-    return false;
+    try {
+        // Short enough to need no memory of its own.
+        RunMessageBox({"Out of memory.", "", MB_OK, nullptr}, true);
+    } catch (const std::bad_alloc&) {
+        std::fputs("A handler failed, and there is no memory left to tell of it.\n", stderr);
+    }
 }
 
-void WindowSystem::HandlerFailed() {
+/// Of the exception that is being caught.
+void WindowSystem::TellOfFailure() {
     std::string words;
     try {
         throw;
@@ -354,7 +377,8 @@ void WindowSystem::HandlerFailed() {
     }
     if (words.empty()) words = "An unknown failure.";
     Log("A handler failed: " + words);
-    RunMessageBox({words, "", MB_OK, ActiveWindow() ? ActiveWindow()->AnyHandle() : nullptr});
+    // Quietly: what failed over a change of the focus would fail again.
+    RunMessageBox({words, "", MB_OK, ActiveWindow() ? ActiveWindow()->AnyHandle() : nullptr}, true);
 }
 
 }  // namespace kv

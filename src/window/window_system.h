@@ -41,7 +41,8 @@ public:
     const std::vector<std::shared_ptr<Node>>& TopLevels() const { return topLevels_; }
     /// Destroys a window with its children, and the windows that it owns: WM_DESTROY to each,
     /// parents first; then the handles are let go, and each gets its PostNcDestroy, children first.
-    /// A focus in it goes on to the next tab stop, or to the window that owned it.
+    /// A focus in it goes on to the next tab stop, or to the window that owned it. Needs no memory,
+    /// and lets no exception out.
     void Destroy(Node& node);
     /// A node that was never destroyed as a window goes away.
     void Forget(const Node& node);
@@ -108,8 +109,18 @@ public:
 
     /// Runs `handler`. An exception that reaches this place is logged and shown in a message box,
     /// and goes no further; then the answer is false.
-    bool Guarded(const std::function<void()>& handler);
-    /// The same for the exception that is being caught.
+    template <typename Handler>
+    bool Guarded(const Handler& handler) {
+        try {
+            handler();
+            return true;
+        } catch (...) {
+            HandlerFailed();
+        }
+        return false;
+    }
+    /// The same for the exception that is being caught. Also where there is no memory left, none
+    /// comes out of here.
     void HandlerFailed();
 
 private:
@@ -123,7 +134,10 @@ private:
     ~WindowSystem();
 
     void SendDestroy(Node& node);
+    std::weak_ptr<Node> HeirOfFocus(Node& node);
     void Release(Node& node);
+    void TakeOut(Node& node);
+    void TellOfFailure();
     void ShowWaiting();
     /// False when an update failed.
     bool RunIdleUpdates();

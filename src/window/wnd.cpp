@@ -51,6 +51,12 @@ private:
 
 }  // namespace
 
+const CRuntimeClass CWnd::classCWnd{"CWnd", [] { return std::make_unique<CWnd>(); }};
+
+std::unique_ptr<CWnd> CRuntimeClass::CreateObject() const {
+    return m_pfnCreateObject ? m_pfnCreateObject() : nullptr;
+}
+
 CWnd::~CWnd() {
     if (!m_hWnd || m_hWnd->handle_ != this) return;
     const auto window = m_hWnd->shared_from_this();
@@ -137,7 +143,11 @@ void CWnd::GetWindowText(CString& text) const {
 }
 
 std::string CWnd::WindowText() const {
-    return m_hWnd ? m_hWnd->Text() : std::string();
+    std::string text(static_cast<std::size_t>(GetWindowTextLength()) + 1, '\0');
+    const LRESULT length =
+        SendMessage(WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()));
+    text.resize(static_cast<std::size_t>(length));
+    return text;
 }
 
 int CWnd::GetWindowTextLength() const {
@@ -280,8 +290,8 @@ int CWnd::GetDlgItemText(int id, CString& text) const {
 }
 
 std::string CWnd::DlgItemText(int id) const {
-    const HWND control = m_hWnd ? m_hWnd->FindChild(id) : nullptr;
-    return control ? control->Text() : std::string();
+    const CWnd* control = GetDlgItem(id);
+    return control ? control->WindowText() : std::string();
 }
 
 void CWnd::SetDlgItemInt(int id, UINT value, BOOL isSigned) {

@@ -8,6 +8,7 @@
 #include "base/types.h"
 #include "window/messages.h"
 #include "window/node.h"
+#include "window/runtime_class.h"
 
 namespace kv {
 class WindowSystem;
@@ -78,6 +79,10 @@ public:
     ~CWnd() override;
     CWnd(const CWnd&) = delete;
     CWnd& operator=(const CWnd&) = delete;
+
+    static const CRuntimeClass classCWnd;
+    /// The class of the object: of those that have a record of their own, the most derived one.
+    virtual const CRuntimeClass* GetRuntimeClass() const { return &classCWnd; }
 
     /// The window, or null.
     HWND m_hWnd = nullptr;

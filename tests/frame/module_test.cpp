@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "support/failing_memory.h"
 #include "window/acting/headless_desktop.h"
 #include "window/dialogs/dialog.h"
 #include "window/window_system.h"
@@ -56,9 +57,41 @@ TEST_F(Module, DetachTakesTheResourcesOutOfTheChain) {
     EXPECT_EQ(CDialog(kTemplate).DoModal(), -1);
 }
 
+TEST_F(Module, AfterDetachInitControlDllFails) {
+    Main(Event::kProcessDetach, &kv::LibraryResources());
+    EXPECT_EQ(InitControlDll(), nullptr);
+    EXPECT_EQ(kv::FindTemplate(kTemplate), nullptr);
+}
+
+TEST_F(Module, AfterDetachItIsAttachedAgain) {
+    InitControlDll();
+    Main(Event::kProcessDetach, &kv::LibraryResources());
+    EXPECT_EQ(Main(Event::kProcessAttach, &kv::LibraryResources()), 1);
+    EXPECT_EQ(kv::FindTemplate(kTemplate), nullptr);
+    EXPECT_NE(InitControlDll(), nullptr);
+    EXPECT_EQ(kv::FindTemplate(kTemplate), &kDialog);
+    Main(Event::kProcessDetach, &kv::LibraryResources());
+    EXPECT_EQ(kv::FindTemplate(kTemplate), nullptr);
+}
+
+TEST_F(Module, WithoutMemoryInitControlDllAnswersNullAndLeavesTheChain) {
+    // Repeated, so that every room that the chain has at hand is full once.
+    for (int repeated = 0; repeated < 20; ++repeated) {
+        for (int first = 1;; ++first) {
+            test::FailingMemory memory(first);
+            const CDynLinkLibrary* library = InitControlDll();
+            if (!memory.Failed()) break;
+            EXPECT_EQ(library, nullptr);
+        }
+    }
+    Main(Event::kProcessDetach, &kv::LibraryResources());
+    EXPECT_EQ(kv::FindTemplate(kTemplate), nullptr);
+}
+
 TEST_F(Module, AttachWithoutAnInstanceFails) {
     Main(Event::kProcessDetach, &kv::LibraryResources());
     EXPECT_EQ(Main(Event::kProcessAttach, nullptr), 0);
+    EXPECT_EQ(InitControlDll(), nullptr);
     EXPECT_EQ(Main(Event::kProcessAttach, &kv::LibraryResources()), 1);
 }
 

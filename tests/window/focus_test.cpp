@@ -1,3 +1,5 @@
+#include <stdexcept>
+
 #include "support/dialog_fixture.h"
 
 using enum kv::ControlKind;
@@ -173,6 +175,16 @@ TEST_F(Focus, AMessageBoxTellsTheHolderThatItLostItAndGotItBack) {
     desktop.ExpectMessage("Look");
     Run(dialog_, [&](kv::User&) { AfxMessageBox("Look"); });
     EXPECT_THAT(dialog_.ToldOfFocus(), ElementsAre("11 lost", "11 gained"));
+}
+
+TEST_F(Focus, AHandlerOfItThatFailsIsToldOnceAndKeepsIt) {
+    dialog_.when["12 gained"] = [] { throw std::runtime_error("It failed."); };
+    desktop.ExpectMessage("It failed.");
+    Run(dialog_, [&](kv::User& user) {
+        user.Focus(12);
+        EXPECT_EQ(FocusedId(), 12);
+    });
+    EXPECT_THAT(dialog_.ToldOfFocus(), ElementsAre("11 lost", "12 gained"));
 }
 
 TEST_F(Focus, AMessageBoxDoesNotMissItsHolderThatMovedItWhenLosingIt) {

@@ -172,6 +172,7 @@ bool DoubleClick(Node& list, int row) {
 bool ClickRow(Node& list, int row, Modifiers modifiers) {
     if (!CanAct(list)) return false;
     const auto keep = list.shared_from_this();
+    const ModifierScope scope(modifiers);
     if (auto* combo = dynamic_cast<ComboBoxNode*>(&list)) {
         return (combo->Dropped() || combo->Simple()) && combo->Rows().Has(row) &&
                combo->UserPick(row);
@@ -185,6 +186,15 @@ bool ClickRow(Node& list, int row, Modifiers modifiers) {
         view->UserClick(row, modifiers.shift, modifiers.ctrl);
     }
     return true;
+}
+
+bool RightClickRow(Node& listView, int row, Modifiers modifiers) {
+    auto* view = dynamic_cast<ListViewNode*>(&listView);
+    if (!view || !CanAct(listView)) return false;
+    const auto keep = listView.shared_from_this();
+    const ActionScope action;
+    const ModifierScope scope(modifiers);
+    return FocusForClick(listView) && view->UserRightClick(row);
 }
 
 bool ClickColumn(Node& listView, int column) {

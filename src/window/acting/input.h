@@ -39,8 +39,13 @@ KVGUICTL_API bool DoubleClick(Node& list, int row);
 /// whose list is open it picks the row.
 KVGUICTL_API bool ClickRow(Node& list, int row, Modifiers modifiers = {});
 
+/// Clicks a row of a list view with the right button; -1 for the empty space behind the rows. True
+/// when a menu of the list view's own may come up.
+KVGUICTL_API bool RightClickRow(Node& listView, int row, Modifiers modifiers = {});
+
 /// Clicks the heading of a column, drags its edge, clicks the check box of a row.
 KVGUICTL_API bool ClickColumn(Node& listView, int column);
+/// A width may be LVSCW_AUTOSIZE: a double-click on that edge.
 KVGUICTL_API bool ResizeColumn(Node& listView, int column, int width);
 KVGUICTL_API bool ToggleCheck(Node& listView, int row);
 

@@ -10,6 +10,9 @@
 /// plain push button.
 class KVGUICTL_API CBitmapButton : public CButton, public kv::OwnerDrawn {
 public:
+    static constexpr CRuntimeClass classCBitmapButton{"CBitmapButton"};
+    const CRuntimeClass* GetRuntimeClass() const override { return &classCBitmapButton; }
+
     /// Pictures by their ids in the resource chain; 0 for one that there is none of. False when one
     /// that was named is not found.
     BOOL LoadBitmaps(UINT up, UINT pressed = 0, UINT focused = 0, UINT disabled = 0);

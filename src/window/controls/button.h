@@ -7,6 +7,9 @@
 /// A handle on a button. Images are named by their ids in the resource chain, 0 for none.
 class KVGUICTL_API CButton : public CWnd {
 public:
+    static constexpr CRuntimeClass classCButton{"CButton"};
+    const CRuntimeClass* GetRuntimeClass() const override { return &classCButton; }
+
     BOOL Create(LPCTSTR text, DWORD style, const CRect& rect, CWnd* parent, UINT id);
 
     /// BST_CHECKED or BST_UNCHECKED.

@@ -8,6 +8,9 @@
 /// is not.
 class KVGUICTL_API CComboBox : public CWnd {
 public:
+    static constexpr CRuntimeClass classCComboBox{"CComboBox"};
+    const CRuntimeClass* GetRuntimeClass() const override { return &classCComboBox; }
+
     BOOL Create(DWORD style, const CRect& rect, CWnd* parent, UINT id);
 
     // Rows.

@@ -361,7 +361,7 @@ LRESULT ComboBoxNode::ProcessRows(UINT message, WPARAM wParam, LPARAM lParam, bo
         case CB_GETCOUNT:
             return Rows().Count();
         case CB_GETLBTEXT:
-            return Rows().Has(row) ? CopyText(Rows().Text(row), lParam) : CB_ERR;
+            return Rows().Has(row) ? CopyRowText(Rows().Text(row), lParam) : CB_ERR;
         case CB_GETLBTEXTLEN:
             return Rows().Has(row) ? static_cast<LRESULT>(Rows().Text(row).size()) : CB_ERR;
         case CB_FINDSTRING:
@@ -371,7 +371,7 @@ LRESULT ComboBoxNode::ProcessRows(UINT message, WPARAM wParam, LPARAM lParam, bo
         case CB_GETITEMDATA:
             return Rows().Has(row) ? Rows().Data(row) : CB_ERR;
         case CB_SETITEMDATA:
-            return Send(*list_, LB_SETITEMDATA, wParam, lParam);
+            return Rows().Has(row) && list_->SetData(row, lParam) ? 0 : CB_ERR;
         default:
             handled = false;
             return 0;
@@ -400,7 +400,7 @@ LRESULT ComboBoxNode::ProcessBox(UINT message, WPARAM wParam, LPARAM lParam, boo
             if (edit_) Send(*edit_, EM_LIMITTEXT, wParam);
             return TRUE;
         case CB_GETEDITSEL:
-            return edit_ ? Send(*edit_, EM_GETSEL) : CB_ERR;
+            return edit_ ? Send(*edit_, EM_GETSEL, wParam, lParam) : CB_ERR;
         case CB_SETEDITSEL: {
             if (!edit_) return CB_ERR;
             // The two halves are signed: -1 means what it means to an edit.

@@ -46,6 +46,14 @@ UINT CEdit::GetLimitText() const {
     return static_cast<UINT>(SendMessage(EM_GETLIMITTEXT));
 }
 
+int CEdit::GetLineCount() const {
+    return m_hWnd ? static_cast<int>(SendMessage(EM_GETLINECOUNT)) : 1;
+}
+
+int CEdit::LineLength(int place) const {
+    return static_cast<int>(SendMessage(EM_LINELENGTH, static_cast<WPARAM>(place)));
+}
+
 BOOL CEdit::SetReadOnly(BOOL readOnly) {
     return static_cast<BOOL>(SendMessage(EM_SETREADONLY, static_cast<WPARAM>(readOnly)));
 }

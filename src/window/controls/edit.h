@@ -7,6 +7,9 @@
 /// A handle on an edit. Places and counts are bytes.
 class KVGUICTL_API CEdit : public CWnd {
 public:
+    static constexpr CRuntimeClass classCEdit{"CEdit"};
+    const CRuntimeClass* GetRuntimeClass() const override { return &classCEdit; }
+
     BOOL Create(DWORD style, const CRect& rect, CWnd* parent, UINT id);
 
     /// The selection's start in the low word, its end in the high one.
@@ -22,12 +25,20 @@ public:
     void LimitText(int characters = 0);
     void SetLimitText(UINT characters);
     UINT GetLimitText() const;
+
+    /// How many lines the text has, at least one.
+    int GetLineCount() const;
+    /// Bytes of the line that the place is in, without its end; -1 asks how many bytes of the lines
+    /// of the selection are not selected. Of a single line its whole text.
+    int LineLength(int place = -1) const;
+
     BOOL SetReadOnly(BOOL readOnly = TRUE);
     BOOL GetModify() const;
     void SetModify(BOOL modified = TRUE);
 
     BOOL CanUndo() const;
-    /// A second undo takes the first one back. False when there is nothing to undo.
+    /// A second undo takes the first one back. Of several lines, false when there is nothing to
+    /// undo.
     BOOL Undo();
     void EmptyUndoBuffer();
     void Cut();

@@ -17,6 +17,7 @@ namespace {
 constexpr int kLineHeight = 13;
 constexpr int kTextMargin = 3;
 constexpr std::size_t kGreatestLimit = 0x7FFFFFFE;
+constexpr std::size_t kGreatestLimitOfLines = 0xFFFFFFFF;
 
 constexpr char kCtrlA = 0x01;
 constexpr char kCtrlC = 0x03;
@@ -241,15 +242,13 @@ void EditNode::Cut() {
     if (!ReadOnly() && Copy()) Erase(SelectionStart(), SelectionEnd(), Step::kOther);
 }
 
-/// A single line takes the first line of what is pasted; digits-only refuses what is no number, and
-/// does not make another number of it.
+/// A single line takes the first line of what is pasted. Digits-only is for typing: what is pasted
+/// need not be a number.
 void EditNode::Paste() {
     if (ReadOnly()) return;
     std::string text = WindowSystem::Get().GetDesktop().ClipboardText();
     if (!MultiLine()) text.resize(std::min(text.size(), text.find_first_of("\r\n")));
-    const bool digits = std::all_of(text.begin(), text.end(), IsDigit);
-    if (text.empty() || (HasStyle(ES_NUMBER) && !digits)) return;
-    Insert(std::move(text), Step::kOther);
+    if (!text.empty()) Insert(std::move(text), Step::kOther);
 }
 
 bool EditNode::HandleKey(int key) {
@@ -379,6 +378,23 @@ int EditNode::LinesAway(int place, int lines) const {
     return WholeChars(Text(), std::min(start + column, LineEnd(start)));
 }
 
+int EditNode::LineCount() const {
+    return MultiLine() ? static_cast<int>(std::count(Text().begin(), Text().end(), '\n')) + 1 : 1;
+}
+
+/// -1 stands for what is not selected on the lines of the selection.
+int EditNode::LineLength(int place) const {
+    const int size = static_cast<int>(Text().size());
+    if (!MultiLine()) return size;
+    if (place == -1) {
+        const int ahead = SelectionStart() - LineStart(SelectionStart());
+        return ahead + std::max(0, LineEnd(SelectionEnd()) - SelectionEnd());
+    }
+    if (place < 0 || place > size) return 0;
+    const int start = LineStart(place);
+    return LineEnd(start) - start;
+}
+
 int EditNode::PlaceAtPoint(CPoint at) const {
     Desktop& desktop = WindowSystem::Get().GetDesktop();
     const int start = MultiLine() ? LinesAway(0, std::max(0, at.y) / kLineHeight) : 0;
@@ -423,7 +439,8 @@ void EditNode::SetSelection(int start, int end) {
 }
 
 void EditNode::SetLimit(WPARAM limit) {
-    limit_ = limit == 0 ? kGreatestLimit : std::min<std::size_t>(limit, kGreatestLimit);
+    const std::size_t most = MultiLine() ? kGreatestLimitOfLines : kGreatestLimit;
+    limit_ = limit == 0 ? most : std::min<std::size_t>(limit, most);
 }
 
 LRESULT EditNode::ProcessMessages(UINT message, WPARAM wParam, LPARAM lParam, bool& handled) {
@@ -435,6 +452,10 @@ LRESULT EditNode::ProcessMessages(UINT message, WPARAM wParam, LPARAM lParam, bo
             return 0;
         case EM_SCROLLCARET:
             return TRUE;
+        case EM_GETLINECOUNT:
+            return LineCount();
+        case EM_LINELENGTH:
+            return LineLength(static_cast<int>(wParam));
         case EM_GETMODIFY:
             return modified_;
         case EM_SETMODIFY:
@@ -453,7 +474,7 @@ LRESULT EditNode::ProcessMessages(UINT message, WPARAM wParam, LPARAM lParam, bo
             return CanUndo();
         case EM_UNDO:
         case WM_UNDO:
-            return Undo();
+            return Undo() || !MultiLine();
         case EM_EMPTYUNDOBUFFER:
             undo_.reset();
             return 0;

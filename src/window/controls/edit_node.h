@@ -86,6 +86,8 @@ private:
     int LineStart(int place) const;
     int LineEnd(int place) const;
     int LinesAway(int place, int lines) const;
+    int LineCount() const;
+    int LineLength(int place) const;
     int PlaceAtPoint(CPoint at) const;
 
     int anchor_ = 0;

@@ -8,6 +8,9 @@
 /// is not.
 class KVGUICTL_API CListBox : public CWnd {
 public:
+    static constexpr CRuntimeClass classCListBox{"CListBox"};
+    const CRuntimeClass* GetRuntimeClass() const override { return &classCListBox; }
+
     BOOL Create(DWORD style, const CRect& rect, CWnd* parent, UINT id);
 
     // Rows.
@@ -23,6 +26,7 @@ public:
     void GetText(int row, CString& text) const;
     int GetTextLen(int row) const;
     LPARAM GetItemData(int row) const;
+    /// -1 means every row.
     int SetItemData(int row, LPARAM data);
     /// First row behind `start` that begins with the text, going round; -1 starts from the top.
     int FindString(int start, LPCTSTR text) const;

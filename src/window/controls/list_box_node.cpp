@@ -1,19 +1,15 @@
 #include "window/controls/list_box_node.h"
 
 #include <algorithm>
-#include <cstring>
 
 #include "window/dialog_keys.h"
 #include "window/window_system.h"
 
 namespace kv {
 
-LRESULT CopyText(std::string_view text, LPARAM buffer) {
+LRESULT CopyRowText(std::string_view text, LPARAM buffer) {
     if (!buffer) return LB_ERR;
-    auto* to = reinterpret_cast<char*>(buffer);
-    std::memcpy(to, text.data(), text.size());
-    to[text.size()] = '\0';
-    return static_cast<LRESULT>(text.size());
+    return CopyText(text, reinterpret_cast<char*>(buffer), text.size() + 1);
 }
 
 ListBoxNode::ListBoxNode(int id, DWORD style)
@@ -113,6 +109,15 @@ bool ListBoxNode::SetSelected(int row, bool selected) {
         }
     }
     if (changed) TellList(Change::kSelection);
+    return true;
+}
+
+bool ListBoxNode::SetData(int row, LPARAM data) {
+    if (row != -1 && !rows_.Has(row)) return false;
+    const int first = row == -1 ? 0 : row;
+    const int last = row == -1 ? rows_.Count() - 1 : row;
+    for (int each = first; each <= last; ++each)
+        rows_.SetData(each, data);
     return true;
 }
 
@@ -270,10 +275,10 @@ void ListBoxNode::MoveByKey(int row, bool shift, bool ctrl) {
         if (row == current_) return;
         SetCurrentRow(row);
         UserChanged(false);
-    } else if (!HasStyle(LBS_EXTENDEDSEL) || (ctrl && !shift)) {
-        if (MoveCaret(row)) TellList(Change::kSelection);
-    } else if (shift ? ExtendTo(row, ctrl) : SelectOnly(row)) {
-        UserChanged(true);
+    } else {
+        // Such a key is told of whatever it changed.
+        const bool caretAlone = !HasStyle(LBS_EXTENDEDSEL) || (ctrl && !shift);
+        UserChanged(caretAlone ? MoveCaret(row) : shift ? ExtendTo(row, ctrl) : SelectOnly(row));
     }
 }
 
@@ -342,7 +347,7 @@ LRESULT ListBoxNode::ProcessRows(UINT message, WPARAM wParam, LPARAM lParam, boo
         case LB_GETCOUNT:
             return rows_.Count();
         case LB_GETTEXT:
-            return rows_.Has(row) ? CopyText(rows_.Text(row), lParam) : LB_ERR;
+            return rows_.Has(row) ? CopyRowText(rows_.Text(row), lParam) : LB_ERR;
         case LB_GETTEXTLEN:
             return rows_.Has(row) ? static_cast<LRESULT>(rows_.Text(row).size()) : LB_ERR;
         case LB_FINDSTRING:
@@ -352,9 +357,7 @@ LRESULT ListBoxNode::ProcessRows(UINT message, WPARAM wParam, LPARAM lParam, boo
         case LB_GETITEMDATA:
             return rows_.Has(row) ? rows_.Data(row) : LB_ERR;
         case LB_SETITEMDATA:
-            if (!rows_.Has(row)) return LB_ERR;
-            rows_.SetData(row, lParam);
-            return 0;
+            return SetData(row, lParam) ? 0 : LB_ERR;
         default:
             handled = false;
             return 0;

@@ -42,6 +42,8 @@ public:
     /// With multiple selection; -1 means every row. Selecting one row moves the caret there.
     bool SetSelected(int row, bool selected);
     bool SetCaret(int row);
+    /// -1 means every row.
+    bool SetData(int row, LPARAM data);
 
     // What a person does. Each notifies once for each thing that they do.
 
@@ -88,7 +90,7 @@ private:
 };
 
 /// Copies a row's text, with a closing 0, to the buffer that a message brought. Answers its length.
-LRESULT CopyText(std::string_view text, LPARAM buffer);
+LRESULT CopyRowText(std::string_view text, LPARAM buffer);
 
 /// Height that a row takes, in logical pixels.
 inline constexpr int kListRowHeight = 13;

@@ -7,6 +7,9 @@
 /// A handle on a progress bar. Positions outside the range are brought into it.
 class KVGUICTL_API CProgressCtrl : public CWnd {
 public:
+    static constexpr CRuntimeClass classCProgressCtrl{"CProgressCtrl"};
+    const CRuntimeClass* GetRuntimeClass() const override { return &classCProgressCtrl; }
+
     BOOL Create(DWORD style, const CRect& rect, CWnd* parent, UINT id) {
         return CreateNode(kv::NodeClass::kProgress, "", style, rect, parent, static_cast<int>(id));
     }

@@ -5,12 +5,14 @@
 
 namespace kv {
 
-void ProgressNode::SetRange(int lower, int upper) {
-    if (lower == lower_ && upper == upper_) return;
+LRESULT ProgressNode::SetRange(int lower, int upper) {
+    const LRESULT former = MAKELPARAM(lower_, upper_);
+    if (lower == lower_ && upper == upper_) return former;
     lower_ = lower;
     upper_ = upper;
     Tell(Change::kRange);
     SetPosition(position_);
+    return former;
 }
 
 int ProgressNode::SetPosition(long long position) {
@@ -30,11 +32,11 @@ int ProgressNode::StepIt() {
 LRESULT ProgressNode::Process(UINT message, WPARAM wParam, LPARAM lParam) {
     const int value = static_cast<int>(wParam);
     switch (message) {
-        case PBM_SETRANGE32: {
-            const LRESULT former = MAKELPARAM(lower_, upper_);
-            SetRange(value, static_cast<int>(lParam));
-            return former;
-        }
+        case PBM_SETRANGE:
+            return SetRange(LOWORD(static_cast<std::uintptr_t>(lParam)),
+                            HIWORD(static_cast<std::uintptr_t>(lParam)));
+        case PBM_SETRANGE32:
+            return SetRange(value, static_cast<int>(lParam));
         case PBM_GETRANGE:
             if (auto* range = reinterpret_cast<PBRANGE*>(lParam)) *range = {lower_, upper_};
             return wParam ? lower_ : upper_;

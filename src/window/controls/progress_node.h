@@ -3,6 +3,7 @@
 #include "base/export.h"
 #include "window/node.h"
 
+inline constexpr UINT PBM_SETRANGE = WM_USER + 1;
 inline constexpr UINT PBM_SETPOS = WM_USER + 2;
 inline constexpr UINT PBM_DELTAPOS = WM_USER + 3;
 inline constexpr UINT PBM_SETSTEP = WM_USER + 4;
@@ -31,7 +32,8 @@ public:
     LRESULT Process(UINT message, WPARAM wParam, LPARAM lParam) override;
 
 private:
-    void SetRange(int lower, int upper);
+    /// Returns the former range, as far as 16 bits of each end hold it.
+    LRESULT SetRange(int lower, int upper);
     /// Brings the position into the range, and returns the one that was.
     int SetPosition(long long position);
     int StepIt();

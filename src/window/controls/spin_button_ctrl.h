@@ -7,6 +7,9 @@
 /// A handle on a spin button.
 class KVGUICTL_API CSpinButtonCtrl : public CWnd {
 public:
+    static constexpr CRuntimeClass classCSpinButtonCtrl{"CSpinButtonCtrl"};
+    const CRuntimeClass* GetRuntimeClass() const override { return &classCSpinButtonCtrl; }
+
     BOOL Create(DWORD style, const CRect& rect, CWnd* parent, UINT id) {
         return CreateNode(kv::NodeClass::kSpin, "", style, rect, parent, static_cast<int>(id));
     }

@@ -45,20 +45,27 @@ LRESULT SpinNode::SetBuddy(Node* buddy) {
     return reinterpret_cast<LRESULT>(former);
 }
 
-void SpinNode::SetPosition(int position) {
+void SpinNode::SetRange(int lower, int upper) {
+    lower_ = lower;
+    upper_ = upper;
+    Tell(Change::kRange);
+}
+
+int SpinNode::SetPosition(int position) {
     const auto [least, most] = std::minmax(lower_, upper_);
-    position_ = std::clamp(position, least, most);
+    const int former = std::exchange(position_, std::clamp(position, least, most));
     Tell(Change::kPosition);
     Node* buddy = HasStyle(UDS_SETBUDDYINT) ? Buddy() : nullptr;
-    if (!buddy) return;
+    if (!buddy) return former;
     const std::string text =
         HasStyle(UDS_NOTHOUSANDS) ? std::to_string(position_) : WithCommas(position_);
     if (text != buddy->Text()) Send(*buddy, WM_SETTEXT, 0, AsParam(text.c_str()));
+    return former;
 }
 
 bool SpinNode::ReadBuddy() {
-    Node* buddy = HasStyle(UDS_SETBUDDYINT) ? Buddy() : nullptr;
-    if (!buddy) return true;
+    Node* buddy = Buddy();
+    if (!buddy || !HasStyle(UDS_SETBUDDYINT)) return buddy != nullptr;
     const std::string text = TrimSpace(ReplaceAll(buddy->Text(), ",", ""));
     std::size_t end = 0;
     const auto number = ScanInteger(text, &end);
@@ -94,22 +101,43 @@ void SpinNode::UserStep(bool up) {
     }
 }
 
+/// The messages with numbers of 16 bits.
+LRESULT SpinNode::ProcessShort(UINT message, LPARAM lParam, bool& handled) {
+    const auto packed = static_cast<std::uintptr_t>(lParam);
+    const int low = static_cast<std::int16_t>(LOWORD(packed));
+    const int high = static_cast<std::int16_t>(HIWORD(packed));
+    switch (message) {
+        case UDM_SETRANGE:
+            SetRange(high, low);
+            return 0;
+        case UDM_GETRANGE:
+            return MAKELPARAM(upper_, lower_);
+        case UDM_SETPOS:
+            return SetPosition(low);
+        case UDM_GETPOS: {
+            const bool read = ReadBuddy();
+            return MAKELPARAM(position_, !read);
+        }
+        default:
+            handled = false;
+            return 0;
+    }
+}
+
 LRESULT SpinNode::Process(UINT message, WPARAM wParam, LPARAM lParam) {
+    bool handled = true;
+    const LRESULT result = ProcessShort(message, lParam, handled);
+    if (handled) return result;
     switch (message) {
         case UDM_SETRANGE32:
-            lower_ = static_cast<int>(wParam);
-            upper_ = static_cast<int>(lParam);
-            Tell(Change::kRange);
+            SetRange(static_cast<int>(wParam), static_cast<int>(lParam));
             return 0;
         case UDM_GETRANGE32:
             if (wParam) *reinterpret_cast<int*>(wParam) = lower_;
             if (lParam) *reinterpret_cast<int*>(lParam) = upper_;
             return 0;
-        case UDM_SETPOS32: {
-            const int former = position_;
-            SetPosition(static_cast<int>(lParam));
-            return former;
-        }
+        case UDM_SETPOS32:
+            return SetPosition(static_cast<int>(lParam));
         case UDM_GETPOS32: {
             const bool read = ReadBuddy();
             if (lParam) *reinterpret_cast<BOOL*>(lParam) = !read;

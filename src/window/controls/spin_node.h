@@ -7,6 +7,10 @@
 #include "window/node.h"
 #include "window/wnd.h"
 
+inline constexpr UINT UDM_SETRANGE = WM_USER + 101;
+inline constexpr UINT UDM_GETRANGE = WM_USER + 102;
+inline constexpr UINT UDM_SETPOS = WM_USER + 103;
+inline constexpr UINT UDM_GETPOS = WM_USER + 104;
 inline constexpr UINT UDM_SETBUDDY = WM_USER + 105;
 inline constexpr UINT UDM_GETBUDDY = WM_USER + 106;
 inline constexpr UINT UDM_SETRANGE32 = WM_USER + 111;
@@ -53,8 +57,11 @@ public:
     LRESULT Process(UINT message, WPARAM wParam, LPARAM lParam) override;
 
 private:
-    void SetPosition(int position);
-    /// False when the buddy shows no number in the range.
+    LRESULT ProcessShort(UINT message, LPARAM lParam, bool& handled);
+    void SetRange(int lower, int upper);
+    /// Returns the former position.
+    int SetPosition(int position);
+    /// False when there is no buddy, or it shows no number in the range.
     bool ReadBuddy();
     int Stepped(int delta) const;
     LRESULT SetBuddy(Node* buddy);

@@ -36,6 +36,9 @@ private:
 /// A dialog: made from a template, run modally by `DoModal` or put up modelessly by `Create`.
 class KVGUICTL_API CDialog : public CWnd {
 public:
+    static constexpr CRuntimeClass classCDialog{"CDialog"};
+    const CRuntimeClass* GetRuntimeClass() const override { return &classCDialog; }
+
     CDialog() = default;
     explicit CDialog(UINT templateId, CWnd* parent = nullptr);
     ~CDialog() override;

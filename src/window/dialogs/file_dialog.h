@@ -51,6 +51,9 @@ KVGUICTL_API std::vector<FileFilter> ParseFilter(const std::string& filter);
 /// dialogs' form.
 class KVGUICTL_API CFileDialog : public CDialog {
 public:
+    static constexpr CRuntimeClass classCFileDialog{"CFileDialog"};
+    const CRuntimeClass* GetRuntimeClass() const override { return &classCFileDialog; }
+
     explicit CFileDialog(BOOL open, const char* defaultExtension = nullptr,
                          const char* fileName = nullptr,
                          DWORD flags = OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT,

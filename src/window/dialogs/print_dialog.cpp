@@ -52,9 +52,8 @@ short ToShort(int value) {
 }
 
 /// The text, as far as there is room for it and a closing 0.
-void CopyText(const std::string& text, std::span<char> room) {
-    const std::size_t length = text.copy(room.data(), room.size() - 1);
-    room[length] = '\0';
+void CopyInto(std::span<char> room, const std::string& text) {
+    kv::CopyText(text, room.data(), room.size());
 }
 
 }  // namespace
@@ -77,8 +76,8 @@ std::optional<PrinterSettings> CurrentPrinter() {
 
 DEVMODE ToDevMode(const PrinterSettings& settings) {
     DEVMODE mode;
-    CopyText(settings.device, mode.dmDeviceName);
-    CopyText(PaperName(settings.paper), mode.dmFormName);
+    CopyInto(mode.dmDeviceName, settings.device);
+    CopyInto(mode.dmFormName, PaperName(settings.paper));
     mode.dmOrientation = settings.landscape ? DMORIENT_LANDSCAPE : DMORIENT_PORTRAIT;
     mode.dmPaperSize = ToShort(settings.paper);
     mode.dmPaperLength = ToShort(settings.heightTenthMm);

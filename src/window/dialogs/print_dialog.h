@@ -46,6 +46,9 @@ KVGUICTL_API DEVMODE ToDevMode(const PrinterSettings& settings);
 /// The platform's dialog for choosing a printer, its paper and orientation.
 class KVGUICTL_API CPrintDialog : public CDialog {
 public:
+    static constexpr CRuntimeClass classCPrintDialog{"CPrintDialog"};
+    const CRuntimeClass* GetRuntimeClass() const override { return &classCPrintDialog; }
+
     /// Only the form for setting up is there: a host prints by itself. `flags` are PD_... bits.
     explicit CPrintDialog(BOOL setupOnly,
                           DWORD flags = PD_ALLPAGES | PD_USEDEVMODECOPIES | PD_NOPAGENUMS |

@@ -20,6 +20,9 @@ inline constexpr DWORD CBRS_SIZE_DYNAMIC = 0x0004;
 /// A bar in a frame, which asks its frame at idle time how its controls stand.
 class KVGUICTL_API CControlBar : public CWnd {
 public:
+    static constexpr CRuntimeClass classCControlBar{"CControlBar"};
+    const CRuntimeClass* GetRuntimeClass() const override { return &classCControlBar; }
+
     /// At which sides the bar may dock; 0 for none.
     void EnableDocking(DWORD sides) { m_dwDockStyle = sides; }
     DWORD GetDockStyle() const { return m_dwDockStyle; }
@@ -50,6 +53,9 @@ private:
 /// A bar whose controls come from a dialog template.
 class KVGUICTL_API CDialogBar : public CControlBar {
 public:
+    static constexpr CRuntimeClass classCDialogBar{"CDialogBar"};
+    const CRuntimeClass* GetRuntimeClass() const override { return &classCDialogBar; }
+
     /// False when there is no such template.
     virtual BOOL Create(CWnd* parent, UINT templateId, UINT style, UINT id);
 

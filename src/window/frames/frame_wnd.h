@@ -16,6 +16,9 @@ class KVGUICTL_API CDocument : public CCmdTarget {};
 /// A main window, in which bars dock.
 class KVGUICTL_API CFrameWnd : public CWnd {
 public:
+    static constexpr CRuntimeClass classCFrameWnd{"CFrameWnd"};
+    const CRuntimeClass* GetRuntimeClass() const override { return &classCFrameWnd; }
+
     virtual BOOL Create(const char* title, const CRect& rect = {0, 0, 1024, 768});
     /// At which sides bars may dock.
     void EnableDocking(DWORD sides) { m_dwDockSides = sides; }

@@ -13,6 +13,9 @@ inline constexpr UINT ID_SEPARATOR = 0;
 /// the command's idle update.
 class KVGUICTL_API CToolBar : public CControlBar {
 public:
+    static constexpr CRuntimeClass classCToolBar{"CToolBar"};
+    const CRuntimeClass* GetRuntimeClass() const override { return &classCToolBar; }
+
     virtual BOOL Create(CWnd* parent, DWORD style = WS_CHILD | WS_VISIBLE | CBRS_TOP,
                         UINT id = AFX_IDW_TOOLBAR);
     virtual BOOL CreateEx(CWnd* parent, DWORD toolStyle = TBSTYLE_FLAT,

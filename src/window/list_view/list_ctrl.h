@@ -12,6 +12,9 @@ using POSITION = struct PositionTag*;
 /// A handle on the headings of a list view.
 class KVGUICTL_API CHeaderCtrl : public CWnd {
 public:
+    static constexpr CRuntimeClass classCHeaderCtrl{"CHeaderCtrl"};
+    const CRuntimeClass* GetRuntimeClass() const override { return &classCHeaderCtrl; }
+
     /// -1 without a window.
     int GetItemCount() const;
 };
@@ -19,6 +22,9 @@ public:
 /// A handle on a list view in report form. Rows and columns count from 0.
 class KVGUICTL_API CListCtrl : public CWnd {
 public:
+    static constexpr CRuntimeClass classCListCtrl{"CListCtrl"};
+    const CRuntimeClass* GetRuntimeClass() const override { return &classCListCtrl; }
+
     BOOL Create(DWORD style, const CRect& rect, CWnd* parent, UINT id);
 
     // Columns.

@@ -18,14 +18,34 @@ CPoint PointOf(LPARAM lParam) {
     return {static_cast<std::int16_t>(LOWORD(place)), static_cast<std::int16_t>(HIWORD(place))};
 }
 
+UINT KeyFlags() {
+    const Modifiers keys = CurrentModifiers();
+    return (keys.alt ? LVKF_ALT : 0) | (keys.ctrl ? LVKF_CONTROL : 0) |
+           (keys.shift ? LVKF_SHIFT : 0);
+}
+
 }  // namespace
 
 LRESULT ListViewNode::TellParent(int code, int row, int column, UINT newState, UINT oldState,
                                  UINT changed, CPoint at) {
     if (!Parent() || Destroyed()) return 0;
-    const LPARAM data = Has(row) ? Row(row).data : 0;
-    NMLISTVIEW notice{{this, Id(), code}, row, column, newState, oldState, changed, at, data};
-    return Send(*Parent(), WM_NOTIFY, static_cast<WPARAM>(Id()), reinterpret_cast<LPARAM>(&notice));
+    // Of a new row nothing but its place is told.
+    const LPARAM data = Has(row) && code != LVN_INSERTITEM ? Row(row).data : 0;
+    NMITEMACTIVATE notice{{{this, Id(), code}, row, column, newState, oldState, changed, at, data},
+                          KeyFlags()};
+    NMLISTVIEW& head = notice;
+    return Send(*Parent(), WM_NOTIFY, static_cast<WPARAM>(Id()), reinterpret_cast<LPARAM>(&head));
+}
+
+void ListViewNode::TellKey(int key) {
+    if (!Parent()) return;
+    NMLVKEYDOWN notice{{this, Id(), LVN_KEYDOWN}, static_cast<std::uint16_t>(key), 0};
+    Send(*Parent(), WM_NOTIFY, static_cast<WPARAM>(Id()), reinterpret_cast<LPARAM>(&notice));
+}
+
+/// What is activated are the selected rows.
+void ListViewNode::Activate(int row) {
+    if (Has(row) && SelectedCount() > 0) TellParent(LVN_ITEMACTIVATE, row);
 }
 
 void ListViewNode::SelectOnly(int row) {
@@ -93,7 +113,23 @@ void ListViewNode::UserSelectRows(const std::vector<int>& rows) {
 void ListViewNode::UserDoubleClick(int row) {
     const auto keep = shared_from_this();
     UserClick(row, false, false);
-    if (!Destroyed()) TellParent(NM_DBLCLK, Has(row) ? row : -1);
+    TellParent(NM_DBLCLK, Has(row) ? row : -1);
+    Activate(row);
+}
+
+/// A selected row takes the other selected ones along.
+void ListViewNode::PressRight(int row) {
+    if (!Selected(row)) {
+        PressRow(row, false, false);
+    } else {
+        SetItemState(row, LVIS_FOCUSED, LVIS_FOCUSED);
+    }
+}
+
+bool ListViewNode::UserRightClick(int row) {
+    const auto keep = shared_from_this();
+    PressRight(row);
+    return TellParent(NM_RCLICK, Has(row) ? row : -1) == 0 && !Destroyed();
 }
 
 void ListViewNode::UserToggleCheck(int row) {
@@ -136,6 +172,7 @@ void ListViewNode::MoveTo(int row) {
 bool ListViewNode::HandleKey(int key) {
     if (key == VK_RETURN) {
         TellParent(NM_RETURN, focused_);
+        Activate(focused_);
         return true;
     }
     if (Count() == 0 || CurrentModifiers().alt) return false;
@@ -194,12 +231,17 @@ void ListViewNode::HandleChar(char ch) {
     }
 }
 
-/// A press on a check box leaves the selection as it is; one beside what the row shows counts as
-/// one behind the rows.
-void ListViewNode::PressAt(CPoint at) {
+/// What lies beside what the row shows counts as behind the rows.
+LVHITTESTINFO ListViewNode::HitForPress(CPoint at) const {
     LVHITTESTINFO hit = HitTest(at);
     const bool wholeRow = (extendedStyle_ & LVS_EX_FULLROWSELECT) != 0;
     if (hit.iSubItem > 0 && !wholeRow) hit.iItem = -1;
+    return hit;
+}
+
+/// A press on a check box leaves the selection as it is.
+void ListViewNode::PressAt(CPoint at) {
+    const LVHITTESTINFO hit = HitForPress(at);
     pressed_ = hit;
     if (hit.flags == LVHT_ONITEMSTATEICON && HasCheckBoxes()) {
         SetItemState(hit.iItem, Checked(hit.iItem) ? kUnchecked : kChecked, LVIS_STATEIMAGEMASK);
@@ -207,6 +249,14 @@ void ListViewNode::PressAt(CPoint at) {
     }
     const Modifiers keys = CurrentModifiers();
     PressRow(hit.iItem, keys.shift, keys.ctrl);
+}
+
+void ListViewNode::DoubleClickAt(CPoint at) {
+    PressAt(at);
+    const auto hit = std::exchange(pressed_, std::nullopt);
+    if (!hit) return;
+    TellParent(NM_DBLCLK, hit->iItem, hit->iSubItem, 0, 0, 0, hit->pt);
+    if (hit->flags != LVHT_ONITEMSTATEICON) Activate(hit->iItem);
 }
 
 LRESULT ListViewNode::ProcessUser(UINT message, WPARAM wParam, LPARAM lParam, bool& handled) {
@@ -217,8 +267,12 @@ LRESULT ListViewNode::ProcessUser(UINT message, WPARAM wParam, LPARAM lParam, bo
         case WM_KILLFOCUS:
             search_.Stop();
             return TellParent(NM_KILLFOCUS, -1);
+        case WM_DESTROY:
+            TellOfTheEnd();
+            return 0;
         case WM_KEYDOWN:
-            HandleKey(static_cast<int>(wParam));
+            TellKey(static_cast<int>(wParam));
+            if (!Destroyed()) HandleKey(static_cast<int>(wParam));
             return 0;
         case WM_CHAR:
             HandleChar(static_cast<char>(wParam));
@@ -231,12 +285,18 @@ LRESULT ListViewNode::ProcessUser(UINT message, WPARAM wParam, LPARAM lParam, bo
                 TellParent(NM_CLICK, hit->iItem, hit->iSubItem, 0, 0, 0, hit->pt);
             }
             return 0;
-        case WM_LBUTTONDBLCLK: {
-            PressAt(PointOf(lParam));
-            const auto hit = std::exchange(pressed_, std::nullopt);
-            TellParent(NM_DBLCLK, hit->iItem, hit->iSubItem, 0, 0, 0, hit->pt);
+        case WM_LBUTTONDBLCLK:
+            DoubleClickAt(PointOf(lParam));
             return 0;
-        }
+        case WM_RBUTTONDOWN:
+            rightPressed_ = HitForPress(PointOf(lParam));
+            PressRight(rightPressed_->iItem);
+            return 0;
+        case WM_RBUTTONUP:
+            if (const auto hit = std::exchange(rightPressed_, std::nullopt)) {
+                TellParent(NM_RCLICK, hit->iItem, hit->iSubItem, 0, 0, 0, hit->pt);
+            }
+            return 0;
         default:
             handled = false;
             return 0;

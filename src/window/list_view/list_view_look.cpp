@@ -16,6 +16,8 @@ constexpr int kHeaderHeight = 17;
 constexpr int kCheckBoxWidth = 16;
 /// One step to the right of a list without images.
 constexpr int kIndentWidth = 16;
+/// What a text needs on both sides together, so that it is not cut.
+constexpr int kRoomAroundText = 12;
 
 // Kinds of scrolling, in the low word of WM_VSCROLL.
 constexpr int kLineUp = 0;
@@ -26,6 +28,11 @@ constexpr int kThumbPosition = 4;
 constexpr int kThumbTrack = 5;
 constexpr int kTop = 6;
 constexpr int kBottom = 7;
+
+int TextWidth(const std::string& text) {
+    Desktop& desktop = WindowSystem::Get().GetDesktop();
+    return desktop.TextExtent(text, desktop.DefaultFont()).cx;
+}
 
 /// The row of headings.
 class HeaderNode : public Node {
@@ -132,6 +139,34 @@ void ListViewNode::Scroll(int code, int position) {
     Tell(Change::kPosition);
 }
 
+/// Where the image of a cell begins, from the cell's left edge.
+int ListViewNode::ImageStart(int row, int column) const {
+    if (column != 0) return 0;
+    return IndentWidth(row) + (Row(row).state & LVIS_STATEIMAGEMASK ? kCheckBoxWidth : 0);
+}
+
+int ListViewNode::TextStart(int row, int column) const {
+    const Raster* image = ShownImage(row, column);
+    return ImageStart(row, column) + std::max(ImageWidth(column), image ? image->Width() : 0);
+}
+
+int ListViewNode::WidthOfCells(int column) const {
+    int widest = 0;
+    for (int row = 0; row < Count(); ++row) {
+        widest = std::max(widest, TextStart(row, column) + TextWidth(CellText(row, column)));
+    }
+    return widest + kRoomAroundText;
+}
+
+/// The last column takes what the others leave.
+int ListViewNode::WidthOfHeading(int column) const {
+    const int own = columns_[static_cast<std::size_t>(column)].width;
+    const int left = Rect().Width() - (ApproximateSize(0).cx - own);
+    const int heading =
+        TextWidth(columns_[static_cast<std::size_t>(column)].text) + kRoomAroundText;
+    return column == columnOrder_.back() ? std::max(heading, left) : heading;
+}
+
 CRect ListViewNode::CellRect(int row, int column, int part) const {
     const int count = static_cast<int>(columns_.size());
     if (!Has(row) || column < 0 || (column >= count && column > 0)) return {};
@@ -147,13 +182,8 @@ CRect ListViewNode::CellRect(int row, int column, int part) const {
         total += width;
     }
     if (column == 0 && part == LVIR_BOUNDS) return {0, cell.top, total, cell.bottom};
-    int icon = cell.left;
-    if (column == 0) {
-        icon += IndentWidth(row);
-        if (Row(row).state & LVIS_STATEIMAGEMASK) icon += kCheckBoxWidth;
-    }
-    const Raster* image = ShownImage(row, column);
-    const int label = icon + std::max(ImageWidth(column), image ? image->Width() : 0);
+    const int icon = cell.left + ImageStart(row, column);
+    const int label = cell.left + TextStart(row, column);
     if (part == LVIR_ICON) return {icon, cell.top, std::min(label, cell.right), cell.bottom};
     if (part == LVIR_LABEL) cell.left = std::min(label, cell.right);
     return cell;
@@ -253,10 +283,8 @@ LRESULT ListViewNode::ProcessPlaces(UINT message, WPARAM wParam, LPARAM lParam, 
             const CSize size = ApproximateSize(static_cast<int>(wParam));
             return MAKELPARAM(size.cx, size.cy);
         }
-        case LVM_GETSTRINGWIDTH: {
-            Desktop& desktop = WindowSystem::Get().GetDesktop();
-            return lParam ? desktop.TextExtent(TextOf(lParam), desktop.DefaultFont()).cx : 0;
-        }
+        case LVM_GETSTRINGWIDTH:
+            return lParam ? TextWidth(TextOf(lParam)) : 0;
         case WM_VSCROLL:
             Scroll(low(), HIWORD(wParam));
             return 0;
@@ -308,7 +336,9 @@ LRESULT ListViewNode::ProcessLook(UINT message, WPARAM wParam, LPARAM lParam, bo
         case LVM_GETWORKAREAS:
             return GetWorkAreas(static_cast<int>(wParam), reinterpret_cast<CRect*>(lParam));
         case LVM_GETNUMBEROFWORKAREAS:
-            *reinterpret_cast<UINT*>(lParam) = static_cast<UINT>(workAreas_.size());
+            if (auto* count = reinterpret_cast<UINT*>(lParam)) {
+                *count = static_cast<UINT>(workAreas_.size());
+            }
             return 0;
         default:
             handled = false;

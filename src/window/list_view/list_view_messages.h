@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+
 #include "base/types.h"
 #include "window/drawing/image_list.h"
 #include "window/drawing/image_resource.h"
@@ -85,17 +87,32 @@ inline constexpr int LVCFMT_LEFT = 0;
 inline constexpr int LVCFMT_RIGHT = 1;
 inline constexpr int LVCFMT_CENTER = 2;
 
+/// Widths of a column that it finds itself: as wide as its widest cell; as wide as its heading, the
+/// last column up to the right edge.
+inline constexpr int LVSCW_AUTOSIZE = -1;
+inline constexpr int LVSCW_AUTOSIZE_USEHEADER = -2;
+
 /// State of a row. The image of its check box stands in the bits from 0x1000 on: 1 clear, 2
 /// checked.
 inline constexpr UINT LVIS_FOCUSED = 0x0001;
 inline constexpr UINT LVIS_SELECTED = 0x0002;
+inline constexpr UINT LVIS_CUT = 0x0004;
+inline constexpr UINT LVIS_DROPHILITED = 0x0008;
 inline constexpr UINT LVIS_STATEIMAGEMASK = 0xF000;
 
 inline constexpr UINT LVNI_ALL = 0x0000;
 inline constexpr UINT LVNI_FOCUSED = 0x0001;
 inline constexpr UINT LVNI_SELECTED = 0x0002;
+inline constexpr UINT LVNI_CUT = 0x0004;
+inline constexpr UINT LVNI_DROPHILITED = 0x0008;
+inline constexpr UINT LVNI_ABOVE = 0x0100;
+inline constexpr UINT LVNI_BELOW = 0x0200;
+inline constexpr UINT LVNI_TOLEFT = 0x0400;
+inline constexpr UINT LVNI_TORIGHT = 0x0800;
 inline constexpr UINT LVFI_PARAM = 0x0001;
 inline constexpr UINT LVFI_STRING = 0x0002;
+/// The same as LVFI_PARTIAL.
+inline constexpr UINT LVFI_SUBSTRING = 0x0004;
 inline constexpr UINT LVFI_PARTIAL = 0x0008;
 inline constexpr UINT LVFI_WRAP = 0x0020;
 
@@ -120,10 +137,22 @@ inline constexpr int LV_MAX_WORKAREAS = 16;
 inline constexpr int NM_CLICK = -2;
 inline constexpr int NM_DBLCLK = -3;
 inline constexpr int NM_RETURN = -4;
+inline constexpr int NM_RCLICK = -5;
 inline constexpr int NM_SETFOCUS = -7;
 inline constexpr int NM_KILLFOCUS = -8;
+/// Ahead of a change; an answer other than 0 prevents it.
+inline constexpr int LVN_ITEMCHANGING = -100;
 inline constexpr int LVN_ITEMCHANGED = -101;
+inline constexpr int LVN_INSERTITEM = -102;
+/// Ahead of the end of a row, whose data it carries.
+inline constexpr int LVN_DELETEITEM = -103;
+/// Ahead of the end of all rows, also where the list view itself ends. An answer other than 0 saves
+/// the LVN_DELETEITEM of each.
+inline constexpr int LVN_DELETEALLITEMS = -104;
 inline constexpr int LVN_COLUMNCLICK = -108;
+/// A double-click on a row, or Enter.
+inline constexpr int LVN_ITEMACTIVATE = -114;
+inline constexpr int LVN_KEYDOWN = -155;
 
 /// One cell of a row, with the row's own properties in that of column 0. Read, the text is copied
 /// to `pszText`, a buffer of `cchTextMax` bytes.
@@ -175,14 +204,31 @@ struct LVBKIMAGE {
 /// A mouse pointer; what it points to is the caller's.
 using HCURSOR = const void*;
 
-/// What LVN_ and mouse notifications of a list view carry.
+/// What LVN_ and mouse notifications of a list view carry. What a notification has no use for is 0,
+/// the row -1.
 struct NMLISTVIEW {
     NMHDR hdr;
-    int iItem;
-    int iSubItem;
-    UINT uNewState;
-    UINT uOldState;
-    UINT uChanged;
+    int iItem = -1;
+    int iSubItem = 0;
+    UINT uNewState = 0;
+    UINT uOldState = 0;
+    UINT uChanged = 0;
     CPoint ptAction;
-    LPARAM lParam;
+    LPARAM lParam = 0;
+};
+
+inline constexpr UINT LVKF_ALT = 0x0001;
+inline constexpr UINT LVKF_CONTROL = 0x0002;
+inline constexpr UINT LVKF_SHIFT = 0x0004;
+
+/// What clicks and LVN_ITEMACTIVATE carry: also the keys (LVKF_...) that are held.
+struct NMITEMACTIVATE : NMLISTVIEW {
+    UINT uKeyFlags = 0;
+};
+
+/// What LVN_KEYDOWN carries.
+struct NMLVKEYDOWN {
+    NMHDR hdr;
+    std::uint16_t wVKey;
+    UINT flags;
 };

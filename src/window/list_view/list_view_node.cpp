@@ -1,8 +1,8 @@
 #include "window/list_view/list_view_node.h"
 
 #include <algorithm>
-#include <cstring>
 #include <numeric>
+#include <utility>
 
 #include "base/text.h"
 #include "window/window_system.h"
@@ -34,6 +34,35 @@ const ListCell* FindCell(const ListRow& row, int column) {
     return column >= 0 && index < row.cells.size() ? &row.cells[index] : nullptr;
 }
 
+int CopyOut(const std::string& text, char* buffer, int size) {
+    return CopyText(text, buffer, static_cast<std::size_t>(std::max(size, 0)));
+}
+
+/// Which of what the item's mask names, states aside, is new to the row.
+UINT NewIn(const LVITEM& item, const ListRow& row) {
+    static const ListCell kNone;
+    const ListCell* found = FindCell(row, item.iSubItem);
+    const ListCell& cell = found ? *found : kNone;
+    UINT changed = 0;
+    const auto note = [&](UINT field, bool differs) {
+        if ((item.mask & field) && differs) changed |= field;
+    };
+    note(LVIF_TEXT, cell.text != (item.pszText ? item.pszText : ""));
+    note(LVIF_IMAGE, cell.image != item.iImage);
+    note(LVIF_PARAM, row.data != item.lParam);
+    note(LVIF_INDENT, row.indent != item.iIndent);
+    return changed;
+}
+
+/// Takes from the item what its mask names, states aside.
+void Store(const LVITEM& item, ListRow& row) {
+    ListCell& cell = CellOf(row, item.iSubItem);
+    if (item.mask & LVIF_TEXT) cell.text = item.pszText ? item.pszText : "";
+    if (item.mask & LVIF_IMAGE) cell.image = item.iImage;
+    if (item.mask & LVIF_PARAM) row.data = item.lParam;
+    if (item.mask & LVIF_INDENT) row.indent = item.iIndent;
+}
+
 ListColumn ColumnFrom(ListColumn column, const LVCOLUMN& record) {
     if (record.mask & LVCF_TEXT) column.text = record.pszText ? record.pszText : "";
     if (record.mask & LVCF_WIDTH) column.width = record.cx;
@@ -44,14 +73,6 @@ ListColumn ColumnFrom(ListColumn column, const LVCOLUMN& record) {
 }
 
 }  // namespace
-
-int CopyCellText(const std::string& text, char* buffer, int size) {
-    if (!buffer || size <= 0) return 0;
-    const std::size_t length = std::min(text.size(), static_cast<std::size_t>(size) - 1);
-    std::memcpy(buffer, text.data(), length);
-    buffer[length] = '\0';
-    return static_cast<int>(length);
-}
 
 // Cells.
 
@@ -73,7 +94,7 @@ bool ListViewNode::GetItem(LVITEM& item) const {
     if (!Has(item.iItem) || item.iSubItem < 0) return false;
     const ListRow& row = Row(item.iItem);
     if (item.mask & LVIF_TEXT) {
-        CopyCellText(CellText(item.iItem, item.iSubItem), item.pszText, item.cchTextMax);
+        CopyOut(CellText(item.iItem, item.iSubItem), item.pszText, item.cchTextMax);
     }
     if (item.mask & LVIF_IMAGE) item.iImage = CellImage(item.iItem, item.iSubItem);
     if (item.mask & LVIF_PARAM) item.lParam = row.data;
@@ -82,33 +103,21 @@ bool ListViewNode::GetItem(LVITEM& item) const {
     return true;
 }
 
-/// Takes from the item what its mask names, states aside. Returns which of it is new.
-UINT ListViewNode::Store(ListRow& row, const LVITEM& item) {
-    ListCell& cell = CellOf(row, item.iSubItem);
-    UINT changed = 0;
-    const auto put = [&](UINT field, auto& present, const auto& value) {
-        if (!(item.mask & field) || present == value) return;
-        present = value;
-        changed |= field;
-    };
-    put(LVIF_TEXT, cell.text, std::string(item.pszText ? item.pszText : ""));
-    put(LVIF_IMAGE, cell.image, item.iImage);
-    put(LVIF_PARAM, row.data, item.lParam);
-    put(LVIF_INDENT, row.indent, item.iIndent);
-    return changed;
-}
-
 bool ListViewNode::SetItem(const LVITEM& item) {
     if (!Has(item.iItem) || item.iSubItem < 0) return false;
-    ListRow& row = RowAt(item.iItem);
-    const UINT changed = Store(row, item);
-    if (changed) {
+    const auto keep = shared_from_this();
+    const RowId id = order_.At(item.iItem);
+    const UINT state = rows_[id].state;
+    if (const UINT changed = NewIn(item, rows_[id])) {
+        const auto tell = [&](int code) {
+            return TellParent(code, item.iItem, item.iSubItem, state, state, changed);
+        };
+        if (tell(LVN_ITEMCHANGING) || !IsAt(item.iItem, id)) return false;
+        Store(item, rows_[id]);
         Tell(Change::kPaint);
-        const UINT state = row.state;
-        TellParent(LVN_ITEMCHANGED, item.iItem, item.iSubItem, state, state, changed);
+        tell(LVN_ITEMCHANGED);
     }
-    if (item.mask & LVIF_STATE) SetItemState(item.iItem, item.state, item.stateMask);
-    return true;
+    return !(item.mask & LVIF_STATE) || SetItemState(item.iItem, item.state, item.stateMask);
 }
 
 // Rows.
@@ -148,13 +157,15 @@ int ListViewNode::InsertItem(const LVITEM& item) {
     if (item.iSubItem != 0 || item.iItem < 0) return -1;
     const int row = PlaceFor(item);
     const RowId id = NewRow();
-    Store(rows_[id], item);
+    Store(item, rows_[id]);
     if (HasCheckBoxes()) rows_[id].state = kUnchecked;
     order_.Insert(row, id);
     for (int* each : {&focused_, &mark_, &wanted_, &hotItem_})
         MoveForInsert(*each, row);
     TellInserted(row);
-    if (item.mask & LVIF_STATE) SetItemState(row, item.state, item.stateMask);
+    const auto keep = shared_from_this();
+    TellParent(LVN_INSERTITEM, row);
+    if ((item.mask & LVIF_STATE) && IsAt(row, id)) SetItemState(row, item.state, item.stateMask);
     return row;
 }
 
@@ -162,6 +173,8 @@ bool ListViewNode::DeleteItem(int row) {
     if (!Has(row)) return false;
     const auto keep = shared_from_this();
     const RowId id = order_.At(row);
+    TellParent(LVN_DELETEITEM, row);
+    if (!IsAt(row, id)) return false;
     const bool hadFocus = focused_ == row;
     selected_.erase(id);
     order_.Erase(row);
@@ -177,7 +190,16 @@ bool ListViewNode::DeleteItem(int row) {
     return true;
 }
 
+/// From the last row on, so that the numbers of those still to come stay.
+void ListViewNode::TellOfTheEnd() {
+    const auto keep = shared_from_this();
+    if (TellParent(LVN_DELETEALLITEMS, -1)) return;
+    for (int row = Count() - 1; row >= 0; --row)
+        TellParent(LVN_DELETEITEM, row);
+}
+
 void ListViewNode::DeleteAllItems() {
+    TellOfTheEnd();
     selected_.clear();
     order_.Clear();
     rows_.clear();
@@ -211,21 +233,33 @@ bool ListViewNode::SetItemState(int row, UINT state, UINT mask) {
         return true;
     }
     if (!Has(row)) return false;
-    const bool selects = (mask & state & LVIS_SELECTED) != 0;
-    if (selects && SingleSelection()) {
-        const int other = NextSelected(-1);
-        if (other >= 0 && other != row) SetItemState(other, 0, LVIS_SELECTED);
-    }
-    if ((mask & state & LVIS_FOCUSED) && focused_ >= 0 && focused_ != row) {
-        SetItemState(focused_, 0, LVIS_FOCUSED);
-    }
+    if (!TakeFromOthers(row, mask & state)) return false;
     // Who was told of the others may have taken rows away.
     if (!Has(row)) return false;
     const RowId id = order_.At(row);
-    const UINT former = rows_[id].state;
-    const UINT next = (former & ~mask) | (state & mask);
-    if (next == former) return true;
-    rows_[id].state = next;
+    const auto next = [&] { return (rows_[id].state & ~mask) | (state & mask); };
+    if (next() == rows_[id].state) return true;
+    if (TellParent(LVN_ITEMCHANGING, row, 0, next(), rows_[id].state, LVIF_STATE)) return false;
+    if (!IsAt(row, id)) return false;
+    StoreState(row, next());
+    return true;
+}
+
+/// Only one row has the focus, and with a single selection only one is selected. False when another
+/// row was not allowed to give it up.
+bool ListViewNode::TakeFromOthers(int row, UINT states) {
+    const auto taken = [&](int other, UINT state) {
+        if (!(states & state) || other < 0 || other == row) return true;
+        return SetItemState(other, 0, state);
+    };
+    const int selected = SingleSelection() ? NextSelected(-1) : -1;
+    return taken(selected, LVIS_SELECTED) && taken(focused_, LVIS_FOCUSED);
+}
+
+void ListViewNode::StoreState(int row, UINT next) {
+    const RowId id = order_.At(row);
+    const UINT former = std::exchange(rows_[id].state, next);
+    if (next == former) return;
     if (next & LVIS_SELECTED) {
         selected_.insert(selected_.end(), id);
     } else {
@@ -238,7 +272,6 @@ bool ListViewNode::SetItemState(int row, UINT state, UINT mask) {
     }
     Tell(Change::kSelection);
     TellParent(LVN_ITEMCHANGED, row, 0, next, former, LVIF_STATE);
-    return true;
 }
 
 int ListViewNode::NextSelected(int start) const {
@@ -246,18 +279,32 @@ int ListViewNode::NextSelected(int start) const {
     return next == selected_.end() ? -1 : order_.PlaceOf(*next);
 }
 
+int ListViewNode::SelectedAhead(int start) const {
+    const auto behind = selected_.lower_bound(ByPlace::Place{start});
+    return behind == selected_.begin() ? -1 : order_.PlaceOf(*std::prev(behind));
+}
+
 int ListViewNode::NextItem(int start, UINT flags) const {
-    start = std::max(start, -1);
-    switch (flags & (LVNI_FOCUSED | LVNI_SELECTED)) {
-        case LVNI_FOCUSED:
-            return focused_ > start ? focused_ : -1;
-        case LVNI_SELECTED:
-            return NextSelected(start);
-        case LVNI_FOCUSED | LVNI_SELECTED:
-            return focused_ > start && Selected(focused_) ? focused_ : -1;
-        default:
-            return start + 1 < Count() ? start + 1 : -1;
+    const UINT states = flags & (LVNI_FOCUSED | LVNI_SELECTED | LVNI_CUT | LVNI_DROPHILITED);
+    const bool fromRow = start >= 0;
+    const bool up = fromRow && (flags & LVNI_ABOVE);
+    // In report form nothing lies beside a row.
+    if (fromRow && (flags & (LVNI_TOLEFT | LVNI_TORIGHT))) return -1;
+    start = std::clamp(start, -1, Count());
+    const auto fits = [&](int row) { return (Row(row).state & states) == states; };
+    if (states & LVNI_FOCUSED) {
+        const bool beyond = up ? focused_ < start : focused_ > start;
+        return focused_ >= 0 && beyond && fits(focused_) ? focused_ : -1;
     }
+    const auto next = [&](int row) {
+        if (states & LVNI_SELECTED) return up ? SelectedAhead(row) : NextSelected(row);
+        row += up ? -1 : 1;
+        return Has(row) ? row : -1;
+    };
+    int row = next(start);
+    while (row >= 0 && !fits(row))
+        row = next(row);
+    return row;
 }
 
 bool ListViewNode::Fits(int row, const LVFINDINFO& what) const {
@@ -265,14 +312,15 @@ bool ListViewNode::Fits(int row, const LVFINDINFO& what) const {
     if (what.flags & LVFI_PARAM) return candidate.data == what.lParam;
     const ListCell* cell = FindCell(candidate, 0);
     const std::string_view text = cell ? std::string_view(cell->text) : std::string_view();
-    return what.flags & LVFI_PARTIAL ? StartsWithNoCase(text, what.psz)
-                                     : EqualsNoCase(text, what.psz);
+    const bool partial = (what.flags & (LVFI_PARTIAL | LVFI_SUBSTRING)) != 0;
+    return partial ? StartsWithNoCase(text, what.psz) : EqualsNoCase(text, what.psz);
 }
 
 int ListViewNode::FindItem(int start, const LVFINDINFO& what) const {
     const int count = Count();
     const bool byData = (what.flags & LVFI_PARAM) != 0;
-    const bool byText = (what.flags & (LVFI_STRING | LVFI_PARTIAL | LVFI_WRAP)) != 0 && what.psz;
+    constexpr UINT kByText = LVFI_STRING | LVFI_PARTIAL | LVFI_SUBSTRING | LVFI_WRAP;
+    const bool byText = (what.flags & kByText) != 0 && what.psz;
     if (!byData && !byText) return -1;
     start = std::clamp(start, -1, count - 1);
     for (int row = start + 1; row < count; ++row) {
@@ -324,7 +372,7 @@ bool ListViewNode::SetColumn(int index, ListColumn column) {
 bool ListViewNode::GetColumn(int index, LVCOLUMN& column) const {
     if (index < 0 || index >= static_cast<int>(columns_.size())) return false;
     const ListColumn& stored = columns_[static_cast<std::size_t>(index)];
-    if (column.mask & LVCF_TEXT) CopyCellText(stored.text, column.pszText, column.cchTextMax);
+    if (column.mask & LVCF_TEXT) CopyOut(stored.text, column.pszText, column.cchTextMax);
     if (column.mask & LVCF_WIDTH) column.cx = stored.width;
     if (column.mask & LVCF_FMT) column.fmt = stored.format;
     if (column.mask & LVCF_SUBITEM) column.iSubItem = stored.subItem;
@@ -351,7 +399,10 @@ bool ListViewNode::DeleteColumn(int index) {
 }
 
 bool ListViewNode::SetColumnWidth(int index, int width) {
-    if (index < 0 || index >= static_cast<int>(columns_.size()) || width < 0) return false;
+    if (index < 0 || index >= static_cast<int>(columns_.size())) return false;
+    if (width == LVSCW_AUTOSIZE) width = WidthOfCells(index);
+    if (width == LVSCW_AUTOSIZE_USEHEADER) width = WidthOfHeading(index);
+    if (width < 0) return false;
     columns_[static_cast<std::size_t>(index)].width = width;
     Tell(Change::kColumns);
     return true;
@@ -395,7 +446,7 @@ LRESULT ListViewNode::ProcessRows(UINT message, WPARAM wParam, LPARAM lParam, bo
             return TRUE;
         case LVM_GETITEMTEXT:
             if (!item) return 0;
-            return CopyCellText(CellText(row, item->iSubItem), item->pszText, item->cchTextMax);
+            return CopyOut(CellText(row, item->iSubItem), item->pszText, item->cchTextMax);
         case LVM_SETITEMTEXT: {
             if (!item) return FALSE;
             LVITEM text = *item;
@@ -462,7 +513,8 @@ LRESULT ListViewNode::ProcessColumns(UINT message, WPARAM wParam, LPARAM lParam,
         case LVM_GETCOLUMNWIDTH:
             return present ? columns_[static_cast<std::size_t>(index)].width : 0;
         case LVM_SETCOLUMNWIDTH:
-            return SetColumnWidth(index, static_cast<int>(lParam));
+            return SetColumnWidth(
+                index, static_cast<std::int16_t>(LOWORD(static_cast<std::uintptr_t>(lParam))));
         case LVM_SETCOLUMNORDERARRAY: {
             const auto* order = reinterpret_cast<const int*>(lParam);
             return order && index >= 0 && SetColumnOrder(std::vector<int>(order, order + index));

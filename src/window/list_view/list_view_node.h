@@ -73,6 +73,7 @@ public:
     int InsertColumn(int index, ListColumn column);
     bool SetColumn(int index, ListColumn column);
     bool DeleteColumn(int index);
+    /// In logical pixels, or LVSCW_...
     bool SetColumnWidth(int index, int width);
     /// False unless it names each column once.
     bool SetColumnOrder(std::vector<int> order);
@@ -90,9 +91,10 @@ public:
     bool DeleteItem(int row);
     void DeleteAllItems();
     /// Sets the bits of `mask` to those of `state`; row -1 means all rows. Tells the parent of each
-    /// row that changed.
+    /// row that is to change, and of each that changed. False where it forbade a change.
     bool SetItemState(int row, UINT state, UINT mask);
-    /// First row behind `start` with all of the states (LVNI_...); -1 for none.
+    /// First row behind `start` with all of the states, or with LVNI_ABOVE ahead of it (LVNI_...);
+    /// -1 for none.
     int NextItem(int start, UINT flags) const;
     /// First row behind `start` by its data, or by the text of its first column (exact, or prefix)
     /// without regard to case; -1 for none.
@@ -115,6 +117,9 @@ public:
     /// The first by a click, the others with Ctrl held. No rows: a click behind the rows.
     void UserSelectRows(const std::vector<int>& rows);
     void UserDoubleClick(int row);
+    /// With the right button: a row that is not selected is then selected alone. Answers whether a
+    /// menu of the list view's own may come up, which the parent can forbid.
+    bool UserRightClick(int row);
     void UserToggleCheck(int row);
     void UserClickColumn(int column);
 
@@ -144,21 +149,27 @@ private:
     LRESULT ProcessLook(UINT message, WPARAM wParam, LPARAM lParam, bool& handled);
     LRESULT ProcessUser(UINT message, WPARAM wParam, LPARAM lParam, bool& handled);
 
-    ListRow& RowAt(int row) { return rows_[order_.At(row)]; }
     RowId NewRow();
     int PlaceFor(const LVITEM& item) const;
-    UINT Store(ListRow& row, const LVITEM& item);
+    /// Whether that row still stands there.
+    bool IsAt(int row, RowId id) const { return Has(row) && order_.At(row) == id; }
+    bool TakeFromOthers(int row, UINT states);
+    void StoreState(int row, UINT next);
     bool GetItem(LVITEM& item) const;
     bool GetColumn(int index, LVCOLUMN& column) const;
     int InsertColumnRecord(int index, const LVCOLUMN& record);
     bool GetColumnOrder(int count, int* order) const;
-    void RowChanged(int row, UINT former, UINT changed);
     int NextSelected(int start) const;
+    int SelectedAhead(int start) const;
     bool Fits(int row, const LVFINDINFO& what) const;
     void SetTop(int row);
     void Scroll(int code, int position);
     int HeaderHeight() const;
     int ImageWidth(int column) const;
+    int ImageStart(int row, int column) const;
+    int TextStart(int row, int column) const;
+    int WidthOfCells(int column) const;
+    int WidthOfHeading(int column) const;
     LRESULT SetImages(int kind, ImageList* images);
     LRESULT Images(int kind) const;
     CSize ApproximateSize(int rows) const;
@@ -168,6 +179,7 @@ private:
 
     void TellInserted(int row);
     void TellRemoved(int row);
+    void TellOfTheEnd();
     LRESULT TellParent(int code, int row, int column = 0, UINT newState = 0, UINT oldState = 0,
                        UINT changed = 0, CPoint at = {});
     bool SingleSelection() const { return HasStyle(LVS_SINGLESEL); }
@@ -175,7 +187,12 @@ private:
     void SelectRange(int from, int to, bool keepOthers);
     void ClearSelection();
     void PressRow(int row, bool shift, bool ctrl);
+    LVHITTESTINFO HitForPress(CPoint at) const;
     void PressAt(CPoint at);
+    void PressRight(int row);
+    void DoubleClickAt(CPoint at);
+    void Activate(int row);
+    void TellKey(int key);
     void ToggleChecks(int row);
     void ToggleSelected(int row);
     bool HandleKey(int key);
@@ -197,6 +214,8 @@ private:
     TypeSearch search_;
     /// Where the mouse button went down: what NM_CLICK will tell, when it comes up again.
     std::optional<LVHITTESTINFO> pressed_;
+    /// The same of the right button, and NM_RCLICK.
+    std::optional<LVHITTESTINFO> rightPressed_;
 
     std::shared_ptr<ImageList> normalImages_;
     std::shared_ptr<ImageList> smallImages_;
@@ -208,8 +227,5 @@ private:
     std::vector<CRect> workAreas_;
     std::weak_ptr<Node> header_;
 };
-
-/// Copies as much of a text as the buffer has room for, with a closing 0. Returns how much.
-int CopyCellText(const std::string& text, char* buffer, int size);
 
 }  // namespace kv

@@ -1,6 +1,7 @@
 #include "window/templates/resources.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace kv {
 
@@ -34,10 +35,8 @@ const Resource* FindInChain(std::vector<const Resource*> ResourceModule::*resour
 
 const RegisterImageFinder kImages{[](int id) { return FindInChain(&ResourceModule::images, id); }};
 
-std::vector<CDynLinkLibrary*>& LinkedLibraries() {
-    static auto* libraries = new std::vector<CDynLinkLibrary*>;
-    return *libraries;
-}
+/// The one that was made last; the others follow from it.
+CDynLinkLibrary* g_linked = nullptr;
 
 }  // namespace
 
@@ -80,21 +79,28 @@ BOOL AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HINSTANCE instance) {
 
 void AfxTermExtensionModule(AFX_EXTENSION_MODULE& state, BOOL) {
     if (!state.bInitialized) return;
-    state.bInitialized = FALSE;
-    const auto libraries = kv::LinkedLibraries();
-    for (CDynLinkLibrary* library : libraries) {
-        if (library->m_hModule == state.hModule) delete library;
+    const AFX_EXTENSION_MODULE ended = std::exchange(state, {});
+    for (CDynLinkLibrary** each = &kv::g_linked; *each;) {
+        if ((*each)->m_hModule == ended.hModule) {
+            delete *each;
+        } else {
+            each = &(*each)->m_pNextDLL;
+        }
     }
 }
 
 CDynLinkLibrary::CDynLinkLibrary(AFX_EXTENSION_MODULE& state, BOOL) : m_hModule(state.hModule) {
-    kv::AddToResourceChain(*m_hModule);
-    kv::LinkedLibraries().push_back(this);
+    // What may fail comes first.
+    if (m_hModule) kv::AddToResourceChain(*m_hModule);
+    m_pNextDLL = std::exchange(kv::g_linked, this);
 }
 
 CDynLinkLibrary::~CDynLinkLibrary() {
-    kv::RemoveFromResourceChain(*m_hModule);
-    std::erase(kv::LinkedLibraries(), this);
+    if (m_hModule) kv::RemoveFromResourceChain(*m_hModule);
+    CDynLinkLibrary** each = &kv::g_linked;
+    while (*each != this)
+        each = &(*each)->m_pNextDLL;
+    *each = m_pNextDLL;
 }
 
 HINSTANCE AfxFindResourceHandle(int id, ResourceKind kind) {

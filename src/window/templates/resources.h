@@ -47,7 +47,7 @@ struct AFX_EXTENSION_MODULE {
     HINSTANCE hModule = nullptr;
 };
 
-/// Fills the record. 0 when there is no instance.
+/// Fills the record. 0 when there is no instance. `AfxTermExtensionModule` empties it again.
 KVGUICTL_API BOOL AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HINSTANCE instance);
 KVGUICTL_API void AfxTermExtensionModule(AFX_EXTENSION_MODULE& state, BOOL all = FALSE);
 
@@ -60,7 +60,14 @@ public:
     CDynLinkLibrary(const CDynLinkLibrary&) = delete;
     CDynLinkLibrary& operator=(const CDynLinkLibrary&) = delete;
 
+    /// Null, and in no chain, where the record was not filled.
     HINSTANCE m_hModule;
+
+private:
+    friend void AfxTermExtensionModule(AFX_EXTENSION_MODULE& state, BOOL all);
+
+    /// The one that was made before.
+    CDynLinkLibrary* m_pNextDLL;
 };
 
 enum class ResourceKind { kDialog, kImage };

@@ -646,9 +646,37 @@ TEST_F(Combo, EditSelectionTakesMinusOne) {
     EXPECT_EQ(EditSelection(), Place(6, 6));
 }
 
+TEST_F(Combo, PutsTheEditSelectionWhereItIsTold) {
+    combo.SetWindowText("abcdef");
+    combo.SetEditSel(2, 5);
+    DWORD start = 77;
+    DWORD end = 77;
+    const auto startAt = reinterpret_cast<WPARAM>(&start);
+    const auto endAt = reinterpret_cast<LPARAM>(&end);
+    EXPECT_EQ(combo.SendMessage(CB_GETEDITSEL, startAt, endAt), MAKELPARAM(2, 5));
+    EXPECT_EQ(start, 2u);
+    EXPECT_EQ(end, 5u);
+    combo.SetEditSel(3, 4);
+    combo.SendMessage(CB_GETEDITSEL, 0, endAt);
+    EXPECT_EQ(start, 2u);
+    EXPECT_EQ(end, 4u);
+}
+
 TEST_F(DropList, HasNoEditSelection) {
     EXPECT_FALSE(combo.SetEditSel(0, -1));
     EXPECT_EQ(combo.GetEditSel(), static_cast<DWORD>(CB_ERR));
+    DWORD start = 77;
+    combo.SendMessage(CB_GETEDITSEL, reinterpret_cast<WPARAM>(&start));
+    EXPECT_EQ(start, 77u);
+}
+
+TEST_F(DropList, DataIsSetRowByRow) {
+    combo.AddString("a");
+    combo.AddString("b");
+    EXPECT_EQ(combo.SetItemData(1, 7), 0);
+    EXPECT_EQ(combo.SetItemData(-1, 9), CB_ERR);
+    EXPECT_EQ(combo.GetItemData(0), 0);
+    EXPECT_EQ(combo.GetItemData(1), 7);
 }
 
 TEST_F(Combo, TheLimitIsTheEdits) {

@@ -189,14 +189,12 @@ TEST_F(Edit, DigitsOnlyDropsEveryOtherKey) {
     EXPECT_EQ(window.Take().size(), 6u);
 }
 
-TEST_F(Edit, DigitsOnlyRefusesAPasteThatIsNoNumber) {
+TEST_F(Edit, DigitsOnlyIsForTypingAndLetsAnyPasteIn) {
     Make(ES_NUMBER);
-    SetClipboard("12.5");
+    SetClipboard("-12.5 ft\r\n");
     edit.Paste();
-    EXPECT_EQ(edit.WindowText(), "");
-    SetClipboard("125\r\n");
-    edit.Paste();
-    EXPECT_EQ(edit.WindowText(), "125");
+    EXPECT_EQ(edit.WindowText(), "-12.5 ft");
+    EXPECT_EQ(window.Take(), kTyped);
 }
 
 TEST_F(Edit, APasswordCannotBeCopied) {
@@ -250,6 +248,62 @@ TEST_F(Edit, NoLimitIsTheGreatestOne) {
     EXPECT_EQ(edit.GetLimitText(), 5u);
     edit.LimitText(0);
     EXPECT_EQ(edit.GetLimitText(), 0x7FFFFFFEu);
+    edit.SetLimitText(0x7FFFFFFF);
+    EXPECT_EQ(edit.GetLimitText(), 0x7FFFFFFEu);
+}
+
+TEST_F(Edit, NoLimitOfSeveralLinesIsGreaterStill) {
+    Make(ES_MULTILINE);
+    EXPECT_EQ(edit.GetLimitText(), 32767u);
+    edit.LimitText(0);
+    EXPECT_EQ(edit.GetLimitText(), 0xFFFFFFFFu);
+    edit.SetLimitText(0x7FFFFFFF);
+    EXPECT_EQ(edit.GetLimitText(), 0x7FFFFFFFu);
+}
+
+TEST_F(Edit, CountsItsLines) {
+    Make(ES_MULTILINE);
+    EXPECT_EQ(edit.GetLineCount(), 1);
+    SetText("one");
+    EXPECT_EQ(edit.GetLineCount(), 1);
+    SetText("one\r\n\r\nthree\r\n");
+    EXPECT_EQ(edit.GetLineCount(), 4);
+}
+
+TEST_F(Edit, ASingleLineIsOneLineWhateverItHolds) {
+    Make();
+    EXPECT_EQ(edit.GetLineCount(), 1);
+    EXPECT_EQ(edit.LineLength(0), 0);
+    SetText("one\r\ntwo");
+    EXPECT_EQ(edit.GetLineCount(), 1);
+    EXPECT_EQ(edit.LineLength(0), 8);
+    EXPECT_EQ(edit.LineLength(99), 8);
+    edit.SetSel(1, 3);
+    EXPECT_EQ(edit.LineLength(), 8);
+}
+
+TEST_F(Edit, TellsTheLengthOfTheLineThatAPlaceIsIn) {
+    Make(ES_MULTILINE);
+    SetText("one\r\n\r\nthree");
+    for (const int place : {0, 2, 3, 4})
+        EXPECT_EQ(edit.LineLength(place), 3) << place;
+    EXPECT_EQ(edit.LineLength(5), 0);
+    for (const int place : {7, 9, 12})
+        EXPECT_EQ(edit.LineLength(place), 5) << place;
+    EXPECT_EQ(edit.LineLength(13), 0);
+    EXPECT_EQ(edit.LineLength(-2), 0);
+}
+
+TEST_F(Edit, TellsHowMuchOfTheSelectedLinesIsNotSelected) {
+    Make(ES_MULTILINE);
+    SetText("one\r\nmiddle\r\nthree");
+    edit.SetSel(1, 15);
+    EXPECT_EQ(edit.LineLength(), 1 + 3);
+    edit.SetSel(7, 7);
+    EXPECT_EQ(edit.LineLength(), 6);
+    // An end within the break of a line has nothing of the line behind it.
+    edit.SetSel(1, 4);
+    EXPECT_EQ(edit.LineLength(), 1);
 }
 
 TEST_F(Edit, SelectionTakesMinusOneForTheEndAndForNone) {
@@ -366,10 +420,27 @@ TEST_F(Edit, ANewTextLeavesNothingToUndo) {
     Type("a");
     SetText("b");
     EXPECT_FALSE(edit.CanUndo());
-    EXPECT_FALSE(edit.Undo());
     Type("c");
     edit.EmptyUndoBuffer();
     EXPECT_FALSE(edit.CanUndo());
+}
+
+TEST_F(Edit, WithNothingToUndoASingleLineAnswersAllTheSame) {
+    Make();
+    SetText("a");
+    EXPECT_TRUE(edit.Undo());
+    EXPECT_TRUE(edit.SendMessage(WM_UNDO));
+    EXPECT_EQ(edit.WindowText(), "a");
+    EXPECT_TRUE(window.Take().empty());
+}
+
+TEST_F(Edit, WithNothingToUndoSeveralLinesAnswerSo) {
+    Make(ES_MULTILINE);
+    SetText("a");
+    EXPECT_FALSE(edit.Undo());
+    Type("b");
+    EXPECT_TRUE(edit.Undo());
+    EXPECT_EQ(edit.WindowText(), "a");
 }
 
 TEST_F(Edit, ErasingAndTypingAreUndoneApart) {
@@ -547,6 +618,8 @@ TEST(AbsentEdit, AnswersAsAnEmptyOne) {
     EXPECT_EQ(end, 0);
     EXPECT_EQ(edit.GetSel(), 0u);
     EXPECT_EQ(edit.WindowText(), "");
+    EXPECT_EQ(edit.GetLineCount(), 1);
+    EXPECT_EQ(edit.LineLength(), 0);
     EXPECT_FALSE(edit.Undo());
     EXPECT_FALSE(edit.CanUndo());
 }

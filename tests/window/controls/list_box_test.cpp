@@ -113,6 +113,18 @@ TEST_F(List, KeepsRowsAndTheirData) {
     EXPECT_TRUE(window.Take().empty());
 }
 
+TEST_F(List, DataOfAllRowsIsSetByTheRowMinusOne) {
+    EXPECT_EQ(list.SetItemData(-1, 5), 0);
+    Add({"a", "b", "c"});
+    list.SetItemData(1, 7);
+    EXPECT_EQ(list.SetItemData(-1, 9), 0);
+    EXPECT_EQ(list.GetItemData(0), 9);
+    EXPECT_EQ(list.GetItemData(1), 9);
+    EXPECT_EQ(list.GetItemData(2), 9);
+    EXPECT_EQ(list.SetItemData(-2, 5), LB_ERR);
+    EXPECT_EQ(list.GetItemData(2), 9);
+}
+
 TEST_F(List, AnsweringForARowThatThereIsNot) {
     Add({"a"});
     EXPECT_EQ(list.GetTextLen(1), LB_ERR);
@@ -444,12 +456,31 @@ TEST_F(Extended, ArrowsSelectAloneExtendWithShiftAndOnlyMoveWithCtrl) {
     Key(VK_DOWN, kCtrl);
     EXPECT_EQ(Selected(), (Rows{1, 2}));
     EXPECT_EQ(list.GetCurSel(), 3);
-    EXPECT_TRUE(window.Take().empty());
+    window.Take();
     Key(VK_SPACE, kCtrl);
     EXPECT_EQ(Selected(), (Rows{1, 2, 3}));
     Key(VK_SPACE);
     EXPECT_EQ(Selected(), Rows{3});
     EXPECT_EQ(window.Take().size(), 2u);
+}
+
+TEST_F(Extended, AnArrowIsToldAlsoWhereItChangesNothing) {
+    Add({"a", "b"});
+    list.SetSel(1);
+    Key(VK_DOWN);
+    EXPECT_EQ(window.TakeCodes(), Codes{LBN_SELCHANGE});
+    EXPECT_EQ(Selected(), Rows{1});
+    Key(VK_UP, kCtrl);
+    EXPECT_EQ(window.TakeCodes(), Codes{LBN_SELCHANGE});
+    EXPECT_EQ(Selected(), Rows{1});
+    EXPECT_EQ(list.GetCaretIndex(), 0);
+}
+
+TEST_F(List, AnArrowThatChangesNothingIsNotTold) {
+    Add({"a", "b"});
+    list.SetCurSel(1);
+    Key(VK_DOWN);
+    EXPECT_TRUE(window.Take().empty());
 }
 
 TEST_F(Extended, ATypedLetterSelectsTheRowAlone) {
@@ -511,9 +542,11 @@ TEST(MultipleSelection, AClickTogglesAndArrowsOnlyMoveTheCaret) {
     EXPECT_EQ(node.SelectedRows(), (Rows{0, 2}));
     node.UserSelect(0, false, false);
     EXPECT_EQ(node.SelectedRows(), Rows{2});
+    window.Take();
     list.SendMessage(WM_KEYDOWN, VK_DOWN);
     EXPECT_EQ(node.SelectedRows(), Rows{2});
     EXPECT_EQ(list.GetCaretIndex(), 1);
+    EXPECT_EQ(window.TakeCodes(), Codes{LBN_SELCHANGE});
     list.SendMessage(WM_KEYDOWN, VK_SPACE);
     EXPECT_EQ(node.SelectedRows(), (Rows{1, 2}));
 }

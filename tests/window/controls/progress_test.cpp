@@ -42,6 +42,21 @@ TEST_F(Progress, KeepsPositionsInTheRange) {
     EXPECT_EQ(bar.GetPos(), 10);
 }
 
+TEST_F(Progress, TakesARangeInOneNumberAndAnswersTheFormerOne) {
+    bar.SetPos(80);
+    EXPECT_EQ(bar.SendMessage(PBM_SETRANGE, 0, MAKELPARAM(10, 60000)), MAKELPARAM(0, 100));
+    int lower = -1;
+    int upper = -1;
+    bar.GetRange(lower, upper);
+    EXPECT_EQ(lower, 10);
+    EXPECT_EQ(upper, 60000);
+    EXPECT_EQ(bar.GetPos(), 80);
+    EXPECT_EQ(bar.SendMessage(PBM_SETRANGE, 0, MAKELPARAM(0, 50)), MAKELPARAM(10, 60000));
+    EXPECT_EQ(bar.GetPos(), 50);
+    EXPECT_EQ(bar.SendMessage(PBM_SETRANGE32, 7, 9), MAKELPARAM(0, 50));
+    EXPECT_EQ(bar.SendMessage(PBM_SETRANGE32, 7, 9), MAKELPARAM(7, 9));
+}
+
 TEST_F(Progress, APositionBeyondANewRangeIsBroughtIntoIt) {
     bar.SetPos(80);
     bar.SetRange32(0, 50);

@@ -141,6 +141,47 @@ TEST_F(Spin, BringsAPositionIntoTheRange) {
     });
 }
 
+TEST_F(Spin, MessagesOfSixteenBitsSetAndTellTheRange) {
+    RunWith(0, [&](kv::User&) {
+        EXPECT_EQ(dialog.spin.SendMessage(UDM_GETRANGE), MAKELPARAM(0, 100));
+        EXPECT_EQ(dialog.spin.SendMessage(UDM_SETRANGE, 0, MAKELPARAM(200, -300)), 0);
+        int lower = 0;
+        int upper = 0;
+        dialog.spin.GetRange(lower, upper);
+        EXPECT_EQ(lower, -300);
+        EXPECT_EQ(upper, 200);
+        EXPECT_EQ(dialog.spin.SendMessage(UDM_GETRANGE), MAKELPARAM(200, -300));
+    });
+}
+
+TEST_F(Spin, MessagesOfSixteenBitsSetAndTellThePosition) {
+    RunWith(UDS_AUTOBUDDY | UDS_SETBUDDYINT, [&](kv::User& user) {
+        dialog.spin.SetRange(-300, 200);
+        EXPECT_EQ(dialog.spin.SendMessage(UDM_SETPOS, 0, MAKELPARAM(-7, 0)), 0);
+        EXPECT_EQ(user.Text(kEdit), "-7");
+        EXPECT_EQ(dialog.spin.SendMessage(UDM_SETPOS, 0, MAKELPARAM(12, 0)), -7);
+        EXPECT_EQ(dialog.spin.SendMessage(UDM_GETPOS), MAKELPARAM(12, 0));
+        user.Type(kEdit, "15");
+        EXPECT_EQ(dialog.spin.SendMessage(UDM_GETPOS), MAKELPARAM(15, 0));
+        user.Type(kEdit, "999");
+        EXPECT_EQ(dialog.spin.SendMessage(UDM_GETPOS), MAKELPARAM(15, 1));
+    });
+}
+
+TEST_F(Spin, WithoutABuddyTheQuestionForThePositionIsAnError) {
+    RunWith(0, [&](kv::User&) {
+        dialog.spin.SetPos(5);
+        BOOL error = FALSE;
+        EXPECT_EQ(dialog.spin.GetPos(&error), 5);
+        EXPECT_TRUE(error);
+        EXPECT_EQ(dialog.spin.SendMessage(UDM_GETPOS), MAKELPARAM(5, 1));
+        // A buddy that does not show the position is none to read it from.
+        dialog.spin.SetBuddy(dialog.GetDlgItem(kEdit));
+        EXPECT_EQ(dialog.spin.GetPos(&error), 5);
+        EXPECT_FALSE(error);
+    });
+}
+
 TEST_F(Spin, ItsOwnBuddyIsTheControlAheadOfIt) {
     RunWith(UDS_AUTOBUDDY, [&](kv::User&) {
         EXPECT_EQ(dialog.spin.GetBuddy(), dialog.GetDlgItem(kEdit));

@@ -27,7 +27,8 @@ public:
     CListCtrl list;
     std::vector<std::string> told;
     std::function<void(CListCtrl&)> fill;
-    std::function<void(const NMLISTVIEW&)> whenTold;
+    std::function<void(const NMITEMACTIVATE&)> whenTold;
+    std::function<LRESULT(const NMLISTVIEW&)> answer;
 
     BOOL OnInitDialog() override {
         CDialog::OnInitDialog();
@@ -40,7 +41,15 @@ public:
 
 protected:
     BOOL OnNotify(WPARAM, LPARAM lParam, LRESULT* result) override {
-        const auto& notice = *reinterpret_cast<const NMLISTVIEW*>(lParam);
+        *result = 0;
+        const auto& head = *reinterpret_cast<const NMHDR*>(lParam);
+        if (head.code == LVN_KEYDOWN) {
+            const auto& key = *reinterpret_cast<const NMLVKEYDOWN*>(lParam);
+            told.push_back("key " + std::to_string(key.wVKey));
+            return TRUE;
+        }
+        const auto& notice =
+            static_cast<const NMITEMACTIVATE&>(*reinterpret_cast<const NMLISTVIEW*>(lParam));
         const std::string row = std::to_string(notice.iItem);
         switch (notice.hdr.code) {
             case LVN_ITEMCHANGED:
@@ -59,11 +68,26 @@ protected:
             case NM_RETURN:
                 told.push_back("return");
                 break;
+            case NM_RCLICK:
+                told.push_back("right " + row);
+                break;
+            case LVN_ITEMACTIVATE:
+                told.push_back("activate " + row);
+                break;
+            case LVN_INSERTITEM:
+                told.push_back("insert " + row);
+                break;
+            case LVN_DELETEITEM:
+                told.push_back("delete " + row + " of " + std::to_string(notice.lParam));
+                break;
+            case LVN_DELETEALLITEMS:
+                told.push_back("delete all");
+                break;
             default:
                 break;
         }
         if (whenTold) whenTold(notice);
-        *result = 0;
+        if (answer) *result = answer(notice);
         return TRUE;
     }
 };
@@ -82,7 +106,12 @@ protected:
             for (const std::string& text : rows)
                 list.InsertItem(list.GetItemCount(), text.c_str());
         };
-        Run(dialog, act);
+        Run(dialog, [this, &act](kv::User& user) {
+            act(user);
+            // The list view still tells of its end.
+            dialog.whenTold = nullptr;
+            dialog.answer = nullptr;
+        });
     }
     std::vector<int> Selected() { return kv::SelectedRows(*dialog.list.m_hWnd); }
     kv::ListViewNode& Node() { return static_cast<kv::ListViewNode&>(*dialog.list.m_hWnd); }
@@ -194,7 +223,7 @@ TEST_F(ListView, AClickBehindTheRowsTakesTheSelectionBack) {
 TEST_F(ListView, ADoubleClickIsAClickFirst) {
     RunWith({"a", "b"}, [&](kv::User& user) {
         user.DoubleClick(kList, 1);
-        EXPECT_EQ(dialog.TakeTold(), (Words{"1:0->3", "click 1", "double 1"}));
+        EXPECT_EQ(dialog.TakeTold(), (Words{"1:0->3", "click 1", "double 1", "activate 1"}));
     });
 }
 
@@ -525,14 +554,16 @@ TEST_F(ListView, AnEmptyListTakesKeysInItsStride) {
     RunWith({}, [&](kv::User& user) {
         for (const char* key : {"Down", "End", "Space", "A", "Ctrl+Space"})
             user.Key(kList, key);
-        EXPECT_EQ(dialog.told, Words{});
+        EXPECT_EQ(dialog.told.size(), 5u);
+        for (const std::string& each : dialog.told)
+            EXPECT_TRUE(each.starts_with("key ")) << each;
     });
 }
 
 TEST_F(ListView, OutsideADialogEnterIsToldToTheParent) {
     RunWith({"a"}, [&](kv::User&) {
         dialog.list.SendMessage(WM_KEYDOWN, VK_RETURN);
-        EXPECT_EQ(dialog.TakeTold(), (Words{"return"}));
+        EXPECT_EQ(dialog.TakeTold(), (Words{"key " + std::to_string(VK_RETURN), "return"}));
     });
 }
 
@@ -631,7 +662,7 @@ TEST_F(ListView, AMouseButtonDownSelectsAndUpIsTheClick) {
         EXPECT_EQ(dialog.TakeTold(), (Words{"click 1"}));
         kv::input::PressAgain(Node(), at);
         kv::input::Release(Node(), at);
-        EXPECT_EQ(dialog.TakeTold(), (Words{"double 1"}));
+        EXPECT_EQ(dialog.TakeTold(), (Words{"double 1", "activate 1"}));
     });
 }
 
@@ -840,6 +871,18 @@ TEST_F(ListView, ImagesThatThereAreNotAreRefused) {
     EXPECT_FALSE(images.DeleteImageList());
 }
 
+TEST_F(ListView, AQuestionForWorkAreasThatBringsNoPlaceForThemDoesNoHarm) {
+    RunWith({}, [&](kv::User&) {
+        const CRect area{0, 0, 10, 10};
+        dialog.list.SetWorkAreas(1, nullptr);
+        EXPECT_EQ(dialog.list.GetNumberOfWorkAreas(), 0u);
+        dialog.list.SetWorkAreas(1, &area);
+        EXPECT_EQ(dialog.list.SendMessage(LVM_GETNUMBEROFWORKAREAS), 0);
+        EXPECT_EQ(dialog.list.SendMessage(LVM_GETWORKAREAS, 1), 0);
+        EXPECT_EQ(dialog.list.GetNumberOfWorkAreas(), 1u);
+    });
+}
+
 TEST_F(ListView, KeepsItsWorkAreas) {
     RunWith({}, [&](kv::User&) {
         const CRect areas[] = {{0, 0, 10, 10}, {10, 0, 20, 10}};
@@ -905,6 +948,323 @@ TEST_F(ListView, ManyRowsComeInAtTheTop) {
         while (dialog.list.GetItemCount() > 1)
             dialog.list.DeleteItem(1);
         EXPECT_EQ(dialog.list.GetItemText(0, 0), std::to_string(kRows - 1));
+    });
+}
+
+TEST_F(ListView, AChangeIsToldAheadOfItAndCanBeForbidden) {
+    RunWith({"a", "b"}, [&](kv::User&) {
+        Words order;
+        dialog.whenTold = [&](const NMLISTVIEW& notice) {
+            const std::string selected = Node().Selected(0) ? " selected" : " clear";
+            if (notice.hdr.code == LVN_ITEMCHANGING) order.push_back("ahead," + selected);
+            if (notice.hdr.code == LVN_ITEMCHANGED) order.push_back("behind," + selected);
+            EXPECT_EQ(notice.uOldState, 0u);
+            EXPECT_EQ(notice.uNewState, LVIS_SELECTED);
+            EXPECT_EQ(notice.uChanged, LVIF_STATE);
+        };
+        EXPECT_TRUE(dialog.list.SetItemState(0, LVIS_SELECTED, LVIS_SELECTED));
+        EXPECT_EQ(order, (Words{"ahead, clear", "behind, selected"}));
+        dialog.whenTold = nullptr;
+        dialog.TakeTold();
+        dialog.answer = [](const NMLISTVIEW& notice) {
+            return notice.hdr.code == LVN_ITEMCHANGING;
+        };
+        EXPECT_FALSE(dialog.list.SetItemState(1, LVIS_SELECTED, LVIS_SELECTED));
+        EXPECT_FALSE(dialog.list.SetItemState(0, 0, LVIS_SELECTED));
+        EXPECT_EQ(Selected(), Rows{0});
+        EXPECT_EQ(dialog.TakeTold(), Words{});
+    });
+}
+
+TEST_F(ListView, ATextCanBeForbiddenToo) {
+    RunWith({"a"}, [&](kv::User&) {
+        UINT changing = 0;
+        dialog.answer = [&](const NMLISTVIEW& notice) {
+            changing = notice.uChanged;
+            return notice.hdr.code == LVN_ITEMCHANGING && notice.iSubItem == 1;
+        };
+        EXPECT_FALSE(dialog.list.SetItemText(0, 1, "x"));
+        EXPECT_EQ(changing, LVIF_TEXT);
+        EXPECT_EQ(dialog.list.GetItemText(0, 1), "");
+        EXPECT_TRUE(dialog.list.SetItemText(0, 0, "x"));
+        EXPECT_EQ(dialog.list.GetItemText(0, 0), "x");
+        changing = 0;
+        EXPECT_TRUE(dialog.list.SetItemText(0, 0, "x"));
+        EXPECT_EQ(changing, 0u);
+    });
+}
+
+TEST_F(ListView, ARowThatMayNotGiveUpTheOnlySelectionKeepsIt) {
+    RunWith({"a", "b"}, [&](kv::User&) {
+        dialog.list.ModifyStyle(0, LVS_SINGLESEL);
+        constexpr UINT kBoth = LVIS_SELECTED | LVIS_FOCUSED;
+        dialog.list.SetItemState(0, kBoth, kBoth);
+        dialog.answer = [](const NMLISTVIEW& notice) {
+            return notice.hdr.code == LVN_ITEMCHANGING && notice.iItem == 0;
+        };
+        EXPECT_FALSE(dialog.list.SetItemState(1, kBoth, kBoth));
+        EXPECT_EQ(Selected(), Rows{0});
+        EXPECT_EQ(Node().FocusedRow(), 0);
+        EXPECT_FALSE(dialog.list.SetItemState(1, LVIS_FOCUSED, LVIS_FOCUSED));
+        EXPECT_EQ(dialog.list.GetItemState(1, kBoth), 0u);
+    });
+}
+
+TEST_F(ListView, AHandlerMayTakeTheRowAwayThatIsAboutToChange) {
+    RunWith({"a", "b"}, [&](kv::User& user) {
+        dialog.whenTold = [&](const NMLISTVIEW& notice) {
+            if (notice.hdr.code != LVN_ITEMCHANGING) return;
+            dialog.whenTold = nullptr;
+            dialog.list.DeleteItem(0);
+        };
+        EXPECT_FALSE(dialog.list.SetItemState(0, LVIS_SELECTED, LVIS_SELECTED));
+        EXPECT_EQ(Selected(), Rows{});
+        dialog.whenTold = [&](const NMLISTVIEW& notice) {
+            if (notice.hdr.code == LVN_ITEMCHANGING) dialog.list.DeleteItem(0);
+        };
+        EXPECT_FALSE(dialog.list.SetItemText(0, 0, "x"));
+        EXPECT_EQ(user.Rows(kList), Words{});
+    });
+}
+
+TEST_F(ListView, TellsOfRowsThatComeAndGo) {
+    RunWith({}, [&](kv::User&) {
+        LVITEM item;
+        item.mask = LVIF_TEXT | LVIF_PARAM | LVIF_STATE;
+        item.pszText = const_cast<char*>("a");
+        item.lParam = 7;
+        item.state = item.stateMask = LVIS_SELECTED;
+        dialog.whenTold = [&](const NMLISTVIEW& notice) {
+            EXPECT_EQ(notice.lParam, notice.hdr.code == LVN_INSERTITEM ? 0 : 7);
+        };
+        dialog.list.InsertItem(&item);
+        EXPECT_EQ(dialog.TakeTold(), (Words{"insert 0", "0:0->2"}));
+        dialog.whenTold = nullptr;
+        dialog.list.InsertItem(0, "b");
+        EXPECT_EQ(dialog.TakeTold(), (Words{"insert 0"}));
+        int rowsAtTheEnd = 0;
+        dialog.whenTold = [&](const NMLISTVIEW&) { rowsAtTheEnd = dialog.list.GetItemCount(); };
+        EXPECT_TRUE(dialog.list.DeleteItem(1));
+        EXPECT_EQ(dialog.TakeTold(), (Words{"delete 1 of 7"}));
+        EXPECT_EQ(rowsAtTheEnd, 2);
+        EXPECT_FALSE(dialog.list.DeleteItem(1));
+        EXPECT_EQ(dialog.TakeTold(), Words{});
+    });
+}
+
+TEST_F(ListView, TheEndOfAllRowsIsToldAndThenThatOfEach) {
+    RunWith({"a", "b"}, [&](kv::User&) {
+        dialog.list.SetItemData(0, 7);
+        dialog.list.SetItemData(1, 8);
+        dialog.TakeTold();
+        EXPECT_TRUE(dialog.list.DeleteAllItems());
+        EXPECT_EQ(dialog.TakeTold(), (Words{"delete all", "delete 1 of 8", "delete 0 of 7"}));
+        dialog.list.InsertItem(0, "c");
+        dialog.TakeTold();
+        dialog.answer = [](const NMLISTVIEW& notice) {
+            return notice.hdr.code == LVN_DELETEALLITEMS;
+        };
+        EXPECT_TRUE(dialog.list.DeleteAllItems());
+        EXPECT_EQ(dialog.TakeTold(), (Words{"delete all"}));
+        EXPECT_EQ(dialog.list.GetItemCount(), 0);
+    });
+}
+
+TEST_F(ListView, ItsOwnEndIsTheEndOfItsRows) {
+    RunWith({"a"}, [&](kv::User&) {
+        dialog.list.SetItemData(0, 7);
+        dialog.TakeTold();
+        dialog.list.DestroyWindow();
+        EXPECT_EQ(dialog.TakeTold(), (Words{"delete all", "delete 0 of 7"}));
+    });
+}
+
+TEST_F(ListView, TellsOfEachKeyAheadOfWhatItDoes) {
+    RunWith({"a", "b"}, [&](kv::User& user) {
+        user.Key(kList, "Down");
+        EXPECT_EQ(dialog.TakeTold(), (Words{"key " + std::to_string(VK_DOWN), "0:0->3"}));
+        user.Key(kList, "F4");
+        EXPECT_EQ(dialog.TakeTold(), (Words{"key " + std::to_string(VK_F4)}));
+    });
+}
+
+TEST_F(ListView, ADoubleClickOrEnterActivatesARow) {
+    RunWith({"a", "b"}, [&](kv::User& user) {
+        user.DoubleClick(kList, 1);
+        EXPECT_EQ(dialog.TakeTold(), (Words{"1:0->3", "click 1", "double 1", "activate 1"}));
+        dialog.list.SendMessage(WM_KEYDOWN, VK_RETURN);
+        EXPECT_EQ(dialog.TakeTold(),
+                  (Words{"key " + std::to_string(VK_RETURN), "return", "activate 1"}));
+        dialog.list.SetItemState(-1, 0, LVIS_SELECTED);
+        dialog.TakeTold();
+        dialog.list.SendMessage(WM_KEYDOWN, VK_RETURN);
+        EXPECT_EQ(dialog.TakeTold(), (Words{"key " + std::to_string(VK_RETURN), "return"}));
+    });
+}
+
+TEST_F(ListView, ADoubleClickOfTheMouseActivatesWhatItHits) {
+    RunWith({"a"}, [&](kv::User&) {
+        dialog.list.SetExtendedStyle(LVS_EX_CHECKBOXES);
+        CRect label;
+        dialog.list.GetSubItemRect(0, 0, LVIR_LABEL, label);
+        const auto doubleClick = [&](int x, int y) {
+            dialog.TakeTold();
+            dialog.list.SendMessage(WM_LBUTTONDBLCLK, 1, MAKELPARAM(x, y));
+            return dialog.TakeTold().back();
+        };
+        EXPECT_EQ(doubleClick(label.left + 1, label.top + 1), "activate 0");
+        EXPECT_EQ(doubleClick(2, label.top + 1), "double 0");
+        EXPECT_EQ(doubleClick(label.left + 1, label.bottom + 20), "double -1");
+    });
+}
+
+TEST_F(ListView, TheRightButtonSelectsAndThenIsTold) {
+    RunWith({"a", "b", "c"}, [&](kv::User&) {
+        EXPECT_TRUE(kv::input::RightClickRow(Node(), 1));
+        EXPECT_EQ(dialog.TakeTold(), (Words{"1:0->3", "right 1"}));
+        kv::input::ClickRow(Node(), 2, Ctrl());
+        dialog.TakeTold();
+        EXPECT_TRUE(kv::input::RightClickRow(Node(), 1));
+        EXPECT_EQ(Selected(), (Rows{1, 2}));
+        EXPECT_EQ(Node().FocusedRow(), 1);
+        EXPECT_EQ(dialog.TakeTold().back(), "right 1");
+        dialog.answer = [](const NMLISTVIEW& notice) { return notice.hdr.code == NM_RCLICK; };
+        EXPECT_FALSE(kv::input::RightClickRow(Node(), -1));
+        EXPECT_EQ(Selected(), Rows{});
+        EXPECT_EQ(test::FocusedId(), kList);
+        dialog.list.EnableWindow(FALSE);
+        dialog.TakeTold();
+        EXPECT_FALSE(kv::input::RightClickRow(Node(), 0));
+        EXPECT_EQ(dialog.TakeTold(), Words{});
+    });
+}
+
+TEST_F(ListView, TheRightButtonsTwoHalvesComeAsMessages) {
+    RunWith({"a", "b"}, [&](kv::User&) {
+        CRect label;
+        dialog.list.GetSubItemRect(1, 0, LVIR_LABEL, label);
+        const CPoint at{label.left + 1, label.top + 1};
+        dialog.list.SendMessage(WM_RBUTTONDOWN, 2, MAKELPARAM(at.x, at.y));
+        EXPECT_EQ(dialog.TakeTold(), (Words{"1:0->3"}));
+        CPoint told;
+        dialog.whenTold = [&](const NMLISTVIEW& notice) { told = notice.ptAction; };
+        dialog.list.SendMessage(WM_RBUTTONUP, 0, MAKELPARAM(at.x, at.y));
+        EXPECT_EQ(dialog.TakeTold(), (Words{"right 1"}));
+        EXPECT_EQ(told, at);
+        dialog.list.SendMessage(WM_RBUTTONUP, 0, MAKELPARAM(at.x, at.y));
+        EXPECT_EQ(dialog.TakeTold(), Words{});
+    });
+}
+
+TEST_F(ListView, ClicksTellTheKeysThatAreHeld) {
+    RunWith({"a", "b"}, [&](kv::User&) {
+        UINT keys = 99;
+        dialog.whenTold = [&](const NMITEMACTIVATE& notice) { keys = notice.uKeyFlags; };
+        kv::input::ClickRow(Node(), 0, {.shift = true, .ctrl = true, .alt = true});
+        EXPECT_EQ(keys, LVKF_SHIFT | LVKF_CONTROL | LVKF_ALT);
+        kv::input::RightClickRow(Node(), 0, Ctrl());
+        EXPECT_EQ(keys, LVKF_CONTROL);
+        kv::input::ClickRow(Node(), 0);
+        EXPECT_EQ(keys, 0u);
+    });
+}
+
+TEST_F(ListView, NextItemLooksAboveToo) {
+    RunWith({"a", "b", "c", "d"}, [&](kv::User&) {
+        CListCtrl& list = dialog.list;
+        EXPECT_EQ(list.GetNextItem(2, LVNI_ABOVE), 1);
+        EXPECT_EQ(list.GetNextItem(2, LVNI_BELOW), 3);
+        EXPECT_EQ(list.GetNextItem(0, LVNI_ABOVE), -1);
+        EXPECT_EQ(list.GetNextItem(9, LVNI_ABOVE), 3);
+        EXPECT_EQ(list.GetNextItem(9, LVNI_BELOW), -1);
+        // From no row on, the first row is the first that fits.
+        EXPECT_EQ(list.GetNextItem(-1, LVNI_ABOVE), 0);
+        list.SetItemState(0, LVIS_SELECTED, LVIS_SELECTED);
+        list.SetItemState(3, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+        EXPECT_EQ(list.GetNextItem(3, LVNI_ABOVE | LVNI_SELECTED), 0);
+        EXPECT_EQ(list.GetNextItem(0, LVNI_ABOVE | LVNI_SELECTED), -1);
+        EXPECT_EQ(list.GetNextItem(9, LVNI_ABOVE | LVNI_SELECTED), 3);
+        EXPECT_EQ(list.GetNextItem(3, LVNI_ABOVE | LVNI_FOCUSED), -1);
+        EXPECT_EQ(list.GetNextItem(9, LVNI_ABOVE | LVNI_FOCUSED), 3);
+        EXPECT_EQ(list.GetNextItem(0, LVNI_FOCUSED | LVNI_SELECTED), 3);
+        EXPECT_EQ(list.GetNextItem(3, LVNI_FOCUSED), -1);
+    });
+}
+
+TEST_F(ListView, BesideARowOfAReportLiesNothing) {
+    RunWith({"a", "b"}, [&](kv::User&) {
+        EXPECT_EQ(dialog.list.GetNextItem(0, LVNI_TORIGHT), -1);
+        EXPECT_EQ(dialog.list.GetNextItem(1, LVNI_TOLEFT), -1);
+    });
+}
+
+TEST_F(ListView, NextItemKnowsRowsThatAreCutOrDroppedOn) {
+    RunWith({"a", "b", "c"}, [&](kv::User&) {
+        CListCtrl& list = dialog.list;
+        EXPECT_EQ(list.GetNextItem(-1, LVNI_CUT), -1);
+        list.SetItemState(0, LVIS_CUT, LVIS_CUT);
+        list.SetItemState(2, LVIS_CUT | LVIS_DROPHILITED, LVIS_CUT | LVIS_DROPHILITED);
+        EXPECT_EQ(list.GetNextItem(-1, LVNI_CUT), 0);
+        EXPECT_EQ(list.GetNextItem(0, LVNI_CUT), 2);
+        EXPECT_EQ(list.GetNextItem(2, LVNI_CUT), -1);
+        EXPECT_EQ(list.GetNextItem(2, LVNI_CUT | LVNI_ABOVE), 0);
+        EXPECT_EQ(list.GetNextItem(-1, LVNI_DROPHILITED | LVNI_CUT), 2);
+        EXPECT_EQ(list.GetNextItem(-1, LVNI_SELECTED | LVNI_CUT), -1);
+        list.SetItemState(2, LVIS_SELECTED, LVIS_SELECTED);
+        EXPECT_EQ(list.GetNextItem(-1, LVNI_SELECTED | LVNI_CUT), 2);
+    });
+}
+
+TEST_F(ListView, APartOfATextIsItsBeginning) {
+    RunWith({"Garden Banks", "Green Canyon", "Banks"}, [&](kv::User&) {
+        LVFINDINFO what{LVFI_SUBSTRING, "gre", 0};
+        EXPECT_EQ(dialog.list.FindItem(&what), 1);
+        what.psz = "bank";
+        EXPECT_EQ(dialog.list.FindItem(&what), 2);
+        EXPECT_EQ(dialog.list.FindItem(&what, 2), -1);
+        what.flags |= LVFI_WRAP;
+        EXPECT_EQ(dialog.list.FindItem(&what, 2), 2);
+    });
+}
+
+TEST_F(ListView, AColumnFindsTheWidthOfItsCells) {
+    RunWith({"a", "the widest of all", "b"}, [&](kv::User&) {
+        CListCtrl& list = dialog.list;
+        EXPECT_TRUE(list.SetColumnWidth(0, LVSCW_AUTOSIZE));
+        const int text = list.GetStringWidth("the widest of all");
+        const int width = list.GetColumnWidth(0);
+        EXPECT_GT(width, text);
+        EXPECT_LT(width, text + 20);
+        list.SetItemText(0, 1, "cell");
+        EXPECT_TRUE(list.SetColumnWidth(1, LVSCW_AUTOSIZE));
+        EXPECT_EQ(list.GetColumnWidth(1) - list.GetStringWidth("cell"), width - text);
+        // Check boxes take room of their own.
+        list.SetExtendedStyle(LVS_EX_CHECKBOXES);
+        list.SetColumnWidth(0, LVSCW_AUTOSIZE);
+        CRect label;
+        list.GetSubItemRect(1, 0, LVIR_LABEL, label);
+        EXPECT_EQ(label.Width(), width);
+        EXPECT_FALSE(list.SetColumnWidth(0, -3));
+        EXPECT_FALSE(list.SetColumnWidth(2, LVSCW_AUTOSIZE));
+        EXPECT_TRUE(list.SendMessage(LVM_SETCOLUMNWIDTH, 1, MAKELPARAM(LVSCW_AUTOSIZE, 0)));
+        EXPECT_EQ(list.GetColumnWidth(1) - list.GetStringWidth("cell"), width - text);
+    });
+}
+
+TEST_F(ListView, AColumnFindsTheWidthOfItsHeadingAndTheLastOneTheRest) {
+    RunWith({"a row that is much wider than its heading"}, [&](kv::User&) {
+        CListCtrl& list = dialog.list;
+        EXPECT_TRUE(list.SetColumnWidth(0, LVSCW_AUTOSIZE_USEHEADER));
+        const int room = list.GetColumnWidth(0) - list.GetStringWidth("Area");
+        EXPECT_GT(room, 0);
+        EXPECT_LT(room, 20);
+        EXPECT_TRUE(list.SetColumnWidth(1, LVSCW_AUTOSIZE_USEHEADER));
+        CRect client;
+        list.GetClientRect(&client);
+        EXPECT_EQ(list.GetColumnWidth(0) + list.GetColumnWidth(1), client.Width());
+        list.SetColumnWidth(0, client.Width());
+        EXPECT_TRUE(list.SetColumnWidth(1, LVSCW_AUTOSIZE_USEHEADER));
+        EXPECT_EQ(list.GetColumnWidth(1), list.GetStringWidth("Block") + room);
     });
 }
 

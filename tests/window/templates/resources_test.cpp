@@ -1,6 +1,12 @@
 #include "window/templates/resources.h"
 
+#include <cstddef>
+#include <memory>
+#include <new>
+#include <vector>
+
 #include "support/dialog_fixture.h"
+#include "support/failing_memory.h"
 
 namespace {
 
@@ -75,6 +81,73 @@ TEST_F(ResourceChain, AnExtensionModuleIsInItFromItsLibraryObjectToItsEnd) {
     EXPECT_FALSE(record.bInitialized);
     EXPECT_EQ(kv::FindTemplate(500), nullptr);
     AfxTermExtensionModule(record);
+}
+
+TEST_F(ResourceChain, AModuleThatEndedMayBeginAgain) {
+    AFX_EXTENSION_MODULE record;
+    AfxInitExtensionModule(record, &first_);
+    new CDynLinkLibrary(record);
+    AfxTermExtensionModule(record);
+    EXPECT_EQ(record.hModule, nullptr);
+    EXPECT_TRUE(AfxInitExtensionModule(record, &second_));
+    EXPECT_EQ(record.hModule, &second_);
+    EXPECT_EQ(kv::FindTemplate(500), nullptr);
+    new CDynLinkLibrary(record);
+    EXPECT_EQ(kv::FindTemplate(500), &kOther);
+    AfxTermExtensionModule(record);
+    EXPECT_EQ(kv::FindTemplate(500), nullptr);
+}
+
+TEST_F(ResourceChain, ARecordThatIsNotFilledPutsNothingIn) {
+    AFX_EXTENSION_MODULE record;
+    {
+        const CDynLinkLibrary library(record);
+        EXPECT_EQ(library.m_hModule, nullptr);
+        EXPECT_EQ(kv::FindTemplate(500), nullptr);
+    }
+    AfxTermExtensionModule(record);
+    AfxInitExtensionModule(record, &first_);
+    AfxTermExtensionModule(record);
+    {
+        const CDynLinkLibrary library(record);
+        EXPECT_EQ(kv::FindTemplate(500), nullptr);
+    }
+}
+
+TEST_F(ResourceChain, LibraryObjectsGoInAnyOrder) {
+    AFX_EXTENSION_MODULE one;
+    AFX_EXTENSION_MODULE two;
+    AfxInitExtensionModule(one, &first_);
+    AfxInitExtensionModule(two, &second_);
+    new CDynLinkLibrary(one);
+    auto between = std::make_unique<CDynLinkLibrary>(two);
+    new CDynLinkLibrary(one);
+    between.reset();
+    EXPECT_EQ(kv::FindTemplate(500), &kFirst);
+    AfxTermExtensionModule(one);
+    EXPECT_EQ(kv::FindTemplate(500), nullptr);
+    AfxTermExtensionModule(two);
+}
+
+TEST_F(ResourceChain, WithoutMemoryAModuleDoesNotJoin) {
+    AFX_EXTENSION_MODULE record;
+    AfxInitExtensionModule(record, &first_);
+    // As many as fill whatever room the chain has at hand.
+    std::vector<std::unique_ptr<CDynLinkLibrary>> joined;
+    int refused = 0;
+    for (int each = 0; each < 40; ++each) {
+        const auto place = std::make_unique<std::byte[]>(sizeof(CDynLinkLibrary));
+        try {
+            const test::FailingMemory memory;
+            std::destroy_at(new (place.get()) CDynLinkLibrary(record));
+        } catch (const std::bad_alloc&) {
+            ++refused;
+        }
+        joined.push_back(std::make_unique<CDynLinkLibrary>(record));
+    }
+    EXPECT_GT(refused, 0);
+    joined.clear();
+    EXPECT_EQ(kv::FindTemplate(500), nullptr);
 }
 
 TEST_F(ResourceChain, ALibraryObjectThatGoesEarlyTakesItsModuleOut) {
