@@ -1,8 +1,13 @@
 // kvdlg: runs one dialog from the shell and prints its outcome as JSON.
 
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <CLI/CLI.hpp>
+#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -10,6 +15,7 @@
 #include <sstream>
 #include <string>
 
+#include "base/text.h"
 #include "frame/kvdbkvn/db_abs_data_mgr.h"
 #include "frame/kvdbkvn/statement_trace.h"
 #include "frame/module.h"
@@ -51,11 +57,26 @@ const Adaptor& Require(const std::string& className) {
     return *adaptor;
 }
 
-int List() {
-    for (const Adaptor* each : adaptors::All()) {
-        std::printf("%-26s %-28s %s\n", each->className.c_str(), each->family.c_str(),
-                    each->caption.c_str());
+/// Prints what was asked for. Throws FileFailure where it does not arrive.
+void PrintOut(const std::string& text) {
+    std::cout << text << std::flush;
+    if (!std::cout) {
+        throw FileFailure(std::string("The output cannot be written: ") + std::strerror(errno));
     }
+}
+
+int List() {
+    std::string lines;
+    for (const Adaptor* each : adaptors::All()) {
+        lines += kv::FormatText("%-26s %-28s %s\n", each->className.c_str(), each->family.c_str(),
+                                each->caption.c_str());
+    }
+    PrintOut(lines);
+    return kDone;
+}
+
+int DescribeClass(const Options& options) {
+    PrintOut(Print(DescribeDialog(Require(options.className))) + "\n");
     return kDone;
 }
 
@@ -176,13 +197,57 @@ int RunDialog(const Options& options) {
         throw BadScript(WithLine(e, script));
     }
     kv::db::SetStatementTrace(nullptr);
-    std::cout << Print(Outcome(run, records, options.trace)) << std::endl;
+    PrintOut(Print(Outcome(run, records, options.trace)) + "\n");
     return run.result == IDCANCEL ? kCancelled : run.result == IDOK ? kDone : kDataFailure;
+}
+
+/// Does the work of a command; what went wrong is told in one line.
+template <typename Work>
+int Guarded(Work work) {
+    const auto failed = [](const std::string& words, ExitCode code) {
+        std::cerr << "kvdlg: " << words << std::endl;
+        return code;
+    };
+    try {
+        return work();
+    } catch (const CKvException& e) {
+        return failed(e.GetErrorMessage(true, true), kDataFailure);
+    } catch (const FileFailure& e) {
+        return failed(e.what(), kDataFailure);
+    } catch (const std::exception& e) {
+        return failed(e.what(), kWrongUse);
+    }
+}
+
+/// The number of a stream that is closed would be that of the next file that is opened, a database
+/// say, and what is printed would go there. This one takes no print.
+void OccupyClosedStreams() {
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        if (fcntl(stream, F_GETFD) < 0) open("/dev/null", O_RDONLY);
+    }
+}
+
+void AddRunOptions(CLI::App& run, Options& options) {
+    run.add_option("CLASS", options.className, "The dialog's class")->required();
+    run.add_option("--input", options.inputFile,
+                   "JSON file with the inputs; those of a script are overridden. Without this, a "
+                   "window opens with the samples that \"describe\" names");
+    run.add_option("--script", options.scriptFile,
+                   "JSON file that plays the user, without a window; if left out, a window opens");
+    run.add_option("--db", options.database,
+                   "Server text, as sqlite:PATH or postgresql://...; the sample database if left "
+                   "out");
+    run.add_flag("--trace", options.trace, "Adds the SQL texts that were sent");
+    run.add_option("--picture", options.picture,
+                   "PNG file for a picture of the dialog as it stands when it closes; with a "
+                   "script, no display is needed for it");
+    run.footer(kScriptHelp);
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
+    OccupyClosedStreams();
     CLI::App app("Runs the dialogs of KVGuiCtl from the shell", "kvdlg");
     app.footer(kHelp);
     app.require_subcommand(1);
@@ -193,45 +258,20 @@ int main(int argc, char** argv) {
         "describe", "Inputs that a dialog takes, its controls, what it returns, a first script");
     describe->add_option("CLASS", options.className, "The dialog's class")->required();
     describe->footer(kDescribeHelp);
-    auto* run = app.add_subcommand("run", "Runs a dialog and prints its outcome as JSON");
-    run->add_option("CLASS", options.className, "The dialog's class")->required();
-    run->add_option("--input", options.inputFile,
-                    "JSON file with the inputs; those of a script are overridden. Without this, a "
-                    "window opens with the samples that \"describe\" names");
-    run->add_option("--script", options.scriptFile,
-                    "JSON file that plays the user, without a window; if left out, a window opens");
-    run->add_option("--db", options.database,
-                    "Server text, as sqlite:PATH or postgresql://...; the sample database if left "
-                    "out");
-    run->add_flag("--trace", options.trace, "Adds the SQL texts that were sent");
-    run->add_option("--picture", options.picture,
-                    "PNG file for a picture of the dialog as it stands when it closes; with a "
-                    "script, no display is needed for it");
-    run->footer(kScriptHelp);
+    AddRunOptions(*app.add_subcommand("run", "Runs a dialog and prints its outcome as JSON"),
+                  options);
 
-    try {
-        app.parse(argc, argv);
-    } catch (const CLI::ParseError& e) {
-        return app.exit(e) == 0 ? kDone : kWrongUse;
-    }
-
-    InitControlDll();
-    const auto failed = [](const std::string& words, ExitCode code) {
-        std::cerr << "kvdlg: " << words << std::endl;
-        return code;
-    };
-    try {
-        if (*list) return List();
-        if (*describe) {
-            std::cout << Print(DescribeDialog(Require(options.className))) << std::endl;
-            return kDone;
+    return Guarded([&]() -> int {
+        try {
+            app.parse(argc, argv);
+        } catch (const CLI::ParseError& e) {
+            std::ostringstream help;
+            const bool asked = app.exit(e, help, std::cerr) == 0;
+            PrintOut(help.str());
+            return asked ? kDone : kWrongUse;
         }
-        return RunDialog(options);
-    } catch (const CKvException& e) {
-        return failed(e.GetErrorMessage(true, true), kDataFailure);
-    } catch (const FileFailure& e) {
-        return failed(e.what(), kDataFailure);
-    } catch (const std::exception& e) {
-        return failed(e.what(), kWrongUse);
-    }
+        InitControlDll();
+        if (*list) return List();
+        return *describe ? DescribeClass(options) : RunDialog(options);
+    });
 }

@@ -59,10 +59,16 @@ bool HasCheck(const kv::Node& node) {
            (kind == BS_AUTOCHECKBOX || kind == BS_AUTORADIOBUTTON);
 }
 
+/// What a control shows; of a password, that there is one.
+std::string ShownText(const kv::Node& control) {
+    const bool secret = control.Class() == kv::NodeClass::kEdit && control.HasStyle(ES_PASSWORD);
+    return secret && !control.Text().empty() ? "***" : control.Text();
+}
+
 Json DescribeControl(kv::Node& control) {
     Json result{{"id", control.Id()},
                 {"kind", KindName(control.Class(), control.Style())},
-                {"text", control.Text()},
+                {"text", ShownText(control)},
                 {"enabled", control.Enabled()},
                 {"visible", control.Visible()}};
     if (HasCheck(control)) result["checked"] = kv::Send(control, BM_GETCHECK) == BST_CHECKED;

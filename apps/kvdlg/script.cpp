@@ -4,6 +4,7 @@
 #include <map>
 #include <vector>
 
+#include "kvdlg/script_lines.h"
 #include "window/acting/input.h"
 
 namespace kvdlg {
@@ -260,8 +261,12 @@ void AddScene(const Json& scene, const ScenePlace& place, kv::HeadlessDesktop& d
 }  // namespace
 
 Json ParseJson(const std::string& text, const std::string& nameOfText) {
+    const auto notTooDeep = [&](int depth, Json::parse_event_t, const Json&) {
+        if (depth <= kDeepestJson) return true;
+        throw BadScript(nameOfText + ": too many lists and objects inside each other");
+    };
     try {
-        return Json::parse(text);
+        return Json::parse(text, notTooDeep);
     } catch (const nlohmann::json::parse_error& e) {
         const auto end = text.begin() + static_cast<std::ptrdiff_t>(std::min(e.byte, text.size()));
         const auto line = 1 + std::count(text.begin(), end, '\n');

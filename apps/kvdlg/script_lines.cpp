@@ -9,7 +9,7 @@ public:
     explicit Scanner(std::string_view json) : json_(json) {}
 
     std::map<std::string, int> Scan() {
-        Value("");
+        Value("", 0);
         return std::move(lines_);
     }
 
@@ -33,13 +33,15 @@ private:
         return true;
     }
 
-    void Value(const std::string& pointer) {
+    void Value(const std::string& pointer, int depth) {
         const char first = Peek();
         lines_[pointer] = line_;
-        if (first == '{') {
-            Object(pointer);
+        if (depth > kDeepestJson) {
+            at_ = json_.size();
+        } else if (first == '{') {
+            Object(pointer, depth);
         } else if (first == '[') {
-            Array(pointer);
+            Array(pointer, depth);
         } else if (first == '"') {
             Text();
         } else {
@@ -47,21 +49,21 @@ private:
         }
     }
 
-    void Object(const std::string& pointer) {
+    void Object(const std::string& pointer, int depth) {
         Next();
         while (Peek() == '"') {
             const std::string key = Text();
             if (!Take(':')) return;
-            Value(pointer + "/" + key);
+            Value(pointer + "/" + key, depth + 1);
             if (!Take(',')) break;
         }
         Take('}');
     }
 
-    void Array(const std::string& pointer) {
+    void Array(const std::string& pointer, int depth) {
         Next();
         for (int i = 0; Peek() != ']' && !AtEnd(); ++i) {
-            Value(pointer + "/" + std::to_string(i));
+            Value(pointer + "/" + std::to_string(i), depth + 1);
             if (!Take(',')) break;
         }
         Take(']');

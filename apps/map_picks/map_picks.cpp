@@ -1,14 +1,13 @@
 #include "map_picks/map_picks.h"
 
 #include <QApplication>
-#include <cstring>
 #include <string>
 
-#include "base/numbers.h"
 #include "frame/catalogue.h"
 #include "frame/graphics.h"
 #include "frame/kvdbkvn/db_abs_data_mgr.h"
 #include "frame/kvdbkvn/db_dataset_set.h"
+#include "map_picks/block_rows.h"
 #include "window/dialogs/message_box.h"
 
 namespace map_picks {
@@ -55,21 +54,15 @@ std::vector<kv::qt::MapBlock> ReadBlocks() {
     CKvDbAbsDataMgr db(1);
     db.Connect();
     db.Select(Statement());
-    std::vector<kv::qt::MapBlock> blocks;
-    const char* reference = "";
+    BlocksOfRows blocks;
     for (int row = 0; row < db.NumberOfRows(); ++row) {
-        if (row == 0 || std::strcmp(reference, db.GetItem(row, kReference)) != 0) {
-            reference = db.GetItem(row, kReference);
-            const std::string label = db.GetItem(row, kLabel);
-            const std::string number = db.GetItem(row, kNumber);
-            blocks.push_back({db.GetItem(row, kArea), number, label.substr(number.size()), {}});
-        }
-        blocks.back().outline.push_back(
-            {kv::Atof(db.GetItem(row, kLat)), kv::Atof(db.GetItem(row, kLon))});
+        const auto cell = [&](Column column) { return db.GetItem(row, column); };
+        blocks.Add(
+            {cell(kLabel), cell(kArea), cell(kNumber), cell(kReference), cell(kLat), cell(kLon)});
     }
     db.FreeData();
     db.Disconnect();
-    return blocks;
+    return blocks.Take();
 }
 
 void Install() {

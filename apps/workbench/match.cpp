@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "base/paths.h"
+#include "base/foreign_text.h"
 #include "qualifiers/qualifier_file.h"
 #include "window/dialogs/dialog.h"
 
@@ -128,8 +128,9 @@ constexpr Kind kKinds[] = {
 Values ListOf(const Run& run) {
     if (!run.outcome.value("useListFile", false)) return run.outcome.at("values");
     const std::string path = run.outcome.at("listFile");
-    const auto text = kv::ReadTextFile(path);
+    const auto text = kv::ReadForeignText(path);
     if (!text) throw std::runtime_error("The list file " + path + " cannot be read.");
+    if (!kv::IsText(*text)) throw std::runtime_error("The list file " + path + " is not text.");
     return kv::ParseQualifiers(*text);
 }
 

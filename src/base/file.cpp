@@ -6,38 +6,12 @@
 #include <string_view>
 #include <utility>
 
-#include "base/text.h"
+#include "base/file_fault.h"
 
 namespace {
 
 std::string_view View(LPCTSTR text) {
     return text ? std::string_view(text) : std::string_view();
-}
-
-/// Whether a name fits a pattern of "*", "?" and other characters, without regard to case.
-bool Fits(std::string_view name, std::string_view pattern) {
-    std::size_t at = 0;
-    std::size_t read = 0;
-    std::size_t star = std::string_view::npos;
-    std::size_t starAt = 0;
-    while (at < name.size()) {
-        if (read < pattern.size() && pattern[read] == '*') {
-            star = read++;
-            starAt = at;
-        } else if (read < pattern.size() &&
-                   (pattern[read] == '?' || kv::ToLower(pattern[read]) == kv::ToLower(name[at]))) {
-            ++read;
-            ++at;
-        } else if (star != std::string_view::npos) {
-            read = star + 1;
-            at = ++starAt;
-        } else {
-            return false;
-        }
-    }
-    while (read < pattern.size() && pattern[read] == '*')
-        ++read;
-    return read == pattern.size();
 }
 
 bool IsRoot(const std::string& absolute) {
@@ -78,16 +52,16 @@ bool CFile::OpenNew(std::string_view path) {
 }
 
 bool CFile::OpenExisting(std::string_view path) {
-    const std::string native = kv::ToNative(path);
+    m_pRead = kv::OpenToRead(path);
     struct stat status {};
-    if (stat(native.c_str(), &status) != 0 || S_ISDIR(status.st_mode)) return false;
-    m_pRead = std::fopen(native.c_str(), "rb");
-    if (m_pRead) m_length = static_cast<std::uint64_t>(status.st_size);
+    if (m_pRead && fstat(fileno(m_pRead), &status) == 0)
+        m_length = static_cast<std::uint64_t>(status.st_size);
     return m_pRead != nullptr;
 }
 
 unsigned int CFile::Read(void* buffer, unsigned int count) {
-    return m_pRead ? static_cast<unsigned int>(std::fread(buffer, 1, count, m_pRead)) : 0;
+    if (!m_pRead || kv::FileCallFails()) return 0;
+    return static_cast<unsigned int>(std::fread(buffer, 1, count, m_pRead));
 }
 
 bool CFile::Write(const void* buffer, unsigned int count) {
@@ -128,10 +102,10 @@ bool CFileFind::FindFile(LPCTSTR pattern) {
     if (!kv::IsFolder(m_folder)) return false;
     const bool dots = rule.find_first_of("*?") != std::string::npos && !IsRoot(m_folder);
     for (const char* self : {".", ".."}) {
-        if (dots && Fits(self, rule)) m_entries.push_back({self, true});
+        if (dots && kv::FitsPattern(self, rule)) m_entries.push_back({self, true});
     }
     for (kv::FolderEntry& entry : kv::ListFolder(m_folder)) {
-        if (Fits(entry.name, rule)) m_entries.push_back(std::move(entry));
+        if (kv::FitsPattern(entry.name, rule)) m_entries.push_back(std::move(entry));
     }
     return !m_entries.empty();
 }

@@ -1,5 +1,8 @@
 #include "base/paths.h"
 
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <sys/vfs.h>
 #include <unistd.h>
 
@@ -8,9 +11,11 @@
 #include <cerrno>
 #include <filesystem>
 #include <map>
+#include <memory>
 #include <system_error>
 #include <utility>
 
+#include "base/file_fault.h"
 #include "base/text.h"
 
 namespace fs = std::filesystem;
@@ -64,16 +69,28 @@ bool IsThere(const std::string& native) {
     return fs::exists(fs::symlink_status(native, error));
 }
 
+/// Visits what a folder holds but "." and "..". The standard's own iterator ends the process where
+/// memory runs out.
+template <class Visit>
+void ForEachName(const std::string& folder, Visit visit) {
+    struct Close {
+        void operator()(DIR* opened) const { closedir(opened); }
+    };
+    const std::unique_ptr<DIR, Close> opened(opendir(folder.c_str()));
+    if (!opened) return;
+    while (const dirent* entry = readdir(opened.get())) {
+        const std::string_view name = entry->d_name;
+        if (name != "." && name != "..") visit(name);
+    }
+}
+
 /// The name in a folder that differs in case alone, the first in byte order; "" if there is none.
 std::string OtherCase(const std::string& folder, const std::string& name) {
     std::string found;
-    std::error_code error;
-    for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
-         entry.increment(error)) {
-        std::string candidate = entry->path().filename().string();
+    ForEachName(folder, [&](std::string_view candidate) {
         if (EqualsNoCase(candidate, name) && (found.empty() || candidate < found))
-            found = std::move(candidate);
-    }
+            found = candidate;
+    });
     return found;
 }
 
@@ -120,16 +137,26 @@ std::string WithoutSlashAtEnd(std::string path) {
     return path;
 }
 
-/// A link stands for the file that it leads to, so that this one is replaced and not the link.
-std::string WriteTarget(const std::string& native) {
+bool IsLink(const std::string& native) {
     std::error_code error;
-    const fs::path target = fs::canonical(native, error);
-    return error ? native : target.string();
+    return fs::is_symlink(fs::symlink_status(native, error));
+}
+
+/// A link stands for the file that it leads to, there already or not, so that this one is replaced
+/// and not the link.
+std::string WriteTarget(const std::string& native) {
+    constexpr int kMostLinks = 40;
+    fs::path target = native;
+    std::error_code error;
+    for (int i = 0; i < kMostLinks && IsLink(target.string()); ++i)
+        target = target.parent_path() / fs::read_symlink(target, error);
+    return target.string();
 }
 
 /// 0 when a file may be put there.
 int TargetFault(const std::string& native) {
     if (native.empty()) return ENOENT;
+    if (IsLink(native)) return ELOOP;
     std::error_code error;
     const fs::file_status status = fs::status(native, error);
     if (!fs::exists(status)) return 0;
@@ -249,6 +276,31 @@ std::string AbsolutePath(std::string_view path) {
     return FromNative(full == "/" ? full : WithoutSlashAtEnd(full));
 }
 
+bool FitsPattern(std::string_view name, std::string_view pattern) {
+    std::size_t at = 0;
+    std::size_t read = 0;
+    std::size_t star = std::string_view::npos;
+    std::size_t starAt = 0;
+    while (at < name.size()) {
+        if (read < pattern.size() && pattern[read] == '*') {
+            star = read++;
+            starAt = at;
+        } else if (read < pattern.size() &&
+                   (pattern[read] == '?' || ToLower(pattern[read]) == ToLower(name[at]))) {
+            ++read;
+            ++at;
+        } else if (star != std::string_view::npos) {
+            read = star + 1;
+            at = ++starAt;
+        } else {
+            return false;
+        }
+    }
+    while (read < pattern.size() && pattern[read] == '*')
+        ++read;
+    return read == pattern.size();
+}
+
 bool Exists(std::string_view path) {
     std::error_code error;
     return fs::exists(ToNative(path), error);
@@ -265,37 +317,40 @@ std::string CurrentFolder() {
 }
 
 bool ChangeFolder(std::string_view path) {
-    std::error_code error;
-    fs::current_path(ToNative(path), error);
-    return !error;
+    return ChangeNativeFolder(ToNative(path));
+}
+
+bool ChangeNativeFolder(const std::string& native) {
+    return !FileCallFails() && chdir(native.c_str()) == 0;
 }
 
 bool MakeFolder(std::string_view path) {
     std::error_code error;
-    return fs::create_directory(ToNative(path), error);
+    return !FileCallFails() && fs::create_directory(ToNative(path), error);
 }
 
 bool MakeFolders(std::string_view path) {
     const std::string native = ToNative(path);
     std::error_code error;
-    fs::create_directories(native, error);
+    if (!FileCallFails()) fs::create_directories(native, error);
     return fs::is_directory(native, error);
 }
 
 bool RemoveFile(std::string_view path) {
     std::error_code error;
     const std::string native = ToNative(path);
-    return !fs::is_directory(native, error) && fs::remove(native, error);
+    return !fs::is_directory(native, error) && !FileCallFails() && fs::remove(native, error);
 }
 
 std::vector<FolderEntry> ListFolder(std::string_view path) {
     std::vector<FolderEntry> entries;
-    std::error_code error;
-    for (fs::directory_iterator entry(ToNative(path), error), end; !error && entry != end;
-         entry.increment(error)) {
+    if (FileCallFails()) return entries;
+    const std::string folder = ToNative(path);
+    ForEachName(folder, [&](std::string_view name) {
         std::error_code unknown;
-        entries.push_back({entry->path().filename().string(), entry->is_directory(unknown)});
-    }
+        const bool isFolder = fs::is_directory(fs::path(folder) / name, unknown);
+        entries.push_back({std::string(name), isFolder});
+    });
     std::sort(entries.begin(), entries.end(), [](const FolderEntry& a, const FolderEntry& b) {
         const int order = CompareNoCase(a.name, b.name);
         return order != 0 ? order < 0 : a.name < b.name;
@@ -303,17 +358,28 @@ std::vector<FolderEntry> ListFolder(std::string_view path) {
     return entries;
 }
 
+std::FILE* OpenToRead(std::string_view path) {
+    if (FileCallFails()) return nullptr;
+    // Without O_NONBLOCK, opening a pipe waits for someone to write into it.
+    const int opened = open(ToNative(path).c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (opened < 0) return nullptr;
+    struct stat status {};
+    const bool isFile = fstat(opened, &status) == 0 && S_ISREG(status.st_mode);
+    std::FILE* file = isFile ? fdopen(opened, "rb") : nullptr;
+    if (!file) close(opened);
+    return file;
+}
+
 std::optional<std::string> ReadBinaryFile(std::string_view path) {
-    std::FILE* file = std::fopen(ToNative(path).c_str(), "rb");
+    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(OpenToRead(path), &std::fclose);
     if (!file) return std::nullopt;
     std::string content;
     std::array<char, 16384> buffer;
-    while (const std::size_t count = std::fread(buffer.data(), 1, buffer.size(), file)) {
+    while (const std::size_t count = std::fread(buffer.data(), 1, buffer.size(), file.get())) {
         content.append(buffer.data(), count);
+        if (content.size() > kLongestFile || FileCallFails()) return std::nullopt;
     }
-    const bool whole = std::ferror(file) == 0;
-    std::fclose(file);
-    return whole ? std::optional(std::move(content)) : std::nullopt;
+    return std::ferror(file.get()) == 0 ? std::optional(std::move(content)) : std::nullopt;
 }
 
 std::optional<std::string> ReadTextFile(std::string_view path) {
@@ -328,13 +394,13 @@ FileWriter::~FileWriter() {
 
 bool FileWriter::Open(std::string_view path) {
     Discard();
-    error_.clear();
+    error_ = 0;
     target_ = WriteTarget(ToNative(path));
     if (const int fault = TargetFault(target_)) return Fail(fault);
     constexpr int kAttempts = 1000;
     for (int attempt = 0; attempt < kAttempts && !file_; ++attempt) {
         temporary_ = TemporaryName(target_, attempt);
-        file_ = std::fopen(temporary_.c_str(), "wbx");
+        file_ = FileCallFails() ? nullptr : std::fopen(temporary_.c_str(), "wbx");
         if (!file_ && errno != EEXIST) break;
     }
     if (!file_) return Fail(errno);
@@ -346,26 +412,30 @@ bool FileWriter::Open(std::string_view path) {
 
 bool FileWriter::Write(std::string_view bytes) {
     if (!file_) return false;
-    if (std::fwrite(bytes.data(), 1, bytes.size(), file_) == bytes.size()) return true;
-    return Fail(errno);
+    const bool written =
+        !FileCallFails() && std::fwrite(bytes.data(), 1, bytes.size(), file_) == bytes.size();
+    return written || Fail(errno);
 }
 
 bool FileWriter::Commit() {
     if (!file_) return false;
-    const bool flushed = std::fflush(file_) == 0;
-    if (!flushed) return Fail(errno);
+    if (FileCallFails() || std::fflush(file_) != 0) return Fail(errno);
     const bool closed = std::fclose(std::exchange(file_, nullptr)) == 0;
-    const bool renamed = closed && std::rename(temporary_.c_str(), target_.c_str()) == 0;
-    if (renamed) return true;
+    if (closed && !FileCallFails() && std::rename(temporary_.c_str(), target_.c_str()) == 0)
+        return true;
     const int code = errno;
     std::remove(temporary_.c_str());
     return Fail(code);
 }
 
 bool FileWriter::Fail(int code) {
-    error_ = std::generic_category().message(code);
+    error_ = code;
     Discard();
     return false;
+}
+
+std::string FileWriter::Error() const {
+    return error_ == 0 ? std::string() : std::generic_category().message(error_);
 }
 
 void FileWriter::Discard() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdio>
 #include <functional>
 #include <optional>
@@ -55,6 +56,8 @@ KVGUICTL_API std::string FolderOf(std::string_view path);
 KVGUICTL_API std::string NameOf(std::string_view path);
 /// The name without what follows its last period.
 KVGUICTL_API std::string TitleOf(std::string_view path);
+/// Whether a name fits a pattern of "*", "?" and other characters, without regard to case.
+KVGUICTL_API bool FitsPattern(std::string_view name, std::string_view pattern);
 /// Absolute, in the dialogs' form, by the current folder.
 KVGUICTL_API std::string AbsolutePath(std::string_view path);
 
@@ -64,6 +67,8 @@ KVGUICTL_API bool IsFolder(std::string_view path);
 /// The current folder in the dialogs' form, without a backslash at its end unless it is a root.
 KVGUICTL_API std::string CurrentFolder();
 KVGUICTL_API bool ChangeFolder(std::string_view path);
+/// The same for what `ToNative` has given; needs no memory.
+KVGUICTL_API bool ChangeNativeFolder(const std::string& native);
 /// Makes one folder; false when it cannot, also when it is there.
 KVGUICTL_API bool MakeFolder(std::string_view path);
 /// Makes a folder and its parents; true when they are there in the end.
@@ -78,6 +83,12 @@ struct FolderEntry {
 /// What a folder holds, without "." and "..", in case-insensitive order of names; nothing where it
 /// cannot be read.
 KVGUICTL_API std::vector<FolderEntry> ListFolder(std::string_view path);
+
+/// Opens a file to be read; null where there is none, and for a folder, a pipe or a device.
+std::FILE* OpenToRead(std::string_view path);
+
+/// A longer file than this is not read whole.
+inline constexpr std::size_t kLongestFile = std::size_t{64} << 20;
 
 /// The bytes of a file; none when it cannot be read whole.
 KVGUICTL_API std::optional<std::string> ReadBinaryFile(std::string_view path);
@@ -100,7 +111,7 @@ public:
     bool Write(std::string_view bytes);
     bool Commit();
     /// What went wrong, in the machine's words; "" while nothing did.
-    const std::string& Error() const { return error_; }
+    std::string Error() const;
 
 private:
     bool Fail(int code);
@@ -109,7 +120,7 @@ private:
     std::FILE* file_ = nullptr;
     std::string target_;
     std::string temporary_;
-    std::string error_;
+    int error_ = 0;
 };
 
 /// Writes all of a file or leaves it as it was. On failure `error`, if given, tells why.

@@ -4,7 +4,7 @@
 #include <optional>
 #include <sstream>
 
-#include "base/file.h"
+#include "base/foreign_text.h"
 #include "base/paths.h"
 #include "blocks/blk_ext_dlg.h"
 #include "blocks/blk_ext_ids.h"
@@ -41,28 +41,19 @@ constexpr FormatWords kFormatWords[] = {
     {Vocabulary::kMmsCodes, "Please use MMS code format as set in ABE control."},
 };
 
-/// None, and the user is told, for a file that cannot be opened.
-std::optional<FileHead> ReadHead(const std::string& path) {
-    CFile file;
-    if (kv::IsFolder(path) || !file.Open(path.c_str(), CFile::modeRead)) {
-        AfxMessageBox(kNotOpened, 0, 0);
-        return std::nullopt;
-    }
-    std::string head(FileHead::kLength, '\0');
-    head.resize(file.Read(head.data(), FileHead::kLength));
-    return FileHead(head);
+/// None, and the user is told, for a file that cannot be read or is no text.
+std::optional<std::string> ReadAll(const std::string& path) {
+    auto text = kv::ReadForeignText(path);
+    if (text && kv::IsText(*text)) return text;
+    AfxMessageBox(text ? kWrongFormat : kNotOpened, 0, 0);
+    return std::nullopt;
 }
 
-/// The same for all of it.
-std::optional<std::string> ReadAll(const std::string& path) {
-    auto text = kv::ReadTextFile(path);
-    if (!text) {
-        AfxMessageBox(kNotOpened, 0, 0);
-        return std::nullopt;
-    }
-    // In what is not text a zero byte ends it, as it ends the text of any row.
-    text->erase(std::min(text->find('\0'), text->size()));
-    return text;
+/// The same of its beginning.
+std::optional<FileHead> ReadHead(const std::string& path) {
+    const std::optional<std::string> text = ReadAll(path);
+    if (!text) return std::nullopt;
+    return FileHead(*text);
 }
 
 }  // namespace
@@ -142,7 +133,7 @@ bool CKvGuiBlkExtDlg::ReadImportFile(const std::string& file, int columns) {
     const std::optional<std::string> text = ReadAll(file);
     if (!text) return false;
     AddEntries(ReadColumns(*text, columns));
-    ImportNeighborBlockInfo(file);
+    ReadRelation(*text, m_mapNeighborRel);
     return true;
 }
 
@@ -151,7 +142,7 @@ bool CKvGuiBlkExtDlg::ReadImportFile(const std::string& file, bool blockFirst,
     const std::optional<std::string> text = ReadAll(file);
     if (!text) return false;
     AddEntries(ReadLines(*text, {columnDelimiter, blockFirst, extDelimiter}));
-    if (HasMarker(*text)) ImportNeighborBlockInfo(file);
+    if (HasMarker(*text)) ReadRelation(*text, m_mapNeighborRel);
     return true;
 }
 
@@ -171,7 +162,7 @@ void CKvGuiBlkExtDlg::AddEntries(std::vector<kv::ImportedBlock> entries) {
 }
 
 void CKvGuiBlkExtDlg::ImportNeighborBlockInfo(const std::string& file) {
-    if (const auto text = kv::ReadTextFile(file)) ReadRelation(*text, m_mapNeighborRel);
+    if (const auto text = ReadAll(file)) ReadRelation(*text, m_mapNeighborRel);
 }
 
 // Export.

@@ -1,7 +1,5 @@
 #include "frame/import_folder.h"
 
-#include <new>
-
 #include "base/paths.h"
 #include "frame/kvcom/misc.h"
 #include "frame/kvcom/ut_registry.h"
@@ -23,13 +21,12 @@ void EnsureImportFolder(const std::string& belowWork) {
     CKvMisc::S_SetImportFilePath((work + belowWork).c_str());
 }
 
+BackToHome::BackToHome(const std::string& belowHome)
+    : home_(ToNative(Folder(CKvUtRegistry::S_GetHomePath(), CKvUtRegistry::S_GetHomeKey()) +
+                     belowHome)) {}
+
 BackToHome::~BackToHome() {
-    try {
-        ChangeFolder(Folder(CKvUtRegistry::S_GetHomePath(), CKvUtRegistry::S_GetHomeKey()) +
-                     belowHome_);
-    } catch (const std::bad_alloc&) {
-        // The folder stays the one that the dialog left, which no file that is open depends on.
-    }
+    ChangeNativeFolder(home_);
 }
 
 bool AskForFile(CFileDialog& dialog, const char* title, bool startInImportFolder) {

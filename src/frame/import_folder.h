@@ -14,16 +14,16 @@ namespace kv {
 KVGUICTL_API void EnsureImportFolder(const std::string& belowWork);
 
 /// Makes that folder below the home folder, such as "\App", the current one when it goes: a file
-/// dialog may have left the program in another.
+/// dialog may have left the program in another. Looked up at once, so that nothing fails then.
 class KVGUICTL_API BackToHome {
 public:
-    explicit BackToHome(std::string belowHome) : belowHome_(std::move(belowHome)) {}
+    explicit BackToHome(const std::string& belowHome);
     ~BackToHome();
     BackToHome(const BackToHome&) = delete;
     BackToHome& operator=(const BackToHome&) = delete;
 
 private:
-    std::string belowHome_;
+    std::string home_;
 };
 
 /// Asks for a file under that title; true when the user chose one, whose folder is then the import

@@ -1,6 +1,7 @@
 #include "qt/qt_desktop.h"
 
 #include <QApplication>
+#include <QBuffer>
 #include <QClipboard>
 #include <QEvent>
 #include <QEventLoop>
@@ -12,6 +13,7 @@
 #include <cmath>
 #include <vector>
 
+#include "base/paths.h"
 #include "qt/drawing/colors.h"
 #include "qt/drawing/text.h"
 #include "qt/peers/acting.h"
@@ -219,7 +221,11 @@ QMainWindow* MainWindowOf(const Node& frame) {
 
 bool SavePicture(const Node& window, const std::string& machinePath) {
     QWidget* widget = WidgetOf(window);
-    return widget && widget->grab().save(ToQString(machinePath), "PNG");
+    QBuffer png;
+    if (!widget || !png.open(QIODevice::WriteOnly) || !widget->grab().save(&png, "PNG"))
+        return false;
+    const QByteArray& bytes = png.data();
+    return WriteFileWhole(machinePath, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
 }
 
 }  // namespace kv::qt

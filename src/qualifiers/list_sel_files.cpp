@@ -1,10 +1,10 @@
 // Qualifier files and the list file.
 
+#include "base/foreign_text.h"
 #include "base/paths.h"
 #include "frame/catalogue.h"
 #include "frame/import_folder.h"
 #include "frame/kvcom/misc.h"
-#include "frame/kvlogs/log.h"
 #include "qualifiers/list_rows.h"
 #include "qualifiers/list_sel.h"
 #include "qualifiers/list_sel_ids.h"
@@ -19,6 +19,11 @@ namespace {
 constexpr const char* kFilter = "Text File |*.txt|All Files |*.*|";
 constexpr const char* kImportTitle = "Import Norvadon PC Qualifiers";
 constexpr const char* kExportTitle = "Export Norvadon PC Qualifiers";
+
+std::string WordsOfCut(const std::string& path, int cut) {
+    return path + ":\n" + std::to_string(cut) + (cut == 1 ? " line was" : " lines were") +
+           " longer than " + std::to_string(kv::kLongestQualifier) + " characters and cut there.";
+}
 
 /// Below the work folder, where no import folder is remembered.
 void EnsureImportFolder() {
@@ -35,22 +40,19 @@ void CKvGuiListSel::OnImportButton() {
 }
 
 void CKvGuiListSel::LoadQualifiers(const std::string& path) {
-    const auto text = kv::ReadTextFile(path);
-    if (!text) {
-        const std::string words = "Can't open settings file " + path + ".\nSettings not read.";
-        AfxMessageBox(words.c_str(), 0, 0);
+    const auto text = kv::ReadForeignText(path);
+    if (!text || !kv::IsText(*text)) {
+        const std::string fault =
+            text ? path + " is not a text file" : "Can't open settings file " + path;
+        AfxMessageBox((fault + ".\nSettings not read.").c_str(), 0, 0);
         return;
     }
     int cut = 0;
     for (const std::string& value : kv::ParseQualifiers(*text, &cut)) {
         Selected().AddString(value.c_str());
     }
-    if (cut > 0) {
-        CKvLog::Output(path + ": " + std::to_string(cut) + " lines were cut to " +
-                           std::to_string(kv::kLongestQualifier) + " characters",
-                       101, false);
-    }
     UpdateActionButtons();
+    if (cut > 0) AfxMessageBox(WordsOfCut(path, cut).c_str(), 0, 0);
 }
 
 void CKvGuiListSel::OnExportButton() {

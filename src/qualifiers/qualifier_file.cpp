@@ -1,7 +1,5 @@
 #include "qualifiers/qualifier_file.h"
 
-#include <algorithm>
-
 #include "base/text.h"
 
 namespace kv {
@@ -9,9 +7,7 @@ namespace kv {
 std::vector<std::string> ParseQualifiers(std::string_view text, int* cut) {
     if (cut) *cut = 0;
     std::vector<std::string> values;
-    for (std::string& line : SplitLines(text)) {
-        // In what is not text a zero byte ends the value, as it ends the text of any row.
-        line.erase(std::min(line.find('\0'), line.size()));
+    for (const std::string& line : SplitLines(text)) {
         if (line.empty() || line.front() == '#') continue;
         if (cut && line.size() > kLongestQualifier) ++*cut;
         const std::string value = ToUpper(TrimSpace(line.substr(0, kLongestQualifier)));

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <filesystem>
 
@@ -108,6 +109,13 @@ TEST(CFile, AFullDiskIsToldAndTheOldFileStays) {
     EXPECT_EQ(folder.Read("a"), "old");
     EXPECT_TRUE(file.Open(folder.Dialog("a").c_str(), CFile::modeRead));
     EXPECT_TRUE(file.Close());
+}
+
+TEST(CFile, DoesNotWaitForAPipe) {
+    const TempFolder folder;
+    ASSERT_EQ(mkfifo(folder.Native("pipe").c_str(), 0600), 0);
+    CFile file;
+    EXPECT_FALSE(file.Open(folder.Dialog("pipe").c_str(), CFile::modeRead));
 }
 
 TEST(CFile, TellsTheStatusOfAFile) {

@@ -230,6 +230,23 @@ TEST(ReadFile, AMissingFileAndAFolderCannotBeRead) {
     EXPECT_EQ(kv::ReadBinaryFile(""), std::nullopt);
 }
 
+TEST(ReadFile, APipeAndADeviceAreNoFiles) {
+    const TempFolder folder;
+    ASSERT_EQ(mkfifo(folder.Native("pipe").c_str(), 0600), 0);
+    EXPECT_EQ(kv::ReadBinaryFile(folder.Dialog("pipe")), std::nullopt);
+    EXPECT_EQ(kv::ReadBinaryFile("/dev/zero"), std::nullopt);
+    EXPECT_EQ(kv::ReadBinaryFile("/dev/null"), std::nullopt);
+}
+
+TEST(ReadFile, AFileWithoutEndIsNotRead) {
+    const TempFolder folder;
+    folder.Write("long", "");
+    fs::resize_file(folder.Native("long"), kv::kLongestFile);
+    EXPECT_EQ(kv::ReadBinaryFile(folder.Dialog("long")).value_or("").size(), kv::kLongestFile);
+    fs::resize_file(folder.Native("long"), kv::kLongestFile + 1);
+    EXPECT_EQ(kv::ReadBinaryFile(folder.Dialog("long")), std::nullopt);
+}
+
 TEST(WriteFile, WritesANewFileAndReplacesAnOldOne) {
     const TempFolder folder;
     EXPECT_TRUE(kv::WriteFileWhole(folder.Dialog("a.txt"), "first\n"));
@@ -255,6 +272,32 @@ TEST(WriteFile, ALinkStillLeadsToItsFile) {
     ASSERT_TRUE(kv::WriteFileWhole(folder.Dialog("link.txt"), "new"));
     EXPECT_TRUE(fs::is_symlink(folder.Native("link.txt")));
     EXPECT_EQ(folder.Read("real.txt"), "new");
+}
+
+TEST(WriteFile, ALinkToWhatIsNotThereYetLeadsToTheNewFile) {
+    const TempFolder folder;
+    fs::create_directory(folder.Native("sub"));
+    fs::create_symlink("sub/real.txt", folder.Native("second.txt"));
+    fs::create_symlink(folder.Native("second.txt"), folder.Native("first.txt"));
+    ASSERT_TRUE(kv::WriteFileWhole(folder.Dialog("first.txt"), "new"));
+    EXPECT_TRUE(fs::is_symlink(folder.Native("first.txt")));
+    EXPECT_TRUE(fs::is_symlink(folder.Native("second.txt")));
+    EXPECT_EQ(folder.Read("sub/real.txt"), "new");
+    EXPECT_EQ(folder.Count(), 3U);
+}
+
+TEST(WriteFile, ALinkThatLeadsNowhereIsNoTargetAndStays) {
+    const TempFolder folder;
+    fs::create_symlink("none/real.txt", folder.Native("lost.txt"));
+    fs::create_symlink("round.txt", folder.Native("round.txt"));
+    std::string error;
+    EXPECT_FALSE(kv::WriteFileWhole(folder.Dialog("lost.txt"), "x", &error));
+    EXPECT_EQ(error, "No such file or directory");
+    EXPECT_FALSE(kv::WriteFileWhole(folder.Dialog("round.txt"), "x", &error));
+    EXPECT_EQ(error, "Too many levels of symbolic links");
+    EXPECT_TRUE(fs::is_symlink(folder.Native("lost.txt")));
+    EXPECT_TRUE(fs::is_symlink(folder.Native("round.txt")));
+    EXPECT_EQ(folder.Count(), 2U);
 }
 
 TEST(WriteFile, OnAFullDiskTheOldFileStaysAndNothingIsLeftBehind) {

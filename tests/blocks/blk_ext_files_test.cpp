@@ -1,6 +1,7 @@
 // Import and Export, through the controls.
 
 #include <gmock/gmock.h>
+#include <sys/stat.h>
 
 #include <filesystem>
 #include <fstream>
@@ -8,6 +9,7 @@
 #include "blocks/block_files_fixture.h"
 #include "blocks/import_config_dlg.h"
 #include "blocks/import_config_ids.h"
+#include "support/file_faults.h"
 #include "support/file_size_limit.h"
 #include "support/plain_user.h"
 
@@ -160,9 +162,57 @@ TEST_F(BlkExtFiles, ImportReadsTheNeighborsAlsoWhereTheMarkerIsMissing) {
                 ElementsAre(Pair(Place("", ""), ElementsAre(Place("1", "B")))));
 }
 
-TEST_F(BlkExtFiles, ImportOfWhatIsNotTextEndsAtItsFirstZero) {
+TEST_F(BlkExtFiles, ImportReadsWhatAnyEditorWrites) {
     using namespace std::string_literals;
-    EXPECT_THAT(Imported("MMS CODE\nAB\t\nC\0D\t\nEF\t\n"s), ElementsAre("AB/"));
+    EXPECT_THAT(Imported("\xEF\xBB\xBF"
+                         "MMS CODE\r\nAB\t\r\n"),
+                ElementsAre("AB/"));
+    Given({});
+    EXPECT_THAT(Imported("\xFF\xFEM\0M\0S\0 \0C\0O\0D\0E\0\n\0C\0D\0\t\0\n\0"s),
+                ElementsAre("CD/"));
+    Given({});
+    EXPECT_THAT(Imported("AREA NAME\tBlock\rEF\t9\t\r\r***Neighborhood Relationship***\r"
+                         "[EF]\t9\rGH\t1\r"),
+                ElementsAre("EF/9"));
+    EXPECT_THAT(dialog.GetNeighborRel(),
+                ElementsAre(Pair(Place("EF", "9"), ElementsAre(Place("GH", "1")))));
+}
+
+TEST_F(BlkExtFiles, TheHeadIsCountedInTheDecodedText) {
+    // The words stand in the first 60 characters, and beyond the first 60 bytes of the file.
+    std::string wide = "\xFF\xFE";
+    for (const char ch : std::string(44, ' ') + "Block\tMMS CODE\nAB\t9\t\n") {
+        wide += ch;
+        wide += '\0';
+    }
+    EXPECT_THAT(Imported(wide), ElementsAre("AB/9"));
+    Given({});
+    EXPECT_THAT(Imported("\xEF\xBB\xBF" + std::string(52, ' ') + "MMS CODE\nCD\t\n"),
+                ElementsAre("CD/"));
+    Given({});
+    EXPECT_THAT(ImportedAsTold(std::string(53, ' ') + "MMS CODE\nEF\t\n", CloseConfig),
+                ElementsAre("EF/"));
+}
+
+TEST_F(BlkExtFiles, ImportOfWhatIsNotTextIsRefused) {
+    using namespace std::string_literals;
+    Given({{"PLAIN", ""}});
+    dialog.SetFieldString("area_abbr");
+    EXPECT_THAT(Imported("MMS CODE\nAB\t\nC\0D\t\nEF\t\n"s, kWrongFormat), ElementsAre("PLAIN/"));
+    EXPECT_THAT(Imported("M\0M\0S\0 \0C\0O\0D\0E\0"s, kWrongFormat), ElementsAre("PLAIN/"));
+    EXPECT_EQ(desktop.ScenesLeft(), 0);
+}
+
+TEST_F(BlkExtFiles, AnEmptyFileIsAUsersFileWithoutLines) {
+    EXPECT_THAT(ImportedAsTold("", CloseConfig), IsEmpty());
+}
+
+TEST_F(BlkExtFiles, ImportOfAPipeIsToldAndDoesNotWait) {
+    ASSERT_EQ(mkfifo(folder.Native("pipe.txt").c_str(), 0600), 0);
+    desktop.ExpectFile(folder.Dialog("pipe.txt"));
+    desktop.ExpectMessage(kNotOpened);
+    Run(dialog, [](kv::User& user) { user.Click(kImport); });
+    EXPECT_EQ(desktop.ScenesLeft(), 0);
 }
 
 TEST_F(BlkExtFiles, ImportOfAFileThatIsNotThereIsTold) {
@@ -368,6 +418,25 @@ TEST_F(BlkExtFiles, FixedWidthsOfAnotherVocabularyAreRefused) {
     EXPECT_THAT(Entries(), IsEmpty());
 }
 
+TEST_F(BlkExtFiles, EntriesAndNeighborsAreReadAtOnceOrNotAtAll) {
+    folder.Write("in.txt", "h\nA\t1\t \t\n\n***Neighborhood Relationship***\n[A]\t1\nB\t2\n");
+    const std::string path = folder.Dialog("in.txt");
+    for (const int failing : {1, 2}) {
+        SCOPED_TRACE(failing);
+        desktop.ExpectMessage(kNotOpened);
+        const test::FileFaults faults(failing);
+        EXPECT_FALSE(dialog.ReadImportFile(path, 3));
+        EXPECT_EQ(desktop.ScenesLeft(), 0);
+        EXPECT_THAT(Entries(), IsEmpty());
+        EXPECT_THAT(dialog.GetNeighborRel(), IsEmpty());
+    }
+    const test::FileFaults none(0);
+    EXPECT_TRUE(dialog.ReadImportFile(path, 3));
+    EXPECT_EQ(none.Calls(), 2);
+    EXPECT_THAT(Entries(), ElementsAre("A/1"));
+    EXPECT_THAT(dialog.GetNeighborRel(), SizeIs(1));
+}
+
 TEST_F(BlkExtFiles, ReadersTellWhetherTheFileCouldBeRead) {
     desktop.ExpectMessage(kNotOpened);
     EXPECT_FALSE(dialog.ReadImportFile(folder.Dialog("none.txt"), 3));
@@ -375,8 +444,10 @@ TEST_F(BlkExtFiles, ReadersTellWhetherTheFileCouldBeRead) {
     EXPECT_TRUE(dialog.ReadImportFile(folder.Dialog("in.txt"), 3));
     EXPECT_TRUE(dialog.ReadImportFile(folder.Dialog("in.txt"), -1, -1, -1));
     EXPECT_THAT(Entries(), ElementsAre("A/1"));
+    desktop.ExpectMessage(kNotOpened);
     dialog.ImportNeighborBlockInfo(folder.Dialog("none.txt"));
     EXPECT_THAT(dialog.GetNeighborRel(), IsEmpty());
+    EXPECT_EQ(desktop.ScenesLeft(), 0);
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // The list file, through the controls.
 
 #include <gmock/gmock.h>
+#include <sys/stat.h>
 
 #include "blocks/block_files_fixture.h"
 
@@ -97,6 +98,27 @@ TEST_F(BlkExtListFile, AFileThatCannotBeUsedLeavesTheBoxAsTheClickLeftIt) {
         user.Click(IDOK);
     });
     EXPECT_TRUE(dialog.GetListFileFlag());
+    EXPECT_EQ(dialog.GetListFileName(), "");
+}
+
+TEST_F(BlkExtListFile, MayComeFromAnyEditorAndMustBeText) {
+    using namespace std::string_literals;
+    EXPECT_TRUE(CheckAndChoose("\xFE\xFF\0A\0R\0E\0A\0 \0N\0A\0M\0E"s));
+    EXPECT_EQ(dialog.GetListFileName(), folder.Dialog("list.txt"));
+    dialog.SetListFileFlag(false);
+    dialog.SetListFileName("");
+    CheckAndChoose("AREA NAME\0"s, "The file is wrong format");
+    EXPECT_EQ(dialog.GetListFileName(), "");
+}
+
+TEST_F(BlkExtListFile, APipeOrADeviceIsToldAndNotWaitedFor) {
+    ASSERT_EQ(mkfifo(folder.Native("pipe").c_str(), 0600), 0);
+    for (const std::string& path : {folder.Dialog("pipe"), std::string("/dev/zero")}) {
+        desktop.ExpectFile(path);
+        desktop.ExpectMessage(kNotOpened);
+        Run(dialog, [](kv::User& user) { user.Click(kListFileButton); });
+        EXPECT_EQ(desktop.ScenesLeft(), 0);
+    }
     EXPECT_EQ(dialog.GetListFileName(), "");
 }
 

@@ -3,41 +3,52 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <memory>
+#include <optional>
 
-#include "support/out_of_memory.h"
+#include "base/paths.h"
+#include "frame/kvcom/ut_registry.h"
+#include "support/file_faults.h"
+#include "support/memory_fault.h"
 #include "support/temp_folder.h"
 
-namespace test {
 namespace {
 
-namespace fs = std::filesystem;
-
-class ImportFolder : public testing::Test {
+class BackToHome : public testing::Test {
 protected:
-    ImportFolder() {
-        fs::create_directories(folder_.Native("home/App"));
-        folder_.Write("registry.ini", "[SOFTWARE\\KVI]\nHOME_DIR=" + folder_.Dialog("home") + "\n");
-        fs::current_path(folder_.Native());
+    BackToHome() {
+        std::filesystem::create_directories(folder.Native("home/App"));
+        CKvUtRegistry().SetRegistry(CKvUtRegistry::S_GetHomePath(), CKvUtRegistry::S_GetHomeKey(),
+                                    folder.Dialog("home"));
+        std::filesystem::current_path(folder.Native());
     }
 
-    TempFolder folder_;
+    test::TempFolder folder;
 };
 
-TEST_F(ImportFolder, BackToHomeMakesTheFolderBelowHomeTheCurrentOne) {
-    { const kv::BackToHome back("\\App"); }
-    EXPECT_EQ(fs::current_path(), fs::canonical(folder_.Native("home/App")));
+TEST_F(BackToHome, GoesThereAtTheEndWhateverTheCaseOfTheName) {
+    {
+        const kv::BackToHome back("\\app");
+        EXPECT_EQ(kv::CurrentFolder(), folder.Dialog());
+    }
+    EXPECT_EQ(kv::CurrentFolder(), folder.Dialog("home\\App"));
 }
 
-TEST_F(ImportFolder, WithoutMemoryTheCurrentFolderStays) {
-    const fs::path before = fs::current_path();
-    auto back = std::make_unique<kv::BackToHome>("\\App");
+TEST_F(BackToHome, NeedsNoMemoryForIt) {
+    std::optional<kv::BackToHome> back("\\App");
     {
-        const OutOfMemory out;
+        const test::MemoryFault fault(0);
         back.reset();
     }
-    EXPECT_EQ(fs::current_path(), before);
+    EXPECT_EQ(kv::CurrentFolder(), folder.Dialog("home\\App"));
+}
+
+TEST_F(BackToHome, StaysWhereItIsIfThatFails) {
+    std::optional<kv::BackToHome> back("\\App");
+    {
+        const test::FileFaults faults(1);
+        back.reset();
+    }
+    EXPECT_EQ(kv::CurrentFolder(), folder.Dialog());
 }
 
 }  // namespace
-}  // namespace test

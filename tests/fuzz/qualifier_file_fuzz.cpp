@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/foreign_text.h"
 #include "base/text.h"
 #include "qualifiers/qualifier_file.h"
 
@@ -19,13 +20,16 @@ void CheckValue(const std::string& value) {
     Check(!value.empty() && value.size() <= kv::kLongestQualifier);
     Check(kv::TrimSpace(value) == value);
     Check(kv::ToUpper(value) == value);
-    Check(value.find('\n') == std::string::npos && value.find('\0') == std::string::npos);
+    Check(value.find('\n') == std::string::npos);
 }
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const std::string_view text(reinterpret_cast<const char*>(data), size);
+    const std::string_view bytes(reinterpret_cast<const char*>(data), size);
+    const std::string text = kv::DecodeText(bytes);
+    Check(text.size() <= 3 * size && text.find('\r') == std::string::npos);
+    if (!kv::IsText(text)) return 0;
     int cut = -1;
     std::vector<std::string> values = kv::ParseQualifiers(text, &cut);
     const auto lines = static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')) + 1;

@@ -1,6 +1,7 @@
 // Import, Export and the list file, through the controls.
 
 #include <gmock/gmock.h>
+#include <sys/stat.h>
 
 #include <filesystem>
 
@@ -9,6 +10,7 @@
 #include "qualifiers/lease_list_sel.h"
 #include "qualifiers/list_sel.h"
 #include "qualifiers/qualifier_fixture.h"
+#include "support/file_faults.h"
 #include "support/file_size_limit.h"
 #include "support/plain_user.h"
 #include "window/dialogs/file_dialog.h"
@@ -36,10 +38,12 @@ protected:
                              folder.Dialog("work"));
     }
 
-    /// What Selected holds after a file with that content was imported.
-    std::vector<std::string> Imported(const std::string& content) {
+    /// What Selected holds after a file with that content was imported; with a message if one is
+    /// to come.
+    std::vector<std::string> Imported(const std::string& content, const std::string& message = {}) {
         folder.Write("lists/in.txt", content);
         desktop.ExpectFile(folder.Dialog("lists\\in.txt"));
+        if (!message.empty()) desktop.ExpectMessage(message);
         std::vector<std::string> rows;
         Run(dialog, [&](kv::User& user) {
             user.Click(kImport);
@@ -115,17 +119,79 @@ TEST_F(ListSelFiles, ImportReadsLinesOfEveryForm) {
                 ElementsAre("AMBER", "SHELF OIL", "LAST"));
 }
 
-TEST_F(ListSelFiles, ImportCutsALineThatIsTooLongAndLogsIt) {
+TEST_F(ListSelFiles, ImportCutsLinesThatAreTooLongAndSaysOnceHowMany) {
+    const std::string path = folder.Dialog("lists\\in.txt");
     EXPECT_THAT(
         Imported(std::string(99, 'x') + "\n" + std::string(100, 'y') + "\n" +
-                 std::string(1000, 'z') + "\nend\n"),
+                     std::string(1000, 'z') + "\nend\n",
+                 path + ":\n2 lines were longer than 99 characters and cut there."),
         ElementsAre(std::string(99, 'X'), std::string(99, 'Y'), std::string(99, 'Z'), "END"));
-    EXPECT_THAT(folder.Read("log.txt"), HasSubstr("in.txt: 2 lines were cut to 99 characters"));
+    Given("");
+    EXPECT_THAT(Imported(std::string(100, 'y'),
+                         path + ":\n1 line was longer than 99 characters and cut there."),
+                ElementsAre(std::string(99, 'Y')));
+    EXPECT_EQ(desktop.ScenesLeft(), 0);
 }
 
-TEST_F(ListSelFiles, ImportOfWhatIsNotTextDoesNoHarm) {
+TEST_F(ListSelFiles, ImportReadsWhatAnyEditorWrites) {
     using namespace std::string_literals;
-    EXPECT_THAT(Imported("\0\0\n\x01\x02\0rest\nplain\n"s), ElementsAre("\x01\x02", "PLAIN"));
+    EXPECT_THAT(Imported("\xEF\xBB\xBFshelf\r\nb\r\n"), ElementsAre("SHELF", "B"));
+    Given("");
+    EXPECT_THAT(Imported("\xFF\xFEs\0\xE9\0\r\0\n\0b\0"s), ElementsAre("S\xC3\xA9", "B"));
+    Given("");
+    EXPECT_THAT(Imported("\xFE\xFF\0s\0\n\0b"s), ElementsAre("S", "B"));
+    Given("");
+    EXPECT_THAT(Imported("a\r# no\rb\r"), ElementsAre("A", "B"));
+    Given("");
+    EXPECT_THAT(Imported(""), IsEmpty());
+    EXPECT_THAT(Imported("\xEF\xBB\xBF"), IsEmpty());
+}
+
+TEST_F(ListSelFiles, ImportOfWhatIsNotTextIsRefused) {
+    using namespace std::string_literals;
+    Given("<LIST>", {"A"});
+    const std::string path = folder.Dialog("lists\\in.txt");
+    for (const std::string& content : {"plain\n\x7F"
+                                       "ELF\0\n"s,
+                                       "u\0t\0f\0"s, "\0"s}) {
+        EXPECT_THAT(Imported(content, path + " is not a text file.\nSettings not read."),
+                    ElementsAre("A"));
+    }
+    EXPECT_EQ(desktop.ScenesLeft(), 0);
+}
+
+TEST_F(ListSelFiles, ImportOfAPipeSaysSoAndDoesNotWait) {
+    const std::string path = folder.Dialog("pipe.txt");
+    ASSERT_EQ(mkfifo(folder.Native("pipe.txt").c_str(), 0600), 0);
+    desktop.ExpectFile(path);
+    desktop.ExpectMessage("Can't open settings file " + path + ".\nSettings not read.");
+    Run(dialog, [](kv::User& user) { user.Click(kImport); });
+    EXPECT_EQ(desktop.ScenesLeft(), 0);
+}
+
+TEST_F(ListSelFiles, ImportThatFailsWhileItReadsSaysSo) {
+    const std::string path = folder.Dialog("lists\\in.txt");
+    const std::string fault = "Can't open settings file " + path + ".\nSettings not read.";
+    folder.Write("lists/in.txt", "a\n");
+    const auto callsOfImport = [&](int failing, const std::vector<std::string>& rows) {
+        desktop.ExpectFile(path);
+        if (rows.empty()) desktop.ExpectMessage(fault);
+        int calls = 0;
+        Run(dialog, [&](kv::User& user) {
+            const test::FileFaults faults(failing);
+            user.Click(kImport);
+            EXPECT_EQ(user.Rows(kSelected), rows);
+            calls = faults.Calls();
+        });
+        return calls;
+    };
+    callsOfImport(0, {"A"});
+    const int last = callsOfImport(0, {"A"});
+    // The last one goes back to the home folder; the file is opened and read ahead of it.
+    EXPECT_EQ(callsOfImport(last, {"A"}), last);
+    for (const int failing : {last - 2, last - 1})
+        callsOfImport(failing, {});
+    EXPECT_EQ(desktop.ScenesLeft(), 0);
 }
 
 TEST_F(ListSelFiles, ImportOfAFileThatIsNotThereChangesNothing) {

@@ -54,13 +54,4 @@ TEST(QualifierFile, DoesNotCountALongCommentAsCut) {
     EXPECT_EQ(cut, 0);
 }
 
-TEST(QualifierFile, EndsAValueOfWhatIsNotTextAtAZeroByte) {
-    using namespace std::string_literals;
-    EXPECT_THAT(kv::ParseQualifiers("\x7f"
-                                    "ELF\0\0x\n\0\n\0a\n\xff\xfe\n"s),
-                ElementsAre("\x7f"
-                            "ELF",
-                            "\xff\xfe"));
-}
-
 }  // namespace

@@ -9,6 +9,7 @@ namespace {
 
 constexpr double kDegree = std::numbers::pi / 180;
 constexpr double kLastLatitude = 85;
+constexpr double kLastLongitude = 360;
 constexpr double kEarthRadiusKm = 6371;
 constexpr double kKmPerNauticalMile = 1.852;
 
@@ -16,7 +17,8 @@ constexpr double kKmPerNauticalMile = 1.852;
 
 Point ToMap(const Place& place) {
     const double lat = std::clamp(place.lat, -kLastLatitude, kLastLatitude);
-    return {place.lon, std::asinh(std::tan(lat * kDegree)) / kDegree};
+    const double lon = std::clamp(place.lon, -kLastLongitude, kLastLongitude);
+    return {lon, std::asinh(std::tan(lat * kDegree)) / kDegree};
 }
 
 Place ToPlace(const Point& point) {

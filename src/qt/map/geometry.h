@@ -22,7 +22,7 @@ struct Point {
     bool operator==(const Point&) const = default;
 };
 
-/// Latitudes beyond 85 degrees count as 85.
+/// Latitudes beyond 85 degrees count as 85, longitudes beyond 360 as 360.
 KVGUICTL_API Point ToMap(const Place& place);
 KVGUICTL_API Place ToPlace(const Point& point);
 

@@ -34,11 +34,12 @@ public:
             folder.Set(display, std::nullopt);
     }
 
-    Ended Run(const std::vector<std::string>& arguments) const {
+    /// What is printed goes where `output` says, in words of the shell, or else to the outcome.
+    Ended Run(const std::vector<std::string>& arguments, const std::string& output = {}) const {
         std::string line = Quoted(KVDLG_PROGRAM);
         for (const std::string& argument : arguments)
             line += " " + Quoted(argument);
-        line += " >" + Quoted(folder.Native("kvdlg.out")) + " 2>" +
+        line += " >" + Quoted(folder.Native("kvdlg.out")) + " " + output + " 2>" +
                 Quoted(folder.Native("kvdlg.error"));
         const int status = std::system(line.c_str());
         EXPECT_TRUE(WIFEXITED(status)) << line;
@@ -46,12 +47,12 @@ public:
     }
     /// Runs a dialog with a script, and what else stands on the command line.
     Ended Play(const std::string& className, const std::string& script,
-               const std::vector<std::string>& options = {}) const {
+               const std::vector<std::string>& options = {}, const std::string& output = {}) const {
         folder.Write("kvdlg.script", script);
         std::vector<std::string> arguments{"run", className, "--script",
                                            folder.Native("kvdlg.script")};
         arguments.insert(arguments.end(), options.begin(), options.end());
-        return Run(arguments);
+        return Run(arguments, output);
     }
     Json Describe(const std::string& className) const {
         return Run({"describe", className}).Printed();

@@ -2,6 +2,10 @@
 
 #include <gmock/gmock.h>
 
+#include <filesystem>
+
+#include "support/file_size_limit.h"
+
 namespace {
 
 using test::Kvdlg;
@@ -56,6 +60,32 @@ TEST(KvdlgProgram, AFileThatCannotBeReadEndsWith3) {
         EXPECT_EQ(ended.exit, 3);
         EXPECT_THAT(ended.error, HasSubstr("none.json cannot be read"));
     }
+}
+
+TEST(KvdlgProgram, OutputThatCannotBeWrittenEndsWith3) {
+    const Kvdlg kvdlg;
+    const std::pair<const char*, const char*> outputs[] = {
+        {">/dev/full", "No space left on device"}, {">&-", "Bad file descriptor"}};
+    for (const auto& [output, fault] : outputs) {
+        SCOPED_TRACE(output);
+        const std::string told =
+            std::string("kvdlg: The output cannot be written: ") + fault + "\n";
+        for (const auto& ended :
+             {kvdlg.Run({"list"}, output), kvdlg.Run({"describe", kStatus}, output),
+              kvdlg.Run({"--help"}, output), kvdlg.Run({"run", "--help"}, output),
+              kvdlg.Play(kStatus, kPickAndEnd, {}, output)}) {
+            EXPECT_EQ(ended.exit, 3);
+            EXPECT_EQ(ended.error, told);
+        }
+    }
+}
+
+TEST(KvdlgProgram, TooDeepAScriptIsRefused) {
+    const Kvdlg kvdlg;
+    const std::string deep(1'000'000, '[');
+    const auto ended = kvdlg.Play(kStatus, deep + std::string(deep.size(), ']'));
+    EXPECT_EQ(ended.exit, 2);
+    EXPECT_THAT(ended.error, HasSubstr("too many lists and objects inside each other"));
 }
 
 TEST(KvdlgProgram, InputsOfAFileGoOverThoseOfTheScript) {
@@ -127,6 +157,29 @@ TEST_F(KvdlgPicture, OfABarIsOfItsFrame) {
     const auto [width, height] = SizeOfPng(kvdlg.folder.Read("dialog.png"));
     EXPECT_GT(width, 600);
     EXPECT_GT(height, 20);
+}
+
+TEST_F(KvdlgPicture, OfAClosedOutputTakesNoFileForIt) {
+    // The windows' own files are opened ahead of the output.
+    const auto ended = kvdlg.Play(kStatus, kPickAndEnd, {"--picture", Path()}, ">&-");
+    EXPECT_EQ(ended.exit, 3);
+    EXPECT_THAT(ended.error, HasSubstr("Bad file descriptor"));
+}
+
+TEST_F(KvdlgPicture, OnAFullDiskTheOldOneStaysAndNothingIsLeftBeside) {
+    kvdlg.folder.Write("pictures/dialog.png", "old");
+    const test::TempFolder& folder = kvdlg.folder;
+    const std::string path = folder.Native("pictures/dialog.png");
+    test::Kvdlg::Ended ended;
+    {
+        const test::FileSizeLimit limit(1000);
+        ended = kvdlg.Play(kStatus, kPickAndEnd, {"--picture", path});
+    }
+    EXPECT_EQ(ended.exit, 3);
+    EXPECT_EQ(ended.error, "kvdlg: The picture " + path + " cannot be written\n");
+    EXPECT_EQ(folder.Read("pictures/dialog.png"), "old");
+    const std::filesystem::directory_iterator left(folder.Native("pictures"));
+    EXPECT_EQ(std::distance(begin(left), end(left)), 1);
 }
 
 TEST_F(KvdlgPicture, ThatCannotBeWrittenEndsWith3) {

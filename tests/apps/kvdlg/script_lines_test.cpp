@@ -2,6 +2,13 @@
 
 #include <gmock/gmock.h>
 
+#include "support/fuzz_corpus.h"
+
+// Each fuzz target has an entry of this name.
+#define LLVMFuzzerTestOneInput ScriptLinesFuzzOneInput
+#include "fuzz/script_lines_fuzz.cpp"
+#undef LLVMFuzzerTestOneInput
+
 namespace {
 
 using kvdlg::LinesOf;
@@ -27,6 +34,20 @@ TEST(ScriptLines, StopsQuietlyAtAFault) {
                              "]", "[[[", "{\"a\":[1 2]}", "nul"}) {
         EXPECT_THAT(LinesOf(text), Contains(Pair("", 1))) << text;
     }
+}
+
+TEST(ScriptLines, GoesDownToAHundredLists) {
+    std::string pointer;
+    for (int i = 0; i < kvdlg::kDeepestJson; ++i)
+        pointer += "/0";
+    const auto lines = LinesOf(std::string(1'000'000, '['));
+    EXPECT_THAT(lines, Contains(Pair(pointer, 1)));
+    EXPECT_THAT(lines, Contains(Pair(pointer + "/0", 1)));
+    EXPECT_EQ(lines.size(), pointer.size() / 2 + 2);
+}
+
+TEST(ScriptLinesCorpus, IsReadWithoutHarm) {
+    test::RunCorpus("script_lines", ScriptLinesFuzzOneInput);
 }
 
 }  // namespace
