@@ -31,29 +31,23 @@ void Log(const std::string& line) {
     CKvLog::Output(line, kLogLevel, false);
 }
 
-/// The schema is asked for while a statement is being read, where nothing may be thrown; a session
-/// that fails here fails again, and is heard, when the statement runs.
-bool HasSchema(Session& session, const std::string& name) noexcept {
-    try {
-        return session.HasSchema(name);
-    } catch (const CKvException&) {
-        return false;
-    }
-}
-
 Translation Translate(const std::string& sql, Session& session) {
     // The engines' client libraries take texts that end at a zero.
     if (sql.find('\0') != std::string::npos)
         throw CKvException("Refused: the statement holds a zero byte");
     kv::dialect::Context context;
     context.target = session.Target();
-    context.hasLeaseSort = session.HasLeaseSort();
-    context.hasSchema = [&](const std::string& name) { return HasSchema(session, name); };
+    context.hasOwnFunctions = session.HasOwnFunctions();
+    context.hasSchema = [&](const std::string& name) { return session.HasSchema(name); };
+    context.columnsOf = [&](const std::string& schema, const std::string& table) {
+        return session.ColumnsOf(schema, table);
+    };
     Translation translation = kv::dialect::Translate(sql, context);
     for (const std::string& note : translation.notes)
         Log(note);
-    if (!translation.refusal.empty()) throw CKvException(translation.refusal);
-    return translation;
+    if (translation.refusal.empty()) return translation;
+    if (!translation.text.empty()) session.Check(translation.text);
+    throw CKvException(translation.refusal);
 }
 
 /// As on Oracle, a definition and a grant commit what came before them, and themselves.

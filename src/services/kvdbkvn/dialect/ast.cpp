@@ -48,6 +48,10 @@ bool IsInteger(const Expr& expr) {
     return expr.kind == ExprKind::kNumber && std::ranges::all_of(expr.text, IsDigit);
 }
 
+bool IsBounded(const Query& query) {
+    return query.skippedRows > 0 || query.mostRows.has_value();
+}
+
 bool IsLiteral(const Expr& expr) {
     switch (expr.kind) {
         case ExprKind::kNull:

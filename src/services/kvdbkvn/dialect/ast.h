@@ -2,9 +2,13 @@
 
 #include <cstdint>
 #include <deque>
+#include <optional>
+#include <string>
 #include <string_view>
 #include <variant>
 #include <vector>
+
+#include "services/kvdbkvn/dialect/column.h"
 
 /// A statement as it was read. All texts are views into the statement's own; all nodes are owned by
 /// the `Arena` that they were made in. Chains of one operator are one node, so that the depth of a
@@ -18,8 +22,9 @@ enum class ExprKind : std::uint8_t {
     kNull,        ///< also the empty text
     kText,        ///< text: with its quotes; never empty
     kNumber,      ///< text
-    kColumn,      ///< names: up to three, the column's last
-    kStar,        ///< names: none, or those of a table
+    kDate,        ///< text: of "date '...'" and "timestamp '...'", with its quotes
+    kColumn,      ///< names: up to three, the column's last; type
+    kStar,        ///< names: none, or those of a table; text: of one without a table's name
     kCall,        ///< names: the function's; items: arguments; distinct
     kConcat,      ///< items
     kArithmetic,  ///< items; text: a sign between each two, all of one rank
@@ -33,6 +38,7 @@ enum class ExprKind : std::uint8_t {
     kNot,         ///< items: one
     kAnd,         ///< items
     kOr,          ///< items
+    kCast,        ///< items: one; text: the type's name; names: its sizes
     kCase,        ///< items: operand or null, pairs of when and then, else or null
     kRow,         ///< items
     kQuery,       ///< query
@@ -48,6 +54,8 @@ struct Expr {
     /// Of kArithmetic: the sign ahead of each item but the first.
     std::vector<char> signs = {};
     Query* query = nullptr;
+    /// Of kColumn, once it is resolved.
+    Type type = Type::kUnknown;
 };
 
 struct TableName {
@@ -64,6 +72,9 @@ struct TableRef {
     Query* query = nullptr;
     std::string_view alias = {};
     Expr* on = nullptr;
+    bool natural = false;
+    /// The columns behind "using".
+    std::vector<std::string_view> common = {};
 };
 
 struct SelectItem {
@@ -97,10 +108,22 @@ struct OrderItem {
     Nulls nulls = Nulls::kDefault;
 };
 
+/// A query that has a name, ahead of the one that uses it.
+struct NamedQuery {
+    std::string_view name = {};
+    std::vector<std::string_view> columns = {};
+    Query* query = nullptr;
+};
+
 /// Members are joined from left to right, whatever the operator.
 struct Query {
+    std::vector<NamedQuery> with = {};
     std::vector<Member> members = {};
     std::vector<OrderItem> orderBy = {};
+    std::uint64_t skippedRows = 0;
+    std::optional<std::uint64_t> mostRows = {};
+    /// Whether which rows come first matters to the query around it.
+    bool orderMatters = false;
 };
 
 struct InsertStatement {
@@ -178,6 +201,8 @@ struct Arena {
     std::deque<Expr> exprs;
     std::deque<Select> selects;
     std::deque<Query> queries;
+    /// Names that the statement's text does not hold.
+    std::deque<std::string> texts;
 };
 
 /// Whether both are the same name, with or without quotes.
@@ -192,6 +217,9 @@ bool IsCallOf(const Expr& expr, std::string_view function);
 
 /// A number without a point, or one with a minus ahead of it.
 bool IsInteger(const Expr& expr);
+
+/// Whether only some of the rows are wanted.
+bool IsBounded(const Query& query);
 
 /// A text, a number or null.
 bool IsLiteral(const Expr& expr);

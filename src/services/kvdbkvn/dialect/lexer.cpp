@@ -110,25 +110,26 @@ private:
         return at_ + ahead < sql_.size() ? sql_[at_ + ahead] : '\0';
     }
 
-    /// False at the end.
+    /// False at the end, and where a comment has none.
     bool SkipBlanks() {
         while (at_ < sql_.size()) {
             if (IsSpace(sql_[at_]))
                 ++at_;
             else if (At("--"))
                 at_ = std::min(sql_.find('\n', at_), sql_.size());
-            else if (At("/*"))
-                SkipBlockComment();
-            else
+            else if (!At("/*"))
                 return true;
+            else if (!SkipBlockComment())
+                return false;
         }
         return false;
     }
 
-    void SkipBlockComment() {
+    bool SkipBlockComment() {
         const std::size_t end = sql_.find("*/", at_ + 2);
-        tokens_.complete = tokens_.complete && end != std::string_view::npos;
-        at_ = end == std::string_view::npos ? sql_.size() : end + 2;
+        tokens_.complete = end != std::string_view::npos;
+        if (tokens_.complete) at_ = end + 2;
+        return tokens_.complete;
     }
 
     void Step() {

@@ -90,7 +90,7 @@ struct Tokens {
     /// Ends with a token of the kind kEnd. Views into the text that was read.
     std::vector<Token> list;
     /// False when a text, a quoted name or a comment has no end, or a text is quoted in a way of
-    /// which the end is not known: the list then stops there.
+    /// which the end is not known: the list then stops ahead of it.
     bool complete = true;
 };
 

@@ -5,6 +5,9 @@
 #include <optional>
 
 #include "base/text.h"
+#include "services/kvdbkvn/dialect/dates.h"
+#include "services/kvdbkvn/dialect/row_number.h"
+#include "services/kvdbkvn/dialect/type_names.h"
 
 namespace kv::dialect {
 namespace {
@@ -82,7 +85,13 @@ private:
     }
     std::string_view TakeAlias() {
         if (TakeIf(Word::kAs)) return ExpectName();
-        return IsName(Now()) ? Take().text : std::string_view();
+        return IsName(Now()) && !EndsAlias() ? Take().text : std::string_view();
+    }
+    /// Whether a word stands here that could be an alias, but is known by what follows it.
+    bool EndsAlias() const {
+        if (IsWord(Now(), "offset")) return Next().kind == TokenKind::kNumber;
+        if (IsWord(Now(), "fetch")) return IsWord(Next(), "first") || IsWord(Next(), "next");
+        return IsWord(Now(), "using") && Next().Is('(');
     }
 
     template <typename Element>
@@ -109,7 +118,7 @@ private:
     // Statements
 
     Statement ParseByFirstWord() {
-        if (Now().Is(Word::kSelect) || Now().Is('(')) return ParseQuery();
+        if (BeginsQuery(Now()) || Now().Is('(')) return ParseQuery();
         if (TakeIf("insert")) return ParseInsert();
         if (TakeIf("delete")) return ParseDelete();
         if (TakeIf("update")) return ParseUpdate();
@@ -205,8 +214,15 @@ private:
         const bool ofTable = IsWord(Next(), "table");
         if (ofTable && TakeIf("create")) return ParseCreateTable();
         if (ofTable && TakeIf("drop")) return ParseDropTable();
-        at_ = tokens_.size() - 1;
+        PassDefinition();
         return OtherDefinition{};
+    }
+
+    /// What is left to the engine must not hold what it takes otherwise.
+    void PassDefinition() {
+        for (; Now().kind != TokenKind::kEnd; ++at_)
+            if (BeginsQuery(Now()) || Now().text == "''" || Now().kind == TokenKind::kQuotedName)
+                Stop();
     }
 
     DropTableStatement ParseDropTable() {
@@ -290,6 +306,10 @@ private:
 
     // Queries
 
+    static bool BeginsQuery(const Token& token) {
+        return token.Is(Word::kSelect) || token.Is(Word::kWith);
+    }
+
     bool IsOpenAt(std::size_t index) const { return tokens_[index].Is('('); }
 
     /// Whether the bracket that stands here holds a query, and not an expression that begins with
@@ -298,7 +318,7 @@ private:
         std::size_t inner = at_;
         while (IsOpenAt(inner))
             ++inner;
-        if (inner == at_ || !tokens_[inner].Is(Word::kSelect)) return false;
+        if (inner == at_ || !BeginsQuery(tokens_[inner])) return false;
         for (std::size_t open = inner - 1; open > at_; --open) {
             const std::size_t close = tokens_[open].partner;
             if (close == Token::kNoPartner || !MayFollowMember(tokens_[close + 1])) return false;
@@ -308,12 +328,14 @@ private:
 
     static bool MayFollowMember(const Token& token) {
         return token.Is(')') || token.Is(Word::kUnion) || token.Is(Word::kIntersect) ||
-               token.Is(Word::kMinus) || token.Is(Word::kOrder);
+               token.Is(Word::kMinus) || token.Is(Word::kOrder) || IsWord(token, "offset") ||
+               IsWord(token, "fetch");
     }
 
     Query* ParseQuery() {
         const Nesting nesting(*this);
         Query& query = arena_.queries.emplace_back();
+        if (TakeIf(Word::kWith)) query.with = ParseList(&Parser::ParseNamedQuery);
         AddMember(query, SetOperator::kUnion);
         while (const auto op = TakeSetOperator())
             AddMember(query, *op);
@@ -321,7 +343,42 @@ private:
             Expect(Word::kBy);
             query.orderBy = ParseList(&Parser::ParseOrderItem);
         }
+        ParseRowLimits(query);
+        BoundByRowNumber(query, arena_);
         return TakeOutOfBrackets(query);
+    }
+
+    NamedQuery ParseNamedQuery() {
+        NamedQuery named;
+        named.name = ExpectName();
+        if (Now().Is('(')) named.columns = ParseNamesInBrackets();
+        Expect(Word::kAs);
+        named.query = ParseQueryInBrackets();
+        return named;
+    }
+
+    void ParseRowLimits(Query& query) {
+        if (IsWord(Now(), "offset") && Next().kind == TokenKind::kNumber) {
+            Take();
+            query.skippedRows = ExpectCount();
+            ExpectRows();
+        }
+        if (!TakeIf("fetch")) return;
+        if (!TakeIf("first")) Expect("next");
+        query.mostRows = Now().kind == TokenKind::kNumber ? ExpectCount() : 1;
+        ExpectRows();
+        Expect("only");
+    }
+
+    std::uint64_t ExpectCount() {
+        const auto count = CountOf(Now().text);
+        if (!count) Stop();
+        Take();
+        return *count;
+    }
+
+    void ExpectRows() {
+        if (!TakeIf("rows")) Expect("row");
     }
 
     std::optional<SetOperator> TakeSetOperator() {
@@ -340,7 +397,8 @@ private:
         }
         Query* inner = ParseQuery();
         Expect(')');
-        if (inner->orderBy.empty() && (query.members.empty() || inner->members.size() == 1)) {
+        const bool bare = inner->orderBy.empty() && inner->with.empty() && !IsBounded(*inner);
+        if (bare && (query.members.empty() || inner->members.size() == 1)) {
             inner->members.front().op = op;
             query.members.insert(query.members.end(), inner->members.begin(), inner->members.end());
             return;
@@ -352,7 +410,9 @@ private:
     /// replaces the one within.
     static Query* TakeOutOfBrackets(Query& query) {
         Query* inner = query.members.front().query;
-        if (query.members.size() > 1 || !inner) return &query;
+        if (query.members.size() > 1 || !inner || !query.with.empty() || IsBounded(query))
+            return &query;
+        if (!query.orderBy.empty() && IsBounded(*inner)) return &query;
         if (!query.orderBy.empty()) inner->orderBy = std::move(query.orderBy);
         return inner;
     }
@@ -385,27 +445,47 @@ private:
     }
 
     SelectItem ParseSelectItem() {
-        if (TakeIf('*')) return {Make(ExprKind::kStar)};
+        if (Now().Is('*')) return {WithText(Make(ExprKind::kStar), Take().text)};
         Expr* expr = ParseExpr();
         return {expr, expr->kind == ExprKind::kStar ? std::string_view() : TakeAlias()};
     }
 
     void ParseFrom(Select& select) {
+        bool merges = false;
         select.from.push_back(ParseTableRef(Join::kComma));
         while (true) {
+            // Engines differ in what a comma and a join that merges columns make of each other.
+            if (merges && Now().Is(',')) Stop();
             if (TakeIf(',')) {
                 select.from.push_back(ParseTableRef(Join::kComma));
                 continue;
             }
+            const Token& begin = Now();
+            const bool natural = TakeIf(Word::kNatural);
             const auto join = TakeJoin();
-            if (!join) return;
+            if (!join && !natural) return;
+            if (!join || (natural && *join == Join::kCross)) Stop();
             TableRef table = ParseTableRef(*join);
-            if (*join != Join::kCross) {
-                Expect(Word::kOn);
-                table.on = ParseExpr();
-            }
+            table.natural = natural;
+            if (*join != Join::kCross && !natural) ParseJoinCondition(table);
+            merges = merges || natural || !table.common.empty();
+            if (merges && HoldsComma(select.from)) throw Unreadable{begin.text};
             select.from.push_back(std::move(table));
         }
+    }
+
+    static bool HoldsComma(const std::vector<TableRef>& from) {
+        return std::any_of(from.begin() + 1, from.end(),
+                           [](const TableRef& ref) { return ref.join == Join::kComma; });
+    }
+
+    void ParseJoinCondition(TableRef& table) {
+        if (TakeIf("using")) {
+            table.common = ParseNamesInBrackets();
+            return;
+        }
+        Expect(Word::kOn);
+        table.on = ParseExpr();
     }
 
     std::optional<Join> TakeJoin() {
@@ -600,6 +680,8 @@ private:
             case TokenKind::kName:
                 if (TakeIf(Word::kNull)) return Make(ExprKind::kNull);
                 if (TakeIf(Word::kCase)) return ParseCase();
+                if (IsWord(Now(), "cast") && Next().Is('(')) return ParseCast();
+                if (Next().kind == TokenKind::kText) return ParseDate();
                 return ParseNamed();
             case TokenKind::kSign:
                 return ParseBracket();
@@ -645,7 +727,17 @@ private:
             named->names.push_back(ExpectName());
         }
         if (Now().Is('(')) ParseArguments(*named);
+        if (named->kind == ExprKind::kColumn && named->names.size() == 1) ReadConstant(*named);
         return named;
+    }
+
+    /// A function that is called without brackets.
+    void ReadConstant(Expr& named) const {
+        const std::string_view name = named.names.front();
+        if (EqualsNoCase(name, "sysdate")) named.kind = ExprKind::kCall;
+        // Engines differ in the time zone.
+        for (const std::string_view other : {"current_date", "current_time", "current_timestamp"})
+            if (EqualsNoCase(name, other)) throw Unreadable{name};
     }
 
     void ParseArguments(Expr& call) {
@@ -659,6 +751,33 @@ private:
             call.items = ParseList(&Parser::ParseExpr);
         }
         Expect(')');
+    }
+
+    Expr* ParseDate() {
+        const bool isDate = IsWord(Now(), "date") || IsWord(Now(), "timestamp");
+        if (!isDate) Stop();
+        const std::string_view format = IsWord(Now(), "date") ? "YYYY-MM-DD" : kWholeDateFormat;
+        const DateFormat parts = *ReadDateFormat(format);
+        Take();
+        if (!DateOf(Now().text.substr(1, Now().text.size() - 2), parts)) Stop();
+        return WithText(Make(ExprKind::kDate), Take().text);
+    }
+
+    /// To a text or a number: how a date is written depends on the server.
+    Expr* ParseCast() {
+        Take();
+        Expect('(');
+        Expr* cast = Make(ExprKind::kCast, {ParseExpr()});
+        Expect(Word::kAs);
+        ColumnDefinition target;
+        const Token& begin = Now();
+        ParseType(target);
+        const Type type = FindTypeName(target.type).type;
+        if (type != Type::kText && type != Type::kNumber) throw Unreadable{begin.text};
+        cast->text = target.type;
+        cast->names = target.sizes;
+        Expect(')');
+        return cast;
     }
 
     Expr* ParseCase() {

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <array>
 #include <string>
 
 #include "base/text.h"
@@ -11,11 +12,8 @@ bool IsNeverEmpty(const Expr& expr) {
     return expr.kind == ExprKind::kText || expr.kind == ExprKind::kNumber;
 }
 
-/// A text that begins like a number or a date takes the type of what it is compared with.
-bool ComparesByByte(const Expr& expr) {
-    if (expr.kind != ExprKind::kText) return TypeOf(expr) == Type::kText;
-    const char first = expr.text[1];
-    return !IsDigit(first) && first != '+' && first != '-' && first != '.';
+bool IsWritten(Type type) {
+    return type == Type::kText || type == Type::kNumberAsText;
 }
 
 }  // namespace
@@ -38,6 +36,7 @@ Printer::Rank Printer::RankOf(const Expr& expr) const {
         case ExprKind::kConcat:
             return ForPostgres() ? Rank::kPrimary : Rank::kSum;
         case ExprKind::kArithmetic:
+            if (IsTidied(expr) || TypeOf(expr) == Type::kDate) return Rank::kPrimary;
             return expr.signs.front() == '+' || expr.signs.front() == '-' ? Rank::kSum
                                                                           : Rank::kProduct;
         case ExprKind::kNegate:
@@ -65,6 +64,8 @@ void Printer::PutExpr(const Expr& expr) {
         case ExprKind::kText:
         case ExprKind::kNumber:
             return Put(expr.text);
+        case ExprKind::kDate:
+            return PutDate(expr);
         case ExprKind::kColumn:
             return PutColumnName(expr);
         case ExprKind::kStar:
@@ -103,6 +104,8 @@ void Printer::PutExpr(const Expr& expr) {
             return PutChain(expr, " and ", Rank::kNot);
         case ExprKind::kOr:
             return PutChain(expr, " or ", Rank::kAnd);
+        case ExprKind::kCast:
+            return PutCast(expr);
         case ExprKind::kCase:
             return PutCase(expr);
         case ExprKind::kRow:
@@ -148,18 +151,28 @@ void Printer::PutConcat(const Expr& concat, bool emptyIsNull) {
 
     if (guard) Put("nullif(");
     if (ForPostgres()) {
-        Put("concat(");
-        PutList(parts, [&](const Expr* part) { PutExpr(*part); });
-        Put(")");
+        PutConcatCall(parts);
     } else {
-        for (std::size_t i = 0; i < parts.size(); ++i) {
-            if (i > 0) Put(" || ");
-            PutConcatPart(*parts[i]);
-        }
+        PutInGroups(parts, " || ", [&](const Expr* part) { PutConcatPart(*part); });
         // A lone part is no text yet where it is a number.
         if (parts.size() == 1) Put(" || ''");
     }
     if (guard) Put(", '')");
+}
+
+/// A function of PostgreSQL takes so many arguments at most.
+void Printer::PutConcatCall(std::span<const Expr* const> parts) {
+    static constexpr std::size_t kMostArguments = 100;
+    const std::size_t step = (parts.size() + kMostArguments - 1) / kMostArguments;
+    Put("concat(");
+    for (std::size_t i = 0; i < parts.size(); i += step) {
+        if (i > 0) Put(", ");
+        if (step == 1)
+            PutExpr(*parts[i]);
+        else
+            PutConcatCall(parts.subspan(i, std::min(step, parts.size() - i)));
+    }
+    Put(")");
 }
 
 void Printer::PutConcatPart(const Expr& part) {
@@ -169,10 +182,44 @@ void Printer::PutConcatPart(const Expr& part) {
     Put(", '')");
 }
 
+/// Whether its value would show that the engine divides otherwise.
+bool Printer::IsTidied(const Expr& expr) const {
+    const auto divides = [](const auto& self, const Expr& e) -> bool {
+        if (e.kind != ExprKind::kArithmetic) return false;
+        return std::ranges::find(e.signs, '/') != e.signs.end() ||
+               std::ranges::any_of(e.items, [&](const Expr* item) { return self(self, *item); });
+    };
+    return !insideNumber_ && divides(divides, expr) && TypeOf(expr) == Type::kNumber;
+}
+
+/// A number without the zeros that an engine leaves at the end of a fraction.
+void Printer::PutTidied(const std::function<void()>& putNumber) {
+    if (insideNumber_) return putNumber();
+    Put(ForPostgres() ? "trim_scale(cast(" : "cast(cast(");
+    putNumber();
+    Put(ForPostgres() ? " as numeric))" : " as text) as numeric)");
+}
+
 void Printer::PutArithmetic(const Expr& expr) {
-    const Rank rank = RankOf(expr);
-    const Rank operandRank = rank == Rank::kSum ? Rank::kProduct : Rank::kSign;
-    PutExpr(*expr.items.front(), operandRank);
+    if (std::ranges::any_of(expr.items,
+                            [](const Expr* item) { return TypeOf(*item) == Type::kDate; }))
+        return PutDateArithmetic(expr);
+    if (!IsTidied(expr)) return PutReckoning(expr);
+    PutTidied([&] { PutUntidied(expr, [&] { PutReckoning(expr); }); });
+}
+
+/// What is only reckoned or compared with stays as the engine has it.
+void Printer::PutUntidied(const Expr& expr, const std::function<void()>& put) {
+    const bool ofNumbers = expr.kind == ExprKind::kArithmetic || expr.kind == ExprKind::kNegate;
+    const bool outer = std::exchange(insideNumber_, ofNumbers);
+    put();
+    insideNumber_ = outer;
+}
+
+void Printer::PutReckoning(const Expr& expr) {
+    const bool sum = expr.signs.front() == '+' || expr.signs.front() == '-';
+    const Rank operandRank = sum ? Rank::kProduct : Rank::kSign;
+    PutOperand(*expr.items.front(), operandRank);
     for (std::size_t i = 1; i < expr.items.size(); ++i) {
         const char sign = expr.signs[i - 1];
         // The engines cut the quotient of two integers.
@@ -180,25 +227,73 @@ void Printer::PutArithmetic(const Expr& expr) {
         Put(" ");
         Put(std::string_view(&sign, 1));
         Put(" ");
-        PutExpr(*expr.items[i], operandRank);
+        PutOperand(*expr.items[i], operandRank);
+    }
+}
+
+void Printer::PutOperand(const Expr& expr, Rank atLeast) {
+    if (TypeOf(expr) == Type::kText) return PutAsNumber(expr);
+    if (!insideNumber_) return PutExpr(expr, atLeast);
+    PutUntidied(expr, [&] { PutExpr(expr, atLeast); });
+}
+
+/// Fewer than the depth of a tree that SQLite takes.
+constexpr std::size_t kMostInGroup = 200;
+
+/// A chain of one operator, which SQLite reads as a tree that is as deep as the chain is long.
+void Printer::PutInGroups(std::span<const Expr* const> items, std::string_view between,
+                          const std::function<void(const Expr*)>& putItem) {
+    const bool plain = ForPostgres() || items.size() <= kMostInGroup;
+    const std::size_t step = plain ? 1 : (items.size() + kMostInGroup - 1) / kMostInGroup;
+    for (std::size_t i = 0; i < items.size(); i += step) {
+        if (i > 0) Put(between);
+        if (plain) {
+            putItem(items[i]);
+            continue;
+        }
+        Put("(");
+        PutInGroups(items.subspan(i, std::min(step, items.size() - i)), between, putItem);
+        Put(")");
     }
 }
 
 void Printer::PutChain(const Expr& chain, std::string_view between, Rank atLeast) {
-    for (std::size_t i = 0; i < chain.items.size(); ++i) {
-        if (i > 0) Put(between);
-        PutExpr(*chain.items[i], atLeast);
-    }
+    const std::vector<const Expr*> items(chain.items.begin(), chain.items.end());
+    PutInGroups(items, between, [&](const Expr* item) { PutExpr(*item, atLeast); });
+}
+
+// Comparisons
+
+/// Texts beside a number are taken as numbers.
+bool Printer::ComparesNumbers(Sides sides) {
+    return std::ranges::any_of(sides, [](const Expr* e) { return TypeOf(*e) == Type::kNumber; });
+}
+
+/// A written text is left to an engine that takes it as what it is compared with: PostgreSQL always
+/// does, SQLite beside a column.
+bool Printer::Adapts(const Expr& expr, Sides sides) const {
+    return expr.kind == ExprKind::kText &&
+           (ForPostgres() ||
+            std::ranges::any_of(sides, [](const Expr* e) { return e->kind == ExprKind::kColumn; }));
+}
+
+/// Texts go by byte: a text that reads as a number, too, where it stands beside a text.
+bool Printer::ComparesByByte(const Expr& expr, Sides sides) const {
+    if (!ForPostgres() || ComparesNumbers(sides)) return false;
+    if (expr.kind != ExprKind::kText) return TypeOf(expr) == Type::kText;
+    const char first = expr.text[1];
+    const bool mayBeOther = IsDigit(first) || first == '+' || first == '-' || first == '.';
+    return !mayBeOther ||
+           std::ranges::all_of(sides, [](const Expr* e) { return IsWritten(TypeOf(*e)); });
 }
 
 void Printer::PutComparison(const Expr& comparison) {
-    const Expr& left = *comparison.items[0];
-    const Expr& right = *comparison.items[1];
-    PutComparand(left, right, comparison.text);
+    const std::array<const Expr*, 2> sides = {comparison.items[0], comparison.items[1]};
+    PutComparand(*sides[0], *sides[1], comparison.text);
     Put(" ");
     Put(comparison.text);
     Put(" ");
-    PutComparand(right, left, comparison.text);
+    PutComparand(*sides[1], *sides[0], comparison.text);
 }
 
 void Printer::PutComparand(const Expr& expr, const Expr& other, std::string_view sign) {
@@ -206,14 +301,18 @@ void Printer::PutComparand(const Expr& expr, const Expr& other, std::string_view
     const bool emptyIsNull = sign != "=" || other.kind != ExprKind::kText || insideNot_ > 0;
     if (expr.kind == ExprKind::kConcat && !emptyIsNull && !OutputOf(expr))
         return PutConcat(expr, false);
-    if (sign == "=" || sign == "<>") return PutExpr(expr, Rank::kSum);
-    PutInByteOrder(expr);
+    const std::array<const Expr*, 2> sides = {&expr, &other};
+    PutSide(expr, sides, sign != "=" && sign != "<>");
 }
 
-void Printer::PutInByteOrder(const Expr& expr) {
-    const bool collate = ForPostgres() && ComparesByByte(expr);
-    PutExpr(expr, collate ? Rank::kPrimary : Rank::kSum);
-    if (collate) Put(" collate \"C\"");
+/// `byOrder`: whether it matters which of two texts comes first.
+void Printer::PutSide(const Expr& expr, Sides sides, bool byOrder) {
+    if (ComparesNumbers(sides) && IsWritten(TypeOf(expr)) && !Adapts(expr, sides))
+        return PutAsNumber(expr);
+    if (!byOrder || !ComparesByByte(expr, sides))
+        return PutUntidied(expr, [&] { PutExpr(expr, Rank::kSum); });
+    PutExpr(expr, Rank::kPrimary);
+    Put(" collate \"C\"");
 }
 
 void Printer::PutLike(const Expr& like) {
@@ -229,25 +328,38 @@ void Printer::PutLike(const Expr& like) {
 }
 
 void Printer::PutBetween(const Expr& between) {
-    PutInByteOrder(*between.items[0]);
+    const std::array<const Expr*, 3> sides = {between.items[0], between.items[1], between.items[2]};
+    PutSide(*sides[0], sides, true);
     Put(between.negated ? " not between (" : " between (");
-    PutInByteOrder(*between.items[1]);
+    PutSide(*sides[1], sides, true);
     Put(") and (");
-    PutInByteOrder(*between.items[2]);
+    PutSide(*sides[2], sides, true);
     Put(")");
 }
 
 void Printer::PutIn(const Expr& in) {
     const Expr& value = *in.items.front();
-    PutExpr(value, Rank::kSum);
+    if (in.query) return PutInQuery(in);
+    const std::vector<const Expr*> sides(in.items.begin(), in.items.end());
+    PutSide(value, sides, false);
     Put(in.negated ? " not in " : " in ");
-    if (in.query) return PutNested(*in.query);
     // SQLite knows rows of values in a list only so.
     const bool ofRows = value.kind == ExprKind::kRow && !ForPostgres();
     Put(ofRows ? "(values " : "(");
-    const std::vector<const Expr*> list(in.items.begin() + 1, in.items.end());
-    PutList(list, [&](const Expr* item) { PutExpr(*item); });
+    const Sides list = std::span(sides).subspan(1);
+    PutList(list, [&](const Expr* item) { PutSide(*item, sides, false); });
     Put(")");
+}
+
+void Printer::PutInQuery(const Expr& in) {
+    const Expr& value = *in.items.front();
+    Expr query;
+    query.kind = ExprKind::kQuery;
+    query.query = in.query;
+    const std::array<const Expr*, 2> sides = {&value, &query};
+    PutSide(value, sides, false);
+    Put(in.negated ? " not in " : " in ");
+    PutNested(*in.query);
 }
 
 void Printer::PutCase(const Expr& choice) {

@@ -100,66 +100,114 @@ std::optional<std::size_t> FindItem(const std::vector<SelectItem>& items, const 
     });
 }
 
-void Printer::PutQuery(const Query& query, bool outermost) {
-    const AsTextFlags asText = FindIntegersBesideTexts(query);
-    const std::vector<SortKey> keys = SortKeysOf(query, outermost);
+void Printer::PutQuery(const Query& query, bool outermost, bool named) {
+    PutNamedQueries(query);
+    const bool sorted = outermost || query.orderMatters || IsBounded(query);
+    const ColumnForms forms = FormsOf(query);
+    const std::vector<SortKey> keys = SortKeysOf(query, sorted);
     const bool byColumns =
         std::ranges::all_of(keys, [](const SortKey& k) { return k.column.has_value(); });
     const bool ofRows = !IsPlain(query) && CountColumns(query) > 0;
-    if (ofRows && !keys.empty() && (ForPostgres() || !byColumns))
-        return PutWrapped(query, asText, keys);
-    PutMembers(query, asText, false);
-    if (!keys.empty()) PutOrderOfRows(query, keys);
-}
-
-Printer::AsTextFlags Printer::FindIntegersBesideTexts(const Query& query) const {
-    AsTextFlags flags(CountColumns(query), false);
-    if (!ForPostgres() || query.members.size() < 2) return flags;
-    const std::vector<const Select*> selects = SelectsOf(query);
-    for (std::size_t i = 0; i < flags.size(); ++i) {
-        const auto isInteger = [&](const Select* s) { return IsInteger(*s->items[i].expr); };
-        const auto isNumber = [&](const Select* s) {
-            return TypeOf(*s->items[i].expr) == Type::kNumber;
-        };
-        flags[i] =
-            std::ranges::any_of(selects, isInteger) && !std::ranges::all_of(selects, isNumber);
+    if (ofRows && !keys.empty() && (ForPostgres() || !byColumns)) {
+        PutWrapped(query, forms, keys);
+    } else {
+        PutMembers(query, forms, named);
+        if (!keys.empty()) PutOrderOfRows(query, keys);
     }
-    return flags;
+    PutRowLimits(query);
 }
 
-void Printer::PutMembers(const Query& query, const AsTextFlags& asText, bool named) {
+void Printer::PutNamedQueries(const Query& query) {
+    if (query.with.empty()) return;
+    Put("with ");
+    PutList(query.with, [&](const NamedQuery& named) {
+        PutName(named.name);
+        if (!named.columns.empty()) {
+            Put(" ");
+            PutNamesInBrackets(named.columns);
+        }
+        Put(" as ");
+        PutNested(*named.query);
+    });
+    Put(" ");
+}
+
+void Printer::PutRowLimits(const Query& query) {
+    if (!IsBounded(query)) return;
+    // SQLite knows no offset alone.
+    if (query.mostRows || !ForPostgres()) Put(" limit ");
+    if (query.mostRows)
+        Put(*query.mostRows);
+    else if (!ForPostgres())
+        Put("-1");
+    if (query.skippedRows == 0) return;
+    Put(" offset ");
+    Put(query.skippedRows);
+}
+
+/// PostgreSQL settles the type of a column by the first two members, where literals alone are
+/// texts.
+Printer::ColumnForms Printer::FormsOf(const Query& query) const {
+    ColumnForms forms(CountColumns(query), Type::kUnknown);
+    if (!ForPostgres() || query.members.size() < 2) return forms;
+    const std::vector<const Select*> selects = SelectsOf(query);
+    for (std::size_t i = 0; i < forms.size(); ++i) {
+        Type type = Type::kNull;
+        bool numbers = true;
+        for (const Select* select : selects) {
+            const Type one = TypeOf(*select->items[i].expr);
+            type = Combine(type, one);
+            numbers = numbers && (one == Type::kNumber || one == Type::kNull);
+        }
+        if (!numbers && type != Type::kDate)
+            forms[i] = Type::kText;
+        else if (type != Type::kNull)
+            forms[i] = type;
+    }
+    return forms;
+}
+
+void Printer::PutMembers(const Query& query, const ColumnForms& forms, bool named) {
     const std::vector<Member>& members = query.members;
     // On PostgreSQL "intersect" binds tighter than the others: what stands before it goes into
     // brackets.
     const auto breaks = [&](std::size_t i) {
         return ForPostgres() && i > 1 && members[i].op == SetOperator::kIntersect;
     };
-    for (std::size_t i = 0; i < members.size(); ++i)
-        if (breaks(i)) Put("(");
+    // SQLite takes so many members at most.
+    static constexpr std::size_t kMostMembers = 400;
+    const auto splits = [&](std::size_t i) {
+        return !ForPostgres() && i > 0 && i % kMostMembers == 0;
+    };
     for (std::size_t i = 0; i < members.size(); ++i) {
-        if (breaks(i)) Put(")");
+        if (breaks(i)) Put("(");
+        if (splits(i)) Put("select * from (");
+    }
+    for (std::size_t i = 0; i < members.size(); ++i) {
+        if (breaks(i) || splits(i)) Put(")");
         if (i > 0) Put(OperatorWords(members[i].op));
-        PutMember(members[i], asText, named && i == 0);
+        PutMember(members[i], forms, named && i == 0);
     }
 }
 
-void Printer::PutMember(const Member& member, const AsTextFlags& asText, bool named) {
-    if (member.select) return PutSelect(*member.select, asText, named);
-    const bool bare = member.query->orderBy.empty();
+void Printer::PutMember(const Member& member, const ColumnForms& forms, bool named) {
+    if (member.select) return PutSelect(*member.select, forms, named);
+    const bool bare =
+        member.query->orderBy.empty() && member.query->with.empty() && !IsBounded(*member.query);
     // SQLite takes no member in brackets.
     Put(ForPostgres() ? "(" : "select * from (");
     if (bare)
-        PutMembers(*member.query, asText, named);
+        PutMembers(*member.query, forms, named);
     else
-        PutQuery(*member.query, false);
+        PutQuery(*member.query, false, named);
     Put(")");
 }
 
-void Printer::PutSelect(const Select& select, const AsTextFlags& asText, bool named) {
+void Printer::PutSelect(const Select& select, const ColumnForms& forms, bool named) {
     Put(select.distinct ? "select distinct " : "select ");
     std::size_t column = 0;
     PutList(select.items, [&](const SelectItem& item) {
-        PutSelectItem(item, column < asText.size() && asText[column]);
+        PutSelectItem(item, column < forms.size() ? forms[column] : Type::kUnknown);
         ++column;
         if (named) {
             Put(" as kv");
@@ -183,11 +231,15 @@ void Printer::PutSelect(const Select& select, const AsTextFlags& asText, bool na
 
 /// An integer that stands beside texts goes in quotes, which PostgreSQL takes as whatever type the
 /// column has.
-void Printer::PutSelectItem(const SelectItem& item, bool asText) {
-    if (asText && IsInteger(*item.expr))
-        PutAsTextLiteral(*item.expr);
-    else
-        PutExpr(*item.expr);
+/// `form`: what the column is to be, where that must be said.
+void Printer::PutSelectItem(const SelectItem& item, Type form) {
+    const Expr& expr = *item.expr;
+    const bool isNumber = IsLiteral(expr) && TypeOf(expr) == Type::kNumber;
+    const bool isNull = expr.kind == ExprKind::kNull;
+    if (form == Type::kText && isNumber) return PutAsTextLiteral(expr);
+    if (isNull && form == Type::kNumber) return Put("cast(null as numeric)");
+    if (isNull && form == Type::kDate) return Put("cast(null as timestamp)");
+    PutExpr(expr);
 }
 
 void Printer::PutFrom(const Select& select) {
@@ -201,9 +253,14 @@ void Printer::PutFrom(const Select& select) {
     bool first = true;
     for (std::size_t i = 0; i < from.size(); ++i) {
         if (IsDual(from[i]) && !isJoined(i) && !needsTable) continue;
-        Put(first ? " from " : JoinWords(from[i].join));
+        Put(first ? " from " : from[i].natural ? " natural" : "");
+        if (!first) Put(JoinWords(from[i].join));
         first = false;
         PutTableRef(from[i]);
+        if (!from[i].common.empty()) {
+            Put(" using ");
+            PutNamesInBrackets(from[i].common);
+        }
         if (!from[i].on) continue;
         Put(" on ");
         PutExpr(*from[i].on);
@@ -251,7 +308,7 @@ void Printer::PutTableDictionary() {
 
 // Order
 
-std::vector<Printer::SortKey> Printer::SortKeysOf(const Query& query, bool outermost) const {
+std::vector<Printer::SortKey> Printer::SortKeysOf(const Query& query, bool settled) const {
     const std::size_t columns = CountColumns(query);
     const std::vector<SelectItem>& items = SelectsOf(query).front()->items;
     std::vector<SortKey> keys;
@@ -260,10 +317,14 @@ std::vector<Printer::SortKey> Printer::SortKeysOf(const Query& query, bool outer
         SortKey key{std::nullopt, item.key, item.descending, item.nulls};
         if (columns > 0) key.column = FindItem(items, *item.key);
         if (key.column) used[*key.column] = true;
-        keys.push_back(key);
+        const Expr& expr = key.column && IsPlain(query) ? *items[*key.column].expr : *item.key;
+        // What is the same for all rows is no order, and PostgreSQL would read a number as a place.
+        const bool isPlace = !key.column && expr.kind == ExprKind::kNumber && IsInteger(expr);
+        const bool isColumn = key.column && !IsPlain(query);
+        if (isColumn || isPlace || !IsLiteral(expr)) keys.push_back(key);
     }
     // Rows that are equal by the keys come in one order on every engine.
-    const bool sorted = outermost && (!keys.empty() || IsSortedUnasked(query));
+    const bool sorted = settled && (!query.orderBy.empty() || IsSortedUnasked(query));
     for (std::size_t i = 0; sorted && i < columns; ++i) {
         const bool constant = IsPlain(query) && IsLiteral(*items[i].expr);
         if (!used[i] && !constant) keys.push_back({i, nullptr});
@@ -293,7 +354,7 @@ void Printer::PutOrdinals(const std::vector<SortKey>& keys) {
 
 /// Orders rows by columns of which the first select's items are the names: its items get short
 /// names, and the keys are said with them.
-void Printer::PutWrapped(const Query& query, const AsTextFlags& asText,
+void Printer::PutWrapped(const Query& query, const ColumnForms& forms,
                          const std::vector<SortKey>& keys) {
     std::vector<std::size_t> columns(CountColumns(query));
     std::ranges::generate(columns, [n = std::size_t{0}]() mutable { return ++n; });
@@ -304,11 +365,11 @@ void Printer::PutWrapped(const Query& query, const AsTextFlags& asText,
     Put("select ");
     PutList(columns, putColumn);
     Put(" from (");
-    PutMembers(query, asText, true);
+    PutMembers(query, forms, true);
     Put(") as kv order by ");
     const auto* outer = std::exchange(outputs_, &SelectsOf(query).front()->items);
     PutList(keys, [&](const SortKey& key) {
-        const Type type = key.column ? ColumnType(query, *key.column, asText) : TypeOf(*key.expr);
+        const Type type = key.column ? ColumnType(query, *key.column, forms) : TypeOf(*key.expr);
         PutSortKey(key, type, [&] {
             if (key.column)
                 putColumn(*key.column + 1);
@@ -319,12 +380,13 @@ void Printer::PutWrapped(const Query& query, const AsTextFlags& asText,
     outputs_ = outer;
 }
 
-Type Printer::ColumnType(const Query& query, std::size_t column, const AsTextFlags& asText) {
+Type Printer::ColumnType(const Query& query, std::size_t column, const ColumnForms& forms) {
     Type type = Type::kNull;
     for (const Select* select : SelectsOf(query)) {
         const Expr& expr = *select->items[column].expr;
-        const bool quoted = asText[column] && IsInteger(expr);
-        type = Combine(type, quoted ? Type::kNumberAsText : TypeOf(expr));
+        const bool quoted = forms[column] == Type::kText && IsLiteral(expr);
+        const Type one = TypeOf(expr);
+        type = Combine(type, quoted && one == Type::kNumber ? Type::kNumberAsText : one);
     }
     return type;
 }
@@ -344,7 +406,8 @@ void Printer::PutSortKey(const SortKey& key, Type type, const std::function<void
         Put(" as text) collate \"C\"");
     } else {
         putValue();
-        if (ForPostgres() && type != Type::kNumber && type != Type::kNull) Put(" collate \"C\"");
+        if (ForPostgres() && (type == Type::kText || type == Type::kNumberAsText))
+            Put(" collate \"C\"");
     }
     PutDirection(key);
 }

@@ -4,53 +4,11 @@
 #include <array>
 
 #include "base/text.h"
+#include "services/kvdbkvn/dialect/names.h"
+#include "services/kvdbkvn/dialect/type_names.h"
 
 namespace kv::dialect {
 namespace {
-
-struct TypeRow {
-    std::string_view name;
-    std::string_view sqlite;
-    std::string_view postgres;
-    bool sized;  ///< whether the sizes are kept
-    bool isText;
-};
-
-constexpr std::array<TypeRow, 25> kTypes = {{
-    {"varchar2", "varchar", "varchar", true, true},
-    {"nvarchar2", "varchar", "varchar", true, true},
-    {"varchar", "varchar", "varchar", true, true},
-    {"char", "char", "char", true, true},
-    {"nchar", "char", "char", true, true},
-    {"clob", "text", "text", false, true},
-    {"nclob", "text", "text", false, true},
-    {"long", "text", "text", false, true},
-    {"number", "numeric", "numeric", true, false},
-    {"numeric", "numeric", "numeric", true, false},
-    {"decimal", "numeric", "numeric", true, false},
-    {"dec", "numeric", "numeric", true, false},
-    {"integer", "numeric(38)", "numeric(38)", false, false},
-    {"int", "numeric(38)", "numeric(38)", false, false},
-    {"smallint", "numeric(38)", "numeric(38)", false, false},
-    {"float", "real", "double precision", false, false},
-    {"real", "real", "double precision", false, false},
-    {"double", "real", "double precision", false, false},
-    {"binary_double", "real", "double precision", false, false},
-    {"binary_float", "real", "double precision", false, false},
-    // A date holds the time of day, too.
-    {"date", "text", "timestamp(0)", false, false},
-    {"timestamp", "text", "timestamp", true, false},
-    {"blob", "blob", "bytea", false, false},
-    {"raw", "blob", "bytea", false, false},
-    {"rowid", "text", "text", false, true},
-}};
-
-/// Unknown types are left to the engine.
-TypeRow FindType(std::string_view name) {
-    const auto row = std::ranges::find_if(
-        kTypes, [&](const TypeRow& type) { return EqualsNoCase(type.name, name); });
-    return row == kTypes.end() ? TypeRow{name, name, name, true, false} : *row;
-}
 
 /// What PostgreSQL knows of the privileges on a table.
 constexpr std::array<std::string_view, 6> kPostgresPrivileges = {"select", "insert",     "update",
@@ -112,22 +70,12 @@ bool Printer::HasSchema(std::string_view name) {
     return has;
 }
 
-/// PostgreSQL keeps the names that are upper-case elsewhere in lower case. A number sign is part of
-/// a name only in quotes.
+/// SQLite takes a name in double quotes for a text where it knows no such column. A number sign is
+/// part of a name only in quotes.
 void Printer::PutName(std::string_view name) {
-    const bool quoted = name.starts_with('"');
-    const bool mixed =
-        quoted && std::ranges::any_of(name, [](char ch) { return ch >= 'a' && ch <= 'z'; });
-    const bool fold = ForPostgres() && !mixed;
-    if (!quoted && name.find('#') != std::string_view::npos) {
-        Put("\"");
-        Put(fold ? ToLower(name) : std::string(name));
-        Put("\"");
-    } else if (quoted && fold) {
-        Put(ToLower(name));
-    } else {
-        Put(name);
-    }
+    if (!name.starts_with('"') && name.find('#') == std::string_view::npos) return Put(name);
+    const std::string quote = ForPostgres() ? "\"" : "`";
+    Put(quote + ReplaceAll(EngineName(name, context_.target), quote, quote + quote) + quote);
 }
 
 void Printer::PutNames(const std::vector<std::string_view>& names) {
@@ -243,7 +191,7 @@ void Printer::PutStatement(const CreateTableStatement& create) {
 }
 
 void Printer::PutColumn(const ColumnDefinition& column, bool inPrimaryKey) {
-    const TypeRow type = FindType(column.type);
+    const TypeName type = FindTypeName(column.type);
     PutName(column.name);
     Put(" ");
     const std::string_view typeName = ForPostgres() ? type.postgres : type.sqlite;
@@ -253,7 +201,7 @@ void Printer::PutColumn(const ColumnDefinition& column, bool inPrimaryKey) {
         PutList(column.sizes, [&](std::string_view size) { Put(size); });
         Put(")");
     }
-    if (ForPostgres() && type.isText) Put(" collate \"C\"");
+    if (ForPostgres() && type.type == Type::kText) Put(" collate \"C\"");
     if (column.defaultValue) {
         Put(" default ");
         PutExpr(*column.defaultValue, Rank::kPrimary);

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <functional>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -10,6 +11,7 @@
 
 #include "services/kvdbkvn/dialect/ast.h"
 #include "services/kvdbkvn/dialect/context.h"
+#include "services/kvdbkvn/dialect/dates.h"
 #include "services/kvdbkvn/dialect/types.h"
 
 namespace kv::dialect {
@@ -39,8 +41,8 @@ private:
         Nulls nulls = Nulls::kDefault;
     };
 
-    /// Which integers of a union stand beside texts, by column.
-    using AsTextFlags = std::vector<bool>;
+    /// What literals must be written as for the columns of a union to get their types.
+    using ColumnForms = std::vector<Type>;
 
     bool ForPostgres() const { return context_.target == Target::kPostgres; }
 
@@ -74,25 +76,27 @@ private:
     void PutTableName(const TableName& table);
 
     // Queries
-    void PutQuery(const Query& query, bool outermost);
-    void PutMembers(const Query& query, const AsTextFlags& asText, bool named);
-    void PutMember(const Member& member, const AsTextFlags& asText, bool named);
-    void PutSelect(const Select& select, const AsTextFlags& asText, bool named);
-    void PutSelectItem(const SelectItem& item, bool asText);
+    /// `named`: whether its columns are to have the names kv1, kv2 and so on.
+    void PutQuery(const Query& query, bool outermost, bool named = false);
+    void PutMembers(const Query& query, const ColumnForms& forms, bool named);
+    void PutMember(const Member& member, const ColumnForms& forms, bool named);
+    void PutSelect(const Select& select, const ColumnForms& forms, bool named);
+    void PutSelectItem(const SelectItem& item, Type form);
     void PutFrom(const Select& select);
     void PutTableRef(const TableRef& ref);
     void PutTableDictionary();
-    AsTextFlags FindIntegersBesideTexts(const Query& query) const;
+    ColumnForms FormsOf(const Query& query) const;
+    void PutNamedQueries(const Query& query);
+    void PutRowLimits(const Query& query);
 
     // Order
-    std::vector<SortKey> SortKeysOf(const Query& query, bool outermost) const;
+    std::vector<SortKey> SortKeysOf(const Query& query, bool settled) const;
     void PutOrderOfRows(const Query& query, const std::vector<SortKey>& keys);
     void PutOrdinals(const std::vector<SortKey>& keys);
-    void PutWrapped(const Query& query, const AsTextFlags& asText,
-                    const std::vector<SortKey>& keys);
+    void PutWrapped(const Query& query, const ColumnForms& forms, const std::vector<SortKey>& keys);
     void PutSortKey(const SortKey& key, Type type, const std::function<void()>& putValue);
     void PutDirection(const SortKey& key);
-    static Type ColumnType(const Query& query, std::size_t column, const AsTextFlags& asText);
+    static Type ColumnType(const Query& query, std::size_t column, const ColumnForms& forms);
 
     // Expressions
     Rank RankOf(const Expr& expr) const;
@@ -103,16 +107,43 @@ private:
     void PutColumnName(const Expr& column);
     void PutConcat(const Expr& concat, bool emptyIsNull);
     void PutConcatPart(const Expr& part);
+    void PutConcatCall(std::span<const Expr* const> parts);
+    bool IsTidied(const Expr& expr) const;
+    void PutTidied(const std::function<void()>& putNumber);
+    void PutUntidied(const Expr& expr, const std::function<void()>& put);
     void PutArithmetic(const Expr& expr);
+    void PutReckoning(const Expr& expr);
+    void PutOperand(const Expr& expr, Rank atLeast);
     void PutChain(const Expr& chain, std::string_view between, Rank atLeast);
+    void PutInGroups(std::span<const Expr* const> items, std::string_view between,
+                     const std::function<void(const Expr*)>& putItem);
+    void PutLike(const Expr& like);
+    void PutCast(const Expr& cast);
+
+    // Comparisons. `sides`: all that are compared with one another
+    using Sides = std::span<const Expr* const>;
+    static bool ComparesNumbers(Sides sides);
+    bool Adapts(const Expr& expr, Sides sides) const;
+    bool ComparesByByte(const Expr& expr, Sides sides) const;
     void PutComparison(const Expr& comparison);
     void PutComparand(const Expr& expr, const Expr& other, std::string_view sign);
-    void PutInByteOrder(const Expr& expr);
-    void PutLike(const Expr& like);
+    void PutSide(const Expr& expr, Sides sides, bool byOrder);
     void PutBetween(const Expr& between);
     void PutIn(const Expr& in);
+    void PutInQuery(const Expr& in);
     void PutCase(const Expr& choice);
     void PutNested(const Query& query);
+
+    // Dates
+    void PutDate(const Expr& date);
+    void PutDateText(const std::string& date);
+    void PutDateArithmetic(const Expr& expr);
+    void PutDays(const Expr& days, char sign, const std::function<void()>& putDate);
+    void PutSysdate(const Expr& call);
+    void PutToDate(const Expr& call);
+    void PutTrunc(const Expr& call);
+    void PutDateToChar(const Expr& date, const DateFormat& format);
+    void PutNumberToChar(const Expr& number, std::string_view format);
 
     // Functions
     struct Function;
@@ -130,6 +161,18 @@ private:
     void PutSubstrAnywhere(const Expr& call);
     void PutToChar(const Expr& call);
     void PutToNumber(const Expr& call);
+    void PutAsNumber(const Expr& expr);
+    void PutTextOf(const Expr& call);
+    void PutPlainCall(const Expr& call, const std::function<void(const Expr&)>& putArgument);
+    void PutNumberOf(const Expr& call);
+    void PutTidiedNumberOf(const Expr& call);
+    void PutInstr(const Expr& call);
+    void PutConcatOf(const Expr& call);
+    void PutTrimmed(const Expr& call);
+    void PutNvl2(const Expr& call);
+    void PutExtreme(const Expr& call);
+    void PutLargestOrSmallest(const Expr& call);
+    void PutReplace(const Expr& call);
     void PutLeaseSort(const Expr& call);
 
     /// The column of the rows being ordered that an expression is; only inside of `PutWrapped`.
@@ -142,6 +185,7 @@ private:
     std::vector<std::pair<std::string_view, bool>> schemas_;
     const std::vector<SelectItem>* outputs_ = nullptr;
     int insideNot_ = 0;
+    bool insideNumber_ = false;
     std::size_t unnamedQueries_ = 0;
 };
 

@@ -8,6 +8,7 @@
 #include "services/kvdbkvn/dialect/lexer.h"
 #include "services/kvdbkvn/dialect/parser.h"
 #include "services/kvdbkvn/dialect/printer.h"
+#include "services/kvdbkvn/dialect/resolve.h"
 
 namespace kv::dialect {
 namespace {
@@ -15,8 +16,10 @@ namespace {
 constexpr const char* kTwoStatements = "Refused: the text holds more than one statement";
 constexpr const char* kNoStatement = "Refused: the text holds no statement";
 constexpr const char* kUntouched = "A statement goes to the database as it stands: ";
+const std::string kRefused = "Refused: the statement cannot be translated, since ";
 constexpr const char* kSurplusBracket =
     "A statement was read without the bracket that it closes at its end and never opened";
+constexpr const char* kTooLong = "it would become too long";
 constexpr const char* kOtherDefinition = "a definition of a kind that is not translated";
 
 /// How much longer than the text that was read the printed one may be.
@@ -48,27 +51,41 @@ public:
     Translation Run() {
         if (IsProgram()) return AsItStands("a program is not translated");
         if (!DropClosingSemicolons()) return Refuse(kTwoStatements);
-        if (!tokens_.complete) return AsItStands("a text in it has no end");
+        if (!tokens_.complete) return NotRead(Where("it does not end what begins", Unended()));
         if (tokens_.list.size() == 1) return Refuse(kNoStatement);
         const bool surplus = DropSurplusBrackets();
         try {
             const Statement statement = Parse(tokens_.list, arena_);
             result_.kind = std::visit(KindOf{}, statement);
-            Print(statement);
+            return Printed(statement, surplus);
         } catch (const Refused& refused) {
             return RefusedBy(refused);
         } catch (const Unreadable& unreadable) {
-            return AsItStands(Where(unreadable));
+            return NotRead(Where("it is not understood", unreadable.near));
+        }
+    }
+
+private:
+    /// What is read but cannot be said to the engine is refused at once: nobody else knows better.
+    Translation Printed(const Statement& statement, bool surplus) {
+        try {
+            if (context_.target != Target::kOracle) Resolve(statement, context_, arena_);
+            Print(statement);
+        } catch (const Unreadable& unreadable) {
+            return Refuse(kRefused + Where("it has no counterpart", unreadable.near));
         } catch (const TooLong&) {
-            return AsItStands("it would become too long");
+            return Refuse(kRefused + kTooLong);
         }
         if (surplus) result_.notes.push_back(kSurplusBracket);
         return std::move(result_);
     }
 
-private:
     bool IsWordAt(std::size_t index, std::string_view word) const {
         return index < tokens_.list.size() && EqualsNoCase(tokens_.list[index].text, word);
+    }
+
+    std::string_view Unended() const {
+        return sql_.substr(static_cast<std::size_t>(tokens_.list.back().text.data() - sql_.data()));
     }
 
     bool IsProgram() const {
@@ -134,16 +151,35 @@ private:
         return std::move(result_);
     }
 
+    /// Any other engine would give it a meaning of its own.
+    Translation NotRead(const std::string& reason) {
+        Translation untouched = AsItStands(reason);
+        if (context_.target == Target::kOracle) return untouched;
+        untouched.notes.clear();
+        untouched.refusal = kRefused + reason;
+        return untouched;
+    }
+
     /// Oracle has words of its own for the same.
     Translation RefusedBy(const Refused& refused) {
         if (context_.target == Target::kOracle) return AsItStands(refused.words);
         return Refuse(refused.words);
     }
 
-    static std::string Where(const Unreadable& unreadable) {
+    /// `near`: the part of the text that the reason is about, empty at its end.
+    std::string Where(const char* reason, std::string_view near) const {
         static constexpr std::size_t kMostShown = 40;
-        if (unreadable.near.empty()) return "it is not understood at its end";
-        return "it is not understood near " + std::string(unreadable.near.substr(0, kMostShown));
+        const auto isFirstByte = [](char ch) { return (ch & 0xC0) != 0x80; };
+        const std::size_t at =
+            near.empty() ? sql_.size() : static_cast<std::size_t>(near.data() - sql_.data());
+        const auto character = std::ranges::count_if(sql_.substr(0, at), isFirstByte) + 1;
+        std::string_view rest = sql_.substr(at, kMostShown);
+        while (at + rest.size() < sql_.size() && !rest.empty() &&
+               !isFirstByte(sql_[at + rest.size()]))
+            rest.remove_suffix(1);
+        const std::string place = " at character " + std::to_string(character);
+        if (rest.empty()) return reason + place + ", its end";
+        return reason + place + ": " + std::string(rest);
     }
 
     std::string_view sql_;
@@ -159,14 +195,7 @@ private:
 }  // namespace
 
 Translation Translate(std::string_view sql, const Context& context) {
-    try {
-        return Translator(sql, context).Run();
-    } catch (...) {
-        Translation untouched;
-        untouched.text = sql;
-        untouched.notes.push_back(std::string(kUntouched) + "it could not be translated");
-        return untouched;
-    }
+    return Translator(sql, context).Run();
 }
 
 }  // namespace kv::dialect

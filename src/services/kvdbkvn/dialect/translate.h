@@ -16,7 +16,7 @@ enum class Kind {
     kDefine,   ///< create, drop, alter: commits
     kGrant,    ///< grant, revoke
     kCommit,   ///< commit
-    kUnknown,  ///< not understood: left to the engine
+    kUnknown,  ///< not understood
 };
 
 struct Translation {
@@ -24,13 +24,14 @@ struct Translation {
     /// The text to send. Empty when the engine has no counterpart: the statement then succeeds.
     /// For a text that could not be read it is the text as it came.
     std::string text;
-    /// Not empty: the statement is refused with these words and nothing is sent.
+    /// Not empty: the statement is refused with these words and nothing is run. Where there is a
+    /// text, too, the engine may refuse it with better words, and is to be asked for them first.
     std::string refusal;
     /// Lines for the log: what was read in another way than it was written, what was left out.
     std::vector<std::string> notes;
 };
 
-/// Translates one statement. Never throws.
+/// Translates one statement. Throws nothing but what the context's functions throw.
 Translation Translate(std::string_view sql, const Context& context);
 
 }  // namespace kv::dialect

@@ -5,21 +5,23 @@
 #include <string_view>
 
 #include "base/text.h"
+#include "services/kvdbkvn/dialect/type_names.h"
 
 namespace kv::dialect {
 namespace {
 
-constexpr std::array<std::string_view, 12> kTextFunctions = {
-    "concat",  "initcap", "lesort", "lower",  "lpad",    "ltrim",
-    "replace", "rpad",    "rtrim",  "substr", "to_char", "trim"};
-constexpr std::array<std::string_view, 10> kNumberFunctions = {
-    "abs", "avg", "ceil", "count", "floor", "instr", "length", "mod", "sum", "to_number"};
+constexpr std::array<std::string_view, 13> kTextFunctions = {
+    "concat", "initcap", "lesort", "lower",   "lpad", "ltrim", "replace",
+    "rpad",   "rtrim",   "substr", "to_char", "trim", "upper"};
+constexpr std::array<std::string_view, 14> kNumberFunctions = {
+    "abs", "avg",   "ceil",  "count", "floor", "instr", "length",
+    "mod", "power", "round", "sign",  "sqrt",  "sum",   "to_number"};
+constexpr std::array<std::string_view, 2> kDateFunctions = {"sysdate", "to_date"};
+/// What they give is of the type of what they are given.
+constexpr std::array<std::string_view, 6> kChoosingFunctions = {"coalesce", "greatest", "least",
+                                                                "max",      "min",      "nvl"};
 
-bool ReadsAsNumber(std::string_view quoted) {
-    std::string_view text = quoted.substr(1, quoted.size() - 2);
-    return text.find_first_not_of(" +-.0123456789eE") == std::string_view::npos &&
-           std::ranges::any_of(text, IsDigit);
-}
+Type Settled(Type type);
 
 /// Of the items from `first` on, each `step`-th.
 Type CombineItems(const std::vector<Expr*>& items, std::size_t first, std::size_t step) {
@@ -41,8 +43,27 @@ Type TypeOfCall(const Expr& call) {
     if (std::ranges::any_of(kTextFunctions, isOne)) return Type::kText;
     if (std::ranges::any_of(kNumberFunctions, isOne)) return Type::kNumber;
     if (IsCallOf(call, "decode") && call.items.size() >= 3) return TypeOfChoices(call.items, 2);
-    if (IsCallOf(call, "nvl")) return CombineItems(call.items, 0, 1);
+    if (std::ranges::any_of(kDateFunctions, isOne)) return Type::kDate;
+    if (std::ranges::any_of(kChoosingFunctions, isOne)) return CombineItems(call.items, 0, 1);
+    if ((IsCallOf(call, "trunc") || IsCallOf(call, "nullif")) && !call.items.empty())
+        return TypeOf(*call.items.front());
     return Type::kUnknown;
+}
+
+/// Days before or after a date are a date; those between two are a number.
+Type TypeOfArithmetic(const Expr& expr) {
+    const auto dates = std::ranges::count_if(
+        expr.items, [](const Expr* item) { return TypeOf(*item) == Type::kDate; });
+    return dates == 1 ? Type::kDate : Type::kNumber;
+}
+
+/// Of one with a single column.
+Type TypeOfQuery(const Query& query) {
+    if (CountColumns(query) != 1) return Type::kUnknown;
+    Type type = Type::kNull;
+    for (const Select* select : SelectsOf(query))
+        type = Combine(type, TypeOf(*select->items.front().expr));
+    return Settled(type);
 }
 
 /// What an engine makes of the results of a choice: texts alone are text.
@@ -65,11 +86,33 @@ bool IsStar(const SelectItem& item) {
 
 }  // namespace
 
+bool ReadsAsNumber(std::string_view text) {
+    const auto takeDigits = [&] {
+        const std::size_t before = text.size();
+        while (!text.empty() && IsDigit(text.front()))
+            text.remove_prefix(1);
+        return before - text.size();
+    };
+    const auto takeIf = [&](std::string_view signs) {
+        if (text.empty() || signs.find(text.front()) == std::string_view::npos) return false;
+        text.remove_prefix(1);
+        return true;
+    };
+    takeIf("+-");
+    std::size_t digits = takeDigits();
+    if (takeIf(".")) digits += takeDigits();
+    if (digits == 0) return false;
+    if (!takeIf("eE")) return text.empty();
+    takeIf("+-");
+    return takeDigits() > 0 && text.empty();
+}
+
 Type Combine(Type a, Type b) {
     if (a == b || b == Type::kNull) return a;
     if (a == Type::kNull) return b;
     if (a == Type::kText || b == Type::kText) return Type::kText;
     if (a == Type::kUnknown || b == Type::kUnknown) return Type::kUnknown;
+    if (a == Type::kDate || b == Type::kDate) return Type::kUnknown;
     return Type::kNumber;
 }
 
@@ -78,13 +121,24 @@ Type TypeOf(const Expr& expr) {
         case ExprKind::kNull:
             return Type::kNull;
         case ExprKind::kText:
-            return ReadsAsNumber(expr.text) ? Type::kNumberAsText : Type::kText;
+            return ReadsAsNumber(TrimSpace(expr.text.substr(1, expr.text.size() - 2)))
+                       ? Type::kNumberAsText
+                       : Type::kText;
         case ExprKind::kConcat:
             return Type::kText;
         case ExprKind::kNumber:
-        case ExprKind::kArithmetic:
         case ExprKind::kNegate:
             return Type::kNumber;
+        case ExprKind::kArithmetic:
+            return TypeOfArithmetic(expr);
+        case ExprKind::kDate:
+            return Type::kDate;
+        case ExprKind::kColumn:
+            return expr.type;
+        case ExprKind::kCast:
+            return FindTypeName(expr.text).type;
+        case ExprKind::kQuery:
+            return TypeOfQuery(*expr.query);
         case ExprKind::kCall:
             return Settled(TypeOfCall(expr));
         case ExprKind::kCase:

@@ -1,21 +1,16 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
+#include <string_view>
 #include <vector>
 
 #include "services/kvdbkvn/dialect/ast.h"
 
-/// What can be told of the type of a value without knowing the tables.
+/// What can be told of the type of a value. That of a column is known where the session told it.
 namespace kv::dialect {
 
-enum class Type : std::uint8_t {
-    kUnknown,       ///< a column, or what takes its type from one
-    kNumberAsText,  ///< a text that reads as a number: an engine may take it as either
-    kText,
-    kNumber,
-    kNull,
-};
+/// Whether a text without blanks around it is a number as statements write them.
+bool ReadsAsNumber(std::string_view text);
 
 Type TypeOf(const Expr& expr);
 

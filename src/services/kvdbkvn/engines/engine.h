@@ -12,6 +12,9 @@ namespace kv::db {
 /// What a text that does more than read is refused with, when it comes where only a query may.
 inline constexpr const char* kOnlyReads =
     "Refused: only a statement that reads may be run here, and this one does more";
+/// What a text is refused with where engines differ in whether it reads.
+inline constexpr const char* kDoubtfulEnd =
+    "Refused: it cannot be told where a text in this statement ends";
 /// What a text that holds several statements is refused with.
 inline constexpr const char* kOneStatement = "Refused: the text holds more than one statement";
 
@@ -31,8 +34,8 @@ class Session {
 public:
     virtual ~Session() = default;
     virtual dialect::Target Target() const = 0;
-    /// Whether statements may call the function `lesort`.
-    virtual bool HasLeaseSort() const = 0;
+    /// Whether statements may call the functions `lesort` and `kv_number`.
+    virtual bool HasOwnFunctions() const = 0;
     /// False once the server is known to be gone, or the file replaced: the session is then not
     /// used again.
     virtual bool IsAlive() = 0;
@@ -45,6 +48,14 @@ public:
     /// Whether there is a schema of that name, whatever the case of its letters.
     virtual bool HasSchema(const std::string& name) = 0;
 
+    /// The columns of a table, in their order; the schema may be empty. None where there is no such
+    /// table.
+    virtual const dialect::Columns& ColumnsOf(const std::string& schema,
+                                              const std::string& table) = 0;
+
+    /// Throws what the engine has to say against a text that it cannot read; runs nothing. Returns
+    /// when the engine can read the text, or cannot be asked.
+    virtual void Check(const std::string& sql) = 0;
     /// Runs one statement that reads; refuses any other, whatever `sql` claims to be. Sees what
     /// the open transaction has changed.
     virtual std::unique_ptr<Rows> Query(const std::string& sql) = 0;

@@ -25,11 +25,23 @@ public:
         : session_(std::move(session)) {}
 
     dialect::Target Target() const override { return session_->Target(); }
-    bool HasLeaseSort() const override { return session_->Target() == dialect::Target::kOracle; }
+    bool HasOwnFunctions() const override { return session_->Target() == dialect::Target::kOracle; }
     bool IsAlive() override { return session_->IsAlive(); }
     bool WasGoneAhead() const override { return session_->WasGoneAhead(); }
     bool HasSchema(const std::string& name) override { return session_->HasSchema(name); }
 
+    const dialect::Columns& ColumnsOf(const std::string& schema,
+                                      const std::string& table) override {
+        std::string failure;
+        const dialect::Columns* columns = session_->ColumnsOf(schema, table, failure);
+        if (!columns) throw CKvException(failure);
+        return *columns;
+    }
+
+    void Check(const std::string& sql) override {
+        std::string failure;
+        if (!session_->Check(sql, failure)) throw CKvException(failure, sql);
+    }
     std::unique_ptr<Rows> Query(const std::string& sql) override {
         FailWhereAsked("query");
         std::string failure;

@@ -19,6 +19,9 @@ public:
     virtual bool IsAlive() noexcept = 0;
     virtual bool WasGoneAhead() const noexcept { return false; }
     virtual bool HasSchema(const std::string& name) noexcept = 0;
+    virtual const dialect::Columns* ColumnsOf(const std::string& schema, const std::string& table,
+                                              std::string& failure) noexcept = 0;
+    virtual bool Check(const std::string& sql, std::string& failure) noexcept = 0;
     virtual std::unique_ptr<Rows> Query(const std::string& sql, std::string& failure) noexcept = 0;
     virtual int Execute(const std::string& sql, std::string& failure) noexcept = 0;
     virtual bool Commit(std::string& failure) noexcept = 0;

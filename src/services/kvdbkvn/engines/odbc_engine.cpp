@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "base/text.h"
+#include "services/kvdbkvn/engines/column_types.h"
 #include "services/kvdbkvn/engines/engine_module.h"
 #include "services/kvdbkvn/engines/file_identity.h"
 #include "services/kvdbkvn/engines/postgres_statements.h"
@@ -134,10 +135,19 @@ dialect::Target TargetOf(std::string_view product) {
     return dialect::Target::kOracle;
 }
 
+Quoting QuotingOf(std::string_view product) {
+    if (StartsWithNoCase(product, "SQLite")) return Quoting::kSqlite;
+    const bool standard =
+        StartsWithNoCase(product, "PostgreSQL") || StartsWithNoCase(product, "Oracle");
+    return standard ? Quoting::kStandard : Quoting::kUnknown;
+}
+
 class OdbcSession final : public ModuleSession {
 public:
     explicit OdbcSession(std::unique_ptr<Connection> connection)
-        : connection_(std::move(connection)), target_(TargetOf(connection_->Product())) {}
+        : connection_(std::move(connection)),
+          target_(TargetOf(connection_->Product())),
+          quoting_(QuotingOf(connection_->Product())) {}
 
     /// Settles what the statements rely on.
     bool SetUp(std::string& failure) {
@@ -170,15 +180,34 @@ public:
         return true;
     }
 
+    const dialect::Columns* ColumnsOf(const std::string& schema, const std::string& table,
+                                      std::string& failure) noexcept override {
+        const std::string name = schema + "." + table;
+        if (const auto known = columns_.find(name); known != columns_.end()) return &known->second;
+        const auto rows = Fetch(ColumnsQuery(target_, schema, table), failure);
+        std::string ignored;
+        if (!inTransaction_) EndTransaction(SQL_ROLLBACK, ignored);
+        return rows ? &(columns_[name] = ColumnsIn(*rows, target_)) : nullptr;
+    }
+
+    bool Check(const std::string& sql, std::string& failure) noexcept override {
+        if (HoldsTwoStatements(sql)) return true;
+        if (!BeginReading(failure)) return false;
+        const bool prepared = Prepare(sql, failure);
+        return EndReading(failure) && prepared;
+    }
+
     std::unique_ptr<Rows> Query(const std::string& sql, std::string& failure) noexcept override {
-        if (!OnlyReads(sql)) {
-            failure = kOnlyReads;
+        const Reading reading = ReadingOf(sql, quoting_);
+        if (reading != Reading::kReads) {
+            failure = reading == Reading::kDoubtful ? kDoubtfulEnd : kOnlyReads;
             return nullptr;
         }
         sent_ = false;
         if (!BeginReading(failure)) return nullptr;
         sent_ = true;
         auto rows = Fetch(sql, failure);
+        if (!rows) columns_.clear();
         if (!EndReading(failure)) return nullptr;
         return rows;
     }
@@ -188,6 +217,7 @@ public:
             failure = kOneStatement;
             return -1;
         }
+        if (MayDefine(sql)) columns_.clear();
         const bool begins = !inTransaction_;
         // Ahead of the first change, too: where the server is gone it shows here.
         sent_ = false;
@@ -195,6 +225,7 @@ public:
         sent_ = true;
         const int changed = Change(sql, failure);
         if (changed < 0) {
+            columns_.clear();
             UndoStatement(begins, failure);
             return -1;
         }
@@ -238,6 +269,11 @@ private:
     }
 
     bool BeginReading(std::string& failure) {
+        reading_ = OpenForReading(failure);
+        return reading_;
+    }
+
+    bool OpenForReading(std::string& failure) {
         if (target_ == dialect::Target::kSqlite) return Run("pragma query_only=on", failure);
         if (target_ == dialect::Target::kOracle) return true;
         if (inTransaction_ && !Run("savepoint kv_read", failure)) return false;
@@ -248,6 +284,7 @@ private:
     /// changes the rows hold whatever becomes of the session.
     bool EndReading(std::string& failure) {
         std::string reason;
+        reading_ = false;
         if (target_ == dialect::Target::kSqlite && !Run("pragma query_only=off", reason))
             lost_ = true;
         if (!inTransaction_) {
@@ -373,6 +410,17 @@ private:
         return columns;
     }
 
+    /// Some drivers do not send the text before they are asked what it gives.
+    bool Prepare(const std::string& sql, std::string& failure) {
+        const Statement statement(connection_->get());
+        SQLSMALLINT columns = 0;
+        if (SQL_SUCCEEDED(SQLPrepare(statement.get(), Text(sql), SQL_NTS)) &&
+            SQL_SUCCEEDED(SQLNumResultCols(statement.get(), &columns)))
+            return true;
+        failure = Note(Diagnose(SQL_HANDLE_STMT, statement.get()));
+        return false;
+    }
+
     bool Send(const Statement& statement, const std::string& sql, std::string& failure) {
         const SQLRETURN code = SQLExecDirect(statement.get(), Text(sql), SQL_NTS);
         if (SQL_SUCCEEDED(code) || code == SQL_NO_DATA) return true;
@@ -383,13 +431,16 @@ private:
     /// Remembers that the connection is lost, if that is what the diagnosis says.
     std::string Note(const Diagnosis& diagnosis) {
         if (diagnosis.ConnectionLost()) lost_ = serverLost_ = true;
-        return diagnosis.WritesInReading() ? kOnlyReads + (": " + diagnosis.words)
-                                           : diagnosis.words;
+        return reading_ && diagnosis.WritesInReading() ? kOnlyReads + (": " + diagnosis.words)
+                                                       : diagnosis.words;
     }
 
     std::unique_ptr<Connection> connection_;
     dialect::Target target_;
+    Quoting quoting_;
     bool inTransaction_ = false;
+    /// Whether a query is being run, in the guard around it.
+    bool reading_ = false;
     bool lost_ = false;
     bool serverLost_ = false;
     /// Whether the caller's statement that came last was sent.
@@ -398,6 +449,8 @@ private:
     std::string file_;
     FileIdentity identity_;
     std::map<std::string, bool> schemas_;
+    /// By schema and table; kept until a statement defines something or fails.
+    std::map<std::string, dialect::Columns> columns_;
 };
 
 /// Braces keep the signs that mean something between keywords.

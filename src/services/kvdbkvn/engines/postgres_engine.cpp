@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "base/text.h"
+#include "services/kvdbkvn/engines/column_types.h"
 #include "services/kvdbkvn/engines/engine_module.h"
 #include "services/kvdbkvn/engines/postgres_statements.h"
 
@@ -119,27 +120,41 @@ public:
         return schemas_[name] = PQntuples(results[0].get()) > 0;
     }
 
+    const dialect::Columns* ColumnsOf(const std::string& schema, const std::string& table,
+                                      std::string& failure) noexcept override {
+        const std::string name = schema + "." + table;
+        if (const auto known = columns_.find(name); known != columns_.end()) return &known->second;
+        std::vector<Result> results =
+            Batch({Run(ColumnsQuery(dialect::Target::kPostgres, schema, table))});
+        if (!Succeeded(results[0])) {
+            failure = Words(results[0]);
+            return nullptr;
+        }
+        const PostgresRows rows(std::move(results[0]));
+        return &(columns_[name] = ColumnsIn(rows, dialect::Target::kPostgres));
+    }
+
+    bool Check(const std::string& sql, std::string& failure) noexcept override {
+        const bool prepared = PrepareReading(sql, failure);
+        EndReading();
+        return prepared;
+    }
+
     /// Runs inside a read-only part of the transaction, or a read-only transaction of its own,
     /// which is undone afterwards: what a function in the text sets or locks ends with it. Whether
     /// the text gives rows at all is known before it runs, so that none can end the transaction.
     std::unique_ptr<Rows> Query(const std::string& sql, std::string& failure) noexcept override {
-        std::vector<Command> commands;
-        if (inTransaction_)
-            commands = {Run("savepoint kv_read"), Run("set transaction read only")};
-        else
-            commands = {Run("begin read only")};
-        commands.push_back({Command::Kind::kPrepare, sql});
-        commands.push_back({Command::Kind::kDescribePrepared});
-        const bool prepared = RunAll(std::move(commands), failure);
+        const bool prepared = PrepareReading(sql, failure);
         if (!prepared || describedColumns_ == 0) {
             if (prepared) failure = kOnlyReads;
+            columns_.clear();
             EndReading();
             return nullptr;
         }
         std::vector<Result> results = Batch({{Command::Kind::kRunPrepared}});
         EndReading();
         if (PQresultStatus(results[0].get()) != PGRES_TUPLES_OK) {
-            failure = Words(results[0]);
+            failure = WordsOfReading(results[0]);
             return nullptr;
         }
         return std::make_unique<PostgresRows>(std::move(results[0]));
@@ -148,6 +163,7 @@ public:
     int Execute(const std::string& sql, std::string& failure) noexcept override {
         const bool begins = !inTransaction_;
         if (ToLower(sql).find("schema") != std::string::npos) schemas_.clear();
+        if (MayDefine(sql)) columns_.clear();
         std::vector<Command> commands = {Run(begins ? "begin" : "savepoint kv_statement"),
                                          Run(sql)};
         if (!begins) commands.push_back(Run("release savepoint kv_statement"));
@@ -156,6 +172,7 @@ public:
         for (const Result& result : results) {
             if (Succeeded(result)) continue;
             failure = Words(result);
+            columns_.clear();
             UndoStatement(begins);
             return -1;
         }
@@ -234,6 +251,17 @@ private:
         return true;
     }
 
+    bool PrepareReading(const std::string& sql, std::string& failure) {
+        std::vector<Command> commands;
+        if (inTransaction_)
+            commands = {Run("savepoint kv_read"), Run("set transaction read only")};
+        else
+            commands = {Run("begin read only")};
+        commands.push_back({Command::Kind::kPrepare, sql});
+        commands.push_back({Command::Kind::kDescribePrepared});
+        return RunAll(std::move(commands), failure);
+    }
+
     void EndReading() {
         if (!inTransaction_)
             EndTransaction("rollback");
@@ -283,13 +311,18 @@ private:
         if (message.empty()) return TrimSpace(PQerrorMessage(connection_.get()));
         const std::string detail = field(PG_DIAG_MESSAGE_DETAIL);
         const std::string hint = field(PG_DIAG_MESSAGE_HINT);
-        static constexpr std::string_view kReadOnlyTransaction = "25006";
-        std::string words = field(PG_DIAG_SQLSTATE) == kReadOnlyTransaction
-                                ? std::string(kOnlyReads) + ": " + message
-                                : message;
+        std::string words = message;
         if (!detail.empty()) words += "\n" + detail;
         if (!hint.empty()) words += "\n" + hint;
         return words;
+    }
+
+    /// What a change is refused with inside of a query that it hides in.
+    std::string WordsOfReading(const Result& result) {
+        static constexpr std::string_view kReadOnlyTransaction = "25006";
+        const char* state = PQresultErrorField(result.get(), PG_DIAG_SQLSTATE);
+        const bool changes = state && state == kReadOnlyTransaction;
+        return (changes ? std::string(kOnlyReads) + ": " : "") + Words(result);
     }
 
     bool Fail(std::string& failure) {
@@ -303,6 +336,8 @@ private:
     int describedColumns_ = 0;
     /// Asked for with nearly every statement, so they are remembered until something changes.
     std::map<std::string, bool> schemas_;
+    /// Likewise; by schema and table.
+    std::map<std::string, dialect::Columns> columns_;
 };
 
 /// With the scheme in small letters: the client library takes any other for the name of a database

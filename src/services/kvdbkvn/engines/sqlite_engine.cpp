@@ -7,6 +7,7 @@
 #include <deque>
 #include <filesystem>
 #include <fstream>
+#include <map>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -15,6 +16,8 @@
 #include "base/text.h"
 #include "frame/kvcom/exception.h"
 #include "services/kvdbkvn/dialect/lease_sort.h"
+#include "services/kvdbkvn/dialect/types.h"
+#include "services/kvdbkvn/engines/column_types.h"
 #include "services/kvdbkvn/engines/database_fault.h"
 #include "services/kvdbkvn/engines/file_identity.h"
 #include "services/kvdbkvn/engines/row_arena.h"
@@ -48,6 +51,19 @@ void LeaseSort(sqlite3_context* context, int, sqlite3_value** values) {
     sqlite3_result_text(context, key.data(), static_cast<int>(key.size()), SQLITE_TRANSIENT);
 }
 
+/// SQL function kv_number(value): a text that reads as a number, without the blanks around it; what
+/// is no text stays as it is, an empty text is null, and any other is an error.
+void CheckNumber(sqlite3_context* context, int, sqlite3_value** values) {
+    if (sqlite3_value_type(values[0]) != SQLITE_TEXT)
+        return sqlite3_result_value(context, values[0]);
+    const std::string text = reinterpret_cast<const char*>(sqlite3_value_text(values[0]));
+    const std::string number = TrimSpace(text);
+    if (text.empty()) return sqlite3_result_null(context);
+    if (!dialect::ReadsAsNumber(number))
+        return sqlite3_result_error(context, ("invalid number: \"" + text + "\"").c_str(), -1);
+    sqlite3_result_text(context, number.data(), static_cast<int>(number.size()), SQLITE_TRANSIENT);
+}
+
 class SqliteSession final : public Session {
 public:
     /// One that is `frozen` is read as it stands, past its log and unguarded against who changes
@@ -58,15 +74,15 @@ public:
           identity_(IdentityOf(path_)),
           frozen_(frozen) {
         sqlite3_set_authorizer(database_.get(), &Authorize, this);
-        sqlite3_create_function_v2(database_.get(), "lesort", 1, SQLITE_UTF8 | SQLITE_DETERMINISTIC,
-                                   nullptr, &LeaseSort, nullptr, nullptr, nullptr);
+        AddFunction("lesort", &LeaseSort);
+        AddFunction("kv_number", &CheckNumber);
         Run("pragma case_sensitive_like=on");
         LookAtFile();
         sqlite3_busy_timeout(database_.get(), kBusyMilliseconds);
     }
 
     dialect::Target Target() const override { return dialect::Target::kSqlite; }
-    bool HasLeaseSort() const override { return true; }
+    bool HasOwnFunctions() const override { return true; }
 
     /// The open file lives on when its name is given to another, or taken away.
     /// Each statement has a new look at a file that is frozen.
@@ -78,6 +94,28 @@ public:
 
     bool HasSchema(const std::string& name) override {
         return sqlite3_db_filename(database_.get(), name.c_str()) != nullptr;
+    }
+
+    /// Kept as long as the file's definitions are the same, whoever changes them.
+    const dialect::Columns& ColumnsOf(const std::string& schema,
+                                      const std::string& table) override {
+        if (!versionQuery_) versionQuery_ = Prepare("pragma schema_version");
+        const std::string version = Fetch(versionQuery_.get(), {})->Cell(0, 0);
+        sqlite3_reset(versionQuery_.get());
+        if (version != columnsVersion_) columns_.clear();
+        columnsVersion_ = version;
+        const std::string name = schema + "." + table;
+        if (const auto known = columns_.find(name); known != columns_.end()) return known->second;
+        const std::string sql = ColumnsQuery(Target(), schema, table);
+        return columns_[name] = ColumnsIn(*Fetch(Prepare(sql).get(), sql), Target());
+    }
+
+    void Check(const std::string& sql) override {
+        const GuardScope guard(*this, Guard::kChecking);
+        sqlite3_stmt* raw = nullptr;
+        const int code = sqlite3_prepare_v2(database_.get(), sql.c_str(), -1, &raw, nullptr);
+        const Statement statement(raw);
+        if (code != SQLITE_OK && code != SQLITE_AUTH) Throw(sql);
     }
 
     std::unique_ptr<Rows> Query(const std::string& sql) override {
@@ -123,8 +161,9 @@ public:
     }
 
 private:
-    /// Whose statement is being prepared: the session's own, or a caller's.
-    enum class Guard { kNone, kReading, kChanging };
+    /// Whose statement is being prepared: the session's own, or a caller's. Some pragmas act as
+    /// soon as they are.
+    enum class Guard { kNone, kChecking, kReading, kChanging };
 
     class GuardScope {
     public:
@@ -256,6 +295,11 @@ private:
         return changed ? sqlite3_changes(database_.get()) : 0;
     }
 
+    void AddFunction(const char* name, void (*function)(sqlite3_context*, int, sqlite3_value**)) {
+        sqlite3_create_function_v2(database_.get(), name, 1, SQLITE_UTF8 | SQLITE_DETERMINISTIC,
+                                   nullptr, function, nullptr, nullptr, nullptr);
+    }
+
     void Run(const char* sql) {
         FailWhereAsked(sql);
         if (sqlite3_exec(database_.get(), sql, nullptr, nullptr, nullptr) != SQLITE_OK) Throw(sql);
@@ -270,6 +314,9 @@ private:
     };
 
     Database database_;
+    Statement versionQuery_;
+    std::string columnsVersion_;
+    std::map<std::string, dialect::Columns> columns_;
     std::string path_;
     FileIdentity identity_;
     bool frozen_;

@@ -43,7 +43,8 @@ bool IsWordByte(char ch) {
 /// beginning of one is in doubt.
 class Scanner {
 public:
-    explicit Scanner(std::string_view sql) : sql_(sql) {}
+    explicit Scanner(std::string_view sql, Quoting quoting = Quoting::kUnknown)
+        : sql_(sql), quoting_(quoting) {}
 
     Words Scan() {
         while (at_ < sql_.size())
@@ -55,7 +56,7 @@ private:
     void Step() {
         const char ch = sql_[at_];
         if (afterSemicolon_ && ch != ';' && !IsSpace(ch)) found_.twoStatements = true;
-        if (ch == '\'' || ch == '"')
+        if (ch == '\'' || ch == '"' || (ch == '`' && quoting_ == Quoting::kSqlite))
             SkipQuoted(ch);
         else if (IsWordByte(ch))
             TakeWord();
@@ -71,7 +72,7 @@ private:
             at_ = sql_.size();
             return;
         }
-        if (sql_[end - 1] == '\\') found_.doubtful = true;
+        if (sql_[end - 1] == '\\' && quoting_ == Quoting::kUnknown) found_.doubtful = true;
         at_ = end + 1;
     }
 
@@ -96,6 +97,7 @@ private:
     }
 
     std::string_view sql_;
+    Quoting quoting_;
     std::size_t at_ = 0;
     bool inComment_ = false;
     bool afterSemicolon_ = false;
@@ -110,12 +112,17 @@ bool HoldsTwoStatements(std::string_view sql) {
     return found.twoStatements && !block;
 }
 
-bool OnlyReads(std::string_view sql) {
-    const Words found = Scanner(sql).Scan();
-    if (found.words.empty() || found.twoStatements || found.doubtful) return false;
-    if (found.words.front() != "select" && found.words.front() != "with") return false;
-    return std::ranges::none_of(
-        found.words, [](const std::string& word) { return IsOneOf(word, kWordsThatDoMore); });
+Reading ReadingOf(std::string_view sql, Quoting quoting) {
+    const Words found = Scanner(sql, quoting).Scan();
+    const bool query =
+        !found.words.empty() && (found.words.front() == "select" || found.words.front() == "with");
+    if (!query) return Reading::kDoesMore;
+    if (found.doubtful) return Reading::kDoubtful;
+    const bool doesMore =
+        found.twoStatements || std::ranges::any_of(found.words, [](const std::string& word) {
+            return IsOneOf(word, kWordsThatDoMore);
+        });
+    return doesMore ? Reading::kDoesMore : Reading::kReads;
 }
 
 }  // namespace kv::db

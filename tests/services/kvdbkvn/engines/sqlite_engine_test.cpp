@@ -343,10 +343,30 @@ TEST_F(SqliteEngine, ATextCannotEndTheTransaction) {
     EXPECT_EQ(manager_.Select("select a from kvt"), 1);
 }
 
-TEST_F(SqliteEngine, ADescribingPragmaReads) {
+TEST_F(SqliteEngine, ATextThatIsNoNumberIsAnErrorBesideANumber) {
+    RunOnSqliteFile(path_, "insert into kvt values (' 12 ', 1), ('1.5e1', 2), ('', 3)");
     manager_.Connect();
-    ASSERT_EQ(manager_.Select("pragma table_info(kvt)"), 2);
-    EXPECT_STREQ(manager_.GetItem(1, 1), "b");
+    EXPECT_EQ(manager_.Select("select b from kvt where a > 9"), 2);
+    for (const char* text : {"12x", "x", "-", "1e", "."}) {
+        RunOnSqliteFile(path_, "update kvt set a = '" + std::string(text) + "' where b = 1");
+        for (const char* sql : {"select b from kvt where a > 9", "select to_number(a) from kvt",
+                                "select a + 1 from kvt"})
+            EXPECT_THAT(FailureOf([&] { manager_.Select(sql); }),
+                        HasSubstr("invalid number: \"" + std::string(text) + "\""))
+                << sql;
+    }
+}
+
+TEST_F(SqliteEngine, AColumnWhoseTypeAnotherProgramChangedIsTakenAsItIsNow) {
+    RunOnSqliteFile(path_, "insert into kvt values ('abc', 1)");
+    const std::string sql = "select b from kvt where a > 9";
+    manager_.Connect();
+    EXPECT_NE(FailureOf([&] { manager_.Select(sql); }), "");
+    RunOnSqliteFile(path_,
+                    "drop table kvt; create table kvt (a numeric, b integer);"
+                    "insert into kvt values (10, 7)");
+    ASSERT_EQ(manager_.Select(sql), 1);
+    EXPECT_STREQ(manager_.GetItem(0, 0), "7");
 }
 
 TEST_F(SqliteEngine, SetDbInfoOnAThrowAwayManagerChangesWhatAnOlderOneConnectsTo) {

@@ -6,20 +6,26 @@ namespace test {
 namespace {
 
 using kv::db::HoldsTwoStatements;
-using kv::db::OnlyReads;
+using kv::db::Quoting;
+using kv::db::Reading;
+using kv::db::ReadingOf;
+
+Reading Of(const char* sql) {
+    return ReadingOf(sql, Quoting::kUnknown);
+}
 
 TEST(StatementWords, AQueryReads) {
-    EXPECT_TRUE(OnlyReads("select a from t"));
-    EXPECT_TRUE(OnlyReads("  SELECT a FROM t;  "));
-    EXPECT_TRUE(OnlyReads("with x as (select 1) select * from x"));
-    EXPECT_TRUE(OnlyReads("(select 1) union (select 2)"));
-    EXPECT_TRUE(OnlyReads("select/*+ index(t) */ a from t"));
-    EXPECT_TRUE(OnlyReads("select 'it''s' from \"a t\" where b='C:\\x'"));
+    EXPECT_EQ(Of("select a from t"), Reading::kReads);
+    EXPECT_EQ(Of("  SELECT a FROM t;  "), Reading::kReads);
+    EXPECT_EQ(Of("with x as (select 1) select * from x"), Reading::kReads);
+    EXPECT_EQ(Of("(select 1) union (select 2)"), Reading::kReads);
+    EXPECT_EQ(Of("select/*+ index(t) */ a from t"), Reading::kReads);
+    EXPECT_EQ(Of("select 'it''s' from \"a t\" where b='C:\\x'"), Reading::kReads);
 }
 
 TEST(StatementWords, WordsInsideTextsAndNamesDoNotCount) {
-    EXPECT_TRUE(OnlyReads("select 'delete from t; drop' from t"));
-    EXPECT_TRUE(OnlyReads("select \"update\", updated, recreate from t"));
+    EXPECT_EQ(Of("select 'delete from t; drop' from t"), Reading::kReads);
+    EXPECT_EQ(Of("select \"update\", updated, recreate from t"), Reading::kReads);
 }
 
 TEST(StatementWords, WhateverDoesMoreDoesNotRead) {
@@ -29,7 +35,7 @@ TEST(StatementWords, WhateverDoesMoreDoesNotRead) {
           "with x as (delete from t returning a) select a from x", "select a from t for update",
           "select a from t delete from t", "call f()", "commit", "pragma user_version = 1", "",
           "values (1)", "select a from t; delete from t", "select 1; select 2"})
-        EXPECT_FALSE(OnlyReads(text)) << text;
+        EXPECT_EQ(Of(text), Reading::kDoesMore) << text;
 }
 
 TEST(StatementWords, ATextWhoseEndDependsOnTheEngineDoesNotPassAsReading) {
@@ -38,7 +44,18 @@ TEST(StatementWords, ATextWhoseEndDependsOnTheEngineDoesNotPassAsReading) {
           "select $$it's$$ from t", "select $x$it's$x$ from t", "select `a'b` from t",
           "select [a'b] from t", "select a /* ' */ from t", "select a -- it's\n from t",
           "select 'open from t", "select a /* /* */ ' */; delete from t --'"})
-        EXPECT_FALSE(OnlyReads(text)) << text;
+        EXPECT_EQ(Of(text), Reading::kDoubtful) << text;
+}
+
+TEST(StatementWords, ABackslashKeepsNoQuoteWhereTheEngineIsKnown) {
+    for (const Quoting quoting : {Quoting::kStandard, Quoting::kSqlite})
+        EXPECT_EQ(ReadingOf("select 'C:\\' from t", quoting), Reading::kReads);
+    EXPECT_EQ(ReadingOf("select 'C:\\'; delete from t", Quoting::kStandard), Reading::kDoesMore);
+}
+
+TEST(StatementWords, GraveAccentsEncloseNamesOnSqliteAlone) {
+    EXPECT_EQ(ReadingOf("select `a'b`, `update` from t", Quoting::kSqlite), Reading::kReads);
+    EXPECT_EQ(ReadingOf("select `a` from t", Quoting::kStandard), Reading::kDoubtful);
 }
 
 TEST(StatementWords, ASecondStatementIsSeenBehindASemicolonOutsideOfTexts) {

@@ -1,0 +1,200 @@
+#include <algorithm>
+#include <string>
+
+#include "base/text.h"
+#include "services/kvdbkvn/dialect/printer.h"
+#include "services/kvdbkvn/dialect/refusals.h"
+
+/// Dates. SQLite has none: they are texts in the `kWholeDateFormat`.
+namespace kv::dialect {
+namespace {
+
+std::string_view WithoutQuotes(std::string_view quoted) {
+    return quoted.substr(1, quoted.size() - 2);
+}
+
+/// Some part of the statement's text that the expression was read from.
+std::string_view PlaceOf(const Expr& expr) {
+    if (!expr.names.empty()) return expr.names.front();
+    if (!expr.text.empty()) return expr.text;
+    for (const Expr* item : expr.items)
+        if (const std::string_view place = item ? PlaceOf(*item) : ""; !place.empty()) return place;
+    return {};
+}
+
+bool IsLower(char ch) {
+    return ch >= 'a' && ch <= 'z';
+}
+
+/// The letters of a month's name in the case of the format's.
+std::string MonthNamesAs(std::string_view format) {
+    std::string names = kMonthNames;
+    if (IsLower(format[0])) return ToLower(names);
+    if (!IsLower(format[1])) return names;
+    for (std::size_t i = 0; i < names.size(); ++i)
+        if (i % format.size() != 0) names[i] = ToLower(names[i]);
+    return names;
+}
+
+/// What `strftime` calls a part; empty for those that it does not know.
+std::string_view LetterOf(DateField field) {
+    switch (field) {
+        case DateField::kYear:
+            return "%Y";
+        case DateField::kMonth:
+            return "%m";
+        case DateField::kDay:
+            return "%d";
+        case DateField::kHour:
+            return "%H";
+        case DateField::kMinute:
+            return "%M";
+        case DateField::kSecond:
+            return "%S";
+        default:
+            return {};
+    }
+}
+
+/// The format as PostgreSQL knows it.
+std::string PostgresFormat(const DateFormat& format) {
+    std::string text;
+    for (const DatePart& part : format) {
+        if (part.field == DateField::kYear)
+            text += "YYYY";
+        else if (part.field == DateField::kYearOfCentury || part.field == DateField::kYearNearby)
+            text += "YY";
+        else
+            text += part.text;
+    }
+    return text;
+}
+
+}  // namespace
+
+void Printer::PutDate(const Expr& date) {
+    const std::string_view text = WithoutQuotes(date.text);
+    PutDateText(*DateOf(text, *ReadDateFormat(kWholeDateFormat)));
+}
+
+void Printer::PutDateText(const std::string& date) {
+    Put((ForPostgres() ? "timestamp '" : "'") + date + "'");
+}
+
+void Printer::PutSysdate(const Expr&) {
+    Put(ForPostgres() ? "date_trunc('second', cast(statement_timestamp() as timestamp))"
+                      : "datetime('now', 'localtime')");
+}
+
+void Printer::PutToDate(const Expr& call) {
+    const Expr& text = *call.items[0];
+    const Expr& written = *call.items[1];
+    const std::string_view place = PlaceOf(call);
+    if (text.kind == ExprKind::kNull) return Put("null");
+    if (written.kind != ExprKind::kText) throw Unreadable{place};
+    const auto format = ReadDateFormat(WithoutQuotes(written.text));
+    if (!format) throw Unreadable{written.text};
+    if (text.kind == ExprKind::kText) {
+        const auto date = DateOf(WithoutQuotes(text.text), *format);
+        if (!date) throw Unreadable{text.text};
+        return PutDateText(*date);
+    }
+    if (!ForPostgres()) throw Unreadable{place};
+    Put("cast(to_timestamp(");
+    PutText(text);
+    Put(", '" + PostgresFormat(*format) + "') as timestamp)");
+}
+
+void Printer::PutTrunc(const Expr& call) {
+    const Expr& value = *call.items.front();
+    if (TypeOf(value) != Type::kDate) return PutTidied([&] { PutNumberOf(call); });
+    Put(ForPostgres() ? "date_trunc('day', " : "strftime('%Y-%m-%d 00:00:00', ");
+    PutExpr(value);
+    Put(")");
+}
+
+void Printer::PutDateToChar(const Expr& date, const DateFormat& format) {
+    if (ForPostgres()) {
+        Put("to_char(");
+        PutExpr(date);
+        return Put(", '" + PostgresFormat(format) + "')");
+    }
+    const auto putPart = [&](std::string_view letters) {
+        Put("strftime('" + std::string(letters) + "', ");
+        PutExpr(date);
+        Put(")");
+    };
+    for (const DatePart& part : format) {
+        if (&part != &format.front()) Put(" || ");
+        switch (part.field) {
+            case DateField::kSigns:
+                Put("'" + std::string(part.text) + "'");
+                break;
+            case DateField::kYearOfCentury:
+            case DateField::kYearNearby:
+                Put("substr(");
+                putPart("%Y");
+                Put(", 3)");
+                break;
+            case DateField::kMonthName:
+                Put("substr('" + MonthNamesAs(part.text) + "', ");
+                putPart("%m");
+                Put(" * 3 - 2, 3)");
+                break;
+            case DateField::kHourOfHalfDay:
+                Put("printf('%02d', (");
+                putPart("%H");
+                Put(" + 11) % 12 + 1)");
+                break;
+            case DateField::kHalfDay:
+                Put("case when ");
+                putPart("%H");
+                Put(IsLower(part.text[0]) ? " < '12' then 'am' else 'pm' end"
+                                          : " < '12' then 'AM' else 'PM' end");
+                break;
+            default:
+                putPart(LetterOf(part.field));
+        }
+    }
+}
+
+/// Dates and days in a sum.
+void Printer::PutDateArithmetic(const Expr& expr) {
+    const auto isDate = [](const Expr* item) { return TypeOf(*item) == Type::kDate; };
+    const auto date = std::ranges::find_if(expr.items, isDate);
+    const auto at = static_cast<std::size_t>(date - expr.items.begin());
+    const auto dates = std::ranges::count_if(expr.items, isDate);
+    const bool ofSums = expr.signs.front() == '+' || expr.signs.front() == '-';
+    const bool added = at == 0 || expr.signs[at - 1] == '+';
+    if (ofSums && dates == 2 && expr.items.size() == 2 && expr.signs.front() == '-') {
+        return PutTidied([&] {
+            Put(ForPostgres() ? "extract(epoch from (" : "(strftime('%s', ");
+            PutExpr(*expr.items[0], Rank::kPrimary);
+            Put(ForPostgres() ? " - " : ") - strftime('%s', ");
+            PutExpr(*expr.items[1], Rank::kPrimary);
+            Put(ForPostgres() ? ")) / 86400" : ")) / 86400.0");
+        });
+    }
+    if (!ofSums || dates != 1 || !added) throw Unreadable{PlaceOf(expr)};
+    std::function<void()> put = [&] { PutExpr(**date, Rank::kPrimary); };
+    for (std::size_t i = 0; i < expr.items.size(); ++i) {
+        if (i == at) continue;
+        const char sign = i == 0 ? '+' : expr.signs[i - 1];
+        put = [this, put, sign, days = expr.items[i]] { PutDays(*days, sign, put); };
+    }
+    put();
+}
+
+void Printer::PutDays(const Expr& days, char sign, const std::function<void()>& putDate) {
+    const bool minus = sign == '-';
+    Put(ForPostgres() ? "cast(" : "datetime(");
+    putDate();
+    if (ForPostgres())
+        Put(minus ? " - (" : " + (");
+    else
+        Put(minus ? ", (-(" : ", ((");
+    PutOperand(days, Rank::kAny);
+    Put(ForPostgres() ? ") * interval '1 day' as timestamp(0))" : ")) || ' days')");
+}
+
+}  // namespace kv::dialect

@@ -1,0 +1,1 @@
+(select a from t where rownum <= 5 and b = 1 order by a offset 2 rows fetch next 3 rows only) union select distinct a from t where rownum < 2 order by 1

@@ -1,0 +1,1 @@
+select cast(a as varchar2(3)), cast(b as number(5,2)), cast(a||b as integer) from t

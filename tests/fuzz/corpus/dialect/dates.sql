@@ -1,0 +1,1 @@
+select to_char(sysdate - 1/24, 'DD-Mon-YY HH:MI AM'), date '2024-02-29' - to_date('05-JAN-24', 'DD-MON-RR'), trunc(sysdate) from dual

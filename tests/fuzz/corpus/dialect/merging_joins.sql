@@ -1,0 +1,1 @@
+select * from t natural left join u join v using (a, b)

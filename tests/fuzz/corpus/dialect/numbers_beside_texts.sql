@@ -1,0 +1,1 @@
+select a + 1, sum(a), greatest(a, b, 'x') from t where a > 9 and b = a and a in (1, '2') and a between 1 and b

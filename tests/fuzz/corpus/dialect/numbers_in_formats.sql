@@ -1,0 +1,1 @@
+select to_char(a/b, 'FM990.00'), to_char(a, '999.99'), round(a, 2)/3 from t

@@ -1,0 +1,1 @@
+select trim(a), replace(a, ' '), replace(a, '', null), concat(a, ''), nvl2(a, b, 'c') from "t" where "a" < 'b'

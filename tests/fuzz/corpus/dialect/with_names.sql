@@ -1,0 +1,1 @@
+with x (a, b) as (select areacode, refnum from gulf_mexico_lbi), y as (select max(b) m from x) select a, m from x, y where b > '9' order by 2, a
