@@ -8,10 +8,12 @@
 
 namespace {
 
+using ::testing::Each;
 using ::testing::ElementsAre;
 using ::testing::EndsWith;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
+using ::testing::StartsWith;
 using namespace kv::blk_ext;
 
 class BlkExtDlg : public BlockTest {};
@@ -176,7 +178,9 @@ TEST_F(BlkExtDlg, AFailedSearchIsToldAndTheListsKeepWhatTheyHold) {
         user.Click(kAdd);
         EXPECT_THAT(Entries(), ElementsAre("GRAND ISLE SOUTH/"));
     });
-    EXPECT_THAT(desktop.Messages(), SizeIs(2));
+    ASSERT_THAT(desktop.Messages(), SizeIs(2));
+    EXPECT_THAT(desktop.Messages(), Each(StartsWith("Database error: ")));
+    EXPECT_THAT(desktop.Messages()[1], EndsWith(" where nosuchcolumn like '%O'NEIL%'"));
 }
 
 TEST_F(BlkExtDlg, TypingLooksAmongTheAreasAndAlwaysLeavesSearchEnabled) {

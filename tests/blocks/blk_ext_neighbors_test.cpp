@@ -8,12 +8,14 @@
 
 namespace {
 
+using ::testing::AllOf;
 using ::testing::Contains;
 using ::testing::Each;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::Not;
+using ::testing::StartsWith;
 using ::testing::UnorderedElementsAre;
 using namespace kv::blk_ext;
 using kv::blocks::NeighborRelation;
@@ -110,6 +112,17 @@ TEST_F(BlkExtNeighbors, AreSoughtByWhatTheUserTellsOfAFile) {
         user.Click(kNeighbors);
     });
     EXPECT_THAT(Entries(), UnorderedElementsAre("A01/7", "A01/4", "A01/5", "A01/8", "42601/7"));
+}
+
+TEST_F(BlkExtNeighbors, AFailureIsToldAsTheDatabasesWithItsStatement) {
+    Given({{"O'NEIL", "1"}});
+    desktop.ExpectMessage("");
+    Run(dialog, [](kv::User& user) {
+        user.Click(kNeighbors);
+        EXPECT_THAT(user.Rows(kSelected), ElementsAre("O'NEIL\t1"));
+    });
+    EXPECT_THAT(desktop.Messages(), ElementsAre(AllOf(StartsWith("Database error: "),
+                                                      HasSubstr("select distinct areaname"))));
 }
 
 TEST_F(BlkExtNeighbors, GoIntoTheWorkTableThroughTheDialogsFinder) {

@@ -45,6 +45,15 @@ TEST(IndexedSelection, CutsVectorsThatAreNotOfOneLength) {
     EXPECT_FALSE(index.Has("B", ""));
 }
 
+TEST(IndexedSelection, CutsBlocksThatHaveNoArea) {
+    Selection selection{{"A"}, {"1", "2"}};
+    IndexedSelection index(selection);
+    EXPECT_THAT(selection.second, ElementsAre("1"));
+    EXPECT_TRUE(index.Add("B", "3"));
+    EXPECT_THAT(selection.first, ElementsAre("A", "B"));
+    EXPECT_THAT(selection.second, ElementsAre("1", "3"));
+}
+
 TEST(IndexedSelection, FindsEachOfManyEntriesAndNoOther) {
     constexpr int kAreas = 40;
     constexpr int kBlocks = 500;

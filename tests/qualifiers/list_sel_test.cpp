@@ -10,6 +10,7 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
+using ::testing::StartsWith;
 using namespace kv::list_sel;
 
 class ListSel : public QualifierTest {
@@ -332,6 +333,7 @@ TEST_F(ListSel, AFailureOfTheDatabaseIsShownAndLeavesAvailableAsItWas) {
         EXPECT_THAT(user.Rows(kSelected), ElementsAre("SHELF OIL"));
     });
     ASSERT_EQ(desktop.Messages().size(), 1u);
+    EXPECT_THAT(desktop.Messages()[0], StartsWith("Database error: "));
     EXPECT_THAT(desktop.Messages()[0], HasSubstr("like '%SHELF' OR%'"));
 }
 
