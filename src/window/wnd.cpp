@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <charconv>
-#include <new>
 #include <string>
 
 #include "base/text.h"
@@ -61,11 +60,7 @@ CWnd::~CWnd() {
     if (!m_hWnd || m_hWnd->handle_ != this) return;
     const auto window = m_hWnd->shared_from_this();
     // A control outlives its handle; a window that holds controls does not.
-    try {
-        if (window->Host() == window.get()) WindowSystem::Get().Destroy(*window);
-    } catch (const std::bad_alloc&) {
-        // The window stays, as one that its owner left: without a handle.
-    }
+    if (window->Host() == window.get()) WindowSystem::Get().Destroy(*window);
     if (m_hWnd) Detach();
 }
 

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "base/paths.h"
-#include "support/memory_fault.h"
+#include "support/failing_memory.h"
 #include "support/temp_folder.h"
 
 namespace {
@@ -13,10 +13,10 @@ TEST(OutOfMemory, IsThrownWhereAPathIsTranslated) {
         folder.Dialog("A FOLDER WITH A LONG NAME") + "\\A FILE WITH A LONG NAME.TXT";
     const std::string native = kv::ToNative(path);
     EXPECT_TRUE(native.ends_with("/A folder with a long name/A file with a long name.txt"));
-    long left = 0;
+    int left = 0;
     for (std::string again; again.empty(); ++left) {
         try {
-            const test::MemoryFault fault(left);
+            const test::FailingMemory fault(left + 1);
             again = kv::ToNative(path);
         } catch (const std::bad_alloc&) {
             continue;

@@ -7,8 +7,8 @@
 
 #include "base/paths.h"
 #include "frame/kvcom/ut_registry.h"
+#include "support/failing_memory.h"
 #include "support/file_faults.h"
-#include "support/memory_fault.h"
 #include "support/temp_folder.h"
 
 namespace {
@@ -36,7 +36,7 @@ TEST_F(BackToHome, GoesThereAtTheEndWhateverTheCaseOfTheName) {
 TEST_F(BackToHome, NeedsNoMemoryForIt) {
     std::optional<kv::BackToHome> back("\\App");
     {
-        const test::MemoryFault fault(0);
+        const test::FailingMemory none;
         back.reset();
     }
     EXPECT_EQ(kv::CurrentFolder(), folder.Dialog("home\\App"));

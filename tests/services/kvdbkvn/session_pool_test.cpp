@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "support/database_helpers.h"
-#include "support/out_of_memory.h"
+#include "support/failing_memory.h"
 #include "support/sqlite_file.h"
 #include "support/temp_folder.h"
 
@@ -21,7 +21,7 @@ TEST(SessionPool, ClosesASessionThatThereIsNoMemoryToKeep) {
     pool.Clear();
     auto session = pool.Borrow(info);
     {
-        const OutOfMemory out;
+        const FailingMemory none;
         pool.GiveBack(info, std::move(session));
     }
     EXPECT_EQ(pool.Idle(), 0u);
