@@ -33,6 +33,8 @@ class ProjectionTest : public DialogTest {
 protected:
     ProjectionTest() {
         InitControlDll();
+        ProjCtrl::m_tMapDesc.clear();
+        ProjCtrl::m_bMapDescHasData = false;
         UseDatabase("sqlite:" + zones);
         kv::db::SetStatementTrace([this](const std::string& sql) { statements.push_back(sql); });
     }
