@@ -252,7 +252,9 @@ TEST_F(AreaComboBox, SelectsAnAreaByItsCodeInEachMode) {
 
 TEST_F(AreaComboBox, AnUnknownAreaCodeIsLoggedAndLeavesTheBoxAsItWas) {
     user->Select(kArea, "GI");
+    testing::internal::CaptureStderr();
     area->SetArea("nowhere");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
     EXPECT_EQ(area->GetArea(), "GI");
     EXPECT_THAT(folder.Read("log.txt"),
                 HasSubstr("Selected area could not be found from the database table"));
@@ -326,7 +328,9 @@ TEST_F(AreaComboBox, BindingHandsTheModeToTheBlockBox) {
 
 TEST_F(AreaComboBox, ADatabaseFailureIsLoggedAndShowsNoBox) {
     UseDatabase("sqlite:" + folder.Native("missing.db"));
+    testing::internal::CaptureStderr();
     area->V_InitializeCombo();
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
     EXPECT_THAT(AreaRows(), IsEmpty());
     EXPECT_THAT(desktop.Messages(), IsEmpty());
     EXPECT_THAT(folder.Read("log.txt"), HasSubstr("missing.db"));

@@ -101,6 +101,27 @@ TEST_F(ComboBoxExx, PaintsInItsOwnColours) {
     EXPECT_EQ(colors.text, RGB(200, 210, 220));
 }
 
+TEST_F(ComboBoxExx, AnotherColourRepaintsOnRequestOnly) {
+    struct Counter : kv::View {
+        explicit Counter(int& count) : paints(count) {}
+        void Changed(kv::Change change) override { paints += change == kv::Change::kPaint; }
+        void RowsInserted(int, int) override {}
+        void RowsRemoved(int, int) override {}
+        int& paints;
+    };
+    int paints = 0;
+    box.m_hWnd->SetView(std::make_unique<Counter>(paints));
+    box.SetBkColor(RGB(10, 20, 30), FALSE);
+    EXPECT_EQ(paints, 0);
+    box.SetBkColor(RGB(30, 20, 10), TRUE);
+    EXPECT_EQ(paints, 1);
+    box.SetBkColor(RGB(30, 20, 10), TRUE);
+    EXPECT_EQ(paints, 1);
+    box.SetTextColor(RGB(30, 20, 10), TRUE);
+    EXPECT_EQ(paints, 2);
+    box.m_hWnd->SetView(nullptr);
+}
+
 TEST_F(ComboBoxExx, ADisabledBoxPaintsInTheSystemsColoursWhateverWasSet) {
     box.SetBkColor(RGB(10, 20, 30), TRUE);
     box.SetTextColor(RGB(200, 210, 220), TRUE);
