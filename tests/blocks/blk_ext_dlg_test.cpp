@@ -16,7 +16,18 @@ using ::testing::SizeIs;
 using ::testing::StartsWith;
 using namespace kv::blk_ext;
 
-class BlkExtDlg : public BlockTest {};
+class BlkExtDlg : public BlockTest {
+protected:
+    std::string HeadingOf(int column) const {
+        char text[80] = "";
+        LVCOLUMN record;
+        record.mask = LVCF_TEXT;
+        record.pszText = text;
+        record.cchTextMax = sizeof text;
+        EXPECT_TRUE(dialog.m_listSelected.GetColumn(column, &record));
+        return text;
+    }
+};
 
 // Opening.
 
@@ -43,6 +54,8 @@ TEST_F(BlkExtDlg, ShowsTheCallersSelectionInTwoColumns) {
         EXPECT_TRUE(user.Enabled(kClear));
         EXPECT_FALSE(user.Enabled(kRemove));
         EXPECT_EQ(dialog.m_listSelected.GetColumnCount(), 2);
+        EXPECT_EQ(HeadingOf(0), "Selected Area");
+        EXPECT_EQ(HeadingOf(1), "Block/Extension");
         EXPECT_EQ(dialog.m_listSelected.GetColumnWidth(0), 200);
         EXPECT_EQ(dialog.m_listSelected.GetColumnWidth(1), 120);
         EXPECT_EQ(dialog.m_nSelectedRows, 2);
