@@ -1,5 +1,6 @@
 #include <QAbstractItemView>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QScrollBar>
 #include <QTreeView>
@@ -254,6 +255,42 @@ TEST_F(ListViewWidget, DraggingAColumnsEdgeWidensItInTheNode) {
     EXPECT_NEAR(List().Columns()[0].width, before * 2, 2);
 }
 
+TEST_F(ListViewWidget, ADoubleClickOnAColumnsEdgeFitsItToItsCells) {
+    ShowList(0);
+    auto& list = dialog.Control<CListCtrl>(35);
+    list.SetItemText(3, 1, "a block with a long name");
+    const QPoint edge(Header()->sectionViewportPosition(1) + Header()->sectionSize(1) - 1,
+                      Header()->height() / 2);
+    QTest::mouseDClick(Header()->viewport(), Qt::LeftButton, {}, edge);
+    EXPECT_GT(list.GetColumnWidth(1), list.GetStringWidth("a block with a long name"));
+    EXPECT_GT(Header()->sectionSize(1), Header()->sectionSize(0));
+}
+
+TEST_F(ListViewWidget, TheRightButtonSelectsAndTheParentMayForbidTheMenu) {
+    ShowList(0);
+    LRESULT forbidden = 0;
+    dialog.answerNotice = [&](const NMHDR& head) { return head.code == NM_RCLICK ? forbidden : 0; };
+    const auto menuAt = [&](int row) {
+        QWidget* viewport = View(35)->viewport();
+        const QPoint at = View(35)->visualRect(View(35)->model()->index(row, 0)).center();
+        QTest::mouseClick(viewport, Qt::RightButton, {}, at);
+        QContextMenuEvent event(QContextMenuEvent::Mouse, at, viewport->mapToGlobal(at));
+        QApplication::sendEvent(viewport, &event);
+        QWidget* menu = QApplication::activePopupWidget();
+        if (menu) menu->close();
+        Process();
+        return menu != nullptr;
+    };
+    EXPECT_TRUE(menuAt(1));
+    EXPECT_TRUE(List().Selected(1));
+    forbidden = 1;
+    EXPECT_FALSE(menuAt(2));
+    EXPECT_TRUE(List().Selected(2));
+    EXPECT_FALSE(List().Selected(1));
+    forbidden = 0;
+    EXPECT_TRUE(menuAt(2));
+}
+
 TEST_F(ListViewWidget, SelectedRowsAreCopiedWithTheirCells) {
     ShowList();
     ClickRow(35, 1);
@@ -349,6 +386,9 @@ TEST_F(ListViewWidget, SelectionAndFocusAreMarked) {
     List().SetItemState(2, LVIS_FOCUSED, LVIS_FOCUSED);
     EXPECT_FALSE(isMarked(2));
     EXPECT_NE(pictureOf(2), withoutFocusMark);
+    EXPECT_FALSE(isMarked(4));
+    List().SetItemState(4, LVIS_DROPHILITED, LVIS_DROPHILITED);
+    EXPECT_TRUE(isMarked(4));
 }
 
 TEST_F(ListViewWidget, TheWheelScrollsAndSelectsNothing) {
@@ -447,6 +487,15 @@ TEST_F(ListViewImages, StandBesideTheRowsThatHaveOne) {
     EXPECT_FALSE(Shows(1, 0, kSecond));
     Control().SetImageList(nullptr, LVSIL_SMALL);
     EXPECT_FALSE(Shows(1, 0, kFirst));
+}
+
+TEST_F(ListViewImages, OfARowThatIsCutArePale) {
+    Control().SetItemImage(1, 0, 0);
+    EXPECT_TRUE(Shows(1, 0, kFirst));
+    Control().SetItemState(1, LVIS_CUT, LVIS_CUT);
+    EXPECT_FALSE(Shows(1, 0, kFirst));
+    Control().SetItemState(1, 0, LVIS_CUT);
+    EXPECT_TRUE(Shows(1, 0, kFirst));
 }
 
 TEST_F(ListViewImages, StandInFurtherColumnsWhereTheStyleSaysSo) {

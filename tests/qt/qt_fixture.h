@@ -23,10 +23,14 @@ class NoticingDialog : public RecordingDialog {
 public:
     using RecordingDialog::RecordingDialog;
     std::function<void(const NMHDR&)> onNotice;
+    /// What the control is answered.
+    std::function<LRESULT(const NMHDR&)> answerNotice;
 
 protected:
     BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) override {
-        if (onNotice) onNotice(*reinterpret_cast<const NMHDR*>(lParam));
+        const auto& head = *reinterpret_cast<const NMHDR*>(lParam);
+        if (onNotice) onNotice(head);
+        if (answerNotice && (*result = answerNotice(head)) != 0) return TRUE;
         return RecordingDialog::OnNotify(wParam, lParam, result);
     }
 };

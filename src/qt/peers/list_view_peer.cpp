@@ -148,6 +148,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override { event->ignore(); }
 
 private:
+    void PressRight(const QMouseEvent& event);
     /// The row at a place, -1 for none: a row as such is what its first column shows, unless the
     /// whole of it can be picked.
     int RowAt(const QModelIndex& index) const;
@@ -159,6 +160,8 @@ private:
     QHash<int, QIcon> icons_;
     int shownFocus_ = -1;
     bool mirroring_ = false;
+    /// Whether the parent lets the menu come up that the right button asks for.
+    bool menuAllowed_ = true;
 };
 
 namespace {
@@ -199,7 +202,8 @@ protected:
         if (!list || index.row() >= list->Count()) return;
         const UINT state = list->Row(index.row()).state;
         const bool wholeRow = list->ExtendedStyle() & LVS_EX_FULLROWSELECT;
-        const bool selected = (state & LVIS_SELECTED) && (wholeRow || index.column() == 0);
+        const bool marked = state & (LVIS_SELECTED | LVIS_DROPHILITED);
+        const bool selected = marked && (wholeRow || index.column() == 0);
         const bool focused = (state & LVIS_FOCUSED) && index.column() == 0 && tree_.hasFocus();
         option->state.setFlag(QStyle::State_Selected, selected);
         option->state.setFlag(QStyle::State_HasFocus, focused);
@@ -221,6 +225,10 @@ private:
         if (option.icon.isNull() && !(first && list.SmallImages())) return;
         option.features |= QStyleOptionViewItem::HasDecoration;
         option.decorationSize = tree_.ImageSize();
+        // A row that was cut is pale until it is pasted elsewhere.
+        if (list.Row(index.row()).state & LVIS_CUT) {
+            option.icon = QIcon(option.icon.pixmap(option.decorationSize, QIcon::Disabled));
+        }
     }
 
     /// What is selected is so from the left edge on.
@@ -278,6 +286,9 @@ ListTree::ListTree(ListViewNode& list, QWidget* parent)
     header()->setHighlightSections(false);
     connect(header(), &QHeaderView::sectionClicked, this, [this](int column) {
         Act(node_, [column](Node& each) { input::ClickColumn(each, column); });
+    });
+    connect(header(), &QHeaderView::sectionHandleDoubleClicked, this, [this](int column) {
+        Act(node_, [column](Node& each) { input::ResizeColumn(each, column, LVSCW_AUTOSIZE); });
     });
     connect(header(), &QHeaderView::sectionResized, this, [this](int column, int, int width) {
         if (mirroring_) return;
@@ -340,8 +351,17 @@ int ListTree::RowAt(const QModelIndex& index) const {
     return whole || index.column() == 0 ? index.row() : -1;
 }
 
+void ListTree::PressRight(const QMouseEvent& event) {
+    const int row = RowAt(indexAt(event.position().toPoint()));
+    menuAllowed_ = false;
+    Act(node_, [&](Node& list) {
+        menuAllowed_ = input::RightClickRow(list, row, ToModifiers(event.modifiers()));
+    });
+}
+
 void ListTree::mousePressEvent(QMouseEvent* event) {
     event->accept();
+    if (event->button() == Qt::RightButton) PressRight(*event);
     if (event->button() != Qt::LeftButton) return;
     const QPoint at = event->position().toPoint();
     const QModelIndex index = indexAt(at);
@@ -369,6 +389,7 @@ void ListTree::mouseDoubleClickEvent(QMouseEvent* event) {
 }
 
 void ListTree::contextMenuEvent(QContextMenuEvent* event) {
+    if (event->reason() == QContextMenuEvent::Mouse && !menuAllowed_) return;
     if (Peer* peer = PeerOf(this)) ShowCopyMenu(*this, peer->GetNode(), event->globalPos());
 }
 
