@@ -2,11 +2,17 @@
 
 #include <gmock/gmock.h>
 
-#include "support/dialog_fixture.h"
+#include <string>
+#include <vector>
+
 #include "window/controls/edit.h"
 #include "window/frames/frame_wnd.h"
 
 namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::Not;
 
 TEST(KvdlgReport, TellsOfAPasswordOnlyThatThereIsOne) {
     CFrameWnd frame;
@@ -17,14 +23,13 @@ TEST(KvdlgReport, TellsOfAPasswordOnlyThatThereIsOne) {
     password.Create(WS_CHILD | WS_VISIBLE | ES_PASSWORD, {0, 20, 100, 40}, &frame, 2);
     const auto texts = [&] {
         const auto controls = kvdlg::Describe(*frame.m_hWnd, "").at("controls");
-        return std::pair(controls.at(0).at("text"), controls.at(1).at("text"));
+        return std::vector<std::string>{controls.at(0).at("text"), controls.at(1).at("text")};
     };
-    EXPECT_EQ(texts(), std::pair("", ""));
+    EXPECT_THAT(texts(), ElementsAre("", ""));
     user.SetWindowText("scott");
     password.SetWindowText("tiger");
-    EXPECT_EQ(texts(), std::pair("scott", "***"));
-    EXPECT_THAT(kvdlg::Print(kvdlg::Describe(*frame.m_hWnd, "start")),
-                testing::Not(testing::HasSubstr("tiger")));
+    EXPECT_THAT(texts(), ElementsAre("scott", "***"));
+    EXPECT_THAT(kvdlg::Print(kvdlg::Describe(*frame.m_hWnd, "start")), Not(HasSubstr("tiger")));
 }
 
 }  // namespace

@@ -123,6 +123,18 @@ TEST_F(MatchTest, AListFileThatCannotBeReadIsTold) {
                     "The list file C:\\none\\list.txt cannot be read."));
 }
 
+TEST_F(MatchTest, AListFileMayComeFromAnyEditorAndMustBeText) {
+    using namespace std::string_literals;
+    const std::string path = kv::FromNative(folder.Native("list.txt"));
+    const Json outcome = {{"values", {"C"}}, {"useListFile", true}, {"listFile", path}};
+    folder.Write("list.txt", "\xFE\xFF\0a\0\r\0b"s);
+    EXPECT_EQ(Of("CKvGuiListSel", outcome)->condition, "t.lessee in ('A', 'B')");
+    folder.Write("list.txt", "a\0"s);
+    EXPECT_THAT(
+        [&] { Of("CKvGuiListSel", outcome); },
+        testing::ThrowsMessage<std::runtime_error>("The list file " + path + " is not text."));
+}
+
 TEST_F(MatchTest, OfTheHighestLesseeIsTheLeasesOwn) {
     EXPECT_EQ(OfLessees({"A", "B"}, Json::object()), "t.lessee in ('A', 'B')");
 }

@@ -566,6 +566,37 @@ TEST_F(Converter, OkHidesItAndItsValuesLiveOn) {
     EXPECT_NE(tool.m_hWnd, nullptr);
 }
 
+TEST_F(Converter, ClosedItLetsItsBoxesGo) {
+    EXPECT_TRUE(Held(kLatitude));
+    EXPECT_TRUE(Held(kLongitude));
+    tool.CloseDlg();
+    EXPECT_FALSE(Held(kLatitude));
+    EXPECT_FALSE(Held(kLongitude));
+}
+
+TEST_F(Converter, APositionWithOneAngleOutOfRangeIsTold) {
+    for (const auto& [lat, lon] : {std::pair{28.5, 190.0}, {95.0, -91.25}}) {
+        desktop.ExpectMessage(kOutOfRange);
+        tool.SetPosition(lat, lon);
+        EXPECT_EQ(desktop.ScenesLeft(), 0) << lat << " " << lon;
+        EXPECT_EQ(test::FocusedId(), kX);
+    }
+}
+
+TEST_F(Converter, XAndYNowhereOnEarthAreNotValid) {
+    TypeFrom("1900000", "101234567");
+    desktop.ExpectMessage("The input X/Y pair is not valid");
+    user->Click(kConvertXY);
+    EXPECT_THAT(ToXYBoxes(), ElementsAre("", ""));
+
+    tool.ResetToDefault();
+    user->Click(kToLatLon);
+    TypeXY("1900000", "101234567");
+    desktop.ExpectMessage(kOutOfRange);
+    user->Click(kConvert);
+    EXPECT_THAT(Texts(kLatitude), ElementsAre("", "", ""));
+}
+
 TEST_F(Converter, IsClosedAndCreatedAnew) {
     TypePosition();
     user->Click(kConvert);

@@ -141,6 +141,26 @@ TEST_F(NadConvert, OkHidesItAndItsValuesLiveOn) {
     EXPECT_THAT(AllBoxes(), testing::Each(""));
 }
 
+TEST_F(NadConvert, ClosedItLetsItsBoxesGo) {
+    for (const auto& ids : {kLatitude27, kLongitude27, kLatitude83, kLongitude83})
+        EXPECT_TRUE(Held(ids)) << ids.degrees.edit;
+    tool.CloseDlg();
+    for (const auto& ids : {kLatitude27, kLongitude27, kLatitude83, kLongitude83})
+        EXPECT_FALSE(Held(ids)) << ids.degrees.edit;
+}
+
+TEST_F(NadConvert, APastedPositionFillsThePanelThatIsTheInput) {
+    user->Paste(kLongitude27.degrees.edit, "28.504236, -91.25");
+    EXPECT_THAT(Texts(kLatitude27), ElementsAre("28", "30", "15.25"));
+    EXPECT_THAT(Texts(kLongitude27), ElementsAre("-91", "15", "0.00"));
+    EXPECT_THAT(Texts(kLatitude83), ElementsAre("", "", ""));
+    user->Click(k83To27);
+    user->Paste(kLatitude83.minutes.edit, "28.504236, -91.25");
+    EXPECT_THAT(Texts(kLatitude83), ElementsAre("28", "30", "15.25"));
+    EXPECT_THAT(Texts(kLongitude83), ElementsAre("-91", "15", "0.00"));
+    EXPECT_THAT(Texts(kLatitude27), ElementsAre("", "", ""));
+}
+
 TEST_F(NadConvert, IsClosedAndCreatedAnew) {
     user.reset();
     tool.CloseDlg();

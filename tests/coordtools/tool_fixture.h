@@ -43,6 +43,16 @@ protected:
         user->Type(ids.minutes.edit, minutes);
         user->Type(ids.seconds.edit, seconds);
     }
+    /// Whether the tool's controls stand on an angle's boxes, which are plain ones without them.
+    bool Held(const kv::coordtools::AngleIds& ids) const {
+        const bool first = tool.m_hWnd->FindChild(ids.degrees.edit)->Handle() != nullptr;
+        for (const kv::coordtools::BoxIds& box : {ids.degrees, ids.minutes, ids.seconds}) {
+            for (const int id : {box.edit, box.spin}) {
+                EXPECT_EQ(tool.m_hWnd->FindChild(id)->Handle() != nullptr, first) << id;
+            }
+        }
+        return first;
+    }
     bool ReadOnly(int id) const { return (tool.GetDlgItem(id)->GetStyle() & ES_READONLY) != 0; }
     bool ReadOnly(const kv::coordtools::AngleIds& ids) const {
         const bool first = ReadOnly(ids.degrees.edit);
