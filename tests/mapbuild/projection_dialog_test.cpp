@@ -59,6 +59,21 @@ TEST_F(ProjectionDialog, GivesTheProjectionThatWasPickedUnderMore) {
     EXPECT_EQ(dialog.GetProjection(), 118);
 }
 
+TEST_F(ProjectionDialog, HasNoRectifyingPoint) {
+    dialog.SetProjection(115);
+    ExpectPick(kv::proj_sel::kStraightMercator, "Clarke 1866");
+    desktop.ExpectWindow("CKvGuiUTMZoneDlg", [](kv::User& zone) {
+        EXPECT_TRUE(zone.Checked(kv::utm_zone::kCenterOfMap));
+        EXPECT_FALSE(zone.Checked(kv::utm_zone::kUserSpecified));
+        zone.Click(IDOK);
+    });
+    Run(dialog, [&](kv::User& user) {
+        user.Select(kProjection, "More...");
+        user.Click(IDOK);
+    });
+    EXPECT_EQ(dialog.GetProjection(), 199);
+}
+
 TEST_F(ProjectionDialog, CanBeRunAgain) {
     for (const char* row : {"114 UTM", "117 UTM"}) {
         Run(dialog, [&](kv::User& user) {

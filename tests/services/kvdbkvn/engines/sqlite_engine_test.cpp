@@ -214,9 +214,10 @@ TEST_F(SqliteEngine, TheManagerLeavesAFileTheKindOfLogItHas) {
 
 TEST_F(SqliteEngine, OnAFullDiskAllIsKeptOrNothingAndThatIsTold) {
     std::string rows;
-    for (int i = 100; i < 400; ++i)
-        rows +=
-            (rows.empty() ? "('" : ", ('") + std::string(40, 'x') + "', " + std::to_string(i) + ")";
+    for (int i = 100; i < 400; ++i) {
+        rows += (rows.empty() ? " select '" : " union all select '") + std::string(40, 'x') +
+                "', " + std::to_string(i) + " from dual";
+    }
     std::size_t kept = 0;
     std::size_t told = 0;
     for (const char* kind : {"delete", "wal"}) {
@@ -233,7 +234,7 @@ TEST_F(SqliteEngine, OnAFullDiskAllIsKeptOrNothingAndThatIsTold) {
                     manager.Connect();
                     manager.Delete("delete from kvt");
                     manager.Insert("insert into kvt values ('new', 1)");
-                    manager.Insert("insert into kvt values " + rows);
+                    manager.Insert("insert into kvt" + rows);
                     manager.Commit();
                 });
                 if (!failure.empty()) manager.Rollback();
