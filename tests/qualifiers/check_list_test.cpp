@@ -485,10 +485,12 @@ TEST_F(CheckListWords, ADerivedLeaseDialogHasAHandlerForEachGroup) {
             const int first[] = {12008, 12009, 12010, 12030, 12033};
             for (int group = 0; group < 5; ++group) {
                 CheckDlgButton(boxes[group], BST_CHECKED);
-                (this->*all[group])();
+                const auto setMembers = all[group];
+                (this->*setMembers)();
                 EXPECT_TRUE(IsDlgButtonChecked(first[group])) << group;
                 CheckDlgButton(first[group], BST_UNCHECKED);
-                (this->*member[group])();
+                const auto setAll = member[group];
+                (this->*setAll)();
                 EXPECT_FALSE(IsDlgButtonChecked(boxes[group])) << group;
             }
         }
@@ -545,10 +547,12 @@ TEST_F(CheckListWords, ADerivedPipelineProductDialogHasAHandlerForEachGroup) {
             const int last[] = {13025, 13032, 29287, 13059};
             for (int group = 0; group < 4; ++group) {
                 CheckDlgButton(boxes[group], BST_CHECKED);
-                (this->*all[group])();
+                const auto setMembers = all[group];
+                (this->*setMembers)();
                 EXPECT_TRUE(IsDlgButtonChecked(last[group])) << group;
                 CheckDlgButton(last[group], BST_UNCHECKED);
-                (this->*member[group])();
+                const auto setAll = member[group];
+                (this->*setAll)();
                 EXPECT_FALSE(IsDlgButtonChecked(boxes[group])) << group;
             }
         }
