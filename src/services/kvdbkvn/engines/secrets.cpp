@@ -64,7 +64,6 @@ Secrets SecretsOf(const CKvDbInfo& info) {
     AddUrlPassword(info.GetServer(), secrets);
     AddKeywordPasswords(info.GetServer(), secrets);
     std::erase(secrets, "");
-    std::ranges::stable_sort(secrets, std::ranges::greater{}, &std::string::size);
     return secrets;
 }
 
@@ -79,15 +78,24 @@ bool StandsAlone(const std::string& text, std::size_t at, std::size_t end) {
 }  // namespace
 
 std::string Scrub(const std::string& text, const CKvDbInfo& info) {
-    static constexpr std::string_view kHidden = "***";
-    std::string clean = text;
+    // Found in the text as it came, so that no secret is looked for in the mark of another, and of
+    // two that overlap no end is left over.
+    std::vector<bool> hidden(text.size());
     for (const std::string& secret : SecretsOf(info)) {
-        for (std::size_t at = clean.find(secret); at != std::string::npos;) {
+        for (std::size_t at = text.find(secret); at != std::string::npos;
+             at = text.find(secret, at + 1)) {
             const std::size_t end = at + secret.size();
-            const bool hide = StandsAlone(clean, at, end);
-            if (hide) clean.replace(at, secret.size(), kHidden);
-            at = clean.find(secret, at + (hide ? kHidden.size() : 1));
+            if (StandsAlone(text, at, end))
+                std::fill(hidden.begin() + at, hidden.begin() + end, true);
         }
+    }
+
+    std::string clean;
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        if (!hidden[at])
+            clean += text[at];
+        else if (at == 0 || !hidden[at - 1])
+            clean += "***";
     }
     return clean;
 }

@@ -36,6 +36,15 @@ TEST(Secrets, SoAreThePiecesThatAnUnencodedSignCutsItInto) {
     EXPECT_EQ(Scrubbed("no port \"ti\"", "postgresql://scott:ti/ger@gulf/db"), "no port \"***\"");
 }
 
+TEST(Secrets, OfTwoPiecesThatOverlapNoEndIsLeftOver) {
+    EXPECT_EQ(Scrubbed("got cat dog emu", "postgresql://scott:cat dog@gulf/db", "dog emu"),
+              "got ***");
+}
+
+TEST(Secrets, NoSecretIsLookedForInTheMarkOfAnother) {
+    EXPECT_EQ(Scrubbed("got ti and *", "postgresql://scott:ti/*@gulf/db"), "got *** and ***");
+}
+
 TEST(Secrets, SoAreTheValuesOfPasswordKeywords) {
     EXPECT_EQ(Scrubbed("t1ger", "postgresql://gulf/db?user=scott&password=t1ger&x=y"), "***");
     EXPECT_EQ(Scrubbed("lion t1ger", "odbc:Driver=X;UID=scott;Pwd=t1ger;Port=1"), "lion ***");
