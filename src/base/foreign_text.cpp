@@ -4,26 +4,13 @@
 
 #include "base/paths.h"
 #include "base/text.h"
+#include "base/utf8.h"
 
 namespace kv {
 
 namespace {
 
 constexpr char32_t kReplacement = 0xFFFD;
-
-void AppendUtf8(std::string& text, char32_t code) {
-    const auto append = [&text](char32_t byte) { text += static_cast<char>(byte); };
-    const auto follow = [&](int shift) { append(0x80 | (code >> shift & 0x3F)); };
-    if (code < 0x80) {
-        append(code);
-    } else if (code < 0x800) {
-        append(0xC0 | code >> 6), follow(0);
-    } else if (code < 0x10000) {
-        append(0xE0 | code >> 12), follow(6), follow(0);
-    } else {
-        append(0xF0 | code >> 18), follow(12), follow(6), follow(0);
-    }
-}
 
 /// Takes code units off the bytes of a UTF-16 text.
 class Utf16 {

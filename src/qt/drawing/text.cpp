@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/utf8.h"
 #include "window/drawing/text_metrics.h"
 
 namespace kv::qt {
@@ -13,42 +14,12 @@ bool IsAscii(std::string_view bytes) {
                        [](char ch) { return static_cast<unsigned char>(ch) < 0x80; });
 }
 
-struct Decoded {
-    char32_t character;
-    int length;
-};
-
-bool IsContinuation(std::string_view bytes, std::size_t at) {
-    return at < bytes.size() && (static_cast<unsigned char>(bytes[at]) & 0xC0) == 0x80;
-}
-
-/// The character that begins at a place; a byte that begins no sequence is one by itself.
-Decoded DecodeAt(std::string_view bytes, std::size_t at) {
-    const auto lead = static_cast<unsigned char>(bytes[at]);
-    const int length = lead >= 0xF0 && lead <= 0xF4   ? 4
-                       : lead >= 0xE0 && lead <= 0xEF ? 3
-                       : lead >= 0xC2 && lead <= 0xDF ? 2
-                                                      : 1;
-    if (length == 1) return {lead, 1};
-    auto character = static_cast<char32_t>(lead & (0x7F >> length));
-    for (int i = 1; i < length; ++i) {
-        const std::size_t next = at + static_cast<std::size_t>(i);
-        if (!IsContinuation(bytes, next)) return {lead, 1};
-        character = (character << 6) | (static_cast<unsigned char>(bytes[next]) & 0x3Fu);
-    }
-    const bool surrogate = character >= 0xD800 && character <= 0xDFFF;
-    const bool overlong =
-        (length == 3 && character < 0x800) || (length == 4 && character < 0x10000);
-    if (surrogate || overlong || character > 0x10FFFF) return {lead, 1};
-    return {character, length};
-}
-
 template <typename Visit>
 void ForEachCharacter(std::string_view bytes, Visit visit) {
     for (std::size_t at = 0; at < bytes.size();) {
-        const Decoded decoded = DecodeAt(bytes, at);
-        visit(decoded, static_cast<int>(at));
-        at += static_cast<std::size_t>(decoded.length);
+        const Utf8Character character = Utf8At(bytes, at);
+        visit(character.code, static_cast<int>(at));
+        at += character.length;
     }
 }
 
@@ -68,7 +39,7 @@ QString ToQString(std::string_view bytes) {
     if (IsAscii(bytes)) return QString::fromLatin1(bytes.data(), size);
     QString text;
     text.reserve(size);
-    ForEachCharacter(bytes, [&](Decoded decoded, int) { Append(text, decoded.character); });
+    ForEachCharacter(bytes, [&](char32_t character, int) { Append(text, character); });
     return text;
 }
 
@@ -82,15 +53,15 @@ PlacedText::PlacedText(std::string_view bytes, bool lines) : size_(static_cast<i
         text_ = ToQString(bytes);
         return;
     }
-    ForEachCharacter(bytes, [&](Decoded decoded, int byte) {
+    ForEachCharacter(bytes, [&](char32_t character, int byte) {
         const auto next = static_cast<std::size_t>(byte) + 1;
-        if (lines && decoded.character == '\n' && byte > 0 &&
+        if (lines && character == '\n' && byte > 0 &&
             bytes[static_cast<std::size_t>(byte) - 1] == '\r') {
             return;
         }
         const bool pair =
-            lines && decoded.character == '\r' && next < bytes.size() && bytes[next] == '\n';
-        Append(text_, pair ? U'\n' : decoded.character);
+            lines && character == '\r' && next < bytes.size() && bytes[next] == '\n';
+        Append(text_, pair ? U'\n' : character);
         bytes_.resize(static_cast<std::size_t>(text_.size()), byte);
     });
 }

@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <iterator>
 
+#include "base/utf8.h"
+
 namespace kv {
 
 namespace {
@@ -125,15 +127,6 @@ static_assert(std::is_sorted(std::begin(kGlyphs), std::end(kGlyphs),
                                  return a.character < b.character;
                              }));
 
-/// How many bytes follow a first byte of UTF-8; -1 for a byte that begins no character.
-int FollowersOf(unsigned char first) {
-    if (first < 0x80) return 0;
-    if (first >= 0xC2 && first <= 0xDF) return 1;
-    if (first >= 0xE0 && first <= 0xEF) return 2;
-    if (first >= 0xF0 && first <= 0xF4) return 3;
-    return -1;
-}
-
 }  // namespace
 
 const Glyph& GlyphOf(char32_t character) {
@@ -146,28 +139,9 @@ const Glyph& GlyphOf(char32_t character) {
 }
 
 char32_t TakeCharacter(std::string_view& text) {
-    const auto byteAt = [&text](std::size_t place) {
-        return static_cast<unsigned char>(text[place]);
-    };
-    const unsigned char first = byteAt(0);
-    const int followers = FollowersOf(first);
-    char32_t character = first;
-    std::size_t length = 1;
-    if (followers > 0 && text.size() > static_cast<std::size_t>(followers)) {
-        const auto count = static_cast<std::size_t>(followers);
-        char32_t value = static_cast<char32_t>(first & (0x3F >> followers));
-        bool whole = true;
-        for (std::size_t place = 1; place <= count; ++place) {
-            whole = whole && (byteAt(place) & 0xC0) == 0x80;
-            value = value << 6 | static_cast<char32_t>(byteAt(place) & 0x3F);
-        }
-        if (whole) {
-            character = value;
-            length = count + 1;
-        }
-    }
-    text.remove_prefix(length);
-    return character;
+    const Utf8Character character = Utf8At(text, 0);
+    text.remove_prefix(character.length);
+    return character.code;
 }
 
 }  // namespace kv

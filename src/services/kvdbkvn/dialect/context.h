@@ -18,8 +18,9 @@ struct Context {
     /// The columns of a table, in their order, by the names that the engine keeps; the schema may
     /// be empty. None where there is no such table. Null counts as "none".
     std::function<Columns(const std::string& schema, const std::string& table)> columnsOf;
-    /// Whether the session knows the functions `lesort` and, on SQLite, `kv_number`. Where it knows
-    /// none (SQLite behind ODBC, and PostgreSQL) the sort key is printed as an expression.
+    /// Whether the session knows the functions `lesort` and, on SQLite, `kv_number` and
+    /// `kv_to_date`. Where it knows none (SQLite behind ODBC, and PostgreSQL) the sort key is
+    /// printed as an expression.
     bool hasOwnFunctions = true;
 };
 

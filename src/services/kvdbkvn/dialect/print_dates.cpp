@@ -99,10 +99,13 @@ void Printer::PutToDate(const Expr& call) {
         if (!date) throw Unreadable{text.text};
         return PutDateText(*date);
     }
-    if (!ForPostgres()) throw Unreadable{place};
-    Put("cast(to_timestamp(");
+    const bool bySqlite = !ForPostgres() && context_.hasOwnFunctions;
+    if (!ForPostgres() && !bySqlite) throw Unreadable{place};
+    Put(bySqlite ? "kv_to_date(" : "cast(to_timestamp(");
     PutText(text);
-    Put(", '" + PostgresFormat(*format) + "') as timestamp)");
+    Put(", ");
+    Put(bySqlite ? written.text : "'" + PostgresFormat(*format) + "'");
+    Put(bySqlite ? ")" : ") as timestamp)");
 }
 
 void Printer::PutTrunc(const Expr& call) {

@@ -34,7 +34,7 @@ class Session {
 public:
     virtual ~Session() = default;
     virtual dialect::Target Target() const = 0;
-    /// Whether statements may call the functions `lesort` and `kv_number`.
+    /// Whether statements may call the functions `lesort`, `kv_number` and `kv_to_date`.
     virtual bool HasOwnFunctions() const = 0;
     /// False once the server is known to be gone, or the file replaced: the session is then not
     /// used again.

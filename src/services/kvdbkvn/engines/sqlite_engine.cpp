@@ -15,12 +15,11 @@
 #include "base/paths.h"
 #include "base/text.h"
 #include "frame/kvcom/exception.h"
-#include "services/kvdbkvn/dialect/lease_sort.h"
-#include "services/kvdbkvn/dialect/types.h"
 #include "services/kvdbkvn/engines/column_types.h"
 #include "services/kvdbkvn/engines/database_fault.h"
 #include "services/kvdbkvn/engines/file_identity.h"
 #include "services/kvdbkvn/engines/row_arena.h"
+#include "services/kvdbkvn/engines/sqlite_functions.h"
 
 namespace kv::db {
 namespace {
@@ -42,28 +41,6 @@ struct FinalizeStatement {
 };
 using Statement = std::unique_ptr<sqlite3_stmt, FinalizeStatement>;
 
-/// SQL function lesort(text); null stays null.
-void LeaseSort(sqlite3_context* context, int, sqlite3_value** values) {
-    const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(values[0]));
-    if (!text) return sqlite3_result_null(context);
-    const auto length = static_cast<std::size_t>(sqlite3_value_bytes(values[0]));
-    const std::string key = dialect::LeaseSortKey(std::string_view(text, length));
-    sqlite3_result_text(context, key.data(), static_cast<int>(key.size()), SQLITE_TRANSIENT);
-}
-
-/// SQL function kv_number(value): a text that reads as a number, without the blanks around it; what
-/// is no text stays as it is, an empty text is null, and any other is an error.
-void CheckNumber(sqlite3_context* context, int, sqlite3_value** values) {
-    if (sqlite3_value_type(values[0]) != SQLITE_TEXT)
-        return sqlite3_result_value(context, values[0]);
-    const std::string text = reinterpret_cast<const char*>(sqlite3_value_text(values[0]));
-    const std::string number = TrimSpace(text);
-    if (text.empty()) return sqlite3_result_null(context);
-    if (!dialect::ReadsAsNumber(number))
-        return sqlite3_result_error(context, ("invalid number: \"" + text + "\"").c_str(), -1);
-    sqlite3_result_text(context, number.data(), static_cast<int>(number.size()), SQLITE_TRANSIENT);
-}
-
 class SqliteSession final : public Session {
 public:
     /// One that is `frozen` is read as it stands, past its log and unguarded against who changes
@@ -74,8 +51,7 @@ public:
           identity_(IdentityOf(path_)),
           frozen_(frozen) {
         sqlite3_set_authorizer(database_.get(), &Authorize, this);
-        AddFunction("lesort", &LeaseSort);
-        AddFunction("kv_number", &CheckNumber);
+        AddSqliteFunctions(database_.get());
         Run("pragma case_sensitive_like=on");
         LookAtFile();
         sqlite3_busy_timeout(database_.get(), kBusyMilliseconds);
@@ -293,11 +269,6 @@ private:
         // A statement that changes no rows leaves the count of the one before.
         const bool changed = sqlite3_total_changes(database_.get()) != before;
         return changed ? sqlite3_changes(database_.get()) : 0;
-    }
-
-    void AddFunction(const char* name, void (*function)(sqlite3_context*, int, sqlite3_value**)) {
-        sqlite3_create_function_v2(database_.get(), name, 1, SQLITE_UTF8 | SQLITE_DETERMINISTIC,
-                                   nullptr, function, nullptr, nullptr, nullptr);
     }
 
     void Run(const char* sql) {

@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "support/database_helpers.h"
+#include "support/plain_user.h"
 #include "support/sqlite_file.h"
 #include "support/temp_folder.h"
 
@@ -71,6 +72,21 @@ TEST_F(OdbcEngine, ALockedFileIsConnectedToAndToldOfWithinSecondsWhenItIsAsked) 
     EXPECT_THAT(FailureOf([&] { manager_.Select("select a from kvt"); }), HasSubstr("locked"));
     sqlite3_close(other);
     EXPECT_EQ(manager_.Select("select a from kvt"), 0);
+}
+
+TEST_F(OdbcEngine, AChangeOfAFileThatIsClosedToWritingIsToldInTrueWords) {
+    std::filesystem::permissions(path_, std::filesystem::perms(0444));
+    std::filesystem::permissions(folder_.Native(), std::filesystem::perms(0755));
+    EXPECT_EXIT(ExitAsPlainUser(
+                    path_,
+                    [&] {
+                        manager_.Connect();
+                        const std::string failure =
+                            FailureOf([&] { manager_.Insert("insert into kvt values ('x', 1)"); });
+                        return failure.find("readonly") != std::string::npos &&
+                               failure.find("only a statement that reads") == std::string::npos;
+                    }),
+                testing::ExitedWithCode(0), "");
 }
 
 TEST_F(OdbcEngine, ASessionOfAFileThatWasReplacedIsNotLentAgain) {
