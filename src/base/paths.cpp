@@ -28,6 +28,7 @@ constexpr bool kHasDrives = fs::path::preferred_separator != '/';
 
 struct Drives {
     std::map<char, std::string> roots;  ///< each without a slash at its end
+    std::map<char, DriveKind> kinds;    ///< of those that were mapped with one
     std::function<void()> source;
     bool asked = false;
 };
@@ -69,25 +70,34 @@ bool IsThere(const std::string& native) {
     return fs::exists(fs::symlink_status(native, error));
 }
 
-/// Visits what a folder holds but "." and "..". The standard's own iterator ends the process where
-/// memory runs out.
+/// Visits what a folder holds but "." and ".."; false where it cannot be read. The standard's own
+/// iterator ends the process where memory runs out.
 template <class Visit>
-void ForEachName(const std::string& folder, Visit visit) {
+bool ForEachEntry(const std::string& folder, Visit visit) {
     struct Close {
         void operator()(DIR* opened) const { closedir(opened); }
     };
     const std::unique_ptr<DIR, Close> opened(opendir(folder.c_str()));
-    if (!opened) return;
+    if (!opened) return false;
     while (const dirent* entry = readdir(opened.get())) {
         const std::string_view name = entry->d_name;
-        if (name != "." && name != "..") visit(name);
+        if (name != "." && name != "..") visit(*entry);
     }
+    return true;
+}
+
+/// The kernel tells what an entry is, but for links and some file systems.
+bool IsFolderIn(const std::string& folder, const dirent& entry) {
+    if (entry.d_type != DT_LNK && entry.d_type != DT_UNKNOWN) return entry.d_type == DT_DIR;
+    std::error_code error;
+    return fs::is_directory(fs::path(folder) / entry.d_name, error);
 }
 
 /// The name in a folder that differs in case alone, the first in byte order; "" if there is none.
 std::string OtherCase(const std::string& folder, const std::string& name) {
     std::string found;
-    ForEachName(folder, [&](std::string_view candidate) {
+    ForEachEntry(folder, [&](const dirent& entry) {
+        const std::string_view candidate = entry.d_name;
         if (EqualsNoCase(candidate, name) && (found.empty() || candidate < found))
             found = candidate;
     });
@@ -173,14 +183,16 @@ std::string TemporaryName(const std::string& target, int attempt) {
 
 }  // namespace
 
-void MapDrive(char letter, std::string root) {
+void MapDrive(char letter, std::string root, std::optional<DriveKind> kind) {
     if (!IsLetter(letter)) return;
-    auto& roots = AllDrives().roots;
+    Drives& drives = AllDrives();
     const char drive = ToUpper(letter);
+    drives.kinds.erase(drive);
+    if (kind && !root.empty()) drives.kinds[drive] = *kind;
     if (root.empty() && drive != 'C') {
-        roots.erase(drive);
+        drives.roots.erase(drive);
     } else {
-        roots[drive] = WithoutSlashAtEnd(std::move(root));
+        drives.roots[drive] = WithoutSlashAtEnd(std::move(root));
     }
 }
 
@@ -191,6 +203,7 @@ std::function<void()> SetDriveSource(std::function<void()> source) {
 
 void ForgetDrives() {
     Registered().roots.clear();
+    Registered().kinds.clear();
     Registered().asked = false;
 }
 
@@ -213,6 +226,8 @@ DriveKind GetDriveKind(char letter) {
                                               {0xFF534D42, kDriveRemote},
                                               {0x9660, kDriveCdRom},
                                               {0x15013346, kDriveCdRom}}};
+    const auto& kinds = AllDrives().kinds;
+    if (const auto known = kinds.find(ToUpper(letter)); known != kinds.end()) return known->second;
     const std::string root = InDrive(letter, "\\");
     struct statfs system {};
     if (root.empty() || statfs(root.c_str(), &system) != 0) return kDriveNone;
@@ -342,15 +357,18 @@ bool RemoveFile(std::string_view path) {
     return !fs::is_directory(native, error) && !FileCallFails() && fs::remove(native, error);
 }
 
-std::vector<FolderEntry> ListFolder(std::string_view path) {
-    std::vector<FolderEntry> entries;
-    if (FileCallFails()) return entries;
+std::optional<std::vector<FolderEntry>> ReadFolder(std::string_view path) {
     const std::string folder = ToNative(path);
-    ForEachName(folder, [&](std::string_view name) {
-        std::error_code unknown;
-        const bool isFolder = fs::is_directory(fs::path(folder) / name, unknown);
-        entries.push_back({std::string(name), isFolder});
-    });
+    std::vector<FolderEntry> entries;
+    const auto add = [&](const dirent& entry) {
+        entries.push_back({entry.d_name, IsFolderIn(folder, entry)});
+    };
+    if (FileCallFails() || folder.empty() || !ForEachEntry(folder, add)) return std::nullopt;
+    return entries;
+}
+
+std::vector<FolderEntry> ListFolder(std::string_view path) {
+    std::vector<FolderEntry> entries = ReadFolder(path).value_or(std::vector<FolderEntry>());
     std::sort(entries.begin(), entries.end(), [](const FolderEntry& a, const FolderEntry& b) {
         const int order = CompareNoCase(a.name, b.name);
         return order != 0 ? order < 0 : a.name < b.name;

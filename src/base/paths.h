@@ -15,9 +15,20 @@
 /// that begins with "/" is the machine's own. On a platform that has drives nothing is translated.
 namespace kv {
 
+/// What kind of drive a letter is, by the platform's numbers.
+enum DriveKind : int {
+    kDriveUnknown = 0,
+    kDriveNone = 1,
+    kDriveRemovable = 2,
+    kDriveFixed = 3,
+    kDriveRemote = 4,
+    kDriveCdRom = 5
+};
+
 /// Lets the drive stand for that folder of the machine; an empty text takes the drive away again.
-/// "C:" is "/" unless it is mapped.
-KVGUICTL_API void MapDrive(char letter, std::string root);
+/// "C:" is "/" unless it is mapped. Without a kind the drive is what the folder's file system says.
+KVGUICTL_API void MapDrive(char letter, std::string root,
+                           std::optional<DriveKind> kind = std::nullopt);
 
 /// Names the function that maps the drives of this machine, by `MapDrive`. It is called once, when
 /// a path is first translated. Forgets every drive, and returns the source there was.
@@ -28,15 +39,6 @@ KVGUICTL_API void ForgetDrives();
 /// Letters of the drives there are, in upper case, in order.
 KVGUICTL_API std::string DriveLetters();
 
-/// What kind of drive a letter is, by the platform's numbers.
-enum DriveKind : int {
-    kDriveUnknown = 0,
-    kDriveNone = 1,
-    kDriveRemovable = 2,
-    kDriveFixed = 3,
-    kDriveRemote = 4,
-    kDriveCdRom = 5
-};
 KVGUICTL_API DriveKind GetDriveKind(char letter);
 
 /// The machine's own path. Each name that exists is found without regard to case, the exact one
@@ -78,8 +80,11 @@ KVGUICTL_API bool RemoveFile(std::string_view path);
 
 struct FolderEntry {
     std::string name;
-    bool isFolder = false;
+    bool isFolder = false;  ///< or a link to one
 };
+/// What a folder holds, without "." and "..", in no order; none where it cannot be read. Beside the
+/// folder itself only links are looked at.
+KVGUICTL_API std::optional<std::vector<FolderEntry>> ReadFolder(std::string_view path);
 /// What a folder holds, without "." and "..", in case-insensitive order of names; nothing where it
 /// cannot be read.
 KVGUICTL_API std::vector<FolderEntry> ListFolder(std::string_view path);

@@ -86,6 +86,39 @@ TEST(Paths, DrivesHaveKinds) {
     EXPECT_EQ(kv::GetDriveKind('?'), kv::kDriveNone);
 }
 
+TEST(Paths, ADriveMayBeMappedWithItsKind) {
+    const TempFolder folder;
+    kv::MapDrive('D', folder.Native(), kv::kDriveCdRom);
+    EXPECT_EQ(kv::GetDriveKind('d'), kv::kDriveCdRom);
+    kv::MapDrive('D', folder.Native());
+    EXPECT_EQ(kv::GetDriveKind('D'), kv::kDriveFixed);
+    kv::MapDrive('D', folder.Native(), kv::kDriveRemote);
+    kv::ForgetDrives();
+    EXPECT_EQ(kv::GetDriveKind('D'), kv::kDriveNone);
+    kv::MapDrive('D', folder.Native(), kv::kDriveRemote);
+    kv::MapDrive('D', "");
+    EXPECT_EQ(kv::GetDriveKind('D'), kv::kDriveNone);
+}
+
+TEST(ReadFolder, TellsFoldersAndLinksToThemFromFilesAndWhatCannotBeRead) {
+    const TempFolder folder;
+    folder.Write("here/a.txt", "");
+    folder.Write("here/sub/b.txt", "");
+    fs::create_directory_symlink("sub", folder.Native("here/link"));
+    fs::create_symlink("nowhere", folder.Native("here/dangling"));
+    std::map<std::string, bool> entries;
+    const auto read = kv::ReadFolder(folder.Dialog("here"));
+    ASSERT_TRUE(read);
+    for (const kv::FolderEntry& entry : *read)
+        entries[entry.name] = entry.isFolder;
+    EXPECT_EQ(entries, (std::map<std::string, bool>{
+                           {"a.txt", false}, {"dangling", false}, {"link", true}, {"sub", true}}));
+    EXPECT_FALSE(kv::ReadFolder(folder.Dialog("nowhere")));
+    EXPECT_FALSE(kv::ReadFolder(folder.Dialog("here/a.txt")));
+    EXPECT_FALSE(kv::ReadFolder("Q:\\"));
+    EXPECT_FALSE(kv::ReadFolder(""));
+}
+
 TEST(Paths, TheSourceOfDrivesIsAskedOnceWhenFirstNeeded) {
     const TempFolder folder;
     int asked = 0;
