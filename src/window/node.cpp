@@ -22,6 +22,8 @@ Node::Node(NodeClass nodeClass, int id, DWORD style) : class_(nodeClass), id_(id
 Node::~Node() {
     if (!destroyed_) WindowSystem::Get().Forget(*this);
     if (handle_) handle_->m_hWnd = nullptr;
+    for (CWnd* behind : handlesBehind_)
+        behind->m_hWnd = nullptr;
     if (lookupHandle_) lookupHandle_->m_hWnd = nullptr;
     for (const auto& child : children_)
         child->parent_ = nullptr;
@@ -161,6 +163,16 @@ Node* Node::LastFocus() const {
         if (!node->Enabled() || !node->Visible()) return nullptr;
     }
     return last.get();
+}
+
+bool Node::HasHandle(const CWnd* handle) const {
+    return handle == handle_ || std::ranges::find(handlesBehind_, handle) != handlesBehind_.end();
+}
+
+CWnd* Node::HandleBehind(const CWnd* handle) const {
+    const auto at = std::ranges::find(handlesBehind_, handle);
+    if (handle != handle_ && at == handlesBehind_.end()) return nullptr;
+    return at == handlesBehind_.begin() ? nullptr : *std::prev(at);
 }
 
 CWnd* Node::AnyHandle() {

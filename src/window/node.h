@@ -130,6 +130,10 @@ public:
 
     /// The handle that the node's messages go through, or null.
     CWnd* Handle() const { return handle_; }
+    /// Whether it is attached, as the first to be asked or behind others.
+    bool HasHandle(const CWnd* handle) const;
+    /// The attached handle that is asked next behind that one; null for none.
+    CWnd* HandleBehind(const CWnd* handle) const;
     /// The attached handle, or else one that the node keeps for look-ups, of the class that fits
     /// it.
     CWnd* AnyHandle();
@@ -182,6 +186,8 @@ private:
     Node* owner_ = nullptr;
     std::vector<std::shared_ptr<Node>> children_;
     CWnd* handle_ = nullptr;
+    /// Those that the attached one has subclassed, the first one first.
+    std::vector<CWnd*> handlesBehind_;
     std::unique_ptr<CWnd> lookupHandle_;
     std::unique_ptr<View> view_;
 };

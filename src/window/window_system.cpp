@@ -108,11 +108,10 @@ void WindowSystem::Release(Node& node) {
     Forget(node);
     node.view_.reset();
     if (node.lookupHandle_) node.lookupHandle_->m_hWnd = nullptr;
-    CWnd* handle = node.handle_;
-    node.handle_ = nullptr;
-    if (!handle) return;
-    handle->m_hWnd = nullptr;
-    Guarded([handle] { handle->PostNcDestroy(); });
+    while (CWnd* handle = node.handle_) {
+        handle->Detach();
+        Guarded([handle] { handle->PostNcDestroy(); });
+    }
 }
 
 /// Takes a window that is gone out of the tree.

@@ -57,10 +57,12 @@ std::unique_ptr<CWnd> CRuntimeClass::CreateObject() const {
 }
 
 CWnd::~CWnd() {
-    if (!m_hWnd || m_hWnd->handle_ != this) return;
+    if (!m_hWnd || !m_hWnd->HasHandle(this)) return;
     const auto window = m_hWnd->shared_from_this();
-    // A control outlives its handle; a window that holds controls does not.
-    if (window->Host() == window.get()) WindowSystem::Get().Destroy(*window);
+    // A control outlives its handle; a window that holds controls outlives those alone that were
+    // put in front of another.
+    const bool last = !window->HandleBehind(this);
+    if (last && window->Host() == window.get()) WindowSystem::Get().Destroy(*window);
     if (m_hWnd) Detach();
 }
 
@@ -88,13 +90,25 @@ BOOL CWnd::Attach(HWND window) {
 
 HWND CWnd::Detach() {
     HWND window = m_hWnd;
-    if (window && window->handle_ == this) window->handle_ = nullptr;
     m_hWnd = nullptr;
+    if (!window) return nullptr;
+    auto& behind = window->handlesBehind_;
+    if (window->handle_ != this) {
+        std::erase(behind, this);
+    } else {
+        window->handle_ = behind.empty() ? nullptr : behind.back();
+        if (!behind.empty()) behind.pop_back();
+    }
     return window;
 }
 
 BOOL CWnd::SubclassWindow(HWND window) {
-    return Attach(window);
+    if (!window || window->Destroyed() || m_hWnd) return FALSE;
+    if (window->handle_) window->handlesBehind_.push_back(window->handle_);
+    window->handle_ = this;
+    m_hWnd = window;
+    PreSubclassWindow();
+    return TRUE;
 }
 
 BOOL CWnd::SubclassDlgItem(UINT id, CWnd* parent) {
@@ -373,13 +387,20 @@ LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     const bool taken = HandleByTable(message, wParam, lParam, &result);
     // A handler may have ended the window, or deleted this object: then the window has another
     // handle, or none.
-    if (!taken && !window->Destroyed()) result = window->Process(message, wParam, lParam);
-    if (window->handle_ == this) m_current = outer;
+    if (!taken && !window->Destroyed()) result = PassOn(window, message, wParam, lParam);
+    if (window->HasHandle(this)) m_current = outer;
     return result;
 }
 
 LRESULT CWnd::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
-    return m_hWnd ? m_hWnd->Process(message, wParam, lParam) : 0;
+    return m_hWnd ? PassOn(m_hWnd, message, wParam, lParam) : 0;
+}
+
+/// To the handle behind this one, or else to the window itself. This object may be gone.
+LRESULT CWnd::PassOn(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    CWnd* next = window->HandleBehind(this);
+    return next ? next->WindowProc(message, wParam, lParam)
+                : window->Process(message, wParam, lParam);
 }
 
 LRESULT CWnd::Default() {
@@ -431,11 +452,12 @@ BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam) {
     const auto keepControl = control->shared_from_this();
     const auto self = m_hWnd->shared_from_this();
     // What a bar hands on to its frame has been offered to the control already.
-    const bool own = control->Parent() == self.get();
+    // The first of several handles offers it once for all.
+    const bool own = control->Parent() == self.get() && self->handle_ == this;
     if (own && control->handle_ && control->handle_->OnCmdMsg(id, code, nullptr, nullptr)) {
         return TRUE;
     }
-    const bool endedByControl = self->handle_ != this;
+    const bool endedByControl = !self->HasHandle(this);
     return endedByControl || OnCmdMsg(id, code, nullptr, nullptr);
 }
 
@@ -451,9 +473,10 @@ BOOL CWnd::OnNotify(WPARAM, LPARAM lParam, LRESULT* result) {
     };
     const auto self = m_hWnd->shared_from_this();
     const HWND from = header->hwndFrom;
-    CWnd* control = from && from->Parent() == self.get() ? from->handle_ : nullptr;
+    const bool own = from && from->Parent() == self.get() && self->handle_ == this;
+    CWnd* control = own ? from->handle_ : nullptr;
     if (control && offer(*control, MessageEntry::Kind::kReflectedNotify)) return TRUE;
-    const bool endedByControl = self->handle_ != this;
+    const bool endedByControl = !self->HasHandle(this);
     return endedByControl || offer(*this, MessageEntry::Kind::kNotify);
 }
 
@@ -481,7 +504,7 @@ void CWnd::UpdateDialogControls(CCmdTarget* target, BOOL disableIfNoHandler) {
     const auto self = m_hWnd->shared_from_this();
     const auto children = self->Children();
     for (const auto& child : children) {
-        if (self->handle_ != this) return;
+        if (!self->HasHandle(this)) return;
         if (child->Destroyed() || child->Id() == IDC_STATIC) continue;
         UpdateControl(*child, target, disableIfNoHandler);
     }

@@ -97,6 +97,8 @@ public:
     HWND Detach();
     /// Attaches to the control of that id in a window. False when there is none.
     BOOL SubclassDlgItem(UINT id, CWnd* parent);
+    /// Attaches to a window, in front of the handle that it may have: what this one leaves goes on
+    /// to that one.
     BOOL SubclassWindow(HWND window);
     HWND UnsubclassWindow() { return Detach(); }
 
@@ -218,6 +220,7 @@ private:
     static CWnd* LookupHandle(HWND window);
     void UpdateControl(kv::Node& control, CCmdTarget* target, BOOL disableIfNoHandler);
     bool HandleByTable(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result);
+    LRESULT PassOn(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
     MSG m_current;
 };

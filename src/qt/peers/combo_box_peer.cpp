@@ -10,6 +10,8 @@
 #include <QStyleOptionComboBox>
 #include <algorithm>
 
+#include "qt/drawing/paint.h"
+#include "qt/drawing/scale.h"
 #include "qt/drawing/text.h"
 #include "qt/peers/acting.h"
 #include "qt/peers/edit_peer.h"
@@ -26,17 +28,21 @@ constexpr int kMostRowsShown = 16;
 /// Rows that are measured for the width of a dropped list.
 constexpr int kRowsMeasured = 200;
 
-/// The one row that a closed box shows: its text.
+/// The one row that a closed box shows: its text, and the image of the current row.
 class TextModel : public QAbstractListModel {
 public:
-    explicit TextModel(Node& node) : node_(node.weak_from_this()) {}
+    explicit TextModel(ComboBoxNode& node) : node_(node.weak_from_this()) {}
 
     int rowCount(const QModelIndex& parent) const override { return parent.isValid() ? 0 : 1; }
     QVariant data(const QModelIndex&, int role) const override {
         const auto node = node_.lock();
-        return node && role == Qt::DisplayRole ? QVariant(ToQString(node->Text())) : QVariant();
+        if (!node || node->Destroyed()) return {};
+        if (role == Qt::DisplayRole) return ToQString(node->Text());
+        const auto& box = static_cast<const ComboBoxNode&>(*node);
+        const Raster* image = box.RowImage(box.CurrentRow());
+        return role == Qt::DecorationRole && image ? QVariant(IconOf(*image)) : QVariant();
     }
-    void TextChanged() { emit dataChanged(index(0), index(0)); }
+    void Changed() { emit dataChanged(index(0), index(0)); }
 
 private:
     std::weak_ptr<Node> node_;
@@ -50,8 +56,12 @@ public:
         setCurrentIndex(0);
     }
 
-    void TextChanged() {
-        model_.TextChanged();
+    void RowChanged() {
+        const auto node = node_.lock();
+        const auto* images =
+            node && !node->Destroyed() ? static_cast<ComboBoxNode&>(*node).Images() : nullptr;
+        if (images) setIconSize(CurrentScale().ToScreen(images->Size()));
+        model_.Changed();
         update();
     }
     /// The edit lies where the style has it.
@@ -197,7 +207,7 @@ void ComboBoxPeer::MakeRows(QWidget* parent) {
 }
 
 void ComboBoxPeer::ShowText() {
-    if (auto* view = dynamic_cast<ComboView*>(Widget())) view->TextChanged();
+    if (auto* view = dynamic_cast<ComboView*>(Widget())) view->RowChanged();
 }
 
 void ComboBoxPeer::ShowEnabled() {
@@ -221,6 +231,10 @@ void ComboBoxPeer::Changed(Change change) {
             break;
         case Change::kSelection:
             if (rows_) rows_->SelectionChanged();
+            break;
+        case Change::kImage:
+            if (rows_) rows_->RowsChanged();
+            ShowText();
             break;
         default:
             Peer::Changed(change);
@@ -273,6 +287,8 @@ void ComboBoxPeer::PlacePopup() {
     for (int row = 0; row < std::min(rows.Count(), kRowsMeasured); ++row) {
         width = std::max(width, rows_->fontMetrics().horizontalAdvance(ToQString(rows.Text(row))));
     }
+    if (const ImageList* images = Combo().Images())
+        width += CurrentScale().ToScreen(images->Size()).width();
     const int margin = 2 * rows_->RowHeight() / 2 + rows_->verticalScrollBar()->sizeHint().width();
     const QRect screen = Widget()->screen()->availableGeometry();
     QSize size(std::clamp(width + margin + frame, Widget()->width(),

@@ -3,6 +3,7 @@
 #include "qt/peers/acting.h"
 #include "qt/peers/keyboard.h"
 #include "window/acting/input.h"
+#include "window/controls/combo_box_node.h"
 
 namespace kv::qt {
 
@@ -24,8 +25,21 @@ public:
         const ListBoxNode* list = List();
         return list ? list->Caret() : -1;
     }
+    const Raster* Image(int row) const override {
+        const ComboBoxNode* box = Box();
+        return box ? box->RowImage(row) : nullptr;
+    }
+    CSize ImageSize() const override {
+        const ComboBoxNode* box = Box();
+        return box && box->Images() ? box->Images()->Size() : CSize();
+    }
 
 private:
+    /// The combo box whose list it is; null for a list box.
+    const ComboBoxNode* Box() const {
+        const ListBoxNode* list = List();
+        return list ? dynamic_cast<const ComboBoxNode*>(list->Parent()) : nullptr;
+    }
     const ListBoxNode* List() const {
         const auto node = list_.lock();
         return node && !node->Destroyed() ? static_cast<const ListBoxNode*>(node.get()) : nullptr;

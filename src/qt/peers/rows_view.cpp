@@ -4,6 +4,8 @@
 #include <QMenu>
 #include <QMouseEvent>
 
+#include "qt/drawing/paint.h"
+#include "qt/drawing/scale.h"
 #include "qt/drawing/text.h"
 #include "qt/peers/acting.h"
 #include "window/acting/input.h"
@@ -34,6 +36,12 @@ protected:
         option->state.setFlag(QStyle::State_HasFocus, caret);
         option->state.setFlag(QStyle::State_MouseOver, false);
         option->textElideMode = Qt::ElideRight;
+        const CSize room = source_.ImageSize();
+        if (room.cx == 0) return;
+        option->features |= QStyleOptionViewItem::HasDecoration;
+        option->decorationSize = CurrentScale().ToScreen(room);
+        const Raster* image = source_.Image(index.row());
+        option->icon = image ? IconOf(*image) : QIcon();
     }
 
 private:
@@ -90,7 +98,8 @@ RowsView::RowsView(std::shared_ptr<RowSource> source, QWidget* parent)
 }
 
 int RowsView::RowHeight() const {
-    return fontMetrics().height() + 2;
+    const int image = CurrentScale().ToScreen(source_->ImageSize()).height();
+    return std::max(fontMetrics().height(), image) + 2;
 }
 
 int RowsView::RowAt(const QPoint& at) const {

@@ -8,6 +8,7 @@
 #include <memory>
 
 #include "qt/peers/peer.h"
+#include "window/drawing/raster.h"
 #include "window/rows/row_list.h"
 
 namespace kv::qt {
@@ -21,6 +22,10 @@ public:
     virtual bool Selected(int row) const = 0;
     /// The row that has the focus mark, -1 for none.
     virtual int CaretRow() const = 0;
+    /// Null for a row without an image.
+    virtual const Raster* Image(int row) const = 0;
+    /// What room its images take, in logical pixels; nothing without them.
+    virtual CSize ImageSize() const = 0;
 };
 
 class RowModel : public QAbstractListModel {

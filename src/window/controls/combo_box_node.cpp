@@ -415,13 +415,67 @@ LRESULT ComboBoxNode::ProcessBox(UINT message, WPARAM wParam, LPARAM lParam, boo
     }
 }
 
+const Raster* ComboBoxNode::RowImage(int row) const {
+    return images_ && Rows().Has(row) ? images_->At(Rows().Image(row)) : nullptr;
+}
+
+LRESULT ComboBoxNode::InsertItem(const COMBOBOXEXITEM* item) {
+    if (!item || !(item->mask & CBEIF_TEXT) || !item->pszText) return CB_ERR;
+    const int row = list_->InsertRow(static_cast<int>(item->iItem), item->pszText);
+    if (row < 0) return CB_ERR;
+    if (item->mask & CBEIF_IMAGE) list_->SetImage(row, item->iImage);
+    if (item->mask & CBEIF_LPARAM) list_->SetData(row, item->lParam);
+    return row;
+}
+
+bool ComboBoxNode::SetItem(const COMBOBOXEXITEM* item) {
+    if (!item || !Rows().Has(static_cast<int>(item->iItem))) return false;
+    const int row = static_cast<int>(item->iItem);
+    if (item->mask & CBEIF_IMAGE) list_->SetImage(row, item->iImage);
+    if (item->mask & CBEIF_LPARAM) list_->SetData(row, item->lParam);
+    Tell(Change::kImage);
+    return true;
+}
+
+bool ComboBoxNode::GetItem(COMBOBOXEXITEM* item) const {
+    if (!item || !Rows().Has(static_cast<int>(item->iItem))) return false;
+    const int row = static_cast<int>(item->iItem);
+    if (item->mask & CBEIF_IMAGE) item->iImage = Rows().Image(row);
+    if (item->mask & CBEIF_LPARAM) item->lParam = Rows().Data(row);
+    return true;
+}
+
+LRESULT ComboBoxNode::ProcessImages(UINT message, WPARAM, LPARAM lParam, bool& handled) {
+    switch (message) {
+        case CBEM_INSERTITEM:
+            return InsertItem(reinterpret_cast<const COMBOBOXEXITEM*>(lParam));
+        case CBEM_SETITEM:
+            return SetItem(reinterpret_cast<const COMBOBOXEXITEM*>(lParam));
+        case CBEM_GETITEM:
+            return GetItem(reinterpret_cast<COMBOBOXEXITEM*>(lParam));
+        case CBEM_SETIMAGELIST: {
+            auto* images = reinterpret_cast<ImageList*>(lParam);
+            const auto former =
+                std::exchange(images_, images ? images->shared_from_this() : nullptr);
+            Tell(Change::kImage);
+            // One that nobody else has goes with this call.
+            return former.use_count() > 1 ? reinterpret_cast<LRESULT>(former.get()) : 0;
+        }
+        case CBEM_GETIMAGELIST:
+            return reinterpret_cast<LRESULT>(images_.get());
+        default:
+            handled = false;
+            return 0;
+    }
+}
+
 LRESULT ComboBoxNode::Process(UINT message, WPARAM wParam, LPARAM lParam) {
-    bool handled = true;
-    LRESULT result = ProcessRows(message, wParam, lParam, handled);
-    if (handled) return result;
-    handled = true;
-    result = ProcessBox(message, wParam, lParam, handled);
-    if (handled) return result;
+    for (const auto part :
+         {&ComboBoxNode::ProcessRows, &ComboBoxNode::ProcessBox, &ComboBoxNode::ProcessImages}) {
+        bool handled = true;
+        const LRESULT result = (this->*part)(message, wParam, lParam, handled);
+        if (handled) return result;
+    }
     switch (message) {
         case WM_SETTEXT:
             return SetWindowText(TextOf(lParam));

@@ -3,8 +3,10 @@
 #include <string>
 
 #include "base/export.h"
+#include "window/controls/combo_box_messages.h"
 #include "window/controls/edit_node.h"
 #include "window/controls/list_box_node.h"
+#include "window/drawing/image_list.h"
 #include "window/node.h"
 
 namespace kv {
@@ -31,6 +33,10 @@ public:
     /// Null in a drop list.
     EditNode* Edit() const { return edit_; }
     ListBoxNode& List() const { return *list_; }
+    /// The images beside the rows; null for none.
+    const ImageList* Images() const { return images_.get(); }
+    /// Null for a row without one, and for no row.
+    const Raster* RowImage(int row) const;
 
     // What a person does.
 
@@ -57,6 +63,10 @@ private:
 
     LRESULT ProcessRows(UINT message, WPARAM wParam, LPARAM lParam, bool& handled);
     LRESULT ProcessBox(UINT message, WPARAM wParam, LPARAM lParam, bool& handled);
+    LRESULT ProcessImages(UINT message, WPARAM wParam, LPARAM lParam, bool& handled);
+    LRESULT InsertItem(const COMBOBOXEXITEM* item);
+    bool SetItem(const COMBOBOXEXITEM* item);
+    bool GetItem(COMBOBOXEXITEM* item) const;
     LRESULT FromEdit(int code);
     LRESULT SetWindowText(const char* text);
     LRESULT SetCurrentRow(int row);
@@ -85,6 +95,7 @@ private:
     std::string textAtDrop_;
     bool rowsChangedSinceDrop_ = false;
     TypeSearch search_;
+    std::shared_ptr<ImageList> images_;
 };
 
 }  // namespace kv

@@ -44,6 +44,8 @@ public:
     bool SetCaret(int row);
     /// -1 means every row.
     bool SetData(int row, LPARAM data);
+    /// An index into the images of the combo box whose list it is; -1 for none.
+    void SetImage(int row, int image) { rows_.SetImage(row, image); }
 
     // What a person does. Each notifies once for each thing that they do.
 

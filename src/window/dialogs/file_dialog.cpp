@@ -174,11 +174,22 @@ void CFileDialog::GoToFolder(const std::string& folder) {
     OnFolderChange();
 }
 
+std::string CFileDialog::PathMeant(const std::string& text) const {
+    const std::string drive = m_strFolder.substr(0, 2);
+    const bool named = text.find(':') == 1;
+    const bool onDrive = named && text.size() > 2 && (text[2] == '\\' || text[2] == '/');
+    if (onDrive || text.starts_with("\\\\") || text.starts_with('/')) return text;
+    if (text.starts_with('\\')) return drive + text;
+    if (!named) return kv::JoinPath(m_strFolder, text);
+    // Without a backslash behind it, a drive stands for its folder that is shown.
+    const bool here = kv::EqualsNoCase(text.substr(0, 2), drive);
+    return kv::JoinPath(here ? m_strFolder : text.substr(0, 2) + "\\", text.substr(2));
+}
+
 void CFileDialog::OnOK() {
     const std::string text = kv::Trim(DlgItemText(kName));
     if (text.empty()) return;
-    const bool absolute = text.front() == '\\' || text.front() == '/' || text.find(':') == 1;
-    const std::string path = absolute ? text : kv::JoinPath(m_strFolder, text);
+    const std::string path = PathMeant(text);
     if (kv::IsFolder(path)) {
         GoToFolder(path);
     } else {

@@ -97,6 +97,9 @@ protected:
     /// stays.
     virtual BOOL OnFileNameOK() { return FALSE; }
 
+    /// The path that a text means to a person who looks at the folder that is shown.
+    std::string PathMeant(const std::string& text) const;
+
 private:
     int RunOnDesktop();
     void TakePath(const std::string& path);

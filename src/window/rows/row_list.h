@@ -31,6 +31,9 @@ public:
     std::string_view Text(int row) const { return store_.Text(order_.At(row)); }
     LPARAM Data(int row) const { return store_.Data(order_.At(row)); }
     void SetData(int row, LPARAM data) { store_.SetData(order_.At(row), data); }
+    /// An index into a list of images; -1 for none.
+    int Image(int row) const { return store_.Image(order_.At(row)); }
+    void SetImage(int row, int image) { store_.SetImage(order_.At(row), image); }
 
     /// Adds a row at its sorted place, behind rows with the same text, or at the end of a list that
     /// is not sorted. Returns its index.

@@ -16,12 +16,12 @@ RowId RowStore::Add(std::string_view text) {
     const auto length = static_cast<std::uint32_t>(text.size());
     buffer_.append(text);
     if (free_.empty()) {
-        rows_.push_back({offset, 0, length, true});
+        rows_.push_back({offset, 0, length});
         return static_cast<RowId>(rows_.size() - 1);
     }
     const RowId id = free_.back();
     free_.pop_back();
-    rows_[id] = {offset, 0, length, true};
+    rows_[id] = {offset, 0, length};
     return id;
 }
 

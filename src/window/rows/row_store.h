@@ -27,6 +27,9 @@ public:
     }
     LPARAM Data(RowId id) const { return rows_[id].data; }
     void SetData(RowId id, LPARAM data) { rows_[id].data = data; }
+    /// An index into a list of images; -1 for none, as a new row has.
+    int Image(RowId id) const { return rows_[id].image; }
+    void SetImage(RowId id, int image) { rows_[id].image = static_cast<std::int16_t>(image); }
     /// One more than the greatest id there has been.
     std::size_t IdCount() const { return rows_.size(); }
 
@@ -35,6 +38,7 @@ private:
         std::size_t offset = 0;
         LPARAM data = 0;
         std::uint32_t length = 0;
+        std::int16_t image = -1;
         bool alive = true;
     };
 
