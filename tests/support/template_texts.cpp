@@ -465,6 +465,19 @@ constexpr const char* kTexts = R"texts(
     1 default button "OK"
     2 button "Cancel"
 
+15124 ""
+    65535 label "Current Drive:"
+    29189 drop list ""
+    29187 label "Current Directory:"
+    29183 edit ""
+    29185 list view "" always showing its selection
+    65535 label "File Name:"
+    29188 editable combo ""
+    1 default button "OK"
+    29186 label "File Type:"
+    29184 drop list ""
+    2 button "Cancel"
+
 15129 "Area Selection Dialog"
     65535 label "Find:"
     1191 edit ""
