@@ -34,6 +34,9 @@ A script plays the user. It is a JSON file:
       { "message": "No Matches found!", "answer": "ok" },
       { "file": "C:\\tmp\\a.txt" } ] }
 
+The head may say which printer there is, as "printer": {...}, in the words of the scene "print"
+below; null for none. Left out, it is one without a name, with Letter paper.
+
 "user" lists scenes, which are taken in the order in which things open. A message box that opens
 between two actions of a window is the scene behind that window's.
 
@@ -41,9 +44,10 @@ between two actions of a window is the scene behind that window's.
   {"message": TEXT, "answer": A}  a message box with that text ("": any); A is "ok", "cancel",
                                   "yes", "no", "retry", "abort" or "ignore"; "ok" if left out
   {"file": PATH}                  a file dialog, which gets that path; null cancels it
-  {"print": {...}}                print setup, which gets "device", "paper" (number of the size),
-                                  "landscape", "width" and "height" (tenths of a millimetre); null
-                                  cancels it
+  {"print": {...}}                print setup, which gets a printer: "device", "form" (name of the
+                                  paper), "paper" (its number, where it has one), "landscape",
+                                  "width" and "height" (of the sheet as it lies in portrait, tenths
+                                  of a millimetre); null cancels it
   {"map": [PICK, ...]}            the map that blocks are picked on; a pick is "AREA,BLOCK,EXTENSION"
                                   with the area's name; null cancels it
   {"pump": N, "do": [...]}        acts on the window in front inside long work, after N steps of it

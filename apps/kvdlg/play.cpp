@@ -54,6 +54,7 @@ void Play(const adaptors::Adaptor& adaptor, adaptors::Run& run, const Script& sc
     hooks.at = [&](const std::string& where) { place = where; };
     const Json user = script.json.value("user", Json::array());
     const auto lines = LinesOf(script.text);
+    SetOutside(script.json, lines, desktop);
     AddScenes(user, lines, desktop, hooks);
 
     kv::SetGraphics([&](const auto&...) { return desktop.TakeOther(kMap); });

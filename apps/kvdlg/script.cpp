@@ -4,6 +4,7 @@
 #include <map>
 #include <vector>
 
+#include "adaptors/print_inputs.h"
 #include "kvdlg/script_lines.h"
 #include "window/acting/input.h"
 
@@ -189,18 +190,13 @@ int AnswerOf(const Json& scene, const std::string& where) {
     return at->second;
 }
 
-kv::PrinterSettings PrinterOf(const Json& given, const std::string& where) {
-    kv::PrinterSettings printer;
-    try {
-        printer.device = given.value("device", printer.device);
-        printer.paper = given.value("paper", printer.paper);
-        printer.landscape = given.value("landscape", printer.landscape);
-        printer.widthTenthMm = given.value("width", printer.widthTenthMm);
-        printer.heightTenthMm = given.value("height", printer.heightTenthMm);
-    } catch (const nlohmann::json::exception&) {
-        Wrong(where, "\"print\" to be an object with device, paper, landscape, width and height");
+kv::PrinterSettings PrinterOf(const Json& scene, const char* key, const std::string& where) {
+    const auto printer = adaptors::PrinterFrom(scene[key]);
+    if (!printer) {
+        Wrong(where, std::string("\"") + key + "\" to be " + adaptors::kPrinterInWords +
+                         ", or null");
     }
-    return printer;
+    return *printer;
 }
 
 /// The picks as the map gives them: two fields of its own, and a comma behind each.
@@ -245,7 +241,7 @@ void AddScene(const Json& scene, const ScenePlace& place, kv::HeadlessDesktop& d
         if (scene["print"].is_null()) {
             desktop.ExpectPrintSetupCancel();
         } else {
-            desktop.ExpectPrintSetup(PrinterOf(scene["print"], where));
+            desktop.ExpectPrintSetup(PrinterOf(scene, "print", where));
         }
     } else if (scene.contains("map")) {
         desktop.ExpectOther(kMap, MapTextOf(scene["map"], where));
@@ -271,6 +267,16 @@ Json ParseJson(const std::string& text, const std::string& nameOfText) {
         const auto end = text.begin() + static_cast<std::ptrdiff_t>(std::min(e.byte, text.size()));
         const auto line = 1 + std::count(text.begin(), end, '\n');
         throw BadScript(nameOfText + ", line " + std::to_string(line) + ": no JSON: " + e.what());
+    }
+}
+
+void SetOutside(const Json& script, const std::map<std::string, int>& lines,
+                kv::HeadlessDesktop& desktop) {
+    if (!script.contains("printer")) return;
+    if (script["printer"].is_null()) {
+        desktop.SetNoPrinter();
+    } else {
+        desktop.SetPrinter(PrinterOf(script, "printer", LineOf(lines, "/printer") + "the script"));
     }
 }
 

@@ -21,6 +21,7 @@
 #include <string>
 #include <vector>
 
+#include "plain_widgets.h"
 #include "qt/qt_desktop.h"
 #include "ratio.h"
 #include "window/controls/combo_box.h"
@@ -135,27 +136,9 @@ QWidget* MakeTree(QWidget* parent) {
     return tree;
 }
 
-QWidget* MakePlain(const kv::ControlRow& row, QWidget* parent, const QStringList& texts) {
-    const QString text = QString::fromUtf8(row.text);
-    switch (row.kind) {
-        case kLabel:
-            return new QLabel(text, parent);
-        case kGroupBox:
-            return new QGroupBox(text, parent);
-        case kEdit:
-            return new QLineEdit(text, parent);
-        case kDropDown:
-        case kDropList: {
-            auto* box = new QComboBox(parent);
-            box->setEditable(row.kind == kDropDown);
-            for (const QString& each : texts)
-                box->addItem(each);
-            return box;
-        }
-        case kRadio:
-            return new QRadioButton(text, parent);
-        case kCheckBox:
-            return new QCheckBox(text, parent);
+QWidget* MakeControl(kv::ControlKind kind, const QString& text, const QStringList& texts,
+                     QWidget* parent) {
+    switch (kind) {
         case kListBox:
         case kMultiList: {
             auto* list = new QListWidget(parent);
@@ -171,27 +154,22 @@ QWidget* MakePlain(const kv::ControlRow& row, QWidget* parent, const QStringList
             return bar;
         }
         default:
-            return new QPushButton(text, parent);
+            return bench::MakePlain(kind, text, texts, parent);
     }
 }
 
 void OpenPeer(benchmark::State& state) {
     const auto rows = Rows();
-    const QFontMetrics metrics(QApplication::font());
-    const double x =
-        metrics.horizontalAdvance("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz") / 52.0 /
-        4;
-    const double y = metrics.height() / 8.0;
+    const QSizeF unit = bench::DialogUnit();
     for (auto _ : state) {
         const auto dialog = std::make_unique<QDialog>();
         dialog->setWindowTitle("Sixty");
-        dialog->setFixedSize(qRound(300 * x), qRound(220 * y));
+        dialog->setFixedSize(bench::InPixels({0, 0, 300, 220}, unit).size());
         const QStringList texts = Texts();
         for (const kv::ControlRow& row : rows) {
-            QWidget* widget = MakePlain(row, dialog.get(), texts);
-            const kv::DialogUnits& place = row.place;
-            widget->setGeometry(qRound(place.x * x), qRound(place.y * y), qRound(place.width * x),
-                                qRound(place.height * y));
+            QWidget* widget =
+                MakeControl(row.kind, QString::fromUtf8(row.text), texts, dialog.get());
+            widget->setGeometry(bench::InPixels(row.place, unit));
             widget->setAccessibleName(QString::fromUtf8(row.text));
         }
         dialog->show();

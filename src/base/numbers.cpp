@@ -87,6 +87,11 @@ std::size_t SkipDoubleConversion(std::string_view format, std::size_t at) {
     return fits ? at + 1 : std::string_view::npos;
 }
 
+/// What is no number has no sign either, whatever the machine says.
+double Unsigned(double value) {
+    return std::isnan(value) ? std::numeric_limits<double>::quiet_NaN() : value;
+}
+
 bool HasOneDoubleConversion(std::string_view format) {
     int conversions = 0;
     for (std::size_t at = format.find('%'); at != std::string_view::npos;
@@ -137,10 +142,11 @@ int Atoi(std::string_view text) {
 }
 
 std::string FormatStream(double value) {
-    return FormatText("%g", value);
+    return FormatText("%g", Unsigned(value));
 }
 
 std::string FormatFixed(double value, int decimals) {
+    value = Unsigned(value);
     char text[kFixedLength];
     const auto [end, error] =
         std::to_chars(text, std::end(text), value, std::chars_format::fixed, decimals);
@@ -149,12 +155,12 @@ std::string FormatFixed(double value, int decimals) {
 }
 
 std::string FormatG(double value) {
-    return FormatText("%G", value);
+    return FormatText("%G", Unsigned(value));
 }
 
 std::string FormatPrintf(const std::string& format, double value) {
     if (!HasOneDoubleConversion(format)) return {};
-    return FormatText(format.c_str(), value);
+    return FormatText(format.c_str(), Unsigned(value));
 }
 
 int ToInt(double value) {

@@ -8,7 +8,7 @@
 #include "base/export.h"
 
 /// Numbers from and to text, as the platform's C runtime reads and writes them, whatever the
-/// locale.
+/// locale. What has no end is written as inf or -inf, what is no number as nan.
 namespace kv {
 
 /// Value of the number that the text begins with, white space ahead of it left out; 0 when there is

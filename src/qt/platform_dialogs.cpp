@@ -108,13 +108,14 @@ void Take(const QPageLayout& layout, PrinterSettings& settings) {
     settings.landscape = layout.orientation() == QPageLayout::Landscape;
     settings.widthTenthMm = qRound(size.width() * kTenthMmPerMm);
     settings.heightTenthMm = qRound(size.height() * kTenthMmPerMm);
+    settings.form = ToBytes(page.name());
 }
 
 QPageSize PageOf(const PrinterSettings& settings) {
     const QPageSize::PageSizeId id = QPageSize::id(settings.paper);
     if (id != QPageSize::Custom) return QPageSize(id);
     return QPageSize(QSizeF(settings.widthTenthMm, settings.heightTenthMm) / kTenthMmPerMm,
-                     QPageSize::Millimeter);
+                     QPageSize::Millimeter, ToQString(settings.form));
 }
 
 /// How the dialog ends when it is to be shown for another printer, which has other papers.
@@ -172,7 +173,9 @@ int ShowPrintSetup(PrinterSettings& settings, const QStringList& printers) {
     PrinterSettings shown = settings;
     for (int answer = kOtherPrinter; answer == kOtherPrinter;) {
         const QPrinterInfo info = QPrinterInfo::printerInfo(ToQString(shown.device));
-        QPrinter printer(info.isNull() ? QPrinterInfo::defaultPrinter() : info);
+        QPrinter printer(info.isNull() ? QPrinterInfo::printerInfo(PrinterToUse(
+                                             QPrinterInfo::defaultPrinterName(), printers))
+                                       : info);
         if (shown.device.empty()) shown.device = ToBytes(printer.printerName());
         printer.setPageSize(PageOf(shown));
         printer.setPageOrientation(shown.landscape ? QPageLayout::Landscape
@@ -188,8 +191,13 @@ int ShowPrintSetup(PrinterSettings& settings, const QStringList& printers) {
     return IDOK;
 }
 
+QString PrinterToUse(const QString& byDefault, const QStringList& printers) {
+    return byDefault.isEmpty() ? printers.value(0) : byDefault;
+}
+
 bool FindDefaultPrinter(PrinterSettings& settings) {
-    const QPrinterInfo info = QPrinterInfo::defaultPrinter();
+    const QPrinterInfo info = QPrinterInfo::printerInfo(
+        PrinterToUse(QPrinterInfo::defaultPrinterName(), QPrinterInfo::availablePrinterNames()));
     if (info.isNull()) return false;
     const QPrinter printer(info);
     settings.device = ToBytes(info.printerName());

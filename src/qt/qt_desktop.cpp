@@ -161,6 +161,10 @@ bool QtDesktop::DefaultPrinter(PrinterSettings& settings) {
     return FindDefaultPrinter(settings);
 }
 
+bool QtDesktop::HasPrinter(const std::string& device) {
+    return QPrinterInfo::availablePrinterNames().contains(ToQString(device));
+}
+
 CSize QtDesktop::ScreenSize() {
     const QScreen* screen = QGuiApplication::primaryScreen();
     return screen ? CurrentScale().ToLogical(screen->availableGeometry().size()) : CSize{};

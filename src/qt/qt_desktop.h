@@ -26,6 +26,7 @@ public:
     /// Without a printer the sheet can be chosen all the same.
     int RunPrintSetup(PrinterSettings& settings) override;
     bool DefaultPrinter(PrinterSettings& settings) override;
+    bool HasPrinter(const std::string& device) override;
 
     CSize ScreenSize() override;
     CSize TextExtent(const std::string& text, const Font& font) override;

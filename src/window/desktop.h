@@ -41,6 +41,7 @@ struct PrinterSettings {
     bool landscape = false;
     int widthTenthMm = 2159;  ///< of the sheet as it lies in portrait, tenths of a millimetre
     int heightTenthMm = 2794;
+    std::string form = {};  ///< name of the paper; empty where its number tells it
 };
 
 /// What lies outside the windows.
@@ -58,6 +59,8 @@ public:
     virtual int RunPrintSetup(PrinterSettings& settings) = 0;
     /// False when the machine has no printer.
     virtual bool DefaultPrinter(PrinterSettings& settings) = 0;
+    /// Whether there is a printer of that name now.
+    virtual bool HasPrinter(const std::string& device) = 0;
 
     virtual CSize ScreenSize() = 0;
     virtual std::chrono::system_clock::time_point Now() = 0;

@@ -26,7 +26,7 @@ bool IsRadio(const Node& node) {
 }
 
 bool CanHoldFocus(const Node& node) {
-    return node.Visible() && node.Enabled();
+    return node.Visible() && node.Enabled() && !LiesOutside(node);
 }
 
 /// The child of `host` that `node` is or lies in: of a combo box's edit, the combo box.
@@ -91,7 +91,8 @@ bool IsLabel(const Node& node) {
 bool HasMnemonic(const Node& node, char letter) {
     const bool canHave = node.Class() == NodeClass::kButton ||
                          (node.Class() == NodeClass::kStatic && !node.HasStyle(SS_NOPREFIX));
-    return canHave && node.Visible() && ToUpper(MnemonicOf(node.Text())) == letter;
+    return canHave && node.Visible() && !LiesOutside(node) &&
+           ToUpper(MnemonicOf(node.Text())) == letter;
 }
 
 /// What the mnemonic of the child at `index` reaches: the button itself, or the control behind a
@@ -103,7 +104,8 @@ Node* ReachedFrom(const Node& host, std::size_t index) {
             if (++index == children.size()) return nullptr;
         } while (IsLabel(*children[index]) || !children[index]->Visible());
     }
-    return children[index]->Enabled() ? children[index].get() : nullptr;
+    Node& node = *children[index];
+    return node.Enabled() && !LiesOutside(node) ? &node : nullptr;
 }
 
 /// What a mnemonic reaches in `host`, in tab order, from behind the control with the focus on.
@@ -179,6 +181,14 @@ void FocusByTab(Node& node) {
     if (WindowSystem::Get().Focus() == target && (CodeOf(*target) & DLGC_HASSETSEL)) {
         Send(*target, EM_SETSEL, 0, -1);
     }
+}
+
+bool LiesOutside(const Node& control) {
+    const Node* host = control.Parent();
+    if (!host || host->Class() != NodeClass::kDialog) return false;
+    const CRect& place = control.Rect();
+    return place.left >= host->Rect().Width() || place.top >= host->Rect().Height() ||
+           (place.left < 0 && place.right <= 0) || (place.top < 0 && place.bottom <= 0);
 }
 
 Node* DefaultButton(Node& host) {

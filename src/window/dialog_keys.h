@@ -30,13 +30,17 @@ KVGUICTL_API bool HandleMnemonic(Node& host, char letter);
 /// something else.
 KVGUICTL_API Node* ButtonOf(Node& host, char letter);
 
-/// The visible, enabled tab stop behind (or ahead of) `from`, going round; `from` itself where it
-/// is the only one, null where there is none. Of a radio group it is the checked button.
+/// The visible, enabled tab stop in the dialog behind (or ahead of) `from`, going round; `from`
+/// itself where it is the only one, null where there is none. Of a radio group it is the checked button.
 KVGUICTL_API Node* NextTabStop(Node& host, Node* from, bool forward);
 
 /// Moves the focus as Tab does: an edit comes up with its whole text selected. A disabled or hidden
 /// control does not get it.
 KVGUICTL_API void FocusByTab(Node& node);
+
+/// Whether a control lies wholly outside its dialog, as where the dialog was made smaller: a person
+/// does not see it, and cannot reach it.
+KVGUICTL_API bool LiesOutside(const Node& control);
 
 /// The button that Enter presses: the focused push button, else the default one. Null where there
 /// is none.

@@ -113,6 +113,21 @@ TEST(FormatStream, WritesSixSignificantDigits) {
     EXPECT_EQ(kv::FormatStream(999999.5), "1e+006");
 }
 
+TEST(Formats, TellWhatHasNoEndAndWhatIsNoNumber) {
+    constexpr double kEndless = std::numeric_limits<double>::infinity();
+    for (const auto format : {+[](double value) { return kv::FormatStream(value); },
+                              +[](double value) { return kv::FormatFixed(value, 2); },
+                              +[](double value) { return kv::FormatPrintf("%.3f", value); }}) {
+        EXPECT_EQ(format(kEndless), "inf");
+        EXPECT_EQ(format(-kEndless), "-inf");
+        // 0 by 0 has a sign on this machine.
+        EXPECT_EQ(format(std::nan("")), "nan");
+        EXPECT_EQ(format(-std::nan("")), "nan");
+    }
+    EXPECT_EQ(kv::FormatG(-kEndless), "-INF");
+    EXPECT_EQ(kv::FormatG(-std::nan("")), "NAN");
+}
+
 TEST(FormatG, WritesACapitalExponent) {
     EXPECT_EQ(kv::FormatG(12.5), "12.5");
     EXPECT_EQ(kv::FormatG(30.0), "30");

@@ -218,9 +218,42 @@ TEST_F(PrintSetup, ACancelledOneKeepsThePrinter) {
 
 TEST_F(PrintSetup, TheDefaultPrinterIsTheMachines) {
     kv::PrinterSettings settings;
-    const QPrinterInfo machines = QPrinterInfo::defaultPrinter();
-    EXPECT_EQ(desktop.DefaultPrinter(settings), !machines.isNull());
-    EXPECT_EQ(settings.device, machines.printerName().toStdString());
+    const QString machines = kv::qt::PrinterToUse(QPrinterInfo::defaultPrinterName(),
+                                                  QPrinterInfo::availablePrinterNames());
+    EXPECT_EQ(desktop.DefaultPrinter(settings), !machines.isEmpty());
+    EXPECT_EQ(settings.device, machines.toStdString());
+    EXPECT_EQ(desktop.HasPrinter(settings.device), !machines.isEmpty());
+    EXPECT_FALSE(desktop.HasPrinter("no such printer"));
+}
+
+TEST_F(PrintSetup, WithoutADefaultPrinterItIsTheFirst) {
+    EXPECT_EQ(kv::qt::PrinterToUse("Office", {"Plotter", "Office"}), "Office");
+    EXPECT_EQ(kv::qt::PrinterToUse("", {"Plotter", "Office"}), "Plotter");
+    EXPECT_EQ(kv::qt::PrinterToUse("", {}), "");
+}
+
+TEST_F(PrintSetup, EveryPaperHasItsName) {
+    const auto formOf = [](QPageSize::PageSizeId id) {
+        kv::PrinterSettings settings;
+        settings.paper = 0;
+        const QSizeF size = QPageSize::size(id, QPageSize::Millimeter) * 10;
+        settings.widthTenthMm = qRound(size.width());
+        settings.heightTenthMm = qRound(size.height());
+        Then([] { Press(QDialogButtonBox::Ok); });
+        EXPECT_EQ(kv::qt::ShowPrintSetup(settings, {}), IDOK);
+        return settings.form;
+    };
+    for (const auto id : {QPageSize::A0, QPageSize::ArchE, QPageSize::A4})
+        EXPECT_EQ(formOf(id), QPageSize::name(id).toStdString());
+}
+
+TEST_F(PrintSetup, ARollKeepsItsName) {
+    kv::PrinterSettings settings{"", 0, false, 9144, 30000, "Roll 36 inches"};
+    Then([] { Press(QDialogButtonBox::Ok); });
+    EXPECT_EQ(kv::qt::ShowPrintSetup(settings, {}), IDOK);
+    EXPECT_EQ(settings.form, "Roll 36 inches");
+    EXPECT_EQ(settings.widthTenthMm, 9144);
+    EXPECT_EQ(settings.heightTenthMm, 30000);
 }
 
 }  // namespace

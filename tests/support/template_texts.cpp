@@ -362,6 +362,37 @@ constexpr const char* kTexts = R"texts(
     29310 edit "" read-only
     1 default button "OK"
 
+15102 "Map Sizing Dialog"
+    65535 group box "Scale"
+    1263 check box "" hidden
+    29192 label "1 Inch ="
+    1259 editable combo ""
+    29193 label "Feet"
+    65535 group box "Map Settings"
+    1266 check box "" hidden
+    65535 label "Width"
+    1260 edit "" read-only
+    65535 label "Inches"
+    65535 label "Height"
+    1264 edit "" read-only
+    65535 label "Inches"
+    29147 group box "Orientation"
+    1262 radio "Landscape"
+    1261 radio "Portrait"
+    65535 group box "Plotter"
+    65535 label "Paper Width"
+    1265 edit "" read-only
+    65535 label "Inches"
+    65535 group box "Text"
+    1370 radio "Stroke Font"
+    1371 radio "True Type Font"
+    65535 group box "Color Option"
+    1372 radio "Color"
+    1373 radio "Black && White"
+    29138 check box "Display Dark Color in Gray"
+    1 default button "OK"
+    2 button "Cancel"
+
 15103 "Projection Selection Dialog"
     65535 group box "Projection Type"
     1285 radio "State Standard Lambert"
@@ -529,6 +560,47 @@ constexpr const char* kTexts = R"texts(
     1043 extended list ""
     1 button "OK"
     1190 button "Clear"
+    2 button "Cancel"
+
+15134 "Print / Preview Dialog"
+    65535 group box "Map"
+    29192 label "1 Inch ="
+    1259 editable combo ""
+    29193 label "Feet"
+    65535 label "Width"
+    1260 edit "" read-only
+    65535 label "Inches"
+    65535 label "Height"
+    1264 edit "" read-only
+    65535 label "Inches"
+    1262 radio "Landscape" hidden
+    1261 radio "Portrait" hidden
+    65535 group box "Printer"
+    29305 label ""
+    65535 label "Size"
+    29298 edit "" read-only
+    29194 label "1 Inch ="
+    29304 editable combo ""
+    29195 label "Feet"
+    1263 radio "Landscape"
+    1265 radio "Portrait"
+    65535 label "Width"
+    29293 edit "" read-only
+    65535 label "Inches"
+    65535 label "Height"
+    29294 edit "" read-only
+    65535 label "Inches"
+    29296 button "Change Printer ..."
+    65535 group box "Text"
+    1370 radio "Stroke Font"
+    1371 radio "True Type Font"
+    65535 label "Minimal Font Size"
+    29303 edit ""
+    65535 group box "Color Option"
+    1372 radio "Color"
+    1373 radio "Black && White"
+    29295 check box "Print in Grayscale"
+    1 default button "OK"
     2 button "Cancel"
 )texts";
 

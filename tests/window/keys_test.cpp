@@ -56,6 +56,29 @@ TEST_F(Keys, TabGoesRoundTheVisibleEnabledTabStops) {
          });
 }
 
+TEST_F(Keys, WhatLiesOutsideTheDialogIsReachedByNoKeyAndNoClick) {
+    Open({Row(11, kEdit),
+          {12, kEdit, "", {0, 198, 50, 12}},
+          {13, kLabel, "&Below", {0, 200, 50, 12}},
+          {14, kEdit, "", {0, 200, 50, 12}},
+          {15, kPushButton, "&Right", {300, 0, 50, 12}},
+          {16, kCheckBox, "&Above", {0, -12, 50, 12}},
+          {17, kCheckBox, "&Left", {-50, 0, 50, 12}}},
+         [&](kv::User& user) {
+             EXPECT_THAT(Visit(user, "Tab", 3), ElementsAre(12, 11, 12));
+             for (const char letter : {'B', 'R', 'A', 'L'})
+                 EXPECT_FALSE(kv::HandleMnemonic(*dialog_.m_hWnd, letter)) << letter;
+             EXPECT_FALSE(user.Checked(16));
+             EXPECT_FALSE(kv::input::Click(*dialog_.m_hWnd->FindChild(15)));
+             EXPECT_FALSE(dialog_.WasTold("15 clicked"));
+             // A label inside does not reach outside either.
+             dialog_.GetDlgItem(13)->MoveWindow(CRect{0, 20, 50, 30});
+             EXPECT_FALSE(kv::HandleMnemonic(*dialog_.m_hWnd, 'B'));
+             EXPECT_EQ(FocusedId(), 12);
+             EXPECT_TRUE(dialog_.GetDlgItem(14)->IsWindowVisible());
+         });
+}
+
 TEST_F(Keys, TabStaysWhereThereIsNoOtherTabStop) {
     Open({Row(11, kEdit), Row(40, kLabel)},
          [](kv::User& user) { EXPECT_THAT(Visit(user, "Tab", 2), ElementsAre(11, 11)); });

@@ -175,6 +175,10 @@ bool HeadlessDesktop::DefaultPrinter(PrinterSettings& settings) {
     return hasPrinter_;
 }
 
+bool HeadlessDesktop::HasPrinter(const std::string& device) {
+    return hasPrinter_ && !gonePrinters_.contains(device);
+}
+
 std::chrono::system_clock::time_point HeadlessDesktop::Now() {
     return nowSet_ ? now_ : std::chrono::system_clock::now();
 }

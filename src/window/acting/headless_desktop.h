@@ -2,6 +2,7 @@
 
 #include <deque>
 #include <functional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -64,6 +65,8 @@ public:
     /// The outside, as the script sets it.
     void SetPrinter(PrinterSettings settings);
     void SetNoPrinter() { hasPrinter_ = false; }
+    /// A printer that was chosen in print setup is there no more.
+    void RemovePrinter(const std::string& device) { gonePrinters_.insert(device); }
     void SetScreenSize(CSize size) { screen_ = size; }
     void SetNow(std::chrono::system_clock::time_point now);
     void SetColor(SystemColor which, COLORREF color) { look_.SetColor(which, color); }
@@ -76,6 +79,7 @@ public:
     int RunFileDialog(const FileDialogRequest& request, std::string& path) override;
     int RunPrintSetup(PrinterSettings& settings) override;
     bool DefaultPrinter(PrinterSettings& settings) override;
+    bool HasPrinter(const std::string& device) override;
     CSize ScreenSize() override { return screen_; }
     CSize TextExtent(const std::string& text, const Font& font) override {
         return look_.TextExtent(text, font);
@@ -117,6 +121,7 @@ private:
     std::function<void(Node&)> closed_;
     bool hasPrinter_ = true;
     PrinterSettings printer_;
+    std::set<std::string> gonePrinters_;
     CSize screen_{1920, 1080};
     std::chrono::system_clock::time_point now_{};
     bool nowSet_ = false;

@@ -109,7 +109,8 @@ int KeyOf(char ch) {
 }  // namespace
 
 bool CanAct(Node& node) {
-    return !node.Destroyed() && node.ReallyEnabled() && node.ReallyVisible();
+    return !node.Destroyed() && node.ReallyEnabled() && node.ReallyVisible() &&
+           !LiesOutside(node);
 }
 
 bool Click(Node& control) {

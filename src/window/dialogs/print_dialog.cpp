@@ -67,22 +67,44 @@ std::string PaperName(int paper) {
     return "Custom";
 }
 
+std::string FormName(const PrinterSettings& settings) {
+    return settings.form.empty() ? PaperName(settings.paper) : settings.form;
+}
+
 std::optional<PrinterSettings> CurrentPrinter() {
-    if (ChosenPrinter()) return ChosenPrinter();
+    Desktop& desktop = WindowSystem::Get().GetDesktop();
+    // A sheet that was chosen where there is no printer has none that could be gone.
+    const auto& chosen = ChosenPrinter();
+    if (chosen && (chosen->device.empty() || desktop.HasPrinter(chosen->device))) return chosen;
     PrinterSettings settings;
-    if (!WindowSystem::Get().GetDesktop().DefaultPrinter(settings)) return std::nullopt;
+    if (!desktop.DefaultPrinter(settings)) return std::nullopt;
     return settings;
+}
+
+void ResetPrinter() {
+    ChosenPrinter().reset();
 }
 
 DEVMODE ToDevMode(const PrinterSettings& settings) {
     DEVMODE mode;
     CopyInto(mode.dmDeviceName, settings.device);
-    CopyInto(mode.dmFormName, PaperName(settings.paper));
+    CopyInto(mode.dmFormName, FormName(settings));
     mode.dmOrientation = settings.landscape ? DMORIENT_LANDSCAPE : DMORIENT_PORTRAIT;
     mode.dmPaperSize = ToShort(settings.paper);
     mode.dmPaperLength = ToShort(settings.heightTenthMm);
     mode.dmPaperWidth = ToShort(settings.widthTenthMm);
     return mode;
+}
+
+PrinterSettings FromDevMode(const DEVMODE& mode) {
+    PrinterSettings settings;
+    settings.device = mode.dmDeviceName;
+    settings.form = mode.dmFormName;
+    settings.paper = mode.dmPaperSize;
+    settings.landscape = mode.dmOrientation == DMORIENT_LANDSCAPE;
+    settings.heightTenthMm = mode.dmPaperLength;
+    settings.widthTenthMm = mode.dmPaperWidth;
+    return settings;
 }
 
 }  // namespace kv
@@ -95,17 +117,18 @@ int CPrintDialog::DoModal() {
     const kv::ModalScope scope;
     if (kv::WindowSystem::Get().GetDesktop().RunPrintSetup(settings) != IDOK) return IDCANCEL;
     ChosenPrinter() = settings;
-    m_devMode = kv::ToDevMode(settings);
+    Take(settings);
     return IDOK;
 }
 
 BOOL CPrintDialog::GetDefaults() {
     const auto settings = kv::CurrentPrinter();
     if (!settings) return FALSE;
-    m_devMode = kv::ToDevMode(*settings);
+    Take(*settings);
     return TRUE;
 }
 
-CString CPrintDialog::GetDeviceName() const {
-    return m_devMode ? m_devMode->dmDeviceName : "";
+void CPrintDialog::Take(const kv::PrinterSettings& settings) {
+    m_devMode = kv::ToDevMode(settings);
+    m_strDevice = settings.device;
 }

@@ -35,11 +35,18 @@ namespace kv {
 /// Name of a paper by its number, 1 being "Letter"; "Custom" for a number that has none.
 KVGUICTL_API std::string PaperName(int paper);
 
-/// The printer that the program uses: as print setup left it, before that the machine's default
-/// one. None where the machine has no printer.
-KVGUICTL_API std::optional<PrinterSettings> CurrentPrinter();
+/// Name of the paper that is set.
+KVGUICTL_API std::string FormName(const PrinterSettings& settings);
 
+/// The printer that the program uses: as print setup left it, as long as it is there; before that,
+/// and once it is gone, the machine's default one. None where the machine has no printer.
+KVGUICTL_API std::optional<PrinterSettings> CurrentPrinter();
+/// Forgets what print setup left.
+KVGUICTL_API void ResetPrinter();
+
+/// Names are cut to the room for them; real printing goes by the settings.
 KVGUICTL_API DEVMODE ToDevMode(const PrinterSettings& settings);
+KVGUICTL_API PrinterSettings FromDevMode(const DEVMODE& mode);
 
 }  // namespace kv
 
@@ -63,10 +70,14 @@ public:
 
     /// Of the printer that was chosen or taken; null before that.
     DEVMODE* GetDevMode() { return m_devMode ? &*m_devMode : nullptr; }
-    CString GetDeviceName() const;
+    /// All of it, also where the record's room is too small.
+    CString GetDeviceName() const { return m_strDevice.c_str(); }
     DWORD GetFlags() const { return m_nFlags; }
 
 private:
+    void Take(const kv::PrinterSettings& settings);
+
     DWORD m_nFlags;
     std::optional<DEVMODE> m_devMode;
+    std::string m_strDevice;
 };

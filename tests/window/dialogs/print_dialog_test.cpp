@@ -16,8 +16,20 @@ protected:
     PrintDialog() {
         kv::WindowSystem::Get().SetDesktop(&desktop_);
         desktop_.SetPrinter({"Plotter North", 9, false, 2100, 2970});
+        kv::ResetPrinter();
     }
     ~PrintDialog() override { kv::WindowSystem::Get().SetDesktop(nullptr); }
+
+    /// Chooses that printer in print setup.
+    void Choose(const PrinterSettings& settings) {
+        desktop_.ExpectPrintSetup(settings);
+        CPrintDialog dialog(TRUE);
+        EXPECT_EQ(dialog.DoModal(), IDOK);
+    }
+    static std::string CurrentDevice() {
+        const auto printer = kv::CurrentPrinter();
+        return printer ? printer->device : "none";
+    }
 
     kv::HeadlessDesktop desktop_;
 };
@@ -68,6 +80,37 @@ TEST_F(PrintDialog, CancelledItChangesNothing) {
     EXPECT_EQ(kv::CurrentPrinter()->device, before->device);
 }
 
+TEST_F(PrintDialog, AChosenPrinterThatIsGoneGivesWayToTheDefaultOneUntilItIsBack) {
+    Choose({"Plotter South", 1, true, 2159, 2794});
+    EXPECT_EQ(CurrentDevice(), "Plotter South");
+    desktop_.RemovePrinter("Plotter South");
+    EXPECT_EQ(CurrentDevice(), "Plotter North");
+    desktop_.SetNoPrinter();
+    EXPECT_EQ(CurrentDevice(), "none");
+}
+
+TEST_F(PrintDialog, ASheetThatWasChosenWithoutAPrinterStays) {
+    desktop_.SetNoPrinter();
+    Choose({"", 8, true, 2970, 4200});
+    ASSERT_TRUE(kv::CurrentPrinter());
+    EXPECT_EQ(kv::CurrentPrinter()->paper, 8);
+}
+
+TEST_F(PrintDialog, WhatWasChosenCanBeForgotten) {
+    Choose({"Plotter South", 1, true, 2159, 2794});
+    kv::ResetPrinter();
+    EXPECT_EQ(CurrentDevice(), "Plotter North");
+}
+
+TEST_F(PrintDialog, TheNameOfALongPrinterIsWhole) {
+    const std::string name = "Plotter of the drafting room, third floor";
+    desktop_.SetPrinter({name, 1, false, 2159, 2794});
+    CPrintDialog dialog(TRUE);
+    ASSERT_TRUE(dialog.GetDefaults());
+    EXPECT_EQ(dialog.GetDeviceName().str(), name);
+    EXPECT_EQ(std::string(dialog.GetDevMode()->dmDeviceName), name.substr(0, 31));
+}
+
 TEST_F(PrintDialog, SettingUpIsAmongItsFlags) {
     EXPECT_EQ(CPrintDialog(TRUE, PD_NOPAGENUMS).GetFlags(), PD_NOPAGENUMS | PD_PRINTSETUP);
     EXPECT_EQ(CPrintDialog(FALSE, PD_NOPAGENUMS).GetFlags(), PD_NOPAGENUMS);
@@ -80,6 +123,27 @@ TEST(Papers, HaveTheirNames) {
     EXPECT_EQ(kv::PaperName(8), "A3");
     EXPECT_EQ(kv::PaperName(17), "11x17");
     EXPECT_EQ(kv::PaperName(256), "Custom");
+}
+
+TEST(Papers, GoByTheNameOfTheirForm) {
+    PrinterSettings settings{"Plotter", 0, false, 9144, 12192, "ARCH E"};
+    EXPECT_EQ(kv::FormName(settings), "ARCH E");
+    EXPECT_STREQ(kv::ToDevMode(settings).dmFormName, "ARCH E");
+    settings.form = "";
+    EXPECT_EQ(kv::FormName(settings), "Custom");
+    settings.paper = 9;
+    EXPECT_EQ(kv::FormName(settings), "A4");
+}
+
+TEST(DevMode, TellsThePrinterBack) {
+    const PrinterSettings settings{"Plotter", 8, true, 2970, 4200, "A3"};
+    const PrinterSettings back = kv::FromDevMode(kv::ToDevMode(settings));
+    EXPECT_EQ(back.device, "Plotter");
+    EXPECT_EQ(back.form, "A3");
+    EXPECT_EQ(back.paper, 8);
+    EXPECT_TRUE(back.landscape);
+    EXPECT_EQ(back.widthTenthMm, 2970);
+    EXPECT_EQ(back.heightTenthMm, 4200);
 }
 
 TEST(DevMode, LongNamesAreCutToTheirRoom) {
