@@ -98,6 +98,7 @@ private:
     void Fail(const QString& message);
 
     void OpenDatabase();
+    void Run();
     void SaveResults();
     void ZoomTo();
     void ZoomToPick();

@@ -47,7 +47,10 @@ void Workbench::MakeMenus() {
 void Workbench::MakeFileMenu() {
     QMenu* menu = window_->menuBar()->addMenu(tr("&File"));
     menu->addAction(tr("&Open database..."), QKeySequence::Open, this, &Workbench::OpenDatabase);
-    menu->addAction(tr("&Read map again"), QKeySequence(Qt::Key_F5), this, &Workbench::LoadMap);
+    menu->addAction(tr("&Read map again"), QKeySequence(Qt::CTRL | Qt::Key_R), this,
+                    &Workbench::LoadMap);
+    menu->addSeparator();
+    menu->addAction(tr("R&un"), QKeySequence(Qt::Key_F5), this, &Workbench::Run);
     menu->addSeparator();
     menu->addAction(tr("&Save results as CSV..."), QKeySequence::Save, this,
                     &Workbench::SaveResults);
@@ -90,6 +93,8 @@ void Workbench::MakeViewMenu() {
         shown->setText(tr("Area and &block bar"));
         menu->addAction(shown);
     }
+    menu->addAction(tr("&Go to the bar"), QKeySequence(Qt::CTRL | Qt::Key_L), this,
+                    [this] { frame_.m_bar.GoToArea(); });
     resultsDock_->toggleViewAction()->setText(tr("&Results"));
     outcomeDock_->toggleViewAction()->setText(tr("&Dialog outcome"));
     menu->addAction(resultsDock_->toggleViewAction());
@@ -146,6 +151,8 @@ void Workbench::ExplainKeys() {
         {tr("Click on a block"), tr("pick it in the bar")},
         {tr("Click with a converter open"), tr("hand the place to the converter")},
         {tr("Ctrl+G"), tr("go to an area, a block or a place")},
+        {tr("Ctrl+L"), tr("go to the bar")},
+        {tr("F5; Enter in the block box"), tr("run")},
         {tr("Click on a heading"), tr("sort the results")},
         {tr("Enter, double click on a row"), tr("show its block on the map")},
         {tr("Ctrl+F"), tr("find in the results")},
@@ -208,6 +215,10 @@ void Workbench::ZoomTo() {
     } else {
         canvas_->ShowPick(hit->pick);
     }
+}
+
+void Workbench::Run() {
+    if (!frame_.m_bar.Run()) status_->Say(tr("Pick an area and a block in the bar first."));
 }
 
 void Workbench::ZoomToPick() {

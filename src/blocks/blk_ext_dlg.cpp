@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <functional>
 #include <new>
+#include <utility>
 
 #include "base/text.h"
 #include "blocks/blk_ext_ids.h"
@@ -10,6 +11,7 @@
 #include "frame/kvdbkvn/db_abs_data_mgr.h"
 #include "frame/kvdbkvn/db_dataset_set.h"
 #include "window/controls/edit.h"
+#include "window/dialog_keys.h"
 
 using namespace kv::blk_ext;
 using kv::blocks::IndexedSelection;
@@ -182,6 +184,10 @@ void CKvGuiBlkExtDlg::OnAddButton() {
     DeleteRows(m_listExt, addedBlocks);
     DeleteRows(m_listAvail, addedAreas);
     RefreshSelectedListBox();
+    // With nothing left to add the button is disabled, and what comes next is another search.
+    const CWnd& add = Control<CWnd>(kAdd);
+    CWnd* find = GetDlgItem(kFind);
+    if (find && GetFocus() == &add && !add.IsWindowEnabled()) kv::FocusByTab(*find->m_hWnd);
 }
 
 void CKvGuiBlkExtDlg::OnRemoveButton() {
@@ -210,6 +216,12 @@ void CKvGuiBlkExtDlg::OnClickList1(NMHDR*, LRESULT* result) {
     Control<CWnd>(kRemove).EnableWindow(TRUE);
     m_listSelected.SetExtendedStyle(LVS_EX_FULLROWSELECT);
     *result = 0;
+}
+
+void CKvGuiBlkExtDlg::OnKeydownList1(NMHDR* notification, LRESULT* result) {
+    *result = 0;
+    const auto* key = reinterpret_cast<const NMLVKEYDOWN*>(notification);
+    if (key->wVKey == VK_SPACE) OnClickList1(notification, result);
 }
 
 void CKvGuiBlkExtDlg::OnClearButton() {
@@ -295,8 +307,17 @@ void CKvGuiBlkExtDlg::Insert() {
     Control<CEdit>(kFind).SetSel(0, -1);
 }
 
+BOOL CKvGuiBlkExtDlg::PreTranslateMessage(MSG* message) {
+    const kv::Modifiers keys = kv::CurrentModifiers();
+    m_bSpace = message->message == WM_KEYDOWN && message->wParam == VK_SPACE && !keys.shift &&
+               !keys.ctrl && !keys.alt;
+    return CDialog::PreTranslateMessage(message);
+}
+
 void CKvGuiBlkExtDlg::OnSelchangeAvailList() {
     m_listExt.ResetContent();
+    // Space does what a double click does.
+    if (std::exchange(m_bSpace, false)) m_listAvail.m_hWnd->Notify(LBN_DBLCLK);
 }
 
 void CKvGuiBlkExtDlg::OnDblclkAvailList() {
@@ -339,6 +360,7 @@ const kv::MessageMap& CKvGuiBlkExtDlg::Messages() {
         kv::OnControl<&CKvGuiBlkExtDlg::OnSelchangeAvailList>(LBN_SELCHANGE, kAvailable),
         kv::OnControl<&CKvGuiBlkExtDlg::OnDblclkAvailList>(LBN_DBLCLK, kAvailable),
         kv::OnNotify<&CKvGuiBlkExtDlg::OnClickList1>(NM_CLICK, kSelected),
+        kv::OnNotify<&CKvGuiBlkExtDlg::OnKeydownList1>(LVN_KEYDOWN, kSelected),
         kv::OnClicked<&CKvGuiBlkExtDlg::OnButtonImport>(kImport),
         kv::OnClicked<&CKvGuiBlkExtDlg::OnButtonImportmap>(kFromMap),
         kv::OnClicked<&CKvGuiBlkExtDlg::OnButtonNeighbor>(kNeighbors),

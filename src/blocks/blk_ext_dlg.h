@@ -70,6 +70,7 @@ public:
     BOOL OnInitDialog() override;
     void OnOK() override;
     void OnCancel() override;
+    BOOL PreTranslateMessage(MSG* message) override;
 
     static const kv::MessageMap& Messages();
     const kv::MessageMap& GetMessageMap() const override { return Messages(); }
@@ -83,6 +84,8 @@ protected:
     void OnSelchangeAvailList();
     void OnDblclkAvailList();
     void OnClickList1(NMHDR* notification, LRESULT* result);
+    /// Space does what a click does.
+    void OnKeydownList1(NMHDR* notification, LRESULT* result);
     void OnButtonImportmap();
     void OnButtonNeighbor();
     void OnRadioSearch();
@@ -151,4 +154,6 @@ private:
 
     /// What stands in for the caller's selection in a dialog that was told none.
     kv::blocks::Selection m_noSelection;
+    /// Whether what is being handled is the press of Space.
+    bool m_bSpace = false;
 };

@@ -1,10 +1,13 @@
 #include "coordtools/converter_dialog.h"
 
+#include <algorithm>
+
 #include "base/numbers.h"
 #include "coordtools/angle_group.h"
 #include "coordtools/converter_ids.h"
 #include "coordtools/length_unit.h"
 #include "frame/kvcom/util_lldrv.h"
+#include "window/controls/button.h"
 #include "window/controls/combo_box.h"
 #include "window/controls/edit.h"
 #include "window/dialogs/message_box.h"
@@ -16,6 +19,8 @@ using kv::length::kNoValue;
 namespace {
 
 constexpr int kDefaultProjection = 115;
+constexpr int kLowerBoxes[] = {kFromProjection, kFromUnit, kFromX, kFromY,
+                               kToProjection,   kToUnit,   kToX,   kToY};
 constexpr const char* kOneAngleMissing = "Both Latitude and Longitude have to have values.";
 
 struct Position {
@@ -124,6 +129,23 @@ void CKvConverterDialog::OnRadioConvertLlxy() {
 
 void CKvConverterDialog::OnRadioConvertXyll() {
     ShowDirection();
+}
+
+BOOL CKvConverterDialog::PreTranslateMessage(MSG* message) {
+    MarkDefaultButton();
+    return CDialog::PreTranslateMessage(message);
+}
+
+/// Enter converts where the focus is.
+void CKvConverterDialog::MarkDefaultButton() {
+    const CWnd* focus = GetFocus();
+    if (!focus || !m_hWnd || !focus->m_hWnd->IsSelfOrDescendantOf(*m_hWnd)) return;
+    const bool inLower = std::ranges::any_of(kLowerBoxes, [&](int id) {
+        const kv::Node* box = m_hWnd->FindChild(id);
+        return box && focus->m_hWnd->IsSelfOrDescendantOf(*box);
+    });
+    Control<CButton>(kConvert).SetButtonStyle(inLower ? BS_PUSHBUTTON : BS_DEFPUSHBUTTON);
+    Control<CButton>(kConvertXY).SetButtonStyle(inLower ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON);
 }
 
 void CKvConverterDialog::SetReferencePoint() {

@@ -30,6 +30,7 @@ public:
 
     BOOL OnInitDialog() override;
     void OnOK() override;
+    BOOL PreTranslateMessage(MSG* message) override;
 
     static const kv::MessageMap& Messages();
     const kv::MessageMap& GetMessageMap() const override { return Messages(); }
@@ -74,6 +75,7 @@ private:
     void SetDefaults();
     std::unique_ptr<CKvGuiProjCtrl> MakeProjection(int comboId, int code);
     void ShowDirection();
+    void MarkDefaultButton();
     void ConvertToXY();
     void ConvertToLatLon();
     void SetReferencePoint();

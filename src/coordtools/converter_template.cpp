@@ -34,7 +34,7 @@ constexpr std::array kXYRows{
     ControlRow{kX, kEdit, "", {66, 86, 112, 12}},
     ControlRow{IDC_STATIC, kLabel, "y Coordinate", {14, 104, 48, 8}},
     ControlRow{kY, kEdit, "", {66, 102, 112, 12}},
-    ControlRow{kConvert, kPushButton, "Convert", {185, 93, 58, 14}},
+    ControlRow{kConvert, kDefaultButton, "Convert", {185, 93, 58, 14}},
     ControlRow{IDC_STATIC, kLabel, "Format", {250, 72, 40, 8}},
     ControlRow{kFormat, kDropList, "", {294, 70, 60, 12}, kSortedCombo},
 };
@@ -71,7 +71,7 @@ constexpr std::array kConvertXYRow{
     ControlRow{kConvertXY, kPushButton, "Convert", {204, 174, 58, 14}},
 };
 constexpr std::array kOkRow{
-    ControlRow{IDOK, kDefaultButton, "OK", {409, 235, 50, 14}},
+    ControlRow{IDOK, kPushButton, "OK", {409, 235, 50, 14}},
 };
 
 constexpr auto kRows =

@@ -31,10 +31,10 @@ constexpr int k27Top = 42;
 constexpr int k83Top = 134;
 
 constexpr std::array kConvertRow{
-    ControlRow{kConvert, kPushButton, "Convert", {60, 113, 110, 14}},
+    ControlRow{kConvert, kDefaultButton, "Convert", {60, 113, 110, 14}},
 };
 constexpr std::array kClosingRows{
-    ControlRow{IDOK, kDefaultButton, "OK", {173, 205, 50, 14}},
+    ControlRow{IDOK, kPushButton, "OK", {173, 205, 50, 14}},
     ControlRow{IDCANCEL, kPushButton, "Cancel", {119, 205, 50, 14}, kHidden},
 };
 

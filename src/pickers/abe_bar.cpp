@@ -2,6 +2,7 @@
 
 #include "pickers/abe_bar_ids.h"
 #include "window/controls/button.h"
+#include "window/dialog_keys.h"
 #include "window/frames/frame_wnd.h"
 
 using namespace kv::abe_bar;
@@ -81,9 +82,32 @@ BOOL CKvABEBar::OnCmdMsg(UINT id, int code, void* extra, void* info) {
     if (id == kArea) {
         const bool touched = code == CBN_EDITCHANGE || code == CBN_DROPDOWN || code == CBN_SETFOCUS;
         if (touched) FillAreasOnce();
-        if (code == CBN_EDITCHANGE || code == CBN_SELCHANGE) m_areaCombo.V_SelChanged(true);
+        const bool picked = code == CBN_SELCHANGE && !m_areaCombo.IsLookingAtRow();
+        if (code == CBN_EDITCHANGE || picked) m_areaCombo.V_SelChanged(true);
     }
     return CDialogBar::OnCmdMsg(id, code, extra, info);
+}
+
+BOOL CKvABEBar::PreTranslateMessage(MSG* message) {
+    if (IsEnterInBlockBox(*message) && Run()) return TRUE;
+    return CDialogBar::PreTranslateMessage(message);
+}
+
+/// Where the list is open, Enter is the list's.
+bool CKvABEBar::IsEnterInBlockBox(const MSG& message) const {
+    return message.message == WM_KEYDOWN && message.wParam == VK_RETURN && m_blkCombo.m_hWnd &&
+           message.hwnd->IsSelfOrDescendantOf(*m_blkCombo.m_hWnd) && !m_blkCombo.GetDroppedState();
+}
+
+bool CKvABEBar::Run() {
+    const auto& run = Control<CButton>(kRun);
+    if (!run.IsWindowEnabled()) return false;
+    run.SendMessage(BM_CLICK);
+    return true;
+}
+
+void CKvABEBar::GoToArea() {
+    if (m_areaCombo.m_hWnd) kv::FocusByTab(*m_areaCombo.m_hWnd);
 }
 
 void CKvABEBar::OnABERun() {

@@ -38,7 +38,13 @@ public:
     /// Owned by the bar.
     CKvAreaComboBox* GetAreaCombo() { return &m_areaCombo; }
 
+    /// Presses Run, as Enter in the block box does. False where that is disabled.
+    bool Run();
+    /// Moves the focus into the area box as Tab does: what a host's shortcut is for.
+    void GoToArea();
+
     BOOL OnCmdMsg(UINT id, int code, void* extra, void* info) override;
+    BOOL PreTranslateMessage(MSG* message) override;
 
     static const kv::MessageMap& Messages();
     const kv::MessageMap& GetMessageMap() const override { return Messages(); }
@@ -66,6 +72,7 @@ protected:
 private:
     bool IsComplete() const;
     void FillAreasOnce();
+    bool IsEnterInBlockBox(const MSG& message) const;
 };
 
 /// The bar under the name that the host docks it by.

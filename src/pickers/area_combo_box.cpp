@@ -1,6 +1,8 @@
 #include "pickers/area_combo_box.h"
 
+#include <algorithm>
 #include <array>
+#include <utility>
 
 #include "base/text.h"
 #include "frame/kvdbkvn/db_dataset_set.h"
@@ -20,13 +22,21 @@ constexpr int kLabelRows = 2;
 struct ModeLabel {
     const char* label;
     int mode;
+    const char* toolTip;
+    const char* name;
 };
 
 constexpr std::array<ModeLabel, 3> kModeLabels{{
-    {catalogue::kLabelAreaName, catalogue::kAreaName},
-    {catalogue::kLabelAreaCode, catalogue::kAreaCode},
-    {catalogue::kLabelMmsCode, catalogue::kMmsCode},
+    {catalogue::kLabelAreaName, catalogue::kAreaName, "Areas by name", "Area, by name"},
+    {catalogue::kLabelAreaCode, catalogue::kAreaCode, "Areas by area code", "Area, by area code"},
+    {catalogue::kLabelMmsCode, catalogue::kMmsCode, "Areas by MMS code", "Area, by MMS code"},
 }};
+
+/// Null for an unknown mode.
+const ModeLabel* FindMode(int mode) {
+    const auto at = std::ranges::find(kModeLabels, mode, &ModeLabel::mode);
+    return at == kModeLabels.end() ? nullptr : &*at;
+}
 
 std::string SelectLabels(const char* first, const char* second) {
     return std::string("select '") + first + "' from dual union select '" + second +
@@ -42,6 +52,21 @@ std::string Quoted(const std::string& text) {
 void CKvAreaComboBox::SetBlkCombo(CKvBlkComboBox* combo) {
     m_pBlkCombo = combo;
     if (m_pBlkCombo) m_pBlkCombo->SetMode(m_nMode);
+}
+
+void CKvAreaComboBox::SetMode(int mode) {
+    m_nMode = mode;
+    ShowMode();
+}
+
+void CKvAreaComboBox::ShowMode() {
+    const ModeLabel* mode = FindMode(m_nMode);
+    if (m_hWnd) m_hWnd->SetToolTip(mode ? mode->toolTip : "");
+}
+
+std::string CKvAreaComboBox::SpokenName() const {
+    const ModeLabel* mode = FindMode(m_nMode);
+    return mode ? mode->name : "";
 }
 
 std::string CKvAreaComboBox::AreaQuery() const {
@@ -101,25 +126,76 @@ void CKvAreaComboBox::V_SelChanged(bool bCommit) {
     const bool label = row >= 0 && row < kLabelRows;
     if (start != end && !whole && !label && !bCommit) return;
 
-    TakeText(text);
+    const bool filled = TakeText(text);
 
     if (!m_pBlkCombo) return;
     m_pBlkCombo->EnableWindow(TRUE);
-    if (EnableBlkCombo() && m_pBlkCombo->WindowText().empty()) m_pBlkCombo->SetFocus();
+    if (!EnableBlkCombo() || !m_pBlkCombo->WindowText().empty()) return;
+    const bool typing = HoldsFocus() && start == end && text == WindowText();
+    if (typing) {
+        if (!GoesOn(text)) m_pBlkCombo->SetFocusBehindTyping();
+    } else if (filled || HoldsFocus()) {
+        // Who only passes through the box goes where they want to.
+        m_pBlkCombo->SetFocus();
+    }
 }
 
-void CKvAreaComboBox::TakeText(const std::string& text) {
+bool CKvAreaComboBox::HoldsFocus() const {
+    const CWnd* focus = GetFocus();
+    return m_hWnd && focus && focus->m_hWnd->IsSelfOrDescendantOf(*m_hWnd);
+}
+
+bool CKvAreaComboBox::GoesOn(const std::string& text) const {
+    const int row = FindStringExact(-1, text.c_str());
+    return FindString(row, text.c_str()) != row;
+}
+
+bool CKvAreaComboBox::TakeText(const std::string& text) {
     for (const ModeLabel& each : kModeLabels) {
         if (text == each.label) {
-            m_nMode = each.mode;
+            SetMode(each.mode);
             V_InitializeCombo();
-            return;
+            return true;
         }
     }
-    if (text.empty() || !m_pBlkCombo) return;
+    if (text.empty() || !m_pBlkCombo) return false;
     m_pBlkCombo->SetMode(m_nMode);
     m_pBlkCombo->SetArea(text);
+    if (m_pBlkCombo->IsFilled()) return false;
     m_pBlkCombo->V_InitializeCombo();
+    return true;
+}
+
+bool CKvAreaComboBox::IsLookingAtRow() const {
+    const bool drops = (GetStyle() & CBS_TYPEMASK) != CBS_SIMPLE;
+    return drops && GetDroppedState() && GetCurSel() != CB_ERR;
+}
+
+BOOL CKvAreaComboBox::OnCmdMsg(UINT id, int code, void* extra, void* info) {
+    if (code == CBN_SELCHANGE && IsLookingAtRow()) {
+        m_bLookedAtRow = true;
+        return CComboBoxExx::OnCmdMsg(id, code, extra, info);
+    }
+    if (code == CBN_CLOSEUP && std::exchange(m_bLookedAtRow, false)) V_SelChanged(true);
+    return CKvDbComboBox::OnCmdMsg(id, code, extra, info);
+}
+
+BOOL CKvAreaComboBox::PreTranslateMessage(MSG* message) {
+    if (message->message == WM_KEYDOWN && message->wParam == VK_TAB) TakeWhatIsShown();
+    return CKvDbComboBox::PreTranslateMessage(message);
+}
+
+/// Takes the row of the open list, or the completed text, so that Tab finds the block box open.
+void CKvAreaComboBox::TakeWhatIsShown() {
+    ShowDropDown(FALSE);
+    const auto end = static_cast<int>(WindowText().size());
+    SetEditSel(end, end);
+    if (m_pBlkCombo && EnableBlkCombo()) m_pBlkCombo->EnableWindow(TRUE);
+}
+
+void CKvAreaComboBox::OnEditUpdate() {
+    // The labels begin with a blank, and so a blank alone would complete to the first of them.
+    if (!kv::Trim(WindowText()).empty()) CKvDbComboBox::OnEditUpdate();
 }
 
 bool CKvAreaComboBox::EnableBlkCombo() {
@@ -191,4 +267,12 @@ void CKvAreaComboBox::SetArea(const std::string& areacode) {
     }
     SetCurSel(row);
     V_SelChanged(true);
+}
+
+const kv::MessageMap& CKvAreaComboBox::Messages() {
+    static const kv::MessageEntry kEntries[] = {
+        kv::OnReflected<&CKvAreaComboBox::OnEditUpdate>(CBN_EDITUPDATE),
+    };
+    static const kv::MessageMap kMap{&CKvDbComboBox::Messages(), kEntries};
+    return kMap;
 }

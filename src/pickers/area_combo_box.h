@@ -4,21 +4,29 @@
 
 #include "pickers/blk_combo_box.h"
 #include "pickers/db_combo_box.h"
+#include "window/named.h"
 
 /// The areas of the dataset in one of the three area modes, with two label rows that switch the
 /// mode. A pick fills the block box that is bound to it. The text of the box is its only record of
 /// the pick.
-class KVGUICTL_API CKvAreaComboBox : public CKvDbComboBox {
+class KVGUICTL_API CKvAreaComboBox : public CKvDbComboBox, public kv::Named {
 public:
     /// Binds the block box, which is not owned, and gives it the present mode. Null for none.
     void SetBlkCombo(CKvBlkComboBox* combo);
 
     int GetMode() const { return m_nMode; }
     /// Touches neither the list nor the block box.
-    void SetMode(int mode) { m_nMode = mode; }
+    void SetMode(int mode);
 
     void V_InitializeCombo() override;
     void V_SelChanged(bool bCommit) override;
+
+    /// Whether the current row was only gone to by keys in the open list: it is picked when the
+    /// list closes.
+    bool IsLookingAtRow() const;
+    /// As the base, but for a row that is only looked at.
+    BOOL OnCmdMsg(UINT id, int code, void* extra, void* info) override;
+    BOOL PreTranslateMessage(MSG* message) override;
 
     /// The window text as it stands.
     std::string GetArea() const { return WindowText(); }
@@ -36,7 +44,15 @@ public:
     /// is not, the block box's text is emptied.
     bool EnableBlkCombo();
 
+    std::string SpokenName() const override;
+
+    static const kv::MessageMap& Messages();
+    const kv::MessageMap& GetMessageMap() const override { return Messages(); }
+
 protected:
+    void PreSubclassWindow() override { ShowMode(); }
+    void OnEditUpdate();
+
     /// The statement of the present mode that lists labels and areas, empty for an unknown mode.
     std::string AreaQuery() const;
     /// Fills the list from the statement. The first fill in the process, which `firstFill` marks,
@@ -49,7 +65,15 @@ protected:
 
 private:
     std::string AreacodesOfMms(const std::string& mmsCode, bool bQuoted) const;
-    void TakeText(const std::string& text);
+    /// Whether that filled a list anew.
+    bool TakeText(const std::string& text);
+    void TakeWhatIsShown();
+    void ShowMode();
+    bool HoldsFocus() const;
+    /// Whether another row goes on from the text of a row.
+    bool GoesOn(const std::string& text) const;
     /// The row that is the area, not one that merely begins with it; CB_ERR for none.
     int RowOf(const std::string& area) const;
+
+    bool m_bLookedAtRow = false;
 };

@@ -1,8 +1,24 @@
 #include "pickers/blk_combo_box.h"
 
+#include <utility>
+
+#include "frame/kvcom/misc.h"
 #include "frame/kvdbkvn/db_dataset_set.h"
+#include "window/dialog_keys.h"
 
 namespace catalogue = kv::catalogue;
+
+namespace {
+
+CKvDbInfo ConnectionInForce() {
+    std::string user;
+    std::string password;
+    std::string server;
+    CKvMisc::GetParsedConnectString(user, password, server, true);
+    return {user.c_str(), password.c_str(), server.c_str()};
+}
+
+}  // namespace
 
 void CKvBlkComboBox::EnsureTables() {
     const std::string dataset =
@@ -11,8 +27,7 @@ void CKvBlkComboBox::EnsureTables() {
     if (m_sBlockTable.empty()) m_sBlockTable = dataset + catalogue::kBlockTable;
 }
 
-void CKvBlkComboBox::V_InitializeCombo() {
-    EnsureTables();
+std::string CKvBlkComboBox::BlockQuery() const {
     std::string query = m_bIncludeAll ? catalogue::kSelectAllBlocks : "";
     query += catalogue::BlockLabelExpression() + "lbnum||lbext), lbnum from " + m_sBlockTable;
 
@@ -33,7 +48,33 @@ void CKvBlkComboBox::V_InitializeCombo() {
             query += " where areacode in " + areaCodes(catalogue::kColumnMmsCode) + "order by 2";
             break;
     }
-    FillFromQuery(query, true);
+    return query;
+}
+
+void CKvBlkComboBox::V_InitializeCombo() {
+    EnsureTables();
+    const std::string query = BlockQuery();
+    m_filling.reset();
+    if (FillFromQuery(query, true)) m_filling = Filling{query, ConnectionInForce(), GetCount()};
+}
+
+bool CKvBlkComboBox::IsFilled() const {
+    return m_filling && m_filling->statement == BlockQuery() && m_filling->rows == GetCount() &&
+           m_filling->connection == ConnectionInForce();
+}
+
+void CKvBlkComboBox::SetFocusBehindTyping() {
+    m_bCameByTyping = true;
+    SetFocus();
+}
+
+BOOL CKvBlkComboBox::PreTranslateMessage(MSG* message) {
+    if (message->message == WM_KEYDOWN || message->message == WM_LBUTTONDOWN) {
+        const bool behindTyping = std::exchange(m_bCameByTyping, false);
+        const bool tab = message->message == WM_KEYDOWN && message->wParam == VK_TAB;
+        if (behindTyping && tab && !kv::CurrentModifiers().shift) return TRUE;
+    }
+    return CKvDbComboBox::PreTranslateMessage(message);
 }
 
 std::string CKvBlkComboBox::GetBlk(bool bStripSuffix) const {

@@ -18,18 +18,21 @@ BOOL CKvDbComboBox::OnCmdMsg(UINT id, int code, void* extra, void* info) {
     return CComboBoxExx::OnCmdMsg(id, code, extra, info);
 }
 
-void CKvDbComboBox::FillFromQuery(const std::string& sql, bool bClear) {
+bool CKvDbComboBox::FillFromQuery(const std::string& sql, bool bClear) {
     if (bClear) ResetContent();
     CKvDbAbsDataMgr manager(1);
+    bool filled = false;
     try {
         manager.Connect();
         manager.Select(sql);
         const int rows = manager.NumberOfRows();
         for (int row = 0; row < rows; ++row)
             AddString(manager.GetItem(row, 0));
+        filled = true;
     } catch (const CKvException& e) {
         CKvLog::Output(e.GetErrorMessage(true, true), 101, false);
     }
     manager.FreeData();
     manager.Disconnect();
+    return filled;
 }

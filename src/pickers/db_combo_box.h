@@ -18,6 +18,6 @@ public:
     BOOL OnCmdMsg(UINT id, int code, void* extra, void* info) override;
 
     /// Adds column 0 of each row of the query, in row order; `bClear` empties the list first. A
-    /// failure of the database goes to the log, and what was added stays.
-    void FillFromQuery(const std::string& sql, bool bClear);
+    /// failure of the database goes to the log, and what was added stays; then the answer is false.
+    bool FillFromQuery(const std::string& sql, bool bClear);
 };

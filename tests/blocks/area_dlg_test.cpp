@@ -43,6 +43,17 @@ TEST_F(AreaDlg, ADoubleClickDoesNothing) {
     EXPECT_THAT(statements, SizeIs(1));
 }
 
+TEST_F(AreaDlg, SpaceSelectsAndListsNothing) {
+    Run(areas, [](kv::User& user) {
+        Search(user, "grand");
+        user.Key(kAvailable, "Home");
+        user.Key(0, "Space");
+        EXPECT_THAT(user.Rows(kBlocks), IsEmpty());
+        EXPECT_THAT(user.Selected(kAvailable), ElementsAre(0));
+    });
+    EXPECT_THAT(statements, SizeIs(1));
+}
+
 TEST_F(AreaDlg, AddTakesWholeAreas) {
     Given({{"PLAIN", "55"}});
     Run(areas, [](kv::User& user) {

@@ -101,7 +101,34 @@ TEST_F(BlkExtChanges, AnEntryIsAddedOnce) {
     EXPECT_THAT(Entries(), ElementsAre("A/1", "a/1"));
 }
 
+TEST_F(BlkExtChanges, WithNothingLeftToAddTheFocusGoesToTheNextSearch) {
+    Run(dialog, [](kv::User& user) {
+        Search(user, "grand");
+        user.Select(kAvailable, 0);
+        user.Click(kAdd);
+        EXPECT_EQ(test::FocusedId(), kAdd);
+        user.Click(kAdd);
+        EXPECT_THAT(user.Rows(kAvailable), IsEmpty());
+        EXPECT_EQ(test::FocusedId(), kFind);
+        kv::input::TypeHere("x");
+        EXPECT_EQ(user.Text(kFind), "x") << "its text is selected";
+    });
+}
+
 // Remove and Clear.
+
+TEST_F(BlkExtChanges, RemoveComesOnBySpaceInTheSelectionToo) {
+    Given({{"PLAIN", ""}, {"EMPTY", ""}});
+    Run(dialog, [](kv::User& user) {
+        user.Key(kSelected, "Down");
+        EXPECT_FALSE(user.Enabled(kRemove));
+        user.Key(0, "Space");
+        EXPECT_TRUE(user.Enabled(kRemove));
+        EXPECT_THAT(user.Selected(kSelected), ElementsAre(0));
+        user.Click(kRemove);
+    });
+    EXPECT_THAT(Entries(), ElementsAre("EMPTY/"));
+}
 
 TEST_F(BlkExtChanges, RemoveComesOnByAClickAndGoesOffWithEveryRefresh) {
     Given({{"A", "1"}, {"B", "2"}});

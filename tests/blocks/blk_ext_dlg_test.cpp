@@ -219,6 +219,33 @@ TEST_F(BlkExtDlg, ADoubleClickListsTheBlocksOfAnAreaByNumber) {
     });
 }
 
+TEST_F(BlkExtDlg, SpaceListsTheBlocksOfAnAreaAsADoubleClickDoes) {
+    Run(dialog, [](kv::User& user) {
+        Search(user, "grand");
+        user.Key(kAvailable, "Home");
+        user.Key(0, "Space");
+        EXPECT_THAT(user.Rows(kBlocks), ElementsAre("9", "9A", "10", "100"));
+        EXPECT_THAT(user.Selected(kAvailable), ElementsAre(0));
+        user.Key(0, "Down");
+        EXPECT_THAT(user.Rows(kBlocks), IsEmpty()) << "other keys list nothing";
+        user.Key(0, "Ctrl+Space");
+        EXPECT_THAT(user.Rows(kBlocks), IsEmpty());
+        EXPECT_THAT(user.Selected(kAvailable), IsEmpty());
+    });
+}
+
+TEST_F(BlkExtDlg, ABlankWithinATypedNameIsPartOfIt) {
+    Run(dialog, [this](kv::User& user) {
+        Search(user, "grand");
+        statements.clear();
+        user.Focus(kAvailable);
+        kv::input::TypeHere("GRAND ISLE ");
+        EXPECT_THAT(user.Selected(kAvailable), ElementsAre(1));
+        EXPECT_THAT(user.Rows(kBlocks), IsEmpty());
+    });
+    EXPECT_THAT(statements, IsEmpty());
+}
+
 TEST_F(BlkExtDlg, BlocksTellTheWaterTheyLieIn) {
     Run(dialog, [](kv::User& user) {
         Search(user, "");

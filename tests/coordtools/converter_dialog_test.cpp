@@ -6,6 +6,8 @@
 #include "frame/kvcom/util_lldrv.h"
 #include "mapbuild/proj_sel_ids.h"
 #include "support/sqlite_file.h"
+#include "window/controls/button.h"
+#include "window/controls/combo_box.h"
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -550,6 +552,70 @@ TEST_F(Converter, ResetGoesBackToTheProjection115InTheArithmetic) {
     TypePosition();
     user->Click(kConvert);
     EXPECT_THAT(XY(), testing::ElementsAreArray(Feet(28.5, -91.25, 115)));
+}
+
+// Enter.
+
+TEST_F(Converter, EnterInTheUpperBoxesConverts) {
+    TypePosition();
+    user->Key(0, "Enter");
+    const auto point = Feet(28.5, -91.25, 115);
+    EXPECT_THAT(XY(), testing::ElementsAreArray(point));
+    EXPECT_EQ(test::FocusedId(), kLongitude.seconds.edit);
+    user->Click(kToLatLon);
+    user->Type(kY, "0");
+    user->Key(kX, "Enter");
+    EXPECT_NE(Texts(kLatitude)[0], "28");
+    for (const int id : {kUnit, kFormat, kToLatLon}) {
+        user->Type(kY, point[1]);
+        user->Key(id, "Enter");
+        EXPECT_THAT(Texts(kLatitude), ElementsAre("28", "30", "0.00")) << id;
+        user->Type(kY, "0");
+        user->Key(0, "Enter");
+    }
+    EXPECT_TRUE(tool.IsWindowVisible());
+}
+
+TEST_F(Converter, EnterInTheLowerBoxesConvertsThere) {
+    TypeFrom("1000", "2000");
+    user->Key(0, "Enter");
+    EXPECT_THAT(ToXYBoxes(), ElementsAre("1000.00", "2000.00"));
+    for (const int id : {kFromProjection, kFromUnit, kFromX, kToX, kToUnit}) {
+        user->Type(kFromY, "3000");
+        user->Key(id, "Enter");
+        EXPECT_THAT(ToXYBoxes(), ElementsAre("1000.00", "3000.00")) << id;
+        user->Type(kFromY, "2000");
+        user->Key(0, "Enter");
+    }
+    EXPECT_THAT(XY(), ElementsAre("", ""));
+    EXPECT_TRUE(tool.IsWindowVisible());
+}
+
+TEST_F(Converter, TheButtonThatEnterPressesFollowsTheFocus) {
+    const auto isDefault = [this](int id) {
+        return tool.Control<CButton>(id).GetButtonStyle() == BS_DEFPUSHBUTTON;
+    };
+    EXPECT_TRUE(isDefault(kConvert));
+    user->Click(kFromX);
+    EXPECT_TRUE(isDefault(kConvertXY));
+    EXPECT_FALSE(isDefault(kConvert));
+    user->Click(kUnit);
+    EXPECT_TRUE(isDefault(kConvert));
+    EXPECT_FALSE(isDefault(kConvertXY));
+}
+
+TEST_F(Converter, EnterInAnOpenListIsTheLists) {
+    TypeFrom("1000", "2000");
+    user->Drop(kFromUnit);
+    user->Key(0, "Enter");
+    EXPECT_THAT(ToXYBoxes(), ElementsAre("", ""));
+    EXPECT_FALSE(tool.Control<CComboBox>(kFromUnit).GetDroppedState());
+}
+
+TEST_F(Converter, EnterOnOkHidesIt) {
+    user->Focus(IDOK);
+    user->Key(0, "Enter");
+    EXPECT_FALSE(tool.IsWindowVisible());
 }
 
 TEST_F(Converter, OkHidesItAndItsValuesLiveOn) {

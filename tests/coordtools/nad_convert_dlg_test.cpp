@@ -104,6 +104,18 @@ TEST_F(NadConvert, OneAngleAloneIsTold) {
     EXPECT_THAT(Texts(kLatitude27), ElementsAre("", "", ""));
 }
 
+TEST_F(NadConvert, EnterInItsBoxesConverts) {
+    Type(kLatitude27, "28", "30", "15.25");
+    for (const int id : {kLatitude27.degrees.edit, kFormat27, kFormat83, k27To83}) {
+        desktop.ExpectMessage(kOneMissing);
+        user->Key(id, "Enter");
+        EXPECT_TRUE(tool.IsWindowVisible());
+    }
+    user->Focus(IDOK);
+    user->Key(0, "Enter");
+    EXPECT_FALSE(tool.IsWindowVisible());
+}
+
 TEST_F(NadConvert, ConvertsNothingToNothing) {
     user->Click(kConvert);
     EXPECT_THAT(AllBoxes(), testing::Each(""));

@@ -1,9 +1,12 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <functional>
 
+#include "frame/kvdbkvn/database_fault.h"
 #include "pickers/picker_fixture.h"
 #include "window/acting/input.h"
+#include "window/controls/combo_box.h"
 #include "window/drawing/image_resource.h"
 
 namespace {
@@ -13,6 +16,30 @@ using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::Not;
 using namespace kv::abe_bar;
+
+/// A main window that counts the runs.
+class RunHost : public CFrameWnd {
+public:
+    RunHost() { Create("Main"); }
+
+    static const kv::MessageMap& Messages() {
+        static const kv::MessageEntry kEntries[] = {
+            kv::OnMessage<&RunHost::OnRun>(CKvABEBar::kRunMessage)};
+        static const kv::MessageMap kHostMap{&CFrameWnd::Messages(), kEntries};
+        return kHostMap;
+    }
+    const kv::MessageMap& GetMessageMap() const override { return Messages(); }
+
+    int runs = 0;
+    bool parametersAreZero = false;
+
+private:
+    LRESULT OnRun(WPARAM wParam, LPARAM lParam) {
+        ++runs;
+        parametersAreZero = wParam == 0 && lParam == 0;
+        return 0;
+    }
+};
 
 class AbeBar : public PickerTest {
 protected:
@@ -128,28 +155,22 @@ TEST_F(AbeBar, ShotpointsHaveNoReport) {
 }
 
 TEST_F(AbeBar, RunTellsTheMainWindow) {
-    struct Host : CFrameWnd {
-        static const kv::MessageMap& Messages() {
-            static const kv::MessageEntry kEntries[] = {
-                kv::OnMessage<&Host::OnRun>(CKvABEBar::kRunMessage)};
-            static const kv::MessageMap kHostMap{&CFrameWnd::Messages(), kEntries};
-            return kHostMap;
-        }
-        const kv::MessageMap& GetMessageMap() const override { return Messages(); }
-        LRESULT OnRun(WPARAM wParam, LPARAM lParam) {
-            ++runs;
-            parametersAreZero = wParam == 0 && lParam == 0;
-            return 0;
-        }
-        int runs = 0;
-        bool parametersAreZero = false;
-    } host;
-    host.Create("Main");
+    RunHost host;
     app.m_pMainWnd = &host;
     CompleteThePick();
     user->Click(kRun);
     EXPECT_EQ(host.runs, 1);
     EXPECT_TRUE(host.parametersAreZero);
+}
+
+TEST_F(AbeBar, AHostPressesRunWhereItIsEnabled) {
+    RunHost host;
+    app.m_pMainWnd = &host;
+    EXPECT_FALSE(bar.Run());
+    EXPECT_EQ(host.runs, 0);
+    CompleteThePick();
+    EXPECT_TRUE(bar.Run());
+    EXPECT_EQ(host.runs, 1);
 }
 
 TEST_F(AbeBar, DisablingThePickersEmptiesAndLocksThem) {
@@ -324,6 +345,266 @@ TEST_F(AbeBar, WhatItHearsGoesOnToADerivedBar) {
     EXPECT_EQ(host.picks, 1);
     EXPECT_EQ(host.OnCmdMsg(kArea, CBN_SELCHANGE, nullptr, nullptr), TRUE);
     EXPECT_EQ(host.OnCmdMsg(kArea, CBN_CLOSEUP, nullptr, nullptr), FALSE);
+}
+
+// What was picked is not lost.
+
+TEST_F(AbeBar, PassingThroughTheAreaBoxKeepsTheBlockAndAsksNothing) {
+    CompleteThePick();
+    statements.clear();
+    user->Focus(kArea);
+    user->Key(kArea, "Tab");
+    EXPECT_EQ(test::FocusedId(), kBlock);
+    EXPECT_EQ(user->Text(kBlock), "9A");
+    EXPECT_TRUE(user->Enabled(kRun));
+    user->Focus(kArea);
+    user->Click(kRun);
+    EXPECT_EQ(bar.GetBlk(false), "9A");
+    EXPECT_THAT(statements, IsEmpty());
+}
+
+TEST_F(AbeBar, WhoPassesThroughTheAreaBoxWithoutABlockGoesWhereTheyWantTo) {
+    user->Select(kArea, "GI");
+    user->Focus(kArea);
+    kv::WindowSystem::Get().SetFocus(frame.m_hWnd);
+    EXPECT_EQ(CWnd::GetFocus(), &frame);
+}
+
+TEST_F(AbeBar, ThePickedAreaOnceMoreKeepsTheBlock) {
+    CompleteThePick();
+    statements.clear();
+    user->Select(kArea, "GI");
+    EXPECT_EQ(user->Text(kBlock), "9A");
+    EXPECT_THAT(statements, IsEmpty());
+}
+
+TEST_F(AbeBar, AnotherAreaOrModeTakesTheBlockAway) {
+    CompleteThePick();
+    user->Select(kArea, "SL");
+    EXPECT_EQ(user->Text(kBlock), "");
+    CompleteThePick();
+    user->Select(kArea, " -AREA NAME-");
+    EXPECT_EQ(user->Text(kBlock), "");
+    EXPECT_THAT(user->Rows(kBlock), IsEmpty());
+    user->Select(kArea, " -MMS CODE-");
+    user->Select(kArea, "GI");
+    EXPECT_THAT(user->Rows(kBlock), ElementsAre("ALL", "10", "100", "45", "46B", "9", "9A"));
+}
+
+TEST_F(AbeBar, TypingAnAreaAsksForItsBlocksOnce) {
+    user->Focus(kArea);
+    user->Select(kArea, " -AREA NAME-");
+    statements.clear();
+    user->Type(kArea, "SHORE LANDS");
+    EXPECT_THAT(statements, ElementsAre(HasSubstr("areaname = 'SHORE LANDS'")));
+}
+
+TEST_F(AbeBar, BlocksThatCouldNotBeListedAreAskedForAgain) {
+    user->Drop(kArea);
+    kv::db::SetDatabaseFault([](std::string_view call) { return call == "step"; });
+    user->Select(kArea, "GI");
+    kv::db::SetDatabaseFault(nullptr);
+    ASSERT_THAT(user->Rows(kBlock), IsEmpty());
+    user->Select(kArea, "GI");
+    EXPECT_THAT(user->Rows(kBlock), Not(IsEmpty()));
+}
+
+TEST_F(AbeBar, AnotherConnectionIsAskedForTheBlocksOfTheSameArea) {
+    CompleteThePick();
+    UseDatabase("sqlite:" + test::MakeSmallDatabase(folder.Native("other.db")));
+    statements.clear();
+    user->Focus(kArea);
+    user->Focus(kBlock);
+    EXPECT_THAT(statements, ::testing::SizeIs(1));
+    EXPECT_EQ(user->Text(kBlock), "");
+}
+
+TEST_F(AbeBar, AListThatTheHostChangedIsMadeAnew) {
+    user->Select(kArea, "GI");
+    auto& blocks = bar.Control<CComboBox>(kBlock);
+    blocks.DeleteString(0);
+    user->Select(kArea, "GI");
+    EXPECT_THAT(user->Rows(kBlock), ElementsAre("ALL", "10", "100", "45", "46B", "9", "9A"));
+    bar.SetIncludeAll(false);
+    user->Select(kArea, "GI");
+    EXPECT_THAT(user->Rows(kBlock), ElementsAre("10", "100", "45", "46B", "9", "9A"));
+}
+
+// Typing an area.
+
+TEST_F(AbeBar, AnAreaThatAnotherOneGoesOnFromCanBeTypedAndSoCanThatOne) {
+    user->Select(kArea, " -AREA NAME-");
+    user->Type(kArea, "GRAND ISLE");
+    EXPECT_EQ(test::FocusedId(), kArea);
+    EXPECT_THAT(user->Rows(kBlock), ElementsAre("ALL", "10", "100", "9", "9A"));
+    EXPECT_TRUE(user->Enabled(kBlock));
+    kv::input::TypeHere(" SOUTH");
+    EXPECT_EQ(user->Text(kArea), "GRAND ISLE SOUTH");
+    EXPECT_EQ(test::FocusedId(), kBlock);
+    EXPECT_THAT(user->Rows(kBlock), ElementsAre("ALL", "45", "46B"));
+}
+
+TEST_F(AbeBar, ABlankAloneDoesNotSwitchTheMode) {
+    user->Type(kArea, " ");
+    EXPECT_EQ(bar.GetAreaMode(), 0);
+    EXPECT_EQ(user->Text(kArea), " ");
+    kv::WindowSystem::Get().SetFocus(frame.m_hWnd);
+    EXPECT_EQ(bar.GetAreaMode(), 0);
+    user->Type(kArea, " -");
+    EXPECT_EQ(bar.GetAreaMode(), 2) << "a label that is begun does";
+}
+
+TEST_F(AbeBar, TabBehindTheLastLetterOfAnAreaStaysInTheBlockBox) {
+    user->Type(kArea, "HB");
+    ASSERT_EQ(test::FocusedId(), kBlock);
+    user->Key(0, "Tab");
+    EXPECT_EQ(test::FocusedId(), kBlock);
+    user->Key(0, "Tab");
+    EXPECT_EQ(test::FocusedId(), kArea) << "a second one goes on";
+}
+
+TEST_F(AbeBar, OtherKeysAndClicksBehindTheLastLetterLetTabGoOn) {
+    for (const char* key : {"Shift+Tab", "Home"}) {
+        user->Type(kArea, "HB");
+        user->Key(0, key);
+        user->Focus(kBlock);
+        user->Key(0, "Tab");
+        EXPECT_EQ(test::FocusedId(), kArea) << key;
+    }
+    user->Type(kArea, "HB");
+    kv::input::Click(*bar.m_hWnd->FindChild(kBlock));
+    user->Key(0, "Tab");
+    EXPECT_EQ(test::FocusedId(), kArea);
+}
+
+TEST_F(AbeBar, TabTakesTheAreaThatTheTextWasCompletedTo) {
+    user->Select(kArea, " -AREA NAME-");
+    user->Type(kArea, "GRAND I");
+    ASSERT_EQ(user->Text(kArea), "GRAND ISLE");
+    ASSERT_FALSE(user->Enabled(kBlock));
+    user->Key(0, "Tab");
+    EXPECT_EQ(test::FocusedId(), kBlock);
+    EXPECT_EQ(user->Text(kArea), "GRAND ISLE");
+    EXPECT_THAT(user->Rows(kBlock), ElementsAre("ALL", "10", "100", "9", "9A"));
+}
+
+// The open list.
+
+TEST_F(AbeBar, ArrowsInTheOpenListPickNothingAndEnterDoes) {
+    user->Drop(kArea);
+    statements.clear();
+    for (const char* row : {" -AREA CODE-", " -AREA NAME-", "EM", "GI"}) {
+        user->Key(0, "Down");
+        EXPECT_EQ(user->Text(kArea), row);
+        EXPECT_EQ(bar.GetAreaMode(), 0);
+        EXPECT_EQ(test::FocusedId(), kArea);
+    }
+    EXPECT_THAT(statements, IsEmpty());
+    user->Key(0, "Enter");
+    EXPECT_FALSE(bar.GetAreaCombo()->GetDroppedState());
+    EXPECT_THAT(statements, ElementsAre(HasSubstr("area_abbr = 'GI'")));
+    EXPECT_EQ(test::FocusedId(), kBlock);
+}
+
+TEST_F(AbeBar, TabAltUpAndClosingPickTheRowOfTheOpenListToo) {
+    const auto close = [this] { kv::input::CloseList(*bar.m_hWnd->FindChild(kArea)); };
+    const std::vector<std::function<void()>> ways = {[this] { user->Key(0, "Tab"); },
+                                                     [this] { user->Key(0, "Alt+Up"); }, close};
+    for (const auto& pick : ways) {
+        user->Select(kArea, "HB");
+        user->Focus(kArea);
+        user->Drop(kArea);
+        user->Key(0, "Up");
+        ASSERT_EQ(user->Text(kArea), "GI");
+        ASSERT_THAT(user->Rows(kBlock), ElementsAre("ALL", "8-BAY"));
+        pick();
+        EXPECT_EQ(user->Text(kArea), "GI");
+        EXPECT_THAT(user->Rows(kBlock), ElementsAre("ALL", "10", "100", "45", "46B", "9", "9A"));
+        EXPECT_EQ(test::FocusedId(), kBlock);
+    }
+}
+
+TEST_F(AbeBar, EscapeInTheOpenListKeepsThePick) {
+    CompleteThePick();
+    statements.clear();
+    user->Drop(kArea);
+    user->Key(0, "Down");
+    ASSERT_EQ(user->Text(kArea), "HB");
+    user->Key(0, "Escape");
+    EXPECT_EQ(user->Text(kArea), "GI");
+    EXPECT_EQ(user->Text(kBlock), "9A");
+    EXPECT_THAT(statements, IsEmpty());
+}
+
+TEST_F(AbeBar, EnterOnALabelOfTheOpenListSwitchesTheMode) {
+    user->Drop(kArea);
+    user->Key(0, "Down");
+    user->Key(0, "Enter");
+    EXPECT_EQ(bar.GetAreaMode(), 2);
+    EXPECT_EQ(user->Text(kArea), "");
+    EXPECT_EQ(test::FocusedId(), kArea);
+}
+
+TEST_F(AbeBar, ArrowsOfTheClosedBoxPick) {
+    user->Drop(kArea);
+    user->Drop(kArea);
+    user->Type(kArea, "E");
+    user->Key(kArea, "Down");
+    EXPECT_EQ(user->Text(kArea), "GI");
+    EXPECT_THAT(user->Rows(kBlock), ElementsAre("ALL", "10", "100", "45", "46B", "9", "9A"));
+}
+
+TEST_F(AbeBar, TheAreaBoxTellsItsMode) {
+    const kv::Node& box = *bar.m_hWnd->FindChild(kArea);
+    EXPECT_EQ(box.ToolTip(), "Areas by MMS code");
+    EXPECT_EQ(bar.GetAreaCombo()->SpokenName(), "Area, by MMS code");
+    user->Select(kArea, " -AREA NAME-");
+    EXPECT_EQ(box.ToolTip(), "Areas by name");
+    EXPECT_EQ(bar.GetAreaCombo()->SpokenName(), "Area, by name");
+    bar.GetAreaCombo()->SetMode(2);
+    EXPECT_EQ(box.ToolTip(), "Areas by area code");
+    EXPECT_EQ(bar.GetAreaCombo()->SpokenName(), "Area, by area code");
+    bar.GetAreaCombo()->SetMode(7);
+    EXPECT_EQ(box.ToolTip(), "");
+    EXPECT_EQ(bar.GetAreaCombo()->SpokenName(), "");
+}
+
+// Running by keys.
+
+TEST_F(AbeBar, EnterInTheBlockBoxRunsWhereRunIsEnabled) {
+    RunHost host;
+    app.m_pMainWnd = &host;
+    user->Type(kArea, "HB");
+    user->Key(0, "Enter");
+    EXPECT_EQ(host.runs, 0);
+    user->Type(kBlock, "8");
+    user->Key(0, "Enter");
+    EXPECT_EQ(host.runs, 1);
+    EXPECT_EQ(test::FocusedId(), kBlock);
+    user->Key(kArea, "Enter");
+    EXPECT_EQ(host.runs, 1) << "in the area box it does not";
+}
+
+TEST_F(AbeBar, EnterInTheOpenListOfBlocksClosesItAndTheNextOneRuns) {
+    RunHost host;
+    app.m_pMainWnd = &host;
+    CompleteThePick();
+    user->Drop(kBlock);
+    user->Key(0, "Enter");
+    EXPECT_EQ(host.runs, 0);
+    user->Key(0, "Enter");
+    EXPECT_EQ(host.runs, 1);
+}
+
+TEST_F(AbeBar, AHostMovesTheFocusIntoTheAreaBoxAsTabDoes) {
+    CompleteThePick();
+    bar.GoToArea();
+    EXPECT_EQ(test::FocusedId(), kArea);
+    EXPECT_EQ(bar.GetAreaCombo()->GetEditSel(), static_cast<DWORD>(MAKELPARAM(0, 2)));
+    CVZABEBar unmade;
+    unmade.GoToArea();
+    EXPECT_FALSE(unmade.Run());
+    EXPECT_EQ(test::FocusedId(), kArea);
 }
 
 TEST(AbeBarBeforeTheLibraryWasInitialised, IsNotCreated) {

@@ -11,6 +11,7 @@
 #include "frame/module.h"
 #include "pickers/abe_bar.h"
 #include "pickers/abe_bar_ids.h"
+#include "support/dialog_fixture.h"
 #include "support/small_database.h"
 #include "support/temp_folder.h"
 #include "window/acting/headless_desktop.h"

@@ -4,7 +4,9 @@
 #include <QFrame>
 
 #include "qt_fixture.h"
+#include "window/controls/combo_box.h"
 #include "window/controls/combo_box_node.h"
+#include "window/named.h"
 
 using enum kv::ControlKind;
 using testing::ElementsAre;
@@ -115,6 +117,25 @@ TEST_F(ComboView, AClickElsewhereClosesTheList) {
     EXPECT_FALSE(Combo(kList).Dropped());
     EXPECT_EQ(Combo(kList).CurrentRow(), -1);
     EXPECT_EQ(Popup(), nullptr);
+}
+
+TEST_F(ComboView, ANameOfItsOwnIsReadOutForAllItsParts) {
+    struct : CComboBox, kv::Named {
+        std::string SpokenName() const override { return name; }
+        std::string name;
+    } box;
+    box.SubclassDlgItem(kEditable, &dialog);
+    ASSERT_NE(Box(kEditable)->accessibleName(), "Area, by name");
+    box.name = "Area, by name";
+    NodeOf(kEditable).SetToolTip("Areas by name");
+    EXPECT_EQ(Box(kEditable)->accessibleName(), "Area, by name");
+    EXPECT_EQ(Line()->accessibleName(), "Area, by name");
+    ClickArrow(kEditable);
+    EXPECT_EQ(Popup()->accessibleName(), "Area, by name");
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+    box.name.clear();
+    NodeOf(kEditable).SetToolTip("");
+    EXPECT_NE(Line()->accessibleName(), "Area, by name");
 }
 
 TEST_F(ComboView, TypingInADropListFindsARow) {

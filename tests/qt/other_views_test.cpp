@@ -1,5 +1,6 @@
 #include <QAction>
 #include <QComboBox>
+#include <QInputMethodEvent>
 #include <QMainWindow>
 #include <QProgressBar>
 #include <QToolBar>
@@ -236,6 +237,70 @@ TEST_F(Frame, TheHostsOwnWidgetTakesTheFocusFromTheBar) {
     QTest::keyClick(canvas, Qt::Key_X);
     EXPECT_EQ(canvas->text(), "x");
     EXPECT_EQ(bar_.DlgItemText(11), "");
+}
+
+/// A widget of the host's that leaves every key to the window around it.
+class Heedless : public QWidget {
+public:
+    Heedless() { setFocusPolicy(Qt::StrongFocus); }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override { event->ignore(); }
+};
+
+TEST_F(Frame, KeysOfTheHostsOwnWidgetsStayThere) {
+    QTest::mouseClick(WidgetOf(11), Qt::LeftButton);
+    QTest::keyClick(WidgetOf(11), Qt::Key_V);
+    auto* canvas = new Heedless;
+    Main()->setCentralWidget(canvas);
+    canvas->setFocus(Qt::MouseFocusReason);
+    Process();
+    ASSERT_TRUE(canvas->hasFocus());
+    for (const Qt::Key key : {Qt::Key_Shift, Qt::Key_X, Qt::Key_Minus, Qt::Key_Down, Qt::Key_Tab,
+                              Qt::Key_Return, Qt::Key_Delete, Qt::Key_Escape, Qt::Key_F4}) {
+        QTest::keyClick(canvas, key);
+        EXPECT_TRUE(canvas->hasFocus()) << key;
+        EXPECT_EQ(test::FocusedId(), 0) << key;
+        canvas->setFocus();
+    }
+    QTest::keyClick(canvas, Qt::Key_R, Qt::AltModifier);
+    QInputMethodEvent commit;
+    commit.setCommitString("y");
+    QApplication::sendEvent(Main(), &commit);
+    EXPECT_EQ(bar_.DlgItemText(11), "v");
+    EXPECT_THAT(frame_.commands, IsEmpty());
+}
+
+TEST_F(Frame, ShortcutsOfTheHostsOwnWidgetsAreNotTakenFromThem) {
+    auto* canvas = new Heedless;
+    int acted = 0;
+    QAction action;
+    action.setShortcuts({QKeySequence::Copy, QKeySequence(Qt::Key_Delete)});
+    QObject::connect(&action, &QAction::triggered, [&] { ++acted; });
+    canvas->addAction(&action);
+    Main()->setCentralWidget(canvas);
+    canvas->setFocus();
+    Process();
+    QTest::keyClick(canvas, Qt::Key_C, Qt::ControlModifier);
+    QTest::keyClick(canvas, Qt::Key_Delete);
+    EXPECT_EQ(acted, 2);
+}
+
+TEST_F(Frame, AHostsShortcutMovesTheFocusIntoTheBar) {
+    auto* canvas = new Heedless;
+    Main()->setCentralWidget(canvas);
+    canvas->setFocus();
+    Process();
+    QAction action;
+    action.setShortcut(Qt::CTRL | Qt::Key_L);
+    QObject::connect(&action, &QAction::triggered,
+                     [&] { kv::FocusByTab(*bar_.m_hWnd->FindChild(11)); });
+    Main()->addAction(&action);
+    QTest::keyClick(canvas, Qt::Key_L, Qt::ControlModifier);
+    EXPECT_EQ(test::FocusedId(), 11);
+    ASSERT_EQ(Main()->focusWidget(), WidgetOf(11));
+    QTest::keyClick(WidgetOf(11), Qt::Key_W);
+    EXPECT_EQ(bar_.DlgItemText(11), "w");
 }
 
 TEST_F(Frame, AMenusShortcutsWorkWithTheFocusInTheBar) {

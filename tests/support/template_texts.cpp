@@ -317,7 +317,7 @@ constexpr const char* kTexts = R"texts(
     29010 edit ""
     65535 label "y Coordinate"
     29011 edit ""
-    29014 button "Convert"
+    29014 default button "Convert"
     65535 label "Format"
     29008 drop list "" sorted
     65535 label "Latitude"
@@ -360,7 +360,7 @@ constexpr const char* kTexts = R"texts(
     29309 edit "" read-only
     65535 label "Y"
     29310 edit "" read-only
-    1 default button "OK"
+    1 button "OK"
 
 15102 "Map Sizing Dialog"
     65535 group box "Scale"
@@ -455,7 +455,7 @@ constexpr const char* kTexts = R"texts(
     7031 edit ""
     7034 spin ""
     29032 label "S"
-    29115 button "Convert"
+    29115 default button "Convert"
     65535 group box "Nad83"
     65535 label "Format"
     29118 drop list "" sorted
@@ -479,7 +479,7 @@ constexpr const char* kTexts = R"texts(
     29134 edit ""
     29135 spin ""
     29136 label "S"
-    1 default button "OK"
+    1 button "OK"
     2 button "Cancel" hidden
 
 15114 "UTM Zone Code"

@@ -266,9 +266,9 @@ void ComboBoxPeer::OpenPopup() {
         popup_ = new PopupFrame(Combo(), Widget());
         AddWidget(*this, popup_);
         MakeRows(popup_);
-        popup_->setAccessibleName(AccessibleName(GetNode()));
-        rows_->setAccessibleName(AccessibleName(GetNode()));
     }
+    popup_->setAccessibleName(AccessibleName(GetNode()));
+    rows_->setAccessibleName(AccessibleName(GetNode()));
     PlacePopup();
     popup_->show();
     rows_->SelectionChanged();

@@ -79,6 +79,18 @@ bool IsForControls(const QKeyEvent& event, const Node& root) {
     return event.key() < Qt::Key_F1 || event.key() == Qt::Key_F4;
 }
 
+/// Whether a key that a window or a bar gets, and no control, comes from a widget of the host's own
+/// in a frame: such keys bubble up, also those of shortcuts and bare modifiers. In a frame the
+/// layer acts on a key only where one of its controls has the focus.
+bool IsHosts(const Node& receiver, const Node& root) {
+    if (root.Class() != NodeClass::kFrame) return false;
+    const NodeClass kind = receiver.Class();
+    const bool control =
+        kind != NodeClass::kFrame && kind != NodeClass::kBar && kind != NodeClass::kToolBar;
+    const Node* focus = WindowSystem::Get().Focus();
+    return !control && (!focus || focus == &root || !focus->IsSelfOrDescendantOf(root));
+}
+
 bool HasLayersFocus(const Node& root) {
     const Node* focus = WindowSystem::Get().Focus();
     return focus && focus->IsSelfOrDescendantOf(root);
@@ -123,6 +135,7 @@ public:
         const auto node = node_.lock();
         if (!node || !node->GetView()) return false;
         Node& root = *node->Root();
+        if (IsHosts(*node, root)) return false;
         if (type == QEvent::InputMethod)
             return Commit(static_cast<QInputMethodEvent&>(*event), root);
         auto& key = static_cast<QKeyEvent&>(*event);

@@ -7,6 +7,7 @@
 #include "qt/drawing/text.h"
 #include "qt/peers/acting.h"
 #include "qt/peers/keyboard.h"
+#include "window/named.h"
 #include "window/owner_draw.h"
 #include "window/window_system.h"
 
@@ -163,6 +164,7 @@ void Peer::Changed(Change change) {
             break;
         case Change::kToolTip:
             ShowToolTip();
+            ShowNameWithParts();
             break;
         default:
             widget_->update();
@@ -244,6 +246,10 @@ void Peer::ShowColors() {
 }
 
 QString AccessibleName(const Node& node) {
+    const auto* named = dynamic_cast<const Named*>(node.Handle());
+    if (const std::string name = named ? named->SpokenName() : ""; !name.empty()) {
+        return ToQString(name);
+    }
     if (ShowsOwnText(node) && !node.Text().empty()) return PlainText(node.Text());
     const Node* parent = node.Parent();
     if (parent && parent->Class() == NodeClass::kComboBox) return AccessibleName(*parent);
@@ -265,6 +271,14 @@ QString AccessibleName(const Node& node) {
         }
     }
     return PlainText(parent->Text()) + behind;
+}
+
+/// The parts of a control go by its name.
+void Peer::ShowNameWithParts() {
+    ShowName();
+    for (const auto& part : node_.Children()) {
+        if (Peer* peer = PeerOf(*part); peer && peer->Widget()) peer->ShowName();
+    }
 }
 
 void Peer::ShowName() {

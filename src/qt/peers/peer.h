@@ -50,6 +50,7 @@ protected:
     void MakeChildren();
 
 private:
+    void ShowNameWithParts();
     void ShowOrder();
 
     Node& node_;
