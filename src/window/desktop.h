@@ -59,6 +59,7 @@ public:
     /// False when the machine has no printer.
     virtual bool DefaultPrinter(PrinterSettings& settings) = 0;
 
+    /// What the screen has for the contents of a window.
     virtual CSize ScreenSize() = 0;
     virtual std::chrono::system_clock::time_point Now() = 0;
     /// The text on the clipboard.
