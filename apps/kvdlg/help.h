@@ -17,8 +17,9 @@ inline constexpr const char* kDescribeHelp = R"(
 Prints a JSON object:
   "inputs"    what the dialog takes: name, type, meaning, and a sample that works on the sample
               database, where one is needed. A "flag" is true or false.
-  "controls"  in tab order: id, kind, text, the label of what has no text of its own, and whether
-              Tab stops there. What starts disabled, hidden or read-only says so.
+  "controls"  in tab order: id, kind, text, the label of what has no text of its own, the key that
+              reaches it, its tool tip, and whether Tab stops there. What starts disabled, hidden or
+              read-only says so.
   "calls"     what the action "call" may call, for tools that a host works with while they are open.
   "returns"   what "outcome" holds in the end.
   "script"    a script that opens the dialog with its samples, looks at it, and cancels.)";

@@ -1,12 +1,14 @@
 #include "kvdlg/report.h"
 
 #include <algorithm>
+#include <memory>
 #include <span>
 #include <utility>
 #include <vector>
 
 #include "window/acting/row_texts.h"
 #include "window/acting/user.h"
+#include "window/mnemonics.h"
 #include "window/templates/resources.h"
 
 namespace kvdlg {
@@ -107,11 +109,13 @@ bool NeedsLabel(kv::NodeClass nodeClass) {
     return nodeClass != kv::NodeClass::kStatic && nodeClass != kv::NodeClass::kButton;
 }
 
-Json DescribeRow(const kv::ControlRow& row, const std::string& label) {
+Json DescribeRow(const kv::ControlRow& row, const std::string& label, const kv::Node& control) {
     const DWORD style = kv::StyleOf(row);
     const kv::NodeClass nodeClass = kv::ClassOf(row.kind);
     Json result{{"id", row.id}, {"kind", KindName(nodeClass, style)}, {"text", row.text}};
     if (NeedsLabel(nodeClass) && !label.empty()) result["label"] = label;
+    if (const char letter = kv::KeyOf(control)) result["key"] = std::string("Alt+") + letter;
+    if (*row.toolTip) result["tip"] = row.toolTip;
     const bool field = nodeClass == kv::NodeClass::kEdit;
     const std::pair<const char*, bool> states[] = {
         {"tabStop", (style & WS_TABSTOP) != 0},
@@ -129,11 +133,16 @@ Json DescribeTemplate(int templateId) {
     Json rows = Json::array();
     const kv::DialogTemplate* found = kv::FindTemplate(templateId);
     if (!found) return rows;
+    // A bar has no caption.
+    const bool dialog = *found->caption != '\0';
+    const auto host = std::make_shared<kv::Node>(
+        dialog ? kv::NodeClass::kDialog : kv::NodeClass::kBar, 0, DWORD{0});
+    kv::CreateControls(*host, *found);
     std::string label;
     for (std::size_t at = 0; at < found->rows.size(); ++at) {
         const kv::ControlRow& row = found->rows[at];
         if (IsLabel(row) && !IsUnit(found->rows, at)) label = row.text;
-        rows.push_back(DescribeRow(row, label + UnitOf(found->rows, at)));
+        rows.push_back(DescribeRow(row, label + UnitOf(found->rows, at), *host->Children()[at]));
     }
     return rows;
 }

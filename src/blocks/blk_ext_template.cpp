@@ -96,7 +96,12 @@ constexpr auto ListFileRows(const Layout& at) {
     constexpr int kCheckWidth = 10;
     const DialogUnits place = at.Action(138);
     return std::array{
-        ControlRow{kListFileCheck, kCheckBox, "", {place.x, place.y + 2, kCheckWidth, 10}},
+        ControlRow{kListFileCheck,
+                   kCheckBox,
+                   "",
+                   {place.x, place.y + 2, kCheckWidth, 10},
+                   {},
+                   "Take the blocks from a file"},
         ControlRow{
             kListFileButton,
             kPushButton,

@@ -8,7 +8,7 @@ namespace {
 using enum ControlKind;
 
 constexpr ControlRow kRows[] = {
-    {kFrom, kEdit, "", {7, 7, 70, 12}},
+    {kFrom, kEdit, "", {7, 7, 70, 12}, {}, "From"},
     {IDC_STATIC, kLabel, "To", {81, 9, 10, 8}},
     {kTo, kEdit, "", {95, 7, 70, 12}},
     {kMeters, kRadio, "Meters", {7, 24, 40, 10}, kFirstOfGroup},

@@ -25,7 +25,12 @@ constexpr ControlRow kRows[] = {
     {kStraightMercator, kRadio, "Straight Mercator", {132, 59, 114, 10}},
     {kMiscCassini, kRadio, "Miscellaneous Cassini", {132, 59, 114, 10}, kHidden},
     {kMiscBonne, kRadio, "Miscellaneous Bonne", {132, 59, 114, 10}, kHidden},
-    {kList, kListBox, "", {7, 82, 246, 118}, kFirstOfGroup},
+    {kList,
+     kListBox,
+     "",
+     {7, 82, 246, 118},
+     kFirstOfGroup,
+     "Pick a type above to list its projections"},
     {IDOK, kDefaultButton, "OK", {149, 207, 50, 14}, kFirstOfGroup},
     {IDCANCEL, kPushButton, "Cancel", {203, 207, 50, 14}},
 };

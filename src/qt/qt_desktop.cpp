@@ -17,7 +17,9 @@
 #include "qt/drawing/colors.h"
 #include "qt/drawing/text.h"
 #include "qt/peers/acting.h"
+#include "qt/peers/keyboard.h"
 #include "qt/peers/peer.h"
+#include "qt/peers/window_peers.h"
 #include "qt/platform_dialogs.h"
 #include "window/dialogs/dialog.h"
 #include "window/window_system.h"
@@ -41,6 +43,10 @@ void ForEachPeer(const std::function<void(Peer&)>& visit) {
         ForEachPeer(*window, visit);
 }
 
+void ShowMnemonic(Peer& peer) {
+    if (peer.GetNode().GivenMnemonic()) peer.Widget()->update();
+}
+
 bool HasEnded(Node& window) {
     if (window.Destroyed()) return true;
     auto* dialog = dynamic_cast<DialogNode*>(&window);
@@ -58,6 +64,7 @@ public:
     }
 
     bool eventFilter(QObject* watched, QEvent* event) override {
+        if (NoteAlt(*event)) ForEachPeer(&ShowMnemonic);
         if (watched != qApp) return false;
         if (event->type() == QEvent::ApplicationFontChange) {
             ForgetScale();
@@ -167,7 +174,7 @@ bool QtDesktop::HasPrinter(const std::string& device) {
 
 CSize QtDesktop::ScreenSize() {
     const QScreen* screen = QGuiApplication::primaryScreen();
-    return screen ? CurrentScale().ToLogical(screen->availableGeometry().size()) : CSize{};
+    return screen ? CurrentScale().ToLogical(RoomOn(*screen)) : CSize{};
 }
 
 CSize QtDesktop::TextExtent(const std::string& text, const Font& font) {
@@ -224,7 +231,8 @@ QMainWindow* MainWindowOf(const Node& frame) {
 }
 
 bool SavePicture(const Node& window, const std::string& machinePath) {
-    QWidget* widget = WidgetOf(window);
+    Peer* peer = PeerOf(window);
+    QWidget* widget = peer && peer->Widget() ? peer->Picture() : nullptr;
     QBuffer png;
     if (!widget || !png.open(QIODevice::WriteOnly) || !widget->grab().save(&png, "PNG"))
         return false;

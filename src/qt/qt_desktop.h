@@ -52,8 +52,8 @@ KVGUICTL_API QWidget* WidgetOf(const Node& node);
 /// null when the frame is not shown. `QMainWindow::saveState` keeps where the bars are docked.
 KVGUICTL_API QMainWindow* MainWindowOf(const Node& frame);
 
-/// Writes a PNG file of a window as it looks, at a path of the machine. False when it is not shown
-/// or cannot be written.
+/// Writes a PNG file of a window as it looks, at a path of the machine; of one that scrolls, the
+/// whole. False when it is not shown or cannot be written.
 KVGUICTL_API bool SavePicture(const Node& window, const std::string& machinePath);
 
 }  // namespace kv::qt

@@ -67,7 +67,12 @@ constexpr auto AvailableRows(int top, RowStyle order) {
 
 constexpr auto ListFileRows(int top) {
     return std::array{
-        ControlRow{kListFileCheck, kCheckBox, "", {kMiddle, top + 130, 10, 10}},
+        ControlRow{kListFileCheck,
+                   kCheckBox,
+                   "",
+                   {kMiddle, top + 130, 10, 10},
+                   {},
+                   "Take the list from a file"},
         ControlRow{
             kListFileButton, kPushButton, "File...", {kMiddle + 12, top + 128, 38, kButtonHeight}},
     };
@@ -111,17 +116,17 @@ constexpr std::array kLesseeOptionRows{
                {15, kBelowLists + 15, 116, 10},
                kFirstOfGroup},
     ControlRow{kAny, kRadio, "Any Percent Lessee", {15, kBelowLists + 31, 92, 10}},
-    ControlRow{kOr, kRadio, "OR", {121, kBelowLists + 31, 28, 10}, kFirstOfGroup | kDisabled},
-    ControlRow{kAnd, kRadio, "AND", {155, kBelowLists + 31, 32, 10}, kDisabled},
+    ControlRow{kOr, kRadio, "OR", {113, kBelowLists + 31, 28, 10}, kFirstOfGroup | kDisabled},
+    ControlRow{kAnd, kRadio, "AND", {145, kBelowLists + 31, 32, 10}, kDisabled},
     ControlRow{kSpecifyPercent,
                kCheckBox,
                "Specify Percentage",
-               {201, kBelowLists + 31, 92, 10},
+               {185, kBelowLists + 31, 92, 10},
                kFirstOfGroup | kDisabled},
-    ControlRow{kMinLabel, kLabel, "Min", {303, kBelowLists + 17, 40, 8}, kDisabled},
-    ControlRow{kMin, kDropDown, "", {303, kBelowLists + 30, 40, 12}, kDisabled},
-    ControlRow{kMaxLabel, kLabel, "Max", {347, kBelowLists + 17, 40, 8}, kDisabled},
-    ControlRow{kMax, kDropDown, "", {347, kBelowLists + 30, 40, 12}, kDisabled},
+    ControlRow{kMinLabel, kLabel, "Min", {283, kBelowLists + 32, 14, 8}, kDisabled},
+    ControlRow{kMin, kDropDown, "", {299, kBelowLists + 30, 36, 12}, kDisabled},
+    ControlRow{kMaxLabel, kLabel, "Max", {340, kBelowLists + 32, 14, 8}, kDisabled},
+    ControlRow{kMax, kDropDown, "", {356, kBelowLists + 30, 36, 12}, kDisabled},
 };
 
 constexpr std::array kCompanyTypeRows{

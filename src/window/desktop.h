@@ -62,6 +62,7 @@ public:
     /// Whether there is a printer of that name now.
     virtual bool HasPrinter(const std::string& device) = 0;
 
+    /// What the screen has for the contents of a window.
     virtual CSize ScreenSize() = 0;
     virtual std::chrono::system_clock::time_point Now() = 0;
     /// The text on the clipboard.

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "base/text.h"
-#include "window/drawing/text_metrics.h"
+#include "window/mnemonics.h"
 #include "window/window_system.h"
 
 namespace kv {
@@ -14,11 +14,6 @@ Modifiers g_modifiers;
 
 bool IsButtonOfKind(const Node& node, DWORD kind) {
     return node.Class() == NodeClass::kButton && (node.Style() & BS_TYPEMASK) == kind;
-}
-
-bool IsPushButton(const Node& node) {
-    return IsButtonOfKind(node, BS_PUSHBUTTON) || IsButtonOfKind(node, BS_DEFPUSHBUTTON) ||
-           IsButtonOfKind(node, BS_OWNERDRAW);
 }
 
 bool IsRadio(const Node& node) {
@@ -84,38 +79,33 @@ int CodeOf(Node& node, WPARAM key = 0) {
     return static_cast<int>(Send(node, WM_GETDLGCODE, key));
 }
 
-bool IsLabel(const Node& node) {
-    return node.Class() == NodeClass::kStatic || IsButtonOfKind(node, BS_GROUPBOX);
-}
-
-bool HasMnemonic(const Node& node, char letter) {
-    const bool canHave = node.Class() == NodeClass::kButton ||
-                         (node.Class() == NodeClass::kStatic && !node.HasStyle(SS_NOPREFIX));
-    return canHave && node.Visible() && !LiesOutside(node) &&
-           ToUpper(MnemonicOf(node.Text())) == letter;
-}
-
 /// What the mnemonic of the child at `index` reaches: the button itself, or the control behind a
 /// label. Null where that is disabled or there is none.
 Node* ReachedFrom(const Node& host, std::size_t index) {
     const auto& children = host.Children();
-    if (IsLabel(*children[index])) {
+    if (IsCaption(*children[index])) {
         do {
             if (++index == children.size()) return nullptr;
-        } while (IsLabel(*children[index]) || !children[index]->Visible());
+        } while (IsCaption(*children[index]) || !children[index]->Visible());
     }
     Node& node = *children[index];
     return node.Enabled() && !LiesOutside(node) ? &node : nullptr;
 }
 
+/// The letter of a control: with Alt every one, without it one that the text marks.
+using LetterOf = char (*)(const Node&);
+
 /// What a mnemonic reaches in `host`, in tab order, from behind the control with the focus on.
-std::vector<Node*> ReachedBy(Node& host, char letter) {
+std::vector<Node*> ReachedBy(Node& host, char letter, LetterOf letterOf) {
     const auto& children = host.Children();
     const Node* focused = ControlOf(host, WindowSystem::Get().Focus());
     std::vector<Node*> ahead;
     std::vector<Node*> reached;
     for (std::size_t index = 0; index < children.size(); ++index) {
-        Node* node = HasMnemonic(*children[index], letter) ? ReachedFrom(host, index) : nullptr;
+        const Node& child = *children[index];
+        const bool asked =
+            child.Visible() && !LiesOutside(child) && letterOf(child) == ToUpper(letter);
+        Node* node = asked ? ReachedFrom(host, index) : nullptr;
         if (node) reached.push_back(node);
         if (children[index].get() == focused) ahead.swap(reached);
     }
@@ -132,7 +122,28 @@ void PressByMnemonic(Node& button) {
     button.Press();
 }
 
+bool Reach(Node& host, char letter, LetterOf letterOf) {
+    const std::vector<Node*> reached = ReachedBy(host, letter, letterOf);
+    if (reached.empty()) return false;
+    Node& next = *reached.front();
+    if (reached.size() == 1 && next.Class() == NodeClass::kButton) {
+        PressByMnemonic(next);
+    } else {
+        FocusByTab(next);
+    }
+    return true;
+}
+
 }  // namespace
+
+bool IsCaption(const Node& node) {
+    return node.Class() == NodeClass::kStatic || IsButtonOfKind(node, BS_GROUPBOX);
+}
+
+bool IsPushButton(const Node& node) {
+    return IsButtonOfKind(node, BS_PUSHBUTTON) || IsButtonOfKind(node, BS_DEFPUSHBUTTON) ||
+           IsButtonOfKind(node, BS_OWNERDRAW);
+}
 
 std::vector<Node*> GroupOf(Node& member) {
     std::vector<Node*> group;
@@ -201,19 +212,11 @@ Node* DefaultButton(Node& host) {
 }
 
 bool HandleMnemonic(Node& host, char letter) {
-    const std::vector<Node*> reached = ReachedBy(host, ToUpper(letter));
-    if (reached.empty()) return false;
-    Node& next = *reached.front();
-    if (reached.size() == 1 && next.Class() == NodeClass::kButton) {
-        PressByMnemonic(next);
-    } else {
-        FocusByTab(next);
-    }
-    return true;
+    return Reach(host, letter, &MnemonicOf);
 }
 
 Node* ButtonOf(Node& host, char letter) {
-    const std::vector<Node*> reached = ReachedBy(host, ToUpper(letter));
+    const std::vector<Node*> reached = ReachedBy(host, letter, &MnemonicOf);
     return reached.size() == 1 && IsPushButton(*reached.front()) ? reached.front() : nullptr;
 }
 
@@ -223,7 +226,7 @@ bool HandleDialogCharacter(const MSG& message) {
     const bool letter = (ToUpper(ch) >= 'A' && ToUpper(ch) <= 'Z') || IsDigit(ch);
     if (!letter || focused.Class() != NodeClass::kButton) return false;
     if (CodeOf(focused) & (DLGC_WANTCHARS | DLGC_WANTALLKEYS)) return false;
-    return HandleMnemonic(*focused.Host(), ch);
+    return Reach(*focused.Host(), ch, &MarkedMnemonicOf);
 }
 
 char CharacterOf(const MSG& keyDown) {

@@ -13,7 +13,7 @@ namespace kv {
 /// true when it did, and the control does not see the key. A control that wants all keys gets them.
 KVGUICTL_API bool HandleDialogKey(const MSG& message);
 
-/// A character on a button, which has no use for it: reaches the control with that mnemonic, as
+/// A character on a button, which has no use for it: reaches the control whose text marks it, as
 /// with Alt held. True when there is one.
 KVGUICTL_API bool HandleDialogCharacter(const MSG& message);
 
@@ -33,6 +33,10 @@ KVGUICTL_API Node* ButtonOf(Node& host, char letter);
 /// The visible, enabled tab stop in the dialog behind (or ahead of) `from`, going round; `from`
 /// itself where it is the only one, null where there is none. Of a radio group it is the checked button.
 KVGUICTL_API Node* NextTabStop(Node& host, Node* from, bool forward);
+
+/// Whether a control tells of others only: a label, or the frame of a group.
+KVGUICTL_API bool IsCaption(const Node& node);
+KVGUICTL_API bool IsPushButton(const Node& node);
 
 /// Moves the focus as Tab does: an edit comes up with its whole text selected. A disabled or hidden
 /// control does not get it.

@@ -90,9 +90,14 @@ public:
     /// The font that WM_SETFONT gave it; none for the one that all controls have.
     const std::optional<Font>& OwnFont() const { return font_; }
 
-    /// What is told where the pointer rests on it; at first nothing.
+    /// What is told where the pointer rests on it, and in a list as long as that is empty; at first
+    /// nothing. A control that has no text, neither of its own nor in a label, goes by it.
     const std::string& ToolTip() const { return toolTip_; }
     void SetToolTip(std::string text);
+
+    /// The letter that reaches it with Alt though its text marks none; 0 for none.
+    char GivenMnemonic() const { return givenMnemonic_; }
+    void SetGivenMnemonic(char letter) { givenMnemonic_ = letter; }
 
     DWORD Style() const { return style_; }
     bool HasStyle(DWORD style) const { return (style_ & style) == style; }
@@ -175,6 +180,7 @@ private:
     std::string text_;
     std::optional<Font> font_;
     std::string toolTip_;
+    char givenMnemonic_ = 0;
     CRect rect_;
     bool shown_ = false;
     bool destroying_ = false;

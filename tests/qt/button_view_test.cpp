@@ -1,5 +1,6 @@
 #include <QAbstractButton>
 #include <QLabel>
+#include <map>
 
 #include "qt_fixture.h"
 #include "window/controls/button_node.h"
@@ -133,6 +134,42 @@ TEST_F(ButtonView, ToolsThatPressTheWidgetPressTheNode) {
     EXPECT_THAT(Told(), ElementsAre("20 clicked", "21 clicked"));
     EXPECT_TRUE(Button(21)->isChecked());
     EXPECT_EQ(Node(21).CheckState(), BST_CHECKED);
+}
+
+TEST_F(ButtonView, TheLettersThatTheLayerGivesAreUnderlinedWhileAltIsHeld) {
+    Show({At(10, kLabel, 7, "Find:"), At(11, kEdit, 24), At(20, kPushButton, 41, "Search"),
+          At(21, kCheckBox, 58, "Show")});
+    const auto picture = [&](int id) { return WidgetOf(id)->grab().toImage(); };
+    const std::vector<int> all{10, 20, 21};
+    std::map<int, QImage> plain;
+    for (const int id : all)
+        plain[id] = picture(id);
+    QTest::keyPress(Window()->focusWidget(), Qt::Key_Alt);
+    EXPECT_NE(picture(10), plain[10]);
+    EXPECT_NE(picture(20), plain[20]);
+    EXPECT_EQ(picture(21), plain[21]) << "a check box has none";
+    QTest::keyClick(Window()->focusWidget(), Qt::Key_S, Qt::AltModifier);
+    EXPECT_TRUE(dialog.WasTold("20 clicked"));
+    QTest::keyRelease(Window()->focusWidget(), Qt::Key_Alt);
+    for (const int id : all)
+        EXPECT_EQ(picture(id), plain[id]) << id;
+}
+
+TEST_F(ButtonView, AltThatIsReleasedInAnotherWindowIsHeldNoMore) {
+    Show({At(11, kEdit, 7), At(20, kPushButton, 24, "Search")});
+    const QImage plain = Button(20)->grab().toImage();
+    QTest::keyPress(Window()->focusWidget(), Qt::Key_Alt);
+    QEvent leave(QEvent::WindowDeactivate);
+    QApplication::sendEvent(Window(), &leave);
+    EXPECT_EQ(Button(20)->grab().toImage(), plain);
+}
+
+TEST_F(ButtonView, ACheckBoxWithoutATextGoesByItsToolTip) {
+    Show({{21, kCheckBox, "", {7, 24, 10, 10}, {}, "Take the list from a file"},
+          {20, kPushButton, "&File...", {20, 22, 50, 14}}});
+    EXPECT_EQ(Button(21)->accessibleName(), "Take the list from a file");
+    EXPECT_EQ(Button(21)->toolTip(), "Take the list from a file");
+    EXPECT_EQ(Button(20)->toolTip(), "");
 }
 
 TEST_F(ButtonView, WithoutATextGoesByWhatStandsBesideIt) {

@@ -1,11 +1,14 @@
 #include <QAccessible>
 #include <QDir>
 #include <QImage>
+#include <QScreen>
+#include <algorithm>
 #include <set>
 
 #include "dark_palette.h"
 #include "qt_fixture.h"
 #include "window/controls/button_node.h"
+#include "window/dialog_keys.h"
 
 namespace {
 
@@ -45,6 +48,44 @@ double LightShare(const QImage& image) {
     }
     return static_cast<double>(light) / (image.width() * image.height());
 }
+
+/// Pixels that are clearly of another colour.
+int ChangedPixels(const QImage& before, const QImage& after) {
+    constexpr int kClearly = 32;
+    int changed = 0;
+    for (int y = 0; y < after.height(); ++y) {
+        for (int x = 0; x < after.width(); ++x) {
+            const QColor a = before.pixelColor(x, y);
+            const QColor b = after.pixelColor(x, y);
+            const int most = std::max({std::abs(a.red() - b.red()), std::abs(a.green() - b.green()),
+                                       std::abs(a.blue() - b.blue())});
+            changed += most >= kClearly;
+        }
+    }
+    return changed;
+}
+
+/// The application's palette or font as long as it lives.
+class OtherPalette {
+public:
+    explicit OtherPalette(const QPalette& palette) { QApplication::setPalette(palette); }
+    ~OtherPalette() { QApplication::setPalette(former_); }
+
+private:
+    QPalette former_ = QApplication::palette();
+};
+class LargerFont {
+public:
+    explicit LargerFont(double factor) {
+        QFont larger = former_;
+        larger.setPointSizeF(former_.pointSizeF() * factor);
+        QApplication::setFont(larger);
+    }
+    ~LargerFont() { QApplication::setFont(former_); }
+
+private:
+    QFont former_ = QApplication::font();
+};
 
 /// A dialog of the library, or of its bars, with nothing in it but its template.
 class EveryTemplate : public test::QtDialogTest, public testing::WithParamInterface<int> {
@@ -87,6 +128,31 @@ protected:
             Press(Qt::Key_Tab);
         }
         return reached;
+    }
+    static QImage PictureOf(const kv::Node& control) {
+        return kv::qt::WidgetOf(control)->grab().toImage();
+    }
+    /// Presses Tab once round the dialog, and looks at what gets the focus before and after.
+    void ExpectToSeeEachTab(const char* look) {
+        constexpr int kLeast = 12;
+        std::set<const kv::Node*> seen;
+        for (;;) {
+            const kv::Node* next = kv::NextTabStop(Root(), kv::WindowSystem::Get().Focus(), true);
+            if (!next || next == Focused() || !seen.insert(next).second) return;
+            const QImage before = PictureOf(*next);
+            Press(Qt::Key_Tab);
+            ASSERT_EQ(Focused(), next);
+            EXPECT_GE(ChangedPixels(before, PictureOf(*next)), kLeast)
+                << look << ": " << next->Id() << " " << next->Text();
+        }
+    }
+    /// Whether a control, or as much of it as there is room for, is in sight.
+    bool IsInSight(const kv::Node& control) {
+        const QWidget* widget = kv::qt::WidgetOf(control);
+        const QRect place(widget->mapTo(Window(), QPoint()), widget->size());
+        return Window()->rect().contains(place.topLeft()) &&
+               (widget->visibleRegion().boundingRect().size() == place.size() ||
+                place.width() > Window()->width() / 2 || place.height() > Window()->height() / 2);
     }
     QImage Picture(const QString& name) {
         Process();
@@ -132,6 +198,32 @@ TEST_P(EveryTemplate, FollowsTheChangeToDarkAndBack) {
     EXPECT_GT(before, 0.3);
     EXPECT_LT(dark, 0.08);
     EXPECT_NEAR(LightShare(Picture("light")), before, 0.01);
+}
+
+TEST_P(EveryTemplate, ShowsWhereTheFocusIsAfterEachTab) {
+    ExpectToSeeEachTab("light");
+    {
+        const OtherPalette dark(test::DarkPalette());
+        ExpectToSeeEachTab("dark");
+    }
+    const LargerFont twice(2);
+    ExpectToSeeEachTab("twice the size");
+}
+
+TEST_P(EveryTemplate, IsNotLargerThanTheScreenAndTabBringsEachControlIntoSight) {
+    for (const double factor : {1.0, 2.0, 4.0}) {
+        const LargerFont font(factor);
+        Process();
+        const QSize screen = Window()->screen()->availableSize();
+        EXPECT_LE(Window()->frameSize().width(), screen.width()) << factor;
+        EXPECT_LE(Window()->frameSize().height(), screen.height()) << factor;
+        std::set<const kv::Node*> seen;
+        while (Focused() && seen.insert(Focused()).second) {
+            EXPECT_TRUE(IsInSight(*Focused())) << factor << ": " << Focused()->Id();
+            Press(Qt::Key_Tab);
+        }
+    }
+    EXPECT_FALSE(Picture("after_larger_fonts").isNull());
 }
 
 INSTANTIATE_TEST_SUITE_P(, EveryTemplate, testing::ValuesIn(TemplateIds()));

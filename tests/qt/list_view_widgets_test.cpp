@@ -1,10 +1,14 @@
 #include <QAbstractItemView>
 #include <QClipboard>
 #include <QContextMenuEvent>
+#include <QHash>
 #include <QHeaderView>
 #include <QScrollBar>
 #include <QTreeView>
+#include <algorithm>
+#include <cmath>
 
+#include "dark_palette.h"
 #include "qt/drawing/scale.h"
 #include "qt_fixture.h"
 #include "window/controls/list_box.h"
@@ -19,8 +23,40 @@ using testing::IsEmpty;
 
 namespace {
 
+/// How well what is drawn there stands out from the ground, which is the colour seen most: 1 not at
+/// all, 21 black on white.
+double ContrastIn(const QImage& picture) {
+    const auto luminance = [](QRgb pixel) {
+        const auto linear = [](int part) {
+            const double share = part / 255.0;
+            return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * linear(qRed(pixel)) + 0.7152 * linear(qGreen(pixel)) +
+               0.0722 * linear(qBlue(pixel));
+    };
+    QHash<QRgb, int> seen;
+    double lightest = 0;
+    double darkest = 1;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            const QRgb pixel = picture.pixel(x, y);
+            ++seen[pixel];
+            lightest = std::max(lightest, luminance(pixel));
+            darkest = std::min(darkest, luminance(pixel));
+        }
+    }
+    const auto most = std::max_element(seen.cbegin(), seen.cend());
+    const double ground = luminance(most.key()) + 0.05;
+    return std::max((lightest + 0.05) / ground, ground / (darkest + 0.05));
+}
+
 class ListWidgets : public test::QtDialogTest {
 protected:
+    /// What is drawn of a row's text, without the edges of its cell.
+    QImage TextOfRow(int id, int row) {
+        const QRect cell = View(id)->visualRect(View(id)->model()->index(row, 0));
+        return View(id)->viewport()->grab(cell.adjusted(3, 3, -3, -3)).toImage();
+    }
     QAbstractItemView* View(int id) { return WidgetOf<QAbstractItemView>(id); }
 
     void ClickRow(int id, int row, Qt::KeyboardModifiers keys = {}, int column = 0) {
@@ -62,6 +98,30 @@ TEST_F(ListWidgets, ShowRowsAndFollowWhatTheProgramDoes) {
     EXPECT_EQ(View(31)->model()->rowCount(), 4);
     dialog.SendDlgItemMessage(31, LB_RESETCONTENT);
     EXPECT_EQ(View(31)->model()->rowCount(), 0);
+}
+
+TEST_F(ListWidgets, ASelectedRowWithTheFocusIsReadWell) {
+    ShowBoxes();
+    for (const QPalette& palette : {QApplication::palette(), test::DarkPalette()}) {
+        const QPalette former = QApplication::palette();
+        QApplication::setPalette(palette);
+        ClickRow(31, 2);
+        EXPECT_GE(ContrastIn(TextOfRow(31, 2)), 4.4);
+        EXPECT_GE(ContrastIn(TextOfRow(31, 1)), 7);
+        QApplication::setPalette(former);
+    }
+}
+
+TEST_F(ListWidgets, AnEmptyOneTellsWhatItsToolTipDoes) {
+    Show({{31, kListBox, "", {94, 7, 80, 40}},
+          {32, kListBox, "", {7, 7, 80, 40}, {}, "Pick a type above"}});
+    const auto ink = [&](int id) { return ContrastIn(View(id)->viewport()->grab().toImage()); };
+    EXPECT_GT(ink(32), 1.5);
+    EXPECT_EQ(ink(31), 1);
+    EXPECT_EQ(View(32)->toolTip(), "Pick a type above");
+    dialog.SendDlgItemMessage(32, LB_ADDSTRING, 0, kv::AsParam(""));
+    Process();
+    EXPECT_EQ(ink(32), 1) << "one row, with no text";
 }
 
 TEST_F(ListWidgets, AClickSelectsOnceAndTakesTheFocus) {
@@ -210,6 +270,23 @@ TEST_F(ListViewWidget, ShowsCellsHeadingsAndWidths) {
     EXPECT_EQ(Shown(35, 4, 1), "new");
     dialog.Control<CListCtrl>(35).DeleteItem(0);
     EXPECT_EQ(Shown(35, 0, 0), "G1");
+}
+
+TEST_F(ListViewWidget, TheHeadingsReachToTheEndOfTheList) {
+    ShowList();
+    ASSERT_LT(Header()->length(), Header()->viewport()->width() - 20);
+    const QImage picture = Header()->viewport()->grab().toImage();
+    const int ratio = qRound(picture.devicePixelRatio());
+    const int inside = (Header()->sectionSize(0) - 8) * ratio;
+    const int behind = (Header()->length() + 8) * ratio;
+    for (int y = 0; y < picture.height(); ++y)
+        EXPECT_EQ(picture.pixel(behind, y), picture.pixel(inside, y)) << y;
+}
+
+TEST_F(ListViewWidget, ASelectedRowWithTheFocusIsReadWell) {
+    ShowList(0);
+    ClickRow(35, 2);
+    EXPECT_GE(ContrastIn(TextOfRow(35, 2)), 4.4);
 }
 
 TEST_F(ListViewWidget, ClicksAndKeysSelect) {

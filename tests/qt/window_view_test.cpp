@@ -1,9 +1,14 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <optional>
 
 #include "qt/drawing/scale.h"
 #include "qt_fixture.h"
+#include "support/temp_folder.h"
 #include "window/dialogs/message_box.h"
 
 using enum kv::ControlKind;
@@ -335,6 +340,170 @@ TEST_F(Windows, ALabelShowsWhatItIsToldAnew) {
     EXPECT_GT(label->width(), before) << "it takes the free place behind it";
     dialog.GetDlgItem(10)->ShowWindow(SW_HIDE);
     EXPECT_FALSE(label->isVisible());
+}
+
+// Dialogs that are larger than the screen.
+
+class LargeDialogs : public test::QtDialogTest {
+protected:
+    void ShowLarge(int width, int height) {
+        large_.emplace(
+            std::vector<kv::ControlRow>{
+                {11, kEdit, "", {7, 7, 50, 12}},
+                {12, kEdit, "", {width - 57, height - 40, 50, 12}},
+                {IDOK, kDefaultButton, "OK", {width - 57, height - 21, 50, 14}}},
+            kTestTemplate, "Large", width, height);
+        ASSERT_TRUE(dialog.Create(kTestTemplate));
+        Process();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(Window()));
+    }
+    QScrollBar* Bar(Qt::Orientation orientation) {
+        auto* area = Window()->findChild<QScrollArea*>();
+        if (!area) return nullptr;
+        QScrollBar* bar =
+            orientation == Qt::Vertical ? area->verticalScrollBar() : area->horizontalScrollBar();
+        return bar->isVisible() ? bar : nullptr;
+    }
+    bool IsInSight(int id) {
+        const QWidget* widget = WidgetOf(id);
+        return widget->visibleRegion().boundingRect() == widget->rect();
+    }
+    QSize Screen() { return Window()->screen()->availableSize(); }
+
+    std::optional<TestTemplate> large_;
+};
+
+TEST_F(LargeDialogs, ThatFitsDoesNotScroll) {
+    ShowLarge(200, 100);
+    EXPECT_EQ(Window()->findChild<QScrollArea*>(), nullptr);
+}
+
+TEST_F(LargeDialogs, IsAsLargeAsTheScreenAndScrolls) {
+    ShowLarge(2000, 2000);
+    EXPECT_LE(Window()->width(), Screen().width());
+    EXPECT_LE(Window()->height(), Screen().height());
+    EXPECT_GE(Window()->width(), Screen().width() - 50);
+    EXPECT_NE(Bar(Qt::Vertical), nullptr);
+    EXPECT_NE(Bar(Qt::Horizontal), nullptr);
+    EXPECT_EQ(dialog.m_hWnd->Rect().Width(), 3000) << "to the layer it is as large as ever";
+}
+
+TEST_F(LargeDialogs, OneThatIsOnlyTooHighGrowsByTheScrollBar) {
+    ShowLarge(200, 2000);
+    EXPECT_NE(Bar(Qt::Vertical), nullptr);
+    EXPECT_EQ(Bar(Qt::Horizontal), nullptr);
+}
+
+TEST_F(LargeDialogs, ScrollsToWhatGetsTheFocus) {
+    ShowLarge(1000, 1000);
+    EXPECT_TRUE(IsInSight(11));
+    EXPECT_FALSE(IsInSight(12));
+    Key(Qt::Key_Tab);
+    EXPECT_TRUE(IsInSight(12));
+    EXPECT_FALSE(IsInSight(11));
+    Type("abc");
+    EXPECT_EQ(Text(12), "abc");
+    Key(Qt::Key_Tab);
+    EXPECT_TRUE(IsInSight(IDOK));
+    Key(Qt::Key_Tab);
+    EXPECT_TRUE(IsInSight(11));
+}
+
+TEST_F(LargeDialogs, AClickKnowsItsPlaceInTheWhole) {
+    ShowLarge(200, 2000);
+    Bar(Qt::Vertical)->setValue(300);
+    const QPoint at(5, 5);
+    CPoint pressed;
+    dialog.onPreTranslate = [&](MSG* message) {
+        if (message->message == WM_LBUTTONDOWN) {
+            pressed = {static_cast<short>(LOWORD(message->lParam)),
+                       static_cast<short>(HIWORD(message->lParam))};
+        }
+        return FALSE;
+    };
+    QWidget* under = Window()->childAt(at);
+    QTest::mouseClick(under, Qt::LeftButton, {}, under->mapFrom(Window(), at));
+    EXPECT_EQ(pressed.y, kv::qt::CurrentScale().ToLogical(QPoint(5, 305)).y);
+}
+
+TEST_F(LargeDialogs, OneThatALargerFontMakesSoKeepsItsTextsAndItsFocus) {
+    Show({At(11, kEdit, 7, "text"), At(12, kEdit, 180, "other")});
+    Key(Qt::Key_Tab);
+    const QFont former = QApplication::font();
+    QFont larger = former;
+    larger.setPointSizeF(former.pointSizeF() * 4);
+    QApplication::setFont(larger);
+    Process();
+    EXPECT_LE(Window()->height(), Screen().height());
+    EXPECT_NE(Bar(Qt::Vertical), nullptr);
+    EXPECT_EQ(Window()->focusWidget(), WidgetOf(12));
+    Type("x");
+    EXPECT_EQ(Text(12), "x");
+    EXPECT_EQ(WidgetOf<QLineEdit>(11)->text(), "text");
+    QApplication::setFont(former);
+    Process();
+    EXPECT_EQ(Bar(Qt::Vertical), nullptr);
+}
+
+TEST_F(LargeDialogs, ItsPictureIsThatOfTheWhole) {
+    ShowLarge(2000, 200);
+    const test::TempFolder folder;
+    const std::string path = folder.Native("large.png");
+    ASSERT_TRUE(kv::qt::SavePicture(*dialog.m_hWnd, path));
+    const QImage picture(QString::fromStdString(path));
+    EXPECT_EQ(picture.width(), kv::qt::CurrentScale().ToScreen(CSize{3000, 0}).width() *
+                                   Window()->devicePixelRatio());
+}
+
+// Texts of labels and frames.
+
+class LabelTexts : public test::QtDialogTest {
+protected:
+    /// The contrast of a control's text with its ground.
+    int Contrast(int id) {
+        const QImage picture = WidgetOf(id)->grab().toImage();
+        int darkest = 255;
+        int lightest = 0;
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x) {
+                darkest = std::min(darkest, qGray(picture.pixel(x, y)));
+                lightest = std::max(lightest, qGray(picture.pixel(x, y)));
+            }
+        }
+        return lightest - darkest;
+    }
+    /// The first column of the picture in which the text of a frame is drawn.
+    int LeftOfTitle(int id) {
+        const QImage picture = WidgetOf(id)->grab().toImage();
+        for (int x = 0; x < picture.width(); ++x) {
+            for (int y = 2; y < 8; ++y) {
+                if (qGray(picture.pixel(x, y)) < 100) return x;
+            }
+        }
+        return -1;
+    }
+};
+
+TEST_F(LabelTexts, AreGreyAsLongAsTheirFieldIsDisabled) {
+    Show({{10, kLabel, "Minimum", {7, 9, 40, 8}},
+          {11, kEdit, "", {50, 7, 40, 12}, kv::kDisabled},
+          {12, kSpin, "", {90, 7, 10, 12}},
+          {13, kLabel, "percent", {104, 9, 40, 8}},
+          {14, kLabel, "Area", {7, 29, 40, 8}},
+          {15, kEdit, "", {50, 27, 40, 12}}});
+    const int black = Contrast(14);
+    EXPECT_LT(Contrast(10), black - 60);
+    EXPECT_LT(Contrast(13), black - 60) << "the unit, too";
+    dialog.GetDlgItem(11)->EnableWindow(TRUE);
+    Process();
+    EXPECT_GT(Contrast(10), black - 20);
+    EXPECT_GT(Contrast(13), black - 20);
+}
+
+TEST_F(LabelTexts, TitlesOfFramesBeginInOneLine) {
+    Show({{30, kGroupBox, "Home", {7, 7, 120, 30}}, {31, kGroupBox, "  Home ", {7, 47, 120, 30}}});
+    EXPECT_EQ(LeftOfTitle(30), LeftOfTitle(31));
+    EXPECT_EQ(Text(31), "  Home ");
 }
 
 /// Labels that find no room to grow.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <map>
+#include <set>
 
 #include "base/text.h"
 #include "window/desktop.h"
@@ -23,6 +24,7 @@ constexpr int kCheckMark = 13 + 4;
 constexpr int kButtonPadding = 2 * 6;
 constexpr int kGroupBoxPadding = 2 * 8;
 constexpr int kCloseButton = 40;
+constexpr CSize kScreen{960, 540};
 /// Where the caption of a group box stands, in dialog units.
 constexpr int kCaptionIndent = 6;
 constexpr int kCaptionHeight = 8;
@@ -48,6 +50,12 @@ bool Contains(const CRect& outer, const CRect& inner) {
 
 bool TakeTurns(const ControlRow& a, const ControlRow& b) {
     return a.style.alternate > 0 && a.style.alternate == b.style.alternate;
+}
+
+/// The one pair of texts that are used as they stand though they share a mnemonic.
+bool AreGivenSo(const ControlRow& a, const ControlRow& b) {
+    const std::set<std::string> texts{a.text, b.text};
+    return texts == std::set<std::string>{"&Cancel", "&Customize..."};
 }
 
 bool IsLabel(ControlKind kind) {
@@ -85,6 +93,7 @@ public:
     }
 
     std::vector<std::string> Faults() {
+        CheckSize();
         CheckPlaces();
         CheckOverlaps();
         CheckTexts();
@@ -96,6 +105,13 @@ public:
 private:
     void Complain(const std::string& fault) {
         faults_.push_back("dialog " + std::to_string(template_.id) + ": " + fault);
+    }
+
+    void CheckSize() {
+        const CRect size = kv::ToPixels({0, 0, template_.width, template_.height});
+        if (size.right <= kScreen.cx && size.bottom <= kScreen.cy) return;
+        Complain("it takes " + std::to_string(size.right) + " by " + std::to_string(size.bottom) +
+                 " pixels");
     }
 
     void CheckPlaces() {
@@ -187,7 +203,7 @@ private:
             const char letter = can ? kv::ToUpper(kv::MnemonicOf(row->text)) : '\0';
             if (!letter) continue;
             for (const ControlRow* other : owners[letter]) {
-                if (TakeTurns(*row, *other)) continue;
+                if (TakeTurns(*row, *other) || AreGivenSo(*row, *other)) continue;
                 Complain(Name(*other) + " and " + Name(*row) + " share the mnemonic " +
                          std::string(1, letter));
             }

@@ -25,7 +25,15 @@ TEST(TemplateCheck, FindsNothingInASoundDialog) {
                 IsEmpty());
 }
 
-// Places.
+// Sizes and places.
+
+TEST(TemplateCheck, FindsADialogThatIsLargerThanASmallScreen) {
+    EXPECT_THAT(test::CheckTemplate({7, "", 640, 332, {}}), IsEmpty());
+    EXPECT_THAT(test::CheckTemplate({7, "", 641, 332, {}}),
+                ElementsAre("dialog 7: it takes 962 by 540 pixels"));
+    EXPECT_THAT(test::CheckTemplate({7, "", 640, 333, {}}),
+                ElementsAre("dialog 7: it takes 960 by 541 pixels"));
+}
 
 TEST(TemplateCheck, FindsAVisibleControlOutsideItsDialog) {
     EXPECT_THAT(Check({{11, kEdit, "", {160, 7, 50, 12}},
@@ -138,6 +146,16 @@ TEST(TemplateCheck, FindsADoubledMnemonicWhateverItsCase) {
     EXPECT_THAT(Check({{20, kPushButton, "&Add", {7, 20, 50, 14}, kv::Alternate(1)},
                        {21, kPushButton, "&Apply", {7, 20, 50, 14}, kv::Alternate(1)}}),
                 IsEmpty());
+}
+
+TEST(TemplateCheck, LetsTheOnePairOfGivenTextsShareAMnemonic) {
+    const auto beside = [](const char* text) {
+        return Check({{IDCANCEL, kPushButton, "&Cancel", {7, 7, 60, 14}},
+                      {20, kPushButton, text, {71, 7, 60, 14}}});
+    };
+    EXPECT_THAT(beside("&Customize..."), IsEmpty());
+    EXPECT_THAT(beside("&Clear"),
+                ElementsAre("dialog 7: 2 \"&Cancel\" and 20 \"&Clear\" share the mnemonic C"));
 }
 
 // Tab order.

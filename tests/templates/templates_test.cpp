@@ -1,10 +1,16 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <map>
+#include <memory>
 #include <set>
 #include <vector>
 
+#include "base/text.h"
 #include "support/template_check.h"
+#include "window/dialog_keys.h"
+#include "window/drawing/text_metrics.h"
+#include "window/mnemonics.h"
 #include "window/templates/resources.h"
 
 namespace {
@@ -30,6 +36,49 @@ TEST_P(LibraryTemplates, AreLaidOutSoundly) {
     });
     ASSERT_NE(found, templates.end());
     EXPECT_THAT(test::CheckTemplate(**found), testing::IsEmpty());
+}
+
+/// The letters of a text in capitals.
+std::set<char> LettersOf(const kv::Node& node) {
+    std::set<char> letters;
+    for (const char ch : kv::ToUpper(kv::WithoutMnemonic(node.Text()))) {
+        if (ch >= 'A' && ch <= 'Z') letters.insert(ch);
+    }
+    return letters;
+}
+
+bool NamesAField(const kv::Node& label) {
+    const kv::Node* field = kv::FieldOf(label);
+    const auto& siblings = label.Parent()->Children();
+    const auto place = [&](const kv::Node* node) {
+        return std::ranges::find_if(siblings,
+                                    [node](const auto& each) { return each.get() == node; });
+    };
+    return field && place(field) > place(&label);
+}
+
+TEST_P(LibraryTemplates, GiveEachButtonAndLabelledFieldALetterThatIsLeft) {
+    kv::AddToResourceChain(kv::LibraryResources());
+    const kv::DialogTemplate* found = kv::FindTemplate(GetParam());
+    kv::RemoveFromResourceChain(kv::LibraryResources());
+    const auto dialog = std::make_shared<kv::Node>(kv::NodeClass::kDialog, 0, DWORD{0});
+    kv::CreateControls(*dialog, *found);
+    std::map<char, const kv::Node*> owners;
+    for (const auto& child : dialog->Children()) {
+        const char letter = kv::MnemonicOf(*child);
+        const bool given = letter && !kv::MarkedMnemonicOf(*child);
+        if (given) {
+            EXPECT_TRUE(LettersOf(*child).contains(letter)) << child->Text();
+            EXPECT_FALSE(owners.contains(letter)) << child->Text() << ": " << letter;
+        }
+        if (letter) owners[letter] = child.get();
+    }
+    for (const auto& child : dialog->Children()) {
+        const bool wants = kv::IsPushButton(*child) || NamesAField(*child);
+        if (!wants || kv::MnemonicOf(*child)) continue;
+        for (const char letter : LettersOf(*child))
+            EXPECT_TRUE(owners.contains(letter)) << child->Text() << " could have " << letter;
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(, LibraryTemplates, testing::ValuesIn(Ids()),

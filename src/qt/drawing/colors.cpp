@@ -1,9 +1,44 @@
 #include "qt/drawing/colors.h"
 
 #include <QApplication>
-#include <QPalette>
+#include <algorithm>
+#include <cmath>
 
 namespace kv::qt {
+
+namespace {
+
+/// As people see it, by the guidelines for contents that everybody can read.
+double Luminance(const QColor& color) {
+    const auto linear = [](double part) {
+        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
+           0.0722 * linear(color.blueF());
+}
+
+double Contrast(const QColor& a, const QColor& b) {
+    const auto [dark, light] = std::minmax({Luminance(a), Luminance(b)});
+    return (light + 0.05) / (dark + 0.05);
+}
+
+}  // namespace
+
+void MakeSelectionReadable(QPalette& palette) {
+    constexpr double kLeastContrast = 5;
+    constexpr int kStep = 105;
+    for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+        QColor ground = palette.color(group, QPalette::Highlight);
+        const QColor text = palette.color(group, QPalette::HighlightedText);
+        const bool darken = Luminance(text) > Luminance(ground);
+        while (Contrast(ground, text) < kLeastContrast) {
+            const QColor next = darken ? ground.darker(kStep) : ground.lighter(kStep);
+            if (next == ground) break;
+            ground = next;
+        }
+        palette.setColor(group, QPalette::Highlight, ground);
+    }
+}
 
 COLORREF PaletteColor(SystemColor which) {
     const QPalette palette = QApplication::palette();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QColor>
+#include <QPalette>
 
 #include "base/types.h"
 #include "window/desktop.h"
@@ -13,6 +14,9 @@ inline QColor ToQColor(COLORREF color) {
 inline COLORREF ToColorRef(const QColor& color) {
     return RGB(color.red(), color.green(), color.blue());
 }
+
+/// Makes the ground of what is selected so dark, or so light, that its text can be read well.
+void MakeSelectionReadable(QPalette& palette);
 
 /// Of the application's palette.
 COLORREF PaletteColor(SystemColor which);

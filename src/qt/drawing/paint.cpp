@@ -2,7 +2,9 @@
 
 #include <QPainter>
 #include <QStyle>
+#include <QStyleOptionFrame>
 
+#include "qt/drawing/colors.h"
 #include "qt/drawing/painter_surface.h"
 #include "window/drawing/device_context.h"
 #include "window/drawing/raster.h"
@@ -14,15 +16,51 @@ namespace kv::qt {
 namespace {
 
 /// Sizes in which an icon is asked for; between them it would be blurred.
-constexpr int kIconScales[] = {1, 2, 3};
+constexpr int kIconScales[] = {2, 3};
 constexpr double kOutlineOpacity = 0.5;
+
+/// Twice the size: a corner takes the colour of its two neighbours where they are of one, so that
+/// slanted edges stay edges and do not become stairs.
+QImage Doubled(const QImage& image) {
+    QImage doubled(image.size() * 2, QImage::Format_ARGB32);
+    const int right = image.width() - 1;
+    const int bottom = image.height() - 1;
+    const auto row = [&](int y) {
+        return reinterpret_cast<const QRgb*>(image.constScanLine(std::clamp(y, 0, bottom)));
+    };
+    for (int y = 0; y <= bottom; ++y) {
+        const QRgb* above = row(y - 1);
+        const QRgb* here = row(y);
+        const QRgb* below = row(y + 1);
+        auto* upper = reinterpret_cast<QRgb*>(doubled.scanLine(2 * y));
+        auto* lower = reinterpret_cast<QRgb*>(doubled.scanLine(2 * y + 1));
+        for (int x = 0; x <= right; ++x) {
+            const QRgb n = above[x], s = below[x];
+            const QRgb w = here[std::max(x - 1, 0)], e = here[std::min(x + 1, right)];
+            upper[2 * x] = w == n && w != s && n != e ? w : here[x];
+            upper[2 * x + 1] = n == e && n != w && e != s ? e : here[x];
+            lower[2 * x] = w == s && w != n && s != e ? w : here[x];
+            lower[2 * x + 1] = s == e && s != w && e != n ? e : here[x];
+        }
+    }
+    return doubled;
+}
 
 QIcon IconOf(const QPixmap& plain) {
     QIcon icon;
     if (plain.isNull()) return icon;
-    for (const int factor : kIconScales)
-        icon.addPixmap(plain.scaled(plain.size() * factor));
+    icon.addPixmap(plain);
+    const QImage large = Doubled(Doubled(plain.toImage().convertToFormat(QImage::Format_ARGB32)));
+    for (const int factor : kIconScales) {
+        const QSize size = plain.size() * factor;
+        icon.addPixmap(QPixmap::fromImage(
+            large.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)));
+    }
     return icon;
+}
+
+bool IsFusion(const QWidget& widget) {
+    return widget.style()->name() == u"fusion";
 }
 
 bool MayPaint(const Node& node) {
@@ -44,8 +82,7 @@ bool PaintByLayer(QWidget& widget, Node& node) {
 void OutlineOnDark(QPainter& painter, const QRect& indicator, bool round, const QWidget& widget) {
     const QColor ground = widget.palette().color(QPalette::Base);
     const QColor text = widget.palette().color(QPalette::Text);
-    const bool hardlySeen = widget.style()->name() == u"fusion";
-    if (!hardlySeen || ground.lightness() >= text.lightness()) return;
+    if (!IsFusion(widget) || ground.lightness() >= text.lightness()) return;
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setOpacity(kOutlineOpacity);
@@ -58,6 +95,40 @@ void OutlineOnDark(QPainter& painter, const QRect& indicator, bool round, const 
         painter.drawRect(middleOfPixels);
     }
     painter.restore();
+}
+
+void PaintFocus(QWidget& frame) {
+    if (!frame.hasFocus()) return;
+    QPainter painter(&frame);
+    QStyleOptionFrame option;
+    option.initFrom(&frame);
+    option.lineWidth = frame.style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &option, &frame);
+    option.state |= QStyle::State_Sunken | QStyle::State_HasFocus;
+    frame.style()->drawPrimitive(QStyle::PE_FrameLineEdit, &option, &painter, &frame);
+}
+
+void PaintCell(QPainter& painter, QStyleOptionViewItem cell, const QWidget& view) {
+    const bool selected = cell.state & QStyle::State_Selected;
+    const bool outlined = selected && cell.state & QStyle::State_HasFocus;
+    if (selected) MakeSelectionReadable(cell.palette);
+    cell.state.setFlag(QStyle::State_HasFocus, cell.state & QStyle::State_HasFocus && !selected);
+    view.style()->drawControl(QStyle::CE_ItemViewItem, &cell, &painter, &view);
+    if (outlined) OutlineRow(painter, cell.rect, cell.palette.color(QPalette::HighlightedText));
+}
+
+void OutlineRow(QPainter& painter, const QRect& row, const QColor& color) {
+    painter.setPen(color);
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(row.adjusted(1, 1, -2, -2));
+}
+
+void MarkFocusedButton(QPainter& painter, const QWidget& button) {
+    constexpr double kWidth = 2;
+    if (!button.hasFocus() || !IsFusion(button)) return;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(button.palette().color(QPalette::Highlight), kWidth));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(button.rect()).adjusted(kWidth, kWidth, -kWidth, -kWidth), 2, 2);
 }
 
 QPixmap PixmapOf(int imageId) {

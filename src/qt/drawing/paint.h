@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QIcon>
+#include <QStyleOptionViewItem>
 #include <QWidget>
 
 #include "window/drawing/raster.h"
@@ -14,6 +15,18 @@ bool PaintByLayer(QWidget& widget, Node& node);
 /// On a dark ground, outlines a check box or radio button that the style would leave hardly to be
 /// seen.
 void OutlineOnDark(QPainter& painter, const QRect& indicator, bool round, const QWidget& widget);
+
+/// Outlines a list or a page of text that has the focus, as the style does with an edit.
+void PaintFocus(QWidget& frame);
+
+/// Draws a row's cell. What is selected can be read well, with the focus, too, which a style may
+/// mark by a veil over the text.
+void PaintCell(QPainter& painter, QStyleOptionViewItem cell, const QWidget& view);
+/// Outlines a row that has the focus.
+void OutlineRow(QPainter& painter, const QRect& row, const QColor& color);
+
+/// Marks a push button that has the focus: a style may draw it as any other that Enter presses.
+void MarkFocusedButton(QPainter& painter, const QWidget& button);
 
 /// The image of that id in the resource chain; null where there is none.
 QPixmap PixmapOf(int imageId);

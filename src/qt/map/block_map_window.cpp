@@ -88,11 +88,12 @@ QWidget* BlockMapWindow::MakeTools() {
     };
     addZoom(QStringLiteral("+"), tr("Zoom in"), kZoomPerClick);
     addZoom(QStringLiteral("\u2212"), tr("Zoom out"), 1 / kZoomPerClick);
-    row->addStretch(1);
     auto* help =
         new QLabel(tr("Click or drag to pick, Ctrl and drag to take out; move the map "
                       "with the right button, zoom with the wheel"));
-    row->addWidget(help);
+    help->setWordWrap(true);
+    help->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    row->addWidget(help, 1);
     return tools;
 }
 

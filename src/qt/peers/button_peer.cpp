@@ -9,6 +9,7 @@
 #include <QStyleOptionButton>
 #include <type_traits>
 
+#include "base/text.h"
 #include "qt/drawing/paint.h"
 #include "qt/drawing/text.h"
 #include "qt/peers/acting.h"
@@ -68,7 +69,12 @@ protected:
         const auto node = node_.lock();
         if (!node || PaintByLayer(*this, *node)) return;
         Base::paintEvent(event);
-        if constexpr (!std::is_same_v<Base, QPushButton>) OutlineIndicator();
+        if constexpr (std::is_same_v<Base, QPushButton>) {
+            QPainter painter(this);
+            MarkFocusedButton(painter, *this);
+        } else {
+            OutlineIndicator();
+        }
     }
 
     void initStyleOption(QStyleOptionButton* option) const override {
@@ -76,7 +82,7 @@ protected:
         const auto node = node_.lock();
         if (!node || node->Destroyed()) return;
         const auto& button = static_cast<const ButtonNode&>(*node);
-        option->text = ShowsImageAlone(button) ? QString() : ToQString(button.Text());
+        option->text = ShowsImageAlone(button) ? QString() : ShownText(button);
         if (DefaultButton(*node->Host()) == node.get()) {
             option->features |= QStyleOptionButton::DefaultButton;
         }
@@ -109,7 +115,7 @@ public:
 protected:
     void initStyleOption(QStyleOptionGroupBox* option) const override {
         QGroupBox::initStyleOption(option);
-        if (const auto node = node_.lock()) option->text = ToQString(node->Text());
+        if (const auto node = node_.lock()) option->text = ToQString(Trim(node->Text()));
     }
 
 private:
@@ -168,7 +174,9 @@ void ButtonPeer::ShowImage() {
     if (!pixmap.isNull())
         View()->setIconSize(CurrentScale().ToScreen(CSize{pixmap.width(), pixmap.height()}));
     View()->setIcon(IconOf(image));
-    View()->setToolTip(image == 0 ? QString() : PlainText(GetNode().Text()));
+    if (GetNode().ToolTip().empty()) {
+        View()->setToolTip(image == 0 ? QString() : PlainText(GetNode().Text()));
+    }
     View()->update();
 }
 
@@ -192,7 +200,7 @@ GroupBoxPeer::GroupBoxPeer(ButtonNode& node, QWidget* host)
 }
 
 void GroupBoxPeer::ShowText() {
-    static_cast<QGroupBox*>(Widget())->setTitle(Escaped(PlainText(GetNode().Text())));
+    static_cast<QGroupBox*>(Widget())->setTitle(Escaped(PlainText(Trim(GetNode().Text()))));
 }
 
 }  // namespace kv::qt

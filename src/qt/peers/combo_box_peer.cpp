@@ -108,9 +108,12 @@ protected:
         const auto node = node_.lock();
         option->editable = editable_;
         if (editable_) option->currentText.clear();
-        const bool dropped =
-            node && !node->Destroyed() && static_cast<const ComboBoxNode&>(*node).Dropped();
-        if (dropped) option->state |= QStyle::State_On;
+        if (!node || node->Destroyed()) return;
+        auto& combo = static_cast<ComboBoxNode&>(*node);
+        if (combo.Dropped()) option->state |= QStyle::State_On;
+        // The focus of its edit is the box's.
+        const auto* edit = findChild<QLineEdit*>(QString(), Qt::FindDirectChildrenOnly);
+        if (edit && edit->hasFocus()) option->state |= QStyle::State_HasFocus;
     }
 
 private:

@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <limits>
 
+#include "qt/drawing/paint.h"
 #include "qt/drawing/text.h"
 #include "qt/peers/acting.h"
 #include "qt/peers/keyboard.h"
@@ -236,6 +237,11 @@ public:
     }
 
 protected:
+    bool event(QEvent* event) override {
+        const bool done = QPlainTextEdit::event(event);
+        if (event->type() == QEvent::Paint) PaintFocus(*this);
+        return done;
+    }
     void mousePressEvent(QMouseEvent* event) override { mouse_.Press(*event, IndexAt(*event)); }
     void mouseMoveEvent(QMouseEvent* event) override { mouse_.Move(*event, IndexAt(*event)); }
     void mouseReleaseEvent(QMouseEvent* event) override { mouse_.Release(*event); }
@@ -288,8 +294,12 @@ void EditPeer::Changed(Change change) {
 
 /// Within a combo box it lies where that has it.
 void EditPeer::ShowRect() {
+    if (!InComboBox()) Peer::ShowRect();
+}
+
+bool EditPeer::InComboBox() const {
     const Node* parent = GetNode().Parent();
-    if (!parent || parent->Class() != NodeClass::kComboBox) Peer::ShowRect();
+    return parent && parent->Class() == NodeClass::kComboBox;
 }
 
 void EditPeer::ShowText() {
@@ -300,9 +310,12 @@ void EditPeer::ShowText() {
     }
 }
 
+/// Within a combo box it is the box that shows the focus, too.
 void EditPeer::ShowFocus() {
     Peer::ShowFocus();
     ShowText();
+    Widget()->update();
+    if (InComboBox()) Widget()->parentWidget()->update();
 }
 
 void EditPeer::ShowStyle() {

@@ -20,6 +20,9 @@ protected:
     void ShowFocus() override;
     void ShowStyle() override;
     QPalette OwnPalette() const override;
+
+private:
+    bool InComboBox() const;
 };
 
 }  // namespace kv::qt

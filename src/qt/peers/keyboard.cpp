@@ -9,6 +9,7 @@
 #include "qt/peers/acting.h"
 #include "window/acting/input.h"
 #include "window/acting/row_texts.h"
+#include "window/mnemonics.h"
 #include "window/window_system.h"
 
 namespace kv::qt {
@@ -121,6 +122,8 @@ void HandleKey(const QKeyEvent& event, Node& root) {
     }
 }
 
+bool g_altHeld = false;
+
 /// Belongs to the widget whose keys it takes.
 class KeyFilter : public QObject {
 public:
@@ -178,6 +181,21 @@ private:
 Modifiers ToModifiers(Qt::KeyboardModifiers modifiers) {
     return {modifiers.testFlag(Qt::ShiftModifier), modifiers.testFlag(Qt::ControlModifier),
             modifiers.testFlag(Qt::AltModifier)};
+}
+
+bool NoteAlt(const QEvent& event) {
+    bool held = g_altHeld;
+    if (event.type() == QEvent::WindowDeactivate) held = false;
+    if (event.type() == QEvent::KeyPress || event.type() == QEvent::KeyRelease) {
+        const auto& key = static_cast<const QKeyEvent&>(event);
+        held = key.key() == Qt::Key_Alt ? event.type() == QEvent::KeyPress
+                                        : key.modifiers().testFlag(Qt::AltModifier);
+    }
+    return std::exchange(g_altHeld, held) != held;
+}
+
+QString ShownText(const Node& node) {
+    return ToQString(g_altHeld ? MarkedText(node) : node.Text());
 }
 
 void TakeKeysOf(QWidget* widget, Node& node) {

@@ -97,6 +97,7 @@ void ListBoxPeer::RowsRemoved(int first, int count) {
 
 void ListBoxPeer::ShowFocus() {
     Peer::ShowFocus();
+    View()->update();
     View()->viewport()->update();
 }
 

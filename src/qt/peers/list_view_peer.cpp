@@ -7,9 +7,11 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QStyleOptionHeader>
 #include <QStyledItemDelegate>
 #include <QTreeView>
 
+#include "qt/drawing/colors.h"
 #include "qt/drawing/paint.h"
 #include "qt/drawing/text.h"
 #include "qt/peers/acting.h"
@@ -110,6 +112,26 @@ private:
     int columns_;
 };
 
+/// Headings that reach as far as the list does, beyond its last column.
+class Headings : public QHeaderView {
+public:
+    explicit Headings(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) {}
+
+protected:
+    void paintEvent(QPaintEvent* event) override {
+        QHeaderView::paintEvent(event);
+        const int end = length() - offset();
+        const int rest = viewport()->width() - end;
+        if (rest <= 0) return;
+        QPainter painter(viewport());
+        QStyleOptionHeader option;
+        initStyleOption(&option);
+        option.rect = QRect(end, 0, rest, viewport()->height());
+        option.position = QStyleOptionHeader::End;
+        style()->drawControl(QStyle::CE_HeaderSection, &option, &painter, this);
+    }
+};
+
 }  // namespace
 
 class ListTree : public QTreeView {
@@ -140,6 +162,13 @@ public:
     }
 
 protected:
+    bool event(QEvent* event) override {
+        const bool done = QTreeView::event(event);
+        if (event->type() == QEvent::Paint) PaintFocus(*this);
+        return done;
+    }
+    void drawRow(QPainter* painter, const QStyleOptionViewItem& option,
+                 const QModelIndex& index) const override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent*) override {}
     void mouseReleaseEvent(QMouseEvent* event) override { event->accept(); }
@@ -186,7 +215,7 @@ public:
         QStyleOptionViewItem cell = option;
         initStyleOption(&cell, index);
         if (cell.rect != option.rect) PaintIndent(*painter, cell, option.rect);
-        tree_.style()->drawControl(QStyle::CE_ItemViewItem, &cell, painter, &tree_);
+        PaintCell(*painter, cell, tree_);
         if (cell.features & QStyleOptionViewItem::HasCheckIndicator) {
             const QStyle::SubElement box = QStyle::SE_ItemViewItemCheckIndicator;
             OutlineOnDark(*painter, tree_.style()->subElementRect(box, &cell, &tree_), false,
@@ -204,7 +233,8 @@ protected:
         const bool wholeRow = list->ExtendedStyle() & LVS_EX_FULLROWSELECT;
         const bool marked = state & (LVIS_SELECTED | LVIS_DROPHILITED);
         const bool selected = marked && (wholeRow || index.column() == 0);
-        const bool focused = (state & LVIS_FOCUSED) && index.column() == 0 && tree_.hasFocus();
+        const bool focused =
+            (state & LVIS_FOCUSED) && index.column() == 0 && tree_.hasFocus() && !wholeRow;
         option->state.setFlag(QStyle::State_Selected, selected);
         option->state.setFlag(QStyle::State_HasFocus, focused);
         option->state.setFlag(QStyle::State_MouseOver, false);
@@ -236,6 +266,7 @@ private:
         const ListViewNode* list = tree_.List();
         if (!(list->ExtendedStyle() & LVS_EX_FULLROWSELECT)) return;
         cell.rect = whole;
+        MakeSelectionReadable(cell.palette);
         tree_.style()->drawPrimitive(QStyle::PE_PanelItemViewItem, &cell, &painter, &tree_);
     }
 
@@ -260,6 +291,21 @@ QIcon ListTree::IconOfCell(int row, int column) {
     return icon;
 }
 
+/// Where the whole row can be picked, the whole of it shows the focus.
+void ListTree::drawRow(QPainter* painter, const QStyleOptionViewItem& option,
+                       const QModelIndex& index) const {
+    QTreeView::drawRow(painter, option, index);
+    const ListViewNode* list = List();
+    if (!list || index.row() >= list->Count() || !hasFocus()) return;
+    const UINT state = list->Row(index.row()).state;
+    if (!(state & LVIS_FOCUSED) || !(list->ExtendedStyle() & LVS_EX_FULLROWSELECT)) return;
+    const QRect row(-header()->offset(), option.rect.top(), header()->length(),
+                    option.rect.height());
+    const bool marked = state & (LVIS_SELECTED | LVIS_DROPHILITED);
+    OutlineRow(*painter, row,
+               palette().color(marked ? QPalette::HighlightedText : QPalette::Highlight));
+}
+
 void ListTree::ImagesChanged() {
     icons_.clear();
     scheduleDelayedItemsLayout();
@@ -268,13 +314,13 @@ void ListTree::ImagesChanged() {
 
 ListTree::ListTree(ListViewNode& list, QWidget* parent)
     : QTreeView(parent), node_(list.weak_from_this()), model_(list) {
+    setHeader(new Headings(this));
     setModel(&model_);
     setItemDelegate(new CellDelegate(*this));
     setRootIsDecorated(false);
     setItemsExpandable(false);
     setUniformRowHeights(true);
     setIndentation(0);
-    setAllColumnsShowFocus(true);
     setSelectionMode(QAbstractItemView::NoSelection);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
@@ -450,6 +496,7 @@ void ListViewPeer::ShowRect() {
 
 void ListViewPeer::ShowFocus() {
     Peer::ShowFocus();
+    View()->update();
     View()->viewport()->update();
 }
 

@@ -135,6 +135,7 @@ void Peer::Changed(Change change) {
         case Change::kEnabled:
             ShowEnabled();
             ShowColors();
+            ShowLabels();
             SettleSoon();
             break;
         case Change::kVisible:
@@ -180,6 +181,16 @@ void Peer::ShowEnabled() {
     widget_->setEnabled(node_.Enabled());
 }
 
+/// The label of a disabled field is grey.
+void Peer::ShowLabels() {
+    if (!node_.Parent()) return;
+    for (const auto& sibling : node_.Parent()->Children()) {
+        const bool label = sibling->Class() == NodeClass::kStatic;
+        Peer* peer = label ? PeerOf(*sibling) : nullptr;
+        if (peer && peer->Widget()) peer->Widget()->update();
+    }
+}
+
 void Peer::ShowVisible() {
     widget_->setVisible(node_.Visible());
 }
@@ -196,6 +207,8 @@ void Peer::ShowFocus() {
     if (WindowSystem::Get().Focus() != &node_) return;
     widget_->setFocus(Qt::OtherFocusReason);
     QWidget* window = widget_->window();
+    // A style may draw the focus only where it came by a key: it is to be seen always.
+    window->setAttribute(Qt::WA_KeyboardFocusChange);
     if (window->isVisible() && !window->isActiveWindow()) window->activateWindow();
 }
 
@@ -254,8 +267,9 @@ QString AccessibleName(const Node& node) {
     const Node* parent = node.Parent();
     if (parent && parent->Class() == NodeClass::kComboBox) return AccessibleName(*parent);
     if (!parent || node.Class() == NodeClass::kStatic) return {};
-    if (const Node* beside = IsBareCheck(node) ? TextBeside(node) : nullptr) {
-        return NameFrom(*beside);
+    if (IsBareCheck(node)) {
+        if (!node.ToolTip().empty()) return ToQString(node.ToolTip());
+        if (const Node* beside = TextBeside(node)) return NameFrom(*beside);
     }
     const auto& siblings = parent->Children();
     auto at = std::find_if(siblings.begin(), siblings.end(),
@@ -270,6 +284,7 @@ QString AccessibleName(const Node& node) {
             return NameFrom(**at) + behind;
         }
     }
+    if (!node.ToolTip().empty()) return ToQString(node.ToolTip());
     return PlainText(parent->Text()) + behind;
 }
 

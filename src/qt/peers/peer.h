@@ -32,6 +32,8 @@ public:
     virtual void ShowRect();
     void ShowColors();
     void ShowName();
+    /// Where a picture of all of it is taken.
+    virtual QWidget* Picture() { return widget_; }
 
 protected:
     virtual void ShowText() {}
@@ -41,6 +43,7 @@ protected:
     virtual void ShowStyle() {}
     void ShowFont();
     void ShowToolTip();
+    void ShowLabels();
 
     /// The palette where nobody asks for other colours.
     virtual QPalette OwnPalette() const { return {}; }

@@ -3,6 +3,7 @@
 #include <QContextMenuEvent>
 #include <QMenu>
 #include <QMouseEvent>
+#include <QPainter>
 
 #include "qt/drawing/paint.h"
 #include "qt/drawing/scale.h"
@@ -24,6 +25,12 @@ public:
 
     QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override {
         return {view_.fontMetrics().averageCharWidth(), view_.RowHeight()};
+    }
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override {
+        QStyleOptionViewItem row = option;
+        initStyleOption(&row, index);
+        PaintCell(*painter, row, view_);
     }
 
 protected:
@@ -129,6 +136,23 @@ void RowsView::SelectionChanged() {
     }
     shownCaret_ = caret;
     viewport()->update();
+}
+
+bool RowsView::event(QEvent* event) {
+    const bool done = QListView::event(event);
+    if (event->type() == QEvent::Paint) PaintFocus(*this);
+    return done;
+}
+
+/// An empty list tells what its tool tip does.
+void RowsView::paintEvent(QPaintEvent* event) {
+    QListView::paintEvent(event);
+    const Peer* peer = model_.rowCount() == 0 ? PeerOf(this) : nullptr;
+    if (!peer || peer->Widget() != this || peer->GetNode().ToolTip().empty()) return;
+    QPainter painter(viewport());
+    style()->drawItemText(&painter, viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap,
+                          palette(), true, ToQString(peer->GetNode().ToolTip()),
+                          QPalette::PlaceholderText);
 }
 
 void RowsView::mousePressEvent(QMouseEvent* event) {

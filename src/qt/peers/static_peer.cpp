@@ -8,7 +8,9 @@
 
 #include "qt/drawing/paint.h"
 #include "qt/drawing/text.h"
+#include "qt/peers/keyboard.h"
 #include "window/desktop.h"
+#include "window/mnemonics.h"
 #include "window/window_system.h"
 
 namespace kv::qt {
@@ -84,7 +86,7 @@ private:
                                        : Qt::AlignLeft;
         flags |= severalLines ? Qt::AlignTop | Qt::TextWordWrap : Qt::AlignVCenter;
         if (!node.HasStyle(SS_NOPREFIX)) flags |= Qt::TextShowMnemonic;
-        QString text = ToQString(node.Text());
+        QString text = ShownText(node);
         QRect place = rect();
         const int wanted = severalLines ? 0 : metrics.size(flags, text).width();
         if (wanted > width()) {
@@ -93,8 +95,11 @@ private:
             place.setWidth(static_cast<int>(width() / narrower) + 1);
             text = metrics.elidedText(text, Qt::ElideRight, place.width(), flags);
         }
-        style()->drawItemText(&painter, place, flags, palette(), isEnabled(), text,
-                              foregroundRole());
+        const Node* field = FieldOf(node);
+        const bool enabled = isEnabled() && (!field || field->Enabled());
+        QPalette colors = palette();
+        if (!enabled) colors.setCurrentColorGroup(QPalette::Disabled);
+        style()->drawItemText(&painter, place, flags, colors, enabled, text, foregroundRole());
     }
 
     std::weak_ptr<Node> node_;

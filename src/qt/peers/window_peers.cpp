@@ -1,10 +1,15 @@
 #include "qt/peers/window_peers.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDialog>
 #include <QKeyEvent>
 #include <QMainWindow>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QStyle>
 #include <QToolBar>
 #include <algorithm>
 
@@ -22,6 +27,8 @@ namespace kv::qt {
 namespace {
 
 constexpr int kBarMargin = 7;
+/// What is seen around a control that was scrolled to.
+constexpr int kSightMargin = 8;
 
 QWidget* OwnerOf(const Node& node) {
     Peer* owner = node.Owner() ? PeerOf(*node.Owner()->Root()) : nullptr;
@@ -44,7 +51,7 @@ public:
     void Place(const CRect& rect, bool fixedSize) {
         mirroring_ = true;
         const Scale scale = CurrentScale();
-        const QRect place = scale.ToScreen(rect);
+        const QRect place(scale.ToScreen(rect).topLeft(), SizeFor(scale.ToScreen(rect).size()));
         // A place that is only rounded otherwise is the same one.
         const CRect stands = scale.ToLogical(ClientPlace());
         if (fixedSize) {
@@ -61,6 +68,11 @@ public:
     }
 
 protected:
+    /// The window's size for contents of that size.
+    virtual QSize SizeFor(const QSize& contents) const { return contents; }
+    /// What the contents lie on.
+    virtual QWidget* Body() { return this; }
+
     bool event(QEvent* event) override {
         const bool done = Base::event(event);
         if (event->type() == QEvent::WindowActivate && !HostHasFocus()) {
@@ -99,8 +111,8 @@ protected:
     std::weak_ptr<Node> node_;
 
 private:
-    static CPoint PlaceOf(const QMouseEvent& event) {
-        return CurrentScale().ToLogical(event.position().toPoint());
+    CPoint PlaceOf(const QMouseEvent& event) {
+        return CurrentScale().ToLogical(Body()->mapFromGlobal(event.globalPosition()).toPoint());
     }
     QRect ClientPlace() const { return this->geometry(); }
 
@@ -129,20 +141,6 @@ private:
     bool placed_ = false;
 };
 
-class DialogView : public WindowView<QDialog> {
-public:
-    DialogView(Node& node, QWidget* owner) : WindowView(node, owner) {
-        setWindowFlag(Qt::WindowContextHelpButtonHint, false);
-        const auto* dialog = dynamic_cast<const DialogNode*>(&node);
-        if (!dialog || !dialog->Modal()) return;
-        setWindowModality(owner ? Qt::WindowModal : Qt::ApplicationModal);
-    }
-    /// It is the node that ends.
-    void done(int) override {
-        Act(node_, [](Node& window) { input::CloseWindow(window); });
-    }
-};
-
 class BodyView : public QWidget {
 public:
     BodyView(Node& node, QWidget* parent) : QWidget(parent), node_(node.weak_from_this()) {}
@@ -155,6 +153,78 @@ protected:
 
 private:
     std::weak_ptr<Node> node_;
+};
+
+/// Contents that are larger than the screen scroll.
+class DialogView : public WindowView<QDialog> {
+public:
+    DialogView(Node& node, QWidget* owner) : WindowView(node, owner) {
+        setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+        const auto* dialog = dynamic_cast<const DialogNode*>(&node);
+        if (!dialog || !dialog->Modal()) return;
+        setWindowModality(owner ? Qt::WindowModal : Qt::ApplicationModal);
+    }
+    /// It is the node that ends.
+    void done(int) override {
+        Act(node_, [](Node& window) { input::CloseWindow(window); });
+    }
+
+    void PlaceDialog(const CRect& rect) {
+        Place(rect, true);
+        const QSize contents = CurrentScale().ToScreen(rect).size();
+        if (!scroll_ && contents == size()) return;
+        if (!scroll_) MakeScroll();
+        scroll_->setGeometry(QRect(QPoint(), size()));
+        body_->setFixedSize(contents);
+        // The controls take their places behind this.
+        const auto bring = [this] { BringIntoView(QApplication::focusWidget()); };
+        QMetaObject::invokeMethod(scroll_, bring, Qt::QueuedConnection);
+    }
+    QWidget* Body() override { return body_ ? body_ : this; }
+
+protected:
+    /// With room for the scroll bar of the other direction.
+    QSize SizeFor(const QSize& contents) const override {
+        const QSize room = RoomOn(*screen());
+        const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+        QSize size = contents;
+        if (contents.height() > room.height()) size.rwidth() += bar;
+        if (contents.width() > room.width()) size.rheight() += bar;
+        return size.boundedTo(room);
+    }
+
+private:
+    void MakeScroll() {
+        const auto node = node_.lock();
+        body_ = new BodyView(*node, nullptr);
+        for (QWidget* child : findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+            if (child->isWindow()) continue;
+            const bool hidden = child->isHidden();
+            child->setParent(body_);
+            child->setHidden(hidden);
+        }
+        scroll_ = new QScrollArea(this);
+        scroll_->setFrameShape(QFrame::NoFrame);
+        scroll_->setFocusPolicy(Qt::NoFocus);
+        scroll_->setWidget(body_);
+        scroll_->show();
+        connect(qApp, &QApplication::focusChanged, scroll_,
+                [this](QWidget*, const QWidget* now) { BringIntoView(now); });
+        Node* focus = WindowSystem::Get().Focus();
+        if (Peer* peer = focus ? PeerOf(*focus) : nullptr) peer->Changed(Change::kFocus);
+    }
+
+    void BringIntoView(const QWidget* widget) {
+        if (!widget || !body_->isAncestorOf(widget)) return;
+        while (widget->parentWidget() != body_)
+            widget = widget->parentWidget();
+        const QRect place = widget->geometry();
+        scroll_->ensureVisible(place.right(), place.bottom(), kSightMargin, kSightMargin);
+        scroll_->ensureVisible(place.left(), place.top(), kSightMargin, kSightMargin);
+    }
+
+    QScrollArea* scroll_ = nullptr;
+    QWidget* body_ = nullptr;
 };
 
 QWidget* MakeBar(Node& node, QWidget* host) {
@@ -188,6 +258,13 @@ Qt::ToolBarAreas AreasOf(DWORD sides) {
 
 }  // namespace
 
+QSize RoomOn(const QScreen& screen) {
+    const QStyle& style = *QApplication::style();
+    const int title = style.pixelMetric(QStyle::PM_TitleBarHeight);
+    const int frame = style.pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
+    return screen.availableGeometry().size() - QSize(2 * frame, title + frame);
+}
+
 DialogPeer::DialogPeer(Node& node) : Peer(node, new DialogView(node, OwnerOf(node))) {}
 
 void DialogPeer::ShowText() {
@@ -195,7 +272,11 @@ void DialogPeer::ShowText() {
 }
 
 void DialogPeer::ShowRect() {
-    static_cast<DialogView*>(Widget())->Place(GetNode().Rect(), true);
+    static_cast<DialogView*>(Widget())->PlaceDialog(GetNode().Rect());
+}
+
+QWidget* DialogPeer::ChildHost() {
+    return static_cast<DialogView*>(Widget())->Body();
 }
 
 void DialogPeer::ShowVisible() {

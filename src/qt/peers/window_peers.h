@@ -3,8 +3,12 @@
 #include "qt/peers/peer.h"
 
 class QMainWindow;
+class QScreen;
 
 namespace kv::qt {
+
+/// What a screen has for the contents of a window, whose frame is around them.
+QSize RoomOn(const QScreen& screen);
 
 /// A dialog: a window of its own, modal or not.
 class DialogPeer : public Peer {
@@ -12,6 +16,7 @@ public:
     explicit DialogPeer(Node& node);
 
     void ShowRect() override;
+    QWidget* Picture() override { return ChildHost(); }
 
 protected:
     void ShowText() override;
@@ -19,7 +24,7 @@ protected:
     void ShowEnabled() override {}
     void ShowVisible() override;
     void ShowFocus() override {}
-    QWidget* ChildHost() override { return Widget(); }
+    QWidget* ChildHost() override;
 };
 
 /// A main window.

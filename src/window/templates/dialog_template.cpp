@@ -3,6 +3,8 @@
 #include <array>
 #include <utility>
 
+#include "window/mnemonics.h"
+
 namespace kv {
 
 namespace {
@@ -78,8 +80,10 @@ void CreateControls(Node& host, const DialogTemplate& dialogTemplate) {
         auto control = MakeNode(ClassOf(row.kind), row.id, StyleOf(row));
         control->SetRect(ToPixels(row.place));
         control->SetText(row.text);
+        if (*row.toolTip) control->SetToolTip(row.toolTip);
         host.AddChild(std::move(control));
     }
+    if (host.Class() == NodeClass::kDialog) GiveMnemonics(host);
 }
 
 }  // namespace kv

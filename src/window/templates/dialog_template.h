@@ -78,6 +78,7 @@ struct ControlRow {
     const char* text;
     DialogUnits place;
     RowStyle style = {};
+    const char* toolTip = "";
 };
 
 struct DialogTemplate {
@@ -96,7 +97,7 @@ KVGUICTL_API NodeClass ClassOf(ControlKind kind);
 KVGUICTL_API DWORD StyleOf(const ControlRow& row);
 
 /// Makes the controls of a template as children of `host`, and gives it the template's size and
-/// caption.
+/// caption. In a dialog, push buttons and labels of fields get mnemonics.
 KVGUICTL_API void CreateControls(Node& host, const DialogTemplate& dialogTemplate);
 
 }  // namespace kv

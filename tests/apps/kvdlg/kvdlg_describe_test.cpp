@@ -138,6 +138,29 @@ TEST(KvdlgDescribe, FieldsGoByTheLabelAheadOfThem) {
     EXPECT_EQ(labels, expected);
 }
 
+std::map<int, std::string> KeysOf(const char* className) {
+    std::map<int, std::string> keys;
+    for (const Json& control : Kvdlg().Describe(className).at("controls")) {
+        if (control.contains("key")) keys[control.at("id")] = control.at("key");
+    }
+    return keys;
+}
+
+TEST(KvdlgDescribe, TellsTheKeysThatReachTheControls) {
+    const std::map<int, std::string> expected{{1191, "Alt+F"}, {1192, "Alt+S"},  {1193, "Alt+A"},
+                                              {1188, "Alt+D"}, {1189, "Alt+R"},  {1194, "Alt+I"},
+                                              {1195, "Alt+E"}, {29299, "Alt+L"}, {1043, "Alt+T"},
+                                              {1, "Alt+O"},    {1190, "Alt+C"},  {2, "Alt+N"}};
+    EXPECT_EQ(KeysOf("CKvGuiListSel"), expected);
+    EXPECT_TRUE(KeysOf("CVZABEBar").empty()) << "a bar has none";
+}
+
+TEST(KvdlgDescribe, TellsWhatAControlWithoutATextIsFor) {
+    for (const Json& control : Kvdlg().Describe("CKvGuiListSel").at("controls")) {
+        if (control.at("id") == 29300) EXPECT_EQ(control.at("tip"), "Take the list from a file");
+    }
+}
+
 TEST(KvdlgDescribe, FieldsWithArrowsGoByTheirUnitToo) {
     const Json controls = Kvdlg().Describe("CKvGuiDMSDlg").at("controls");
     std::map<int, std::string> labels;

@@ -104,6 +104,17 @@ protected:
     BlockMapCanvas* canvas_ = nullptr;
 };
 
+TEST_F(BlockMap, FitsASmallScreen) {
+    EXPECT_LE(window_->minimumSizeHint().width(), 960);
+    const QFont former = QApplication::font();
+    QFont twice = former;
+    twice.setPointSizeF(former.pointSizeF() * 2);
+    QApplication::setFont(twice);
+    EXPECT_LE(window_->minimumSizeHint().width(), 960);
+    EXPECT_LE(window_->minimumSizeHint().height(), 540);
+    QApplication::setFont(former);
+}
+
 TEST_F(BlockMap, ComesUpWithAllBlocksInSightAndNonePicked) {
     ASSERT_TRUE(canvas_);
     for (std::size_t block = 0; block < window_->Blocks().size(); ++block) {
