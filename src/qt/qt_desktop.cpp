@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "base/paths.h"
+#include "qt/access/screen_reader.h"
 #include "qt/drawing/colors.h"
 #include "qt/drawing/text.h"
 #include "qt/peers/acting.h"
@@ -129,6 +130,7 @@ private:
 
 QtDesktop::QtDesktop() : events_(std::make_unique<Events>()) {
     SetLoops(events_.get());
+    AnswerScreenReaders();
     WindowSystem::Get().SetDesktop(this);
 }
 
@@ -138,6 +140,7 @@ QtDesktop::~QtDesktop() {
         window->SetView(nullptr);
     WindowSystem::Get().ForgetDesktop(*this);
     SetLoops(nullptr);
+    ForgetScreenReaders();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 

@@ -228,12 +228,14 @@ void ComboBoxPeer::Changed(Change change) {
     switch (change) {
         case Change::kDropped:
             ShowDropped();
+            Announce(change);
             break;
         case Change::kRows:
             if (rows_) rows_->RowsChanged();
             break;
         case Change::kSelection:
             if (rows_) rows_->SelectionChanged();
+            Announce(change);
             break;
         case Change::kImage:
             if (rows_) rows_->RowsChanged();

@@ -36,6 +36,13 @@ PlacedText TextOf(const EditNode& edit) {
     return {edit.Text(), edit.MultiLine()};
 }
 
+/// A widget tells its text to whoever reads the screen, so a password is not in it.
+QString ShownIn(const EditNode& edit) {
+    QString text = TextOf(edit).Text();
+    if (edit.HasStyle(ES_PASSWORD)) text.fill(u'*');
+    return text;
+}
+
 bool IsWordPart(QChar character) {
     return character.isLetterOrNumber() || character == u'_';
 }
@@ -169,7 +176,7 @@ public:
         if (!edit) return;
         mirroring_ = true;
         const PlacedText placed = kv::qt::TextOf(*edit);
-        if (text() != placed.Text()) setText(placed.Text());
+        if (const QString shown = ShownIn(*edit); text() != shown) setText(shown);
         const int anchor = placed.IndexOf(edit->Anchor());
         const int caret = placed.IndexOf(edit->Caret());
         if (anchor == caret || !HoldsFocus(*edit)) {
@@ -327,6 +334,7 @@ void EditPeer::ShowStyle() {
     auto* line = static_cast<LineView*>(Widget());
     line->setReadOnly(edit.ReadOnly());
     line->setEchoMode(edit.HasStyle(ES_PASSWORD) ? QLineEdit::Password : QLineEdit::Normal);
+    line->Mirror();
 }
 
 /// What cannot be typed into has the dialog's colour.

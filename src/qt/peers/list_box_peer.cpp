@@ -82,6 +82,7 @@ void ListBoxPeer::Changed(Change change) {
         View()->RowsChanged();
     } else if (change == Change::kSelection) {
         View()->SelectionChanged();
+        Announce(change);
     } else {
         Peer::Changed(change);
     }

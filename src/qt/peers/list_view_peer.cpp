@@ -465,6 +465,7 @@ void ListViewPeer::Changed(Change change) {
             break;
         case Change::kSelection:
             View()->SelectionChanged();
+            Announce(change);
             break;
         case Change::kPosition:
             View()->ScrollTo(List().VisibleRowWanted());

@@ -1,5 +1,6 @@
 #include "qt/peers/peer.h"
 
+#include <QAccessible>
 #include <QHash>
 #include <algorithm>
 
@@ -7,6 +8,7 @@
 #include "qt/drawing/text.h"
 #include "qt/peers/acting.h"
 #include "qt/peers/keyboard.h"
+#include "window/list_view/list_view_node.h"
 #include "window/named.h"
 #include "window/owner_draw.h"
 #include "window/window_system.h"
@@ -19,6 +21,8 @@ QHash<const QWidget*, Peer*>& Peers() {
     static QHash<const QWidget*, Peer*> peers;
     return peers;
 }
+
+void (*g_announce)(const Peer&, Change) = nullptr;
 
 bool IsGroupBox(const Node& node) {
     return node.Class() == NodeClass::kButton && (node.Style() & BS_TYPEMASK) == BS_GROUPBOX;
@@ -79,9 +83,25 @@ const Node* UnitOf(const Node& node, Next next) {
     return unit && IsLabel(*unit) ? unit : nullptr;
 }
 
+/// What the columns of a list view say, with commas between.
+QString Headings(const Node& node) {
+    QStringList headings;
+    for (const ListColumn& column : static_cast<const ListViewNode&>(node).Columns()) {
+        if (!column.text.empty()) headings.append(ToQString(column.text));
+    }
+    return headings.join(QStringLiteral(", "));
+}
+
+/// Some widgets become known to screen readers while they are being made, as the platform's own.
+void ForgetInterfaceOf(QWidget* widget) {
+    QAccessibleInterface* early = QAccessible::queryAccessibleInterface(widget);
+    if (early) QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(early));
+}
+
 }  // namespace
 
 Peer::Peer(Node& node, QWidget* widget) : node_(node), widget_(widget) {
+    ForgetInterfaceOf(widget);
     AddWidget(*this, widget);
     widget->setFocusPolicy(Qt::NoFocus);
 }
@@ -171,6 +191,15 @@ void Peer::Changed(Change change) {
             widget_->update();
             break;
     }
+    Announce(change);
+}
+
+void Peer::Announce(Change change) const {
+    if (g_announce) g_announce(*this, change);
+}
+
+void SetAnnouncer(void (*announce)(const Peer&, Change)) {
+    g_announce = announce;
 }
 
 void Peer::ShowRect() {
@@ -274,6 +303,10 @@ QString AccessibleName(const Node& node) {
     const auto& siblings = parent->Children();
     auto at = std::find_if(siblings.begin(), siblings.end(),
                            [&](const auto& each) { return each.get() == &node; });
+    if (node.Class() == NodeClass::kListView &&
+        (at == siblings.begin() || !IsLabel(**std::prev(at)))) {
+        if (const QString headings = Headings(node); !headings.isEmpty()) return headings;
+    }
     const Node* unit = UnitOf(node, at == siblings.end() ? at : std::next(at));
     const QString behind = unit ? u' ' + NameFrom(*unit) : QString();
     while (at != siblings.begin()) {

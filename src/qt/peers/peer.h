@@ -44,6 +44,8 @@ protected:
     void ShowFont();
     void ShowToolTip();
     void ShowLabels();
+    /// Lets screen readers know of a change.
+    void Announce(Change change) const;
 
     /// The palette where nobody asks for other colours.
     virtual QPalette OwnPalette() const { return {}; }
@@ -71,7 +73,11 @@ void AddWidget(Peer& peer, QWidget* widget);
 /// it, null for a top-level window.
 void MakePeer(Node& node, QWidget* host);
 
-/// The text of a control that has none of its own: of the label ahead of it.
+/// The text of a control that has none of its own: of the label ahead of it, of a list view with
+/// no label of its own that of its headings.
 QString AccessibleName(const Node& node);
+
+/// Who tells screen readers what changed; null for nobody.
+void SetAnnouncer(void (*announce)(const Peer& peer, Change change));
 
 }  // namespace kv::qt
