@@ -43,4 +43,7 @@ if(TARGET KVGuiCtlQt)
             FILE_SET HEADERS DESTINATION ${KVGUICTL_INCLUDEDIR})
     install(EXPORT KVGuiCtlQtExports NAMESPACE KVGuiCtl:: DESTINATION ${package_folder})
     install(FILES cmake/KVGuiCtlQtTargets.cmake DESTINATION ${package_folder})
+    configure_file(cmake/KVGuiCtlQt.pc.in ${PROJECT_BINARY_DIR}/KVGuiCtlQt.pc @ONLY)
+    install(FILES ${PROJECT_BINARY_DIR}/KVGuiCtlQt.pc
+            DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 endif()

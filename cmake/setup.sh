@@ -16,6 +16,22 @@ missing_packages() {
     done
 }
 
+# How long another installation of packages is waited for, in seconds, and between two looks.
+lock_patience=${KVGUICTL_LOCK_PATIENCE:-900}
+lock_pause=${KVGUICTL_LOCK_PAUSE:-3}
+
+# apt_get COMMAND...: as root. While another installation on the machine holds a lock, waits for it.
+apt_get() {
+    local log=$log_folder/packages.log end=$((SECONDS + lock_patience)) told=
+    until "${as_root[@]}" apt-get "$@" </dev/null >"$log" 2>&1; do
+        grep -qE 'Could not get lock|Unable to (acquire|lock)' "$log" || return 1
+        [ $SECONDS -lt $end ] || return 1
+        [ -n "$told" ] || say "packages are being installed on this machine already; waiting for that"
+        told=yes
+        sleep "$lock_pause"
+    done
+}
+
 # Installs what is missing for these purposes.
 install_packages() {
     if ! command -v dpkg-query >/dev/null; then
@@ -33,12 +49,12 @@ install_packages() {
         as_root=(sudo)
         [ -t 0 ] || as_root+=(-n)
     fi
-    as_root+=(env DEBIAN_FRONTEND=noninteractive)
+    # The words by which a lock is told are those of no other language.
+    as_root+=(env DEBIAN_FRONTEND=noninteractive LC_ALL=C)
     say "installing ${missing[*]}"
-    "${as_root[@]}" apt-get update -qq </dev/null ||
+    apt_get update -qq ||
         say "the package lists could not be brought up to date; going on with those at hand"
-    "${as_root[@]}" apt-get install -y -qq --no-install-recommends "${missing[@]}" \
-        </dev/null >"$log_folder/packages.log" 2>&1 ||
+    apt_get install -y -qq --no-install-recommends "${missing[@]}" ||
         fail "could not install them; see $log_folder/packages.log, or install them by hand"
 }
 

@@ -87,10 +87,10 @@ void WriteDataset(Sink& sink, const std::function<void(const std::string&)>& pro
     WriteWells(wells, sink);
 
     progress("platforms, plans, permits, prospects, fields and shotpoints");
-    WriteSites(leases, sink);
+    const std::vector<Site> platforms = WriteSites(leases, sink);
 
     progress("pipelines");
-    WritePipelines(blocks, sink);
+    WritePipelines(blocks, platforms, sink);
 }
 
 }  // namespace kv::sample

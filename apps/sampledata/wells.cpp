@@ -5,6 +5,7 @@
 #include <functional>
 #include <map>
 #include <string_view>
+#include <utility>
 
 namespace kv::sample {
 namespace {
@@ -91,7 +92,8 @@ void WriteWells(const std::vector<Well>& wells, Sink& sink) {
 
 namespace {
 
-/// One table of sites: what stands ahead of the block's cells and behind them, ahead of the place.
+/// One table of sites, that of the platforms first: what stands ahead of the block's cells and
+/// behind them, ahead of the place.
 struct SiteTable {
     const char* name;
     /// One in so many leases that have owners has a row.
@@ -153,9 +155,10 @@ const std::vector<SiteTable>& SiteTables() {
     return tables;
 }
 
-void WriteSiteTable(const SiteTable& table, const std::vector<Lease>& leases, Random& random,
-                    Sink& sink) {
+std::vector<Site> WriteSiteTable(const SiteTable& table, const std::vector<Lease>& leases,
+                                 Random& random, Sink& sink) {
     sink.Begin(TableNamed(table.name));
+    std::vector<Site> sites;
     int number = 0;
     for (const Lease& lease : leases) {
         if (lease.owners.empty() || lease.block->area->plan == 'E' ||
@@ -165,8 +168,10 @@ void WriteSiteTable(const SiteTable& table, const std::vector<Lease>& leases, Ra
         const GeoPoint place = PlaceInside(*lease.block, random);
         sink.Add(table.head(++number, lease, random)
                  << BlockCells(*lease.block) << table.tail(lease, random) << PlaceCells(place));
+        sites.push_back({lease.block, place});
     }
     sink.End();
+    return sites;
 }
 
 /// A line of shotpoints runs through the blocks of a number of leases in their order.
@@ -188,11 +193,15 @@ void WriteShotpoints(const std::vector<Lease>& leases, Random& random, Sink& sin
 
 }  // namespace
 
-void WriteSites(const std::vector<Lease>& leases, Sink& sink) {
+std::vector<Site> WriteSites(const std::vector<Lease>& leases, Sink& sink) {
     Random random(kSeed + 2);
-    for (const SiteTable& table : SiteTables())
-        WriteSiteTable(table, leases, random, sink);
+    std::vector<Site> platforms;
+    for (const SiteTable& table : SiteTables()) {
+        std::vector<Site> sites = WriteSiteTable(table, leases, random, sink);
+        if (&table == &SiteTables().front()) platforms = std::move(sites);
+    }
     WriteShotpoints(leases, random, sink);
+    return platforms;
 }
 
 }  // namespace kv::sample

@@ -24,8 +24,14 @@ std::vector<Well> DrillWells(const std::vector<Lease>& leases);
 /// Fills the tables of wells and completions.
 void WriteWells(const std::vector<Well>& wells, Sink& sink);
 
+/// Something that stands somewhere in a block.
+struct Site {
+    const Block* block = nullptr;
+    GeoPoint place;
+};
+
 /// Fills the tables of what else stands, is planned or was surveyed at a place: platforms, permits,
-/// plans, prospects, fields and shotpoints.
-void WriteSites(const std::vector<Lease>& leases, Sink& sink);
+/// plans, prospects, fields and shotpoints. Answers the platforms.
+std::vector<Site> WriteSites(const std::vector<Lease>& leases, Sink& sink);
 
 }  // namespace kv::sample

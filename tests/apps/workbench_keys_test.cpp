@@ -1,176 +1,311 @@
 #include <gmock/gmock.h>
 
-#include <QApplication>
+#include <QAction>
+#include <QClipboard>
+#include <QDockWidget>
+#include <QLabel>
 #include <QLineEdit>
-#include <QProcess>
-#include <QSignalSpy>
-#include <QStandardPaths>
-#include <QTableView>
-#include <QTest>
+#include <QMenuBar>
+#include <QTimer>
+#include <QTreeWidget>
 
-#include "frame/module.h"
-#include "pickers/abe_bar_ids.h"
-#include "qt/qt_desktop.h"
-#include "support/dialog_fixture.h"
-#include "window/acting/user.h"
 #include "window/window_system.h"
-#include "workbench/workbench.h"
-#include "workbench_fixture.h"
+#include "workbench/command_palette.h"
+#include "workbench/map/angle_text.h"
+#include "workbench_window_fixture.h"
 
 namespace workbench {
 namespace {
 
 using namespace kv::abe_bar;
+using testing::ElementsAre;
+using testing::HasSubstr;
 
-/// The workbench on the sample database, and a person at its keyboard.
-class WorkbenchKeys : public test::SampleTest {
+/// The workbench, worked with by keys.
+class WorkbenchKeys : public WorkbenchTest {
 protected:
-    void SetUp() override {
-        InitControlDll();
-        desktop = std::make_unique<kv::qt::QtDesktop>();
-        host = std::make_unique<Workbench>(CKvDbInfo("", "", test::SampleServer().c_str()));
-        host->SetFailureShown(
-            [this](const QString& message) { failures.push_back(message.toStdString()); });
-        QSignalSpy painted(host.get(), &Workbench::FirstPainted);
-        host->Show();
-        while (painted.isEmpty())
-            QApplication::processEvents();
-        host->Runner().Finish();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&host->Window()));
-        user = std::make_unique<kv::User>(*host->Frame().m_bar.m_hWnd,
-                                          [](const std::string& words) { FAIL() << words; });
-        find = host->Results().findChild<QLineEdit*>();
+    WorkbenchKeys() {
+        Open();
+        QApplication::setActiveWindow(&host->Window());
     }
-    void TearDown() override {
-        user.reset();
-        host.reset();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        desktop.reset();
+    bool BarHasFocus() {
+        const kv::Node* focus = kv::WindowSystem::Get().Focus();
+        return focus && focus->IsSelfOrDescendantOf(*host->Frame().m_bar.m_hWnd);
     }
-
-    void Pick(const char* area, const char* block) {
-        user->Select(kArea, area);
-        user->Select(kBlock, block);
+    std::string Title() { return host->Window().windowTitle().toStdString(); }
+    QColor HeadingColor() {
+        const QLabel& heading = host->Results().Heading();
+        return heading.palette().color(heading.foregroundRole());
     }
-    void GoToMap() {
-        host->Canvas().setFocus();
-        QApplication::processEvents();
-        ASSERT_TRUE(host->Canvas().hasFocus());
+    /// Acts on the palette of commands once it has opened.
+    void InPalette(std::function<void(CommandPalette&)> act) {
+        QTimer::singleShot(0, [act = std::move(act)] {
+            auto* palette = qobject_cast<CommandPalette*>(QApplication::activeModalWidget());
+            ASSERT_TRUE(palette);
+            act(*palette);
+        });
     }
-    void RunReport() {
-        Pick("EI", "ALL");
-        user->Click(kReport);
-        user->Select(kLayer, "Platforms");
-        user->Click(kRun);
-        host->Runner().Finish();
-    }
-    bool IsPickedOnMap(const char* block) const {
-        const auto& picked = host->Canvas().GetPick().block;
-        return picked && picked->Label() == block;
-    }
-
-    std::unique_ptr<kv::qt::QtDesktop> desktop;
-    std::vector<std::string> failures;
-    std::unique_ptr<Workbench> host;
-    std::unique_ptr<kv::User> user;
-    QLineEdit* find = nullptr;
 };
 
-TEST_F(WorkbenchKeys, RunHasAKeyAndSaysWhereItCannot) {
-    GoToMap();
-    QTest::keyClick(&host->Canvas(), Qt::Key_F5);
+TEST_F(WorkbenchKeys, F6GoesRoundTheBarTheMapAndTheTable) {
+    ASSERT_TRUE(host->Canvas().hasFocus());
+    PressKey(Qt::Key_F6);
+    EXPECT_TRUE(host->Results().View().hasFocus());
+    PressKey(Qt::Key_F6);
+    EXPECT_TRUE(BarHasFocus());
+    EXPECT_FALSE(host->Results().View().hasFocus());
+    PressKey(Qt::Key_F6);
+    EXPECT_TRUE(host->Canvas().hasFocus());
+    EXPECT_FALSE(BarHasFocus());
+    PressKey(Qt::Key_F6, Qt::ShiftModifier);
+    EXPECT_TRUE(BarHasFocus());
+    PressKey(Qt::Key_F6, Qt::ShiftModifier);
+    EXPECT_TRUE(host->Results().View().hasFocus());
+}
+
+TEST_F(WorkbenchKeys, F6ComesByTheOpenTools) {
+    MenuAction("NAD27 to NAD83...")->trigger();
+    QApplication::processEvents();
+    const CDialog* tool = host->Tools().Shown().at(0);
+    QWidget* window = kv::qt::WidgetOf(*tool->m_hWnd);
+    ASSERT_TRUE(window->isActiveWindow());
+    PressKey(Qt::Key_F6);
+    EXPECT_TRUE(host->Window().isActiveWindow());
+    EXPECT_TRUE(BarHasFocus());
+    PressKey(Qt::Key_F6, Qt::ShiftModifier);
+    EXPECT_TRUE(window->isActiveWindow());
+    PressKey(Qt::Key_F6, Qt::ShiftModifier);
+    EXPECT_TRUE(host->Results().View().hasFocus());
+}
+
+TEST_F(WorkbenchKeys, F6PassesByWhatIsNotSeen) {
+    MenuAction("Results")->trigger();
+    MenuAction("Area and block bar")->trigger();
+    QApplication::processEvents();
+    host->Canvas().setFocus();
+    PressKey(Qt::Key_F6);
+    EXPECT_FALSE(BarHasFocus());
+    PressKey(Qt::Key_F6);
+    EXPECT_TRUE(host->Canvas().hasFocus());
+}
+
+TEST_F(WorkbenchKeys, RowsAreCopiedWithTheirHeadings) {
+    Pick("EI", "391");
+    Report("Wells");
+    // The platform of no display does not come back from a popup by itself.
+    QApplication::setActiveWindow(&host->Window());
+    host->Results().View().Enter();
+    PressKey(Qt::Key_Down, Qt::ShiftModifier);
+    PressKey(Qt::Key_C, Qt::ControlModifier);
+    const QStringList lines = QApplication::clipboard()->text().split(u'\n');
+    ASSERT_EQ(lines.size(), 3);
+    EXPECT_TRUE(lines[0].startsWith(QStringLiteral("API number\tWell\tArea\tBlock")));
+    PressKey(Qt::Key_A, Qt::ControlModifier);
+    PressKey(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text().count(u'\n'), host->Results().Model().rowCount());
+}
+
+TEST_F(WorkbenchKeys, ACommandThatWouldDoNothingSaysWhy) {
+    for (const auto& [name, words] : std::initializer_list<std::pair<const char*, const char*>>{
+             {"Save results as CSV...", "There are no results."},
+             {"Find in results", "There are no results."},
+             {"Copy rows", "No row of the results is selected."},
+             {"Zoom to pick", "Nothing is picked on the map yet"},
+             {"Show neighbors of the selected blocks", "No blocks were selected yet"}}) {
+        const QAction* action = MenuAction(name);
+        ASSERT_TRUE(action) << name;
+        EXPECT_FALSE(action->isEnabled()) << name;
+        EXPECT_THAT(action->statusTip().toStdString(), HasSubstr(words));
+        if (action->shortcut().isEmpty()) continue;
+        QTest::keySequence(&host->Window(), action->shortcut());
+        EXPECT_THAT(Said(), HasSubstr(words)) << name;
+    }
+    QTest::keySequence(&host->Window(), MenuAction("Zoom to all")->shortcut());
+    EXPECT_EQ(Said(), "");
+}
+
+TEST_F(WorkbenchKeys, CommandsAreEnabledOnceTheyAct) {
+    Pick("EI", "391");
+    user->Click(kRun);
+    EXPECT_TRUE(MenuAction("Zoom to pick")->isEnabled());
+    Report("Wells");
+    for (const char* name : {"Save results as CSV...", "Find in results", "Select all rows"})
+        EXPECT_TRUE(MenuAction(name)->isEnabled()) << name;
+    EXPECT_FALSE(MenuAction("Copy rows")->isEnabled());
+    host->Results().SelectAll();
+    EXPECT_TRUE(MenuAction("Copy rows")->isEnabled());
+    EXPECT_EQ(MenuAction("Copy rows")->statusTip().toStdString(), "");
+    host->LoadMap();
+    EXPECT_FALSE(MenuAction("Zoom in")->isEnabled());
+    EXPECT_FALSE(MenuAction("Zoom to pick")->isEnabled());
+    host->Runner().Finish();
+    EXPECT_TRUE(MenuAction("Zoom in")->isEnabled());
+}
+
+TEST_F(WorkbenchKeys, WhatWasSaidGoesWhenTheNextCommandBegins) {
+    host->Status().Say("old words");
+    MenuAction("Zoom in")->trigger();
+    EXPECT_EQ(Said(), "");
+    host->Status().Say("old words");
+    Pick("EI", "391");
+    user->Click(kRun);
+    EXPECT_EQ(Said(), "EUGENE ISLAND SOUTH ADDITION, block 391");
+}
+
+TEST_F(WorkbenchKeys, GoToAPickSetsTheBarToo) {
+    EXPECT_TRUE(host->GoTo("gc 200"));
+    EXPECT_EQ(host->Canvas().GetPick().block->Label(), "200");
+    EXPECT_EQ(user->Text(kArea), "GC");
+    EXPECT_EQ(user->Text(kBlock), "200");
+    EXPECT_TRUE(host->Canvas().hasFocus());
+    EXPECT_TRUE(host->GoTo("Vermilion"));
+    EXPECT_EQ(user->Text(kArea), "VR");
+    EXPECT_EQ(user->Text(kBlock), "ALL");
+    EXPECT_FALSE(host->GoTo("ATLANTIS"));
+}
+
+TEST_F(WorkbenchKeys, GoToAPlaceSetsTheBarToItsBlock) {
+    const auto pick = host->Model().FindPick({"43608"}, "200");
+    const Place middle = ToPlace(pick.Bounds().Middle());
+    EXPECT_TRUE(host->GoTo(QString::fromStdString(DegreesMinutesSeconds(middle))));
+    const Point seen = host->Canvas().View().Middle();
+    EXPECT_NEAR(seen.x, pick.Bounds().Middle().x, 1e-5);
+    EXPECT_NEAR(seen.y, pick.Bounds().Middle().y, 1e-5);
+    EXPECT_EQ(user->Text(kArea), "GC");
+    EXPECT_EQ(user->Text(kBlock), "200");
+}
+
+TEST_F(WorkbenchKeys, ACommandIsFoundBySomeWordsOfItsName) {
+    InPalette([](CommandPalette& palette) {
+        QTest::keyClicks(&palette.Words(), "pick zoom");
+        const QTreeWidgetItem* row = palette.List().currentItem();
+        ASSERT_TRUE(row);
+        EXPECT_EQ(row->text(0).toStdString(), "Zoom to pick");
+        EXPECT_EQ(row->text(1).toStdString(), "View");
+        EXPECT_EQ(row->text(2).toStdString(), "Ctrl+1");
+        palette.Words().clear();
+        QTest::keyClicks(&palette.Words(), "legend");
+        QTest::keyClick(&palette.Words(), Qt::Key_Return);
+    });
+    ASSERT_TRUE(host->Canvas().Layers().legend);
+    QTest::keyClick(&host->Window(), Qt::Key_K, Qt::ControlModifier);
+    EXPECT_FALSE(host->Canvas().Layers().legend);
+}
+
+TEST_F(WorkbenchKeys, EveryDialogIsFoundByItsNameAndByItsClass) {
+    CommandPalette palette(*host->Window().menuBar());
+    for (const adaptors::Adaptor* adaptor : adaptors::All()) {
+        for (const std::string& words : {adaptor->purpose, adaptor->className}) {
+            palette.Words().setText(QString::fromStdString(words));
+            const QTreeWidgetItem* row = palette.List().currentItem();
+            ASSERT_TRUE(row) << words;
+            if (words == adaptor->className) {
+                EXPECT_EQ(row->text(0).toStdString(), adaptor->purpose + "...");
+            }
+        }
+    }
+    palette.Words().setText("no such command");
+    EXPECT_FALSE(palette.List().currentItem());
+    QTest::keyClick(&palette.Words(), Qt::Key_Return);
+    EXPECT_FALSE(palette.Chosen());
+}
+
+TEST_F(WorkbenchKeys, ArrowsMoveThroughWhatWasFound) {
+    CommandPalette palette(*host->Window().menuBar());
+    palette.Words().setText("zoom");
+    QTest::keyClick(&palette.Words(), Qt::Key_Down);
+    QTest::keyClick(&palette.Words(), Qt::Key_Return);
+    ASSERT_TRUE(palette.Chosen());
+    EXPECT_EQ(palette.Chosen()->text().remove(u'&').toStdString(), "Zoom out");
+}
+
+TEST_F(WorkbenchKeys, ADisabledCommandThatIsFoundSaysWhy) {
+    InPalette([](CommandPalette& palette) {
+        QTest::keyClicks(&palette.Words(), "save");
+        QTest::keyClick(&palette.Words(), Qt::Key_Return);
+    });
+    MenuAction("Find a command...")->trigger();
+    EXPECT_EQ(Said(), "There are no results.");
+}
+
+TEST_F(WorkbenchKeys, TheLegendFoldsByItsHeadingAndByAKey) {
+    MapCanvas& canvas = host->Canvas();
+    QApplication::processEvents();
+    canvas.grab();
+    ASSERT_FALSE(canvas.LegendHeading().isEmpty());
+    QTest::mouseClick(&canvas, Qt::LeftButton, {}, canvas.LegendHeading().center().toPoint());
+    EXPECT_TRUE(canvas.Layers().legendFolded);
+    EXPECT_TRUE(canvas.GetPick().Empty());
+    EXPECT_EQ(user->Text(kBlock), "");
+    canvas.setFocus();
+    PressKey(Qt::Key_L);
+    EXPECT_FALSE(canvas.Layers().legendFolded);
+}
+
+TEST_F(WorkbenchKeys, TheTitleNamesTheDatabaseAndThePick) {
+    EXPECT_EQ(Title(), "sample.db - Workbench");
+    Pick("EI", "391");
+    user->Click(kRun);
+    EXPECT_EQ(Title(), "EUGENE ISLAND SOUTH ADDITION, block 391 - sample.db - Workbench");
+    host->LoadMap();
+    EXPECT_EQ(Title(), "sample.db - Workbench");
+}
+
+TEST_F(WorkbenchKeys, ResultsSayWhatTheyAreAndGreyOnceAnotherBlockIsPicked) {
+    Pick("EI", "391");
+    Report("Wells");
+    const QString count = QString::number(host->Results().Model().rowCount());
+    const QString words = QStringLiteral("Wells in EUGENE ISLAND SOUTH ADDITION 391: ") + count;
+    EXPECT_EQ(host->Results().Heading().text(), words);
+    EXPECT_EQ(Said(), words.toStdString());
+    const QColor current = HeadingColor();
+    user->Select(kBlock, "392");
+    kv::WindowSystem::Get().Settle();
+    EXPECT_NE(HeadingColor(), current);
+    user->Select(kBlock, "391");
+    kv::WindowSystem::Get().Settle();
+    EXPECT_EQ(HeadingColor(), current);
+}
+
+TEST_F(WorkbenchKeys, ResultsOfSeveralAreasAreNamedAsTheyWerePicked) {
+    Pick("EI", "ALL");
+    Report("Platforms");
+    EXPECT_THAT(host->Results().Heading().text().toStdString(),
+                testing::StartsWith("Platforms in EI: "));
+}
+
+TEST_F(WorkbenchKeys, ARowIsMarkedOnTheMap) {
+    Pick("EI", "391");
+    Report("Wells");
+    QTableView& view = host->Results().View();
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, {},
+                      view.visualRect(host->Results().Model().index(1, 0)).center());
+    const ResultTable::Key& key = host->Results().Model().Table().keys.at(1);
+    const MapMarks& marks = host->Canvas().Marks();
+    ASSERT_TRUE(marks.rowPlace && marks.rowBlock);
+    EXPECT_DOUBLE_EQ(marks.rowPlace->lat, key.place->lat);
+    EXPECT_EQ(marks.rowBlock->Label(), "391");
+    Report("Leases");
+    EXPECT_FALSE(marks.rowPlace || marks.rowBlock);
+    host->Results().View().Enter();
+    EXPECT_TRUE(marks.rowBlock);
+    host->LoadMap();
+    EXPECT_FALSE(marks.rowBlock);
+}
+
+TEST_F(WorkbenchKeys, TheMapFollowsAReportOnRequestOnly) {
+    Pick("EI", "391");
+    Report("Wells");
     EXPECT_TRUE(host->Canvas().GetPick().Empty());
-    EXPECT_THAT(failures, testing::IsEmpty());
-    Pick("EI", "391");
-    GoToMap();
-    QTest::keyClick(&host->Canvas(), Qt::Key_F5);
-    EXPECT_TRUE(IsPickedOnMap("391"));
-}
+    MenuAction("Map follows the results")->trigger();
+    Report("Wells");
+    const Box& block = host->Canvas().GetPick().block->Bounds();
+    EXPECT_TRUE(host->Canvas().View().Visible().Contains(block.Middle()));
 
-TEST_F(WorkbenchKeys, AShortcutLeadsIntoTheBar) {
-    GoToMap();
-    QTest::keyClick(&host->Canvas(), Qt::Key_L, Qt::ControlModifier);
-    EXPECT_EQ(test::FocusedId(), kArea);
-    EXPECT_THAT(user->Rows(kArea), testing::Contains("EI"));
-}
-
-/// The same with keys that come from an X display one by one, a Shift, too.
-class WorkbenchOnADisplay : public WorkbenchKeys {
-protected:
-    void SetUp() override {
-        if (QGuiApplication::platformName() != "xcb") GTEST_SKIP() << "there is no X display";
-        if (QStandardPaths::findExecutable("xdotool").isEmpty())
-            GTEST_SKIP() << "xdotool is not installed";
-        WorkbenchKeys::SetUp();
-    }
-
-    /// Words of xdotool: "key", "keydown" and "keyup" with the names of keys.
-    static void Play(const QString& words) {
-        QProcess player;
-        player.start("xdotool", words.split(u' '));
-        ASSERT_TRUE(QTest::qWaitFor([&] { return player.state() == QProcess::NotRunning; }));
-        ASSERT_EQ(player.exitCode(), 0) << player.readAllStandardError().toStdString();
-    }
-    /// Until what the last key does is seen, and so has been done what those ahead of it do.
-    template <typename Seen>
-    static bool See(const Seen& seen) {
-        return QTest::qWaitFor(seen);
-    }
-};
-
-TEST_F(WorkbenchOnADisplay, KeysOnTheMapStayThere) {
-    Pick("EI", "391");
-    GoToMap();
-    const MapCanvas& canvas = host->Canvas();
-    const double scale = canvas.View().Scale();
-    Play("keydown Shift_L keyup Shift_L key Return key minus");
-    ASSERT_TRUE(See([&] { return canvas.View().Scale() < scale; }));
-    const double middle = canvas.View().Middle().y;
-    Play("keydown Shift_L key a keyup Shift_L key Down");
-    ASSERT_TRUE(See([&] { return canvas.View().Middle().y != middle; }));
-    EXPECT_TRUE(canvas.hasFocus());
-    EXPECT_EQ(user->Text(kArea), "EI");
-    EXPECT_EQ(user->Text(kBlock), "391");
-    EXPECT_TRUE(canvas.GetPick().Empty()) << "nothing was run";
-}
-
-TEST_F(WorkbenchOnADisplay, KeysInTheSearchBoxStayThere) {
-    RunReport();
-    Play("key ctrl+f");
-    ASSERT_TRUE(See([&] { return find->hasFocus(); }));
-    Play("keydown Shift_L key e keyup Shift_L key i");
-    ASSERT_TRUE(See([&] { return find->text() == "Ei"; }));
-    Play("key Down key Return key x");
-    ASSERT_TRUE(See([&] { return find->text() == "Eix"; })) << "Enter has run the report again";
-    EXPECT_TRUE(find->hasFocus());
-    EXPECT_EQ(user->Text(kBlock), "ALL");
-}
-
-TEST_F(WorkbenchOnADisplay, KeysInTheTableStayThere) {
-    RunReport();
-    QTableView& table = host->Results().View();
-    table.setCurrentIndex(table.model()->index(0, 0));
-    table.setFocus();
-    Play("keydown Shift_L keyup Shift_L key Down key Down");
-    ASSERT_TRUE(See([&] { return table.currentIndex().row() == 2; }));
-    EXPECT_TRUE(table.hasFocus());
-    EXPECT_EQ(user->Text(kBlock), "ALL");
-}
-
-TEST_F(WorkbenchOnADisplay, FromTheMapToARunAndBackByKeysAlone) {
-    GoToMap();
-    Play("key ctrl+l");
-    ASSERT_TRUE(See([] { return test::FocusedId() == kArea; }));
-    Play("keydown Shift_L key e keyup Shift_L key i key Tab key 3 key 9 key 1");
-    ASSERT_TRUE(See([&] { return user->Text(kBlock) == "391"; }));
-    EXPECT_EQ(user->Text(kArea), "EI");
-    Play("key Return");
-    ASSERT_TRUE(See([&] { return IsPickedOnMap("391"); }));
-    EXPECT_EQ(test::FocusedId(), kBlock);
-    Play("key ctrl+l key Tab");
-    ASSERT_TRUE(See([] { return test::FocusedId() == kBlock; }));
-    EXPECT_EQ(user->Text(kBlock), "391") << "the pick is kept";
-    EXPECT_THAT(failures, testing::IsEmpty());
+    host->Canvas().ShowPick(host->Model().FindPick({"43608"}, "200"));
+    host->Results().View().setCurrentIndex(host->Results().Model().index(0, 0));
+    const Place well = *host->Results().Model().Table().keys.at(0).place;
+    EXPECT_TRUE(host->Canvas().View().Visible().Contains(ToMap(well)));
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <fstream>
 #include <iterator>
 #include <set>
@@ -246,6 +247,70 @@ TEST(SamplePipelines, HaveTwoVerticesAtLeast) {
     EXPECT_EQ(points.size(), RowsOf("gulf_mexico_pipeline"));
     for (const auto& [segment, count] : points)
         EXPECT_GE(count, 2) << segment;
+}
+
+/// First and last place of each segment, as texts.
+std::vector<std::pair<std::string, std::string>> EndsOfSegments() {
+    std::vector<std::pair<std::string, std::string>> ends;
+    for (const Row& row : Dataset().Of("gulf_mexico_pipeline_pt")) {
+        const std::string place = row[2] + " " + row[3];
+        if (row[1] == "1") ends.push_back({place, place});
+        ends.back().second = place;
+    }
+    return ends;
+}
+
+std::set<std::string> PlacesOfPlatforms() {
+    std::set<std::string> places;
+    const auto lat = Dataset().Column("gulf_mexico_platform", "lat");
+    const auto lon = Dataset().Column("gulf_mexico_platform", "lon");
+    for (std::size_t i = 0; i < lat.size(); ++i)
+        places.insert(lat[i] + " " + lon[i]);
+    return places;
+}
+
+TEST(SamplePipelines, RunFromPlatformToPlatformAndAshore) {
+    const std::set<std::string> platforms = PlacesOfPlatforms();
+    const auto ends = EndsOfSegments();
+    const std::vector<std::string> to = Dataset().Column("gulf_mexico_pipeline", "to_areacode");
+    ASSERT_EQ(ends.size(), to.size());
+    int ashore = 0;
+    for (std::size_t i = 0; i < ends.size(); ++i) {
+        EXPECT_TRUE(platforms.contains(ends[i].first)) << i;
+        if (platforms.contains(ends[i].second)) continue;
+        ++ashore;
+        EXPECT_THAT(to[i].substr(0, 3), testing::AnyOf("434", "435", testing::StartsWith("42")));
+    }
+    EXPECT_GT(ashore, 100);
+    EXPECT_LT(ashore, 2000);
+}
+
+TEST(SamplePipelines, LeadFromEveryPlatformAshore) {
+    std::map<std::string, std::vector<std::string>> next;
+    for (const auto& [from, to] : EndsOfSegments())
+        next[from].push_back(to);
+    const std::set<std::string> platforms = PlacesOfPlatforms();
+    for (const std::string& platform : platforms) {
+        std::string at = platform;
+        int steps = 0;
+        while (platforms.contains(at) && steps < 1000) {
+            ASSERT_TRUE(next.contains(at)) << at;
+            at = next[at].front();
+            ++steps;
+        }
+        EXPECT_LT(steps, 1000) << platform;
+    }
+}
+
+TEST(SamplePipelines, AreMostlyShort) {
+    int shorter = 0;
+    const auto ends = EndsOfSegments();
+    for (const auto& [from, to] : ends) {
+        double fromLat = 0, fromLon = 0, toLat = 0, toLon = 0;
+        std::istringstream(from + " " + to) >> fromLat >> fromLon >> toLat >> toLon;
+        if (std::hypot(fromLat - toLat, fromLon - toLon) < 0.15) ++shorter;
+    }
+    EXPECT_GT(shorter, static_cast<int>(ends.size()) * 9 / 10);
 }
 
 TEST(SampleLayers, PointToBlocksThatExist) {

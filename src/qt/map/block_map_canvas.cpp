@@ -4,6 +4,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
+#include <array>
 
 #include "qt/drawing/text.h"
 
@@ -18,33 +19,43 @@ constexpr double kLinesFrom = 4;
 constexpr double kLabelsFrom = 30;
 constexpr double kAreaLabelMargin = 4;
 constexpr double kCross = 6;
+/// Areas no farther apart than that, in map units, lie beside one another.
+constexpr double kBeside = 0.01;
 constexpr int kDark = 128;
 
 struct Look {
-    /// In turn, so that areas beside one another can be told apart.
+    /// So that areas beside one another can be told apart.
     QColor blocks[BlockMapCanvas::kTints];
     QColor ground, line, text, pick, pickLine, hover, band;
 };
 
 const Look& LookFor(const QPalette& palette) {
-    static const Look light{
-        {{0xd6, 0xe7, 0xf4}, {0xde, 0xee, 0xe4}, {0xc6, 0xdc, 0xed}, {0xe6, 0xe8, 0xf4}},
-        {0xf4, 0xf3, 0xef},
-        {0x7f, 0x9b, 0xb3},
-        {0x2b, 0x45, 0x5e},
-        {0xf2, 0x9b, 0x4b},
-        {0xa8, 0x4a, 0x00},
-        {0x1c, 0x6f, 0xc4},
-        {0x1c, 0x6f, 0xc4, 0x30}};
-    static const Look dark{
-        {{0x23, 0x31, 0x3e}, {0x25, 0x38, 0x31}, {0x1d, 0x2b, 0x39}, {0x2d, 0x30, 0x40}},
-        {0x1b, 0x1d, 0x20},
-        {0x5c, 0x76, 0x8e},
-        {0xd5, 0xe1, 0xed},
-        {0xc8, 0x6a, 0x1c},
-        {0xff, 0xb4, 0x70},
-        {0x6c, 0xb4, 0xf5},
-        {0x6c, 0xb4, 0xf5, 0x38}};
+    static const Look light{{{0xd0, 0xe4, 0xf5},
+                             {0xdc, 0xef, 0xd9},
+                             {0xf3, 0xea, 0xd2},
+                             {0xe4, 0xdf, 0xf3},
+                             {0xbd, 0xdd, 0xdc},
+                             {0xf2, 0xdc, 0xdc}},
+                            {0xf4, 0xf3, 0xef},
+                            {0x7f, 0x9b, 0xb3},
+                            {0x2b, 0x45, 0x5e},
+                            {0xf2, 0x9b, 0x4b},
+                            {0xa8, 0x4a, 0x00},
+                            {0x1c, 0x6f, 0xc4},
+                            {0x1c, 0x6f, 0xc4, 0x30}};
+    static const Look dark{{{0x22, 0x33, 0x45},
+                            {0x26, 0x3b, 0x2c},
+                            {0x3d, 0x36, 0x22},
+                            {0x33, 0x2d, 0x47},
+                            {0x1d, 0x3c, 0x3d},
+                            {0x42, 0x2a, 0x2b}},
+                           {0x1b, 0x1d, 0x20},
+                           {0x5c, 0x76, 0x8e},
+                           {0xd5, 0xe1, 0xed},
+                           {0xc8, 0x6a, 0x1c},
+                           {0xff, 0xb4, 0x70},
+                           {0x6c, 0xb4, 0xf5},
+                           {0x6c, 0xb4, 0xf5, 0x38}};
     return palette.color(QPalette::Window).lightness() < kDark ? dark : light;
 }
 
@@ -68,14 +79,25 @@ BlockMapCanvas::BlockMapCanvas(std::vector<MapBlock> blocks, QWidget* parent)
       isPicked_(blocks_.size()) {
     for (std::size_t block = 0; block < blocks_.size(); ++block)
         areas_[blocks_[block].area].Include(layer_.BoxOf(block));
-    std::map<std::string, std::size_t> tints;
-    for (const auto& [name, box] : areas_)
-        tints.emplace(name, tints.size() % kTints);
-    for (const MapBlock& block : blocks_)
-        tints_.push_back(tints[block.area]);
+    TintAreas();
     setAccessibleName(tr("Map of blocks"));
     if (!layer_.Bounds().Empty()) ChangeView().SetBounds(layer_.Bounds());
     ShowAll();
+}
+
+void BlockMapCanvas::TintAreas() {
+    std::map<std::string, std::size_t> tints;
+    for (const auto& [name, box] : areas_) {
+        std::array<int, kTints> beside{};
+        const map::Box around = box.Grown(kBeside);
+        for (const auto& [other, tint] : tints) {
+            if (areas_[other].Meets(around)) ++beside[tint];
+        }
+        const auto rarest = std::min_element(beside.begin(), beside.end());
+        tints.emplace(name, static_cast<std::size_t>(rarest - beside.begin()));
+    }
+    for (const MapBlock& block : blocks_)
+        tints_.push_back(tints[block.area]);
 }
 
 void BlockMapCanvas::SetPicked(std::size_t block, bool picked) {
@@ -173,9 +195,12 @@ void BlockMapCanvas::DrawBlocks(QPainter& painter) {
         const QColor& tint = look.blocks[tints_[block]];
         painter.setPen(size < kLinesFrom ? tint : look.line);
         painter.setBrush(tint);
+        // Where there are no lines, smooth edges would leave gaps between blocks.
+        painter.setRenderHint(QPainter::Antialiasing, size >= kLinesFrom);
         painter.drawPolygon(Ring(block));
         if (size >= kLabelsFrom) labelled.push_back(block);
     });
+    painter.setRenderHint(QPainter::Antialiasing);
     // Their lines lie over those of their neighbors.
     painter.setPen(look.pickLine);
     painter.setBrush(look.pick);

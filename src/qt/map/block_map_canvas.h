@@ -18,7 +18,7 @@ namespace kv::qt {
 /// The map of a `BlockMapWindow`.
 class KVGUICTL_API BlockMapCanvas : public map::MapWidget {
 public:
-    static constexpr std::size_t kTints = 4;
+    static constexpr std::size_t kTints = 6;
 
     explicit BlockMapCanvas(std::vector<MapBlock> blocks, QWidget* parent = nullptr);
 
@@ -50,6 +50,8 @@ protected:
     void leaveEvent(QEvent* event) override;
 
 private:
+    /// Gives areas beside one another different tints.
+    void TintAreas();
     QPolygonF Ring(std::size_t block) const;
     double SizeOf(std::size_t block) const;
     QPointF Middle(std::size_t block) const;

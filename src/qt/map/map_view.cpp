@@ -9,6 +9,14 @@ constexpr double kLargestScale = 200'000;
 constexpr double kSmallestExtent = 1e-3;
 /// Zoomed out as far as it goes, the map has this part of the view's extent free at each side.
 constexpr double kMostRoom = 0.3;
+/// From the middle of the earth to its edges, east and west, and on the map north and south.
+constexpr double kHalfEarth = 180;
+
+/// Such that `half` of the view on both sides stays within the limits, where it can.
+double Within(double middle, double half, double low, double high) {
+    return std::clamp(middle, std::min(low + half, (low + high) / 2),
+                      std::max(high - half, (low + high) / 2));
+}
 
 }  // namespace
 
@@ -38,10 +46,15 @@ double MapView::ScaleFor(const Box& box, double room) const {
 }
 
 void MapView::Limit() {
-    scale_ =
-        std::clamp(scale_, std::min(ScaleFor(bounds_, kMostRoom), kLargestScale), kLargestScale);
+    Box earth{-kHalfEarth, -kHalfEarth, kHalfEarth, kHalfEarth};
+    earth.Include(bounds_);
+    const double least = std::max({std::min(ScaleFor(bounds_, kMostRoom), kLargestScale),
+                                   width_ / earth.Width(), height_ / earth.Height()});
+    scale_ = std::clamp(scale_, least, kLargestScale);
     middle_.x = std::clamp(middle_.x, bounds_.minX, bounds_.maxX);
     middle_.y = std::clamp(middle_.y, bounds_.minY, bounds_.maxY);
+    middle_.x = Within(middle_.x, width_ / 2.0 / scale_, earth.minX, earth.maxX);
+    middle_.y = Within(middle_.y, height_ / 2.0 / scale_, earth.minY, earth.maxY);
 }
 
 void MapView::Show(const Box& box, double room) {

@@ -19,8 +19,8 @@ public:
     int Width() const { return width_; }
     int Height() const { return height_; }
 
-    /// How far the view can be moved and zoomed out: the middle stays in `bounds`, and all of them
-    /// can be seen with some room around.
+    /// How far the view can be moved and zoomed out: the middle stays in `bounds`, all of them can
+    /// be seen with some room around, and nothing that is off the earth.
     void SetBounds(const Box& bounds);
 
     /// Pixels for a map unit.

@@ -13,7 +13,9 @@
 #include <QTest>
 #include <QTimer>
 #include <QWheelEvent>
+#include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "qt/map/block_map_canvas.h"
@@ -252,6 +254,43 @@ TEST_F(BlockMap, DrawsPicksInAColorOfTheirOwn) {
     EXPECT_EQ(after.pixelColor(other), before.pixelColor(other));
     Drag(At(22), At(34, 0.8, 0.8));
     SavePicture("block_map.png");
+}
+
+TEST(BlockMapCanvas, AreasBesideOneAnotherDifferInTheirTints) {
+    // In the order of their names the neighbors are as far apart as there are tints.
+    std::vector<MapBlock> blocks = Squares("A", -90, 2, 2);
+    for (const auto& [name, west] : std::vector<std::pair<std::string, double>>{
+             {"B", -80}, {"C", -78}, {"D", -76}, {"E", -74}, {"F", -72}, {"G", -89.8}}) {
+        for (MapBlock& block : Squares(name, west, 2, 2))
+            blocks.push_back(std::move(block));
+    }
+    BlockMapCanvas canvas(blocks);
+    canvas.resize(1800, 400);
+    const QImage picture = canvas.grab().toImage();
+    const auto colorOf = [&](std::size_t block) {
+        const auto& place = blocks[block].outline[0];
+        const auto at =
+            canvas.View().ToScreen(kv::map::ToMap({place.lat - 0.04, place.lon + 0.04}));
+        return picture.pixelColor(static_cast<int>(at.x), static_cast<int>(at.y));
+    };
+    EXPECT_EQ(colorOf(0), colorOf(3));
+    EXPECT_NE(colorOf(0), colorOf(24));
+}
+
+TEST(BlockMapCanvas, LinesAreSmooth) {
+    BlockMapCanvas canvas(
+        {{"AREA", "", "", {{28, -90}, {28.05, -89}, {27.05, -88.9}, {27, -90.1}}}});
+    canvas.resize(400, 300);
+    const QImage picture = canvas.grab().toImage();
+    std::set<QRgb> colors;
+    for (int x = 0; x < picture.width(); ++x)
+        colors.insert(picture.pixel(x, 20));
+    for (int y = 0; y < picture.height(); ++y)
+        colors.insert(picture.pixel(200, y));
+    for (int y = 0; y < picture.height(); ++y)
+        colors.insert(picture.pixel(120, y));
+    // More than ground, block and line.
+    EXPECT_GT(colors.size(), 4U);
 }
 
 TEST_F(BlockMap, AMapWithoutBlocksHarmsNothing) {
