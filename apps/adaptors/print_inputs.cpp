@@ -55,9 +55,9 @@ Input UnitInput() {
 CMinMax2Dd_t BoundsOf(const Run& run) {
     const Json bounds = run.Get("bounds", Json::array({0, 0, 0, 0}));
     if (!IsListOfFourNumbers(bounds)) {
-        throw BadInput("The input \"bounds\" takes a list of four numbers, and not " +
-                           bounds.dump(),
-                       "bounds");
+        throw BadInput(
+            "The input \"bounds\" takes a list of four numbers, and not " + bounds.dump(),
+            "bounds");
     }
     return {bounds[0].get<double>(), bounds[1].get<double>(), bounds[2].get<double>(),
             bounds[3].get<double>()};

@@ -13,8 +13,8 @@ namespace adaptors {
 inline constexpr const char* kPrinterInWords =
     "an object with device, form, paper, landscape, width and height (tenths of a millimetre)";
 
-/// A printer as a script tells it; what is left out is as it is with a printer of Letter paper. None
-/// where the value is no such object.
+/// A printer as a script tells it; what is left out is as it is with a printer of Letter paper.
+/// None where the value is no such object.
 std::optional<kv::PrinterSettings> PrinterFrom(const Json& value);
 
 /// "bounds" and "unit".

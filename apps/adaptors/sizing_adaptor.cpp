@@ -13,12 +13,9 @@ void RunSizing(Run& run) {
     if (const int scale = run.Get("scale", 0); scale != 0) dialog.SetScale(scale);
     dialog.IsCGM(run.Get("cgm", false));
     run.result = dialog.DoModal();
-    run.outcome = {{"scale", dialog.GetScale()},
-                   {"width", dialog.GetPageWidthSize()},
-                   {"height", dialog.GetPageHeightSize()},
-                   {"landscape", dialog.GetLandScapeMode()},
-                   {"trueType", dialog.GetTrueTypeFont()},
-                   {"color", dialog.GetColorMode()},
+    run.outcome = {{"scale", dialog.GetScale()},           {"width", dialog.GetPageWidthSize()},
+                   {"height", dialog.GetPageHeightSize()}, {"landscape", dialog.GetLandScapeMode()},
+                   {"trueType", dialog.GetTrueTypeFont()}, {"color", dialog.GetColorMode()},
                    {"gray", dialog.GetGrayMode()}};
 }
 

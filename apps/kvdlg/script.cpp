@@ -193,8 +193,8 @@ int AnswerOf(const Json& scene, const std::string& where) {
 kv::PrinterSettings PrinterOf(const Json& scene, const char* key, const std::string& where) {
     const auto printer = adaptors::PrinterFrom(scene[key]);
     if (!printer) {
-        Wrong(where, std::string("\"") + key + "\" to be " + adaptors::kPrinterInWords +
-                         ", or null");
+        Wrong(where,
+              std::string("\"") + key + "\" to be " + adaptors::kPrinterInWords + ", or null");
     }
     return *printer;
 }

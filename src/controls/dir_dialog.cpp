@@ -187,7 +187,7 @@ void CDirDialog::OnOpen() {
 }
 
 /// Goes to what is typed, and stays open.
-void CDirDialog::OnEnter() {
+void CDirDialog::TakeEnter() {
     std::string text = m_edit.WindowText();
     if (text.empty() || text == "\\") return GoTo(text);
     if (IsDriveText(text)) return GoTo(RootOf(text));

@@ -25,7 +25,7 @@ private:
 
 /// The file dialog as a chooser of folders. What is typed goes along with the folder that is shown,
 /// and a folder that is not there is made, with its parents.
-class KVGUICTL_API CDirDialog : public CFileDialog {
+class KVGUICTL_API CDirDialog : public CFileDialog, private kv::dir_dialog::Chooser {
 public:
     /// `filter` stands behind a line of its own, "All Files (*.*)" without one. With
     /// `openExportDir` a folder that holds anything is asked about before it is taken.
@@ -45,11 +45,11 @@ protected:
 
 private:
     friend class CDirDialogWnd;
-    friend class CDirDialogEdit;
 
     void OnOpen();
-    void OnEnter();
-    void GoTo(const std::string& path);
+    std::string Meant(const std::string& text) const override { return PathMeant(text); }
+    void GoTo(const std::string& path) override;
+    void TakeEnter() override;
     void GoToAndEnd(const std::string& path);
     void Refuse(const std::string& words);
     bool Make(const std::string& path, const char* otherwise);

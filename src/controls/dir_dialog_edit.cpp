@@ -5,7 +5,6 @@
 #include "base/paths.h"
 #include "base/text.h"
 #include "base/utf8.h"
-#include "controls/dir_dialog.h"
 #include "controls/dir_dialog_ids.h"
 #include "window/dialog_keys.h"
 #include "window/message_handlers.h"
@@ -57,16 +56,13 @@ UINT CDirDialogEdit::OnGetDlgCode() {
 LRESULT CDirDialogEdit::OnKeyDown(WPARAM key, LPARAM) {
     switch (static_cast<int>(key)) {
         case VK_TAB:
-            if (kv::CurrentModifiers().shift)
-                m_dialog.PrevDlgCtrl();
-            else
-                m_dialog.GotoDlgCtrl(m_dialog.GetDlgItem(kv::dir_dialog::kOpen));
+            Leave(kv::CurrentModifiers().shift);
             return 0;
         case VK_RETURN:
-            m_dialog.OnEnter();
+            m_chooser.TakeEnter();
             return 0;
         case VK_ESCAPE:
-            m_dialog.SendMessage(WM_COMMAND, IDCANCEL);
+            GetParent()->SendMessage(WM_COMMAND, IDCANCEL);
             return 0;
         case VK_DELETE:
             Default();
@@ -75,6 +71,14 @@ LRESULT CDirDialogEdit::OnKeyDown(WPARAM key, LPARAM) {
         default:
             return Default();
     }
+}
+
+/// To the button that opens, or back to what stands ahead.
+void CDirDialogEdit::Leave(bool back) {
+    const CWnd& dialog = *GetParent();
+    kv::Node* next = back ? kv::NextTabStop(*dialog.m_hWnd, m_hWnd, false)
+                          : dialog.m_hWnd->FindChild(kv::dir_dialog::kOpen);
+    if (next) kv::FocusByTab(*next);
 }
 
 LRESULT CDirDialogEdit::OnChar(WPARAM character, LPARAM) {
@@ -90,8 +94,8 @@ bool CDirDialogEdit::GoAlong() {
     const std::string text = WindowText();
     if (text == "\\\\") return true;
     const bool ended = text.ends_with('\\');
-    if (!ended || !kv::IsFolder(m_dialog.PathMeant(text))) return false;
-    m_dialog.GoTo(text);
+    if (!ended || !kv::IsFolder(m_chooser.Meant(text))) return false;
+    m_chooser.GoTo(text);
     return true;
 }
 
@@ -103,7 +107,7 @@ void CDirDialogEdit::Complete() {
     const bool atEnd = start == end && end == static_cast<int>(text.size());
     const std::string typed = kv::NameOf(text);
     if (!atEnd || typed.empty() || EndsInsideCharacter(typed)) return;
-    const auto entries = kv::ReadFolder(kv::FolderOf(m_dialog.PathMeant(text)));
+    const auto entries = kv::ReadFolder(kv::FolderOf(m_chooser.Meant(text)));
     if (!entries) return;
     const auto fits = [&](const kv::FolderEntry& entry) {
         return entry.isFolder && kv::StartsWithNoCase(entry.name, typed);

@@ -24,8 +24,7 @@ void CutDialog(CDialog& dialog, std::initializer_list<int> hidden, int last, int
     }
     CRect all;
     dialog.GetClientRect(&all);
-    dialog.SetWindowPos(nullptr, 0, 0, all.Width(),
-                        (level.bottom + PlaceOf(dialog, next).top) / 2,
+    dialog.SetWindowPos(nullptr, 0, 0, all.Width(), (level.bottom + PlaceOf(dialog, next).top) / 2,
                         SWP_NOMOVE | SWP_NOZORDER);
 }
 

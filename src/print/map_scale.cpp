@@ -14,8 +14,7 @@ namespace {
 
 constexpr int kMapFeet[] = {1000, 2000, 4000, 8000, 16000, 32000, 64000};
 constexpr int kMapMeters[] = {12500, 25000, 50000, 100000, 200000, 400000, 800000};
-constexpr int kPrintFeet[] = {1000,  2000,  4000,   8000,   16000,
-                              32000, 64000, 128000, 256000, 512000};
+constexpr int kPrintFeet[] = {1000, 2000, 4000, 8000, 16000, 32000, 64000, 128000, 256000, 512000};
 constexpr int kPrintMeters[] = {12500,  25000,  50000,   100000,  200000,
                                 400000, 800000, 1600000, 3200000, 6400000};
 /// Rows of the list in meters that are looked up as the largest up to a scale.
@@ -82,8 +81,7 @@ std::optional<int> SearchUp(const Extent& map, const Extent& room, long long sca
 }
 
 std::optional<int> LeastFitting(const Extent& map, const Extent& room) {
-    const double least =
-        std::max({1.0, std::ceil(map.x / room.x), std::ceil(map.y / room.y)});
+    const double least = std::max({1.0, std::ceil(map.x / room.x), std::ceil(map.y / room.y)});
     if (!(least < kLargest)) return std::nullopt;
     // The quotients were rounded, either way.
     int scale = ToInt(least);

@@ -298,10 +298,10 @@ void CKvGuiPrintControl::OnSetfocusEditPageHeight() {
 }
 
 void CKvGuiPrintControl::OnButtonPrintSetup() {
-    CPrintDialog setup(FALSE,
-                       PD_ALLPAGES | PD_USEDEVMODECOPIES | PD_NOPAGENUMS | PD_HIDEPRINTTOFILE |
-                           PD_NOSELECTION,
-                       this);
+    CPrintDialog setup(
+        FALSE,
+        PD_ALLPAGES | PD_USEDEVMODECOPIES | PD_NOPAGENUMS | PD_HIDEPRINTTOFILE | PD_NOSELECTION,
+        this);
     if (setup.DoModal() != IDOK) return;
     m_bPrinterSetup = true;
     if (GivesPaper()) *m_pDevMode = *setup.GetDevMode();

@@ -87,8 +87,7 @@ void CKvGuiSizingDlg::SetOrientation() {
 /// In the map's own unit: what is shown of meters is no inches.
 void CKvGuiSizingDlg::ShowTurned(bool landscape) {
     CheckOrientation(landscape);
-    const Extent size =
-        kv::print::SizeOnPaper(ExtentOf(m_bounds), m_nScale, kv::print::kFeet);
+    const Extent size = kv::print::SizeOnPaper(ExtentOf(m_bounds), m_nScale, kv::print::kFeet);
     const auto [smaller, larger] = std::minmax(size.x, size.y);
     SetDlgItemText(kWidth, kv::FormatStream(landscape ? larger : smaller).c_str());
     SetDlgItemText(kHeight, kv::FormatStream(landscape ? smaller : larger).c_str());

@@ -31,7 +31,8 @@ KVGUICTL_API bool HandleMnemonic(Node& host, char letter);
 KVGUICTL_API Node* ButtonOf(Node& host, char letter);
 
 /// The visible, enabled tab stop in the dialog behind (or ahead of) `from`, going round; `from`
-/// itself where it is the only one, null where there is none. Of a radio group it is the checked button.
+/// itself where it is the only one, null where there is none. Of a radio group it is the checked
+/// button.
 KVGUICTL_API Node* NextTabStop(Node& host, Node* from, bool forward);
 
 /// Whether a control tells of others only: a label, or the frame of a group.

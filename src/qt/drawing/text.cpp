@@ -59,8 +59,7 @@ PlacedText::PlacedText(std::string_view bytes, bool lines) : size_(static_cast<i
             bytes[static_cast<std::size_t>(byte) - 1] == '\r') {
             return;
         }
-        const bool pair =
-            lines && character == '\r' && next < bytes.size() && bytes[next] == '\n';
+        const bool pair = lines && character == '\r' && next < bytes.size() && bytes[next] == '\n';
         Append(text_, pair ? U'\n' : character);
         bytes_.resize(static_cast<std::size_t>(text_.size()), byte);
     });

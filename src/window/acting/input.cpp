@@ -109,8 +109,7 @@ int KeyOf(char ch) {
 }  // namespace
 
 bool CanAct(Node& node) {
-    return !node.Destroyed() && node.ReallyEnabled() && node.ReallyVisible() &&
-           !LiesOutside(node);
+    return !node.Destroyed() && node.ReallyEnabled() && node.ReallyVisible() && !LiesOutside(node);
 }
 
 bool Click(Node& control) {
