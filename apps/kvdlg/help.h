@@ -36,7 +36,9 @@ A script plays the user. It is a JSON file:
       { "file": "C:\\tmp\\a.txt" } ] }
 
 The head may say which printer there is, as "printer": {...}, in the words of the scene "print"
-below; null for none. Left out, it is one without a name, with Letter paper.
+below; null for none. Left out, it is one without a name, with Letter paper. "drives" maps letters
+beside those of the registry, as {"D": {"folder": "C:\\data", "kind": "removable"}}; the kind may also
+be "fixed", which it is if left out, "remote" or "CD-ROM".
 
 "user" lists scenes, which are taken in the order in which things open. A message box that opens
 between two actions of a window is the scene behind that window's.

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "adaptors/print_inputs.h"
+#include "base/paths.h"
 #include "kvdlg/script_lines.h"
 #include "window/acting/input.h"
 
@@ -254,6 +255,25 @@ void AddScene(const Json& scene, const ScenePlace& place, kv::HeadlessDesktop& d
     }
 }
 
+void MapDrives(const Json& drives, const std::string& where) {
+    static const std::map<std::string, kv::DriveKind> kKinds{{"removable", kv::kDriveRemovable},
+                                                             {"fixed", kv::kDriveFixed},
+                                                             {"remote", kv::kDriveRemote},
+                                                             {"CD-ROM", kv::kDriveCdRom}};
+    const std::string expected =
+        "\"drives\" to be an object of letters, each with a \"folder\" and a \"kind\": removable, "
+        "fixed, remote or CD-ROM";
+    if (!drives.is_object()) Wrong(where, expected);
+    for (const auto& [letter, drive] : drives.items()) {
+        const bool whole = letter.size() == 1 && drive.is_object() && drive.contains("folder") &&
+                           drive["folder"].is_string();
+        const Json kind = whole ? drive.value("kind", Json("fixed")) : Json();
+        const auto known = kind.is_string() ? kKinds.find(kind.get<std::string>()) : kKinds.end();
+        if (known == kKinds.end()) Wrong(where, expected);
+        kv::MapDrive(letter[0], kv::ToNative(drive["folder"].get<std::string>()), known->second);
+    }
+}
+
 }  // namespace
 
 Json ParseJson(const std::string& text, const std::string& nameOfText) {
@@ -272,6 +292,9 @@ Json ParseJson(const std::string& text, const std::string& nameOfText) {
 
 void SetOutside(const Json& script, const std::map<std::string, int>& lines,
                 kv::HeadlessDesktop& desktop) {
+    if (script.contains("drives")) {
+        MapDrives(script["drives"], LineOf(lines, "/drives") + "the script");
+    }
     if (!script.contains("printer")) return;
     if (script["printer"].is_null()) {
         desktop.SetNoPrinter();
