@@ -115,7 +115,7 @@ QPageSize PageOf(const PrinterSettings& settings) {
     const QPageSize::PageSizeId id = QPageSize::id(settings.paper);
     if (id != QPageSize::Custom) return QPageSize(id);
     return QPageSize(QSizeF(settings.widthTenthMm, settings.heightTenthMm) / kTenthMmPerMm,
-                     QPageSize::Millimeter, ToQString(settings.form));
+                     QPageSize::Millimeter);
 }
 
 /// How the dialog ends when it is to be shown for another printer, which has other papers.

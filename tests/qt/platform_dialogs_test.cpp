@@ -247,13 +247,4 @@ TEST_F(PrintSetup, EveryPaperHasItsName) {
         EXPECT_EQ(formOf(id), QPageSize::name(id).toStdString());
 }
 
-TEST_F(PrintSetup, ARollKeepsItsName) {
-    kv::PrinterSettings settings{"", 0, false, 9144, 30000, "Roll 36 inches"};
-    Then([] { Press(QDialogButtonBox::Ok); });
-    EXPECT_EQ(kv::qt::ShowPrintSetup(settings, {}), IDOK);
-    EXPECT_EQ(settings.form, "Roll 36 inches");
-    EXPECT_EQ(settings.widthTenthMm, 9144);
-    EXPECT_EQ(settings.heightTenthMm, 30000);
-}
-
 }  // namespace

@@ -138,9 +138,11 @@ TEST_F(PrintView, APrintScaleIsPickedInTheListThatIsRefilledByIt) {
     const auto* line = box->findChild<QLineEdit*>();
     const auto pick = [&](const QString& text) {
         DropDown(box);
-        const int row = box->findText(text);
-        ASSERT_GE(row, 0) << text.toStdString();
-        const QModelIndex index = Popup()->model()->index(row, 0);
+        QAbstractItemModel* rows = Popup()->model();
+        const QModelIndexList found =
+            rows->match(rows->index(0, 0), Qt::DisplayRole, text, 1, Qt::MatchExactly);
+        ASSERT_EQ(found.size(), 1) << text.toStdString();
+        const QModelIndex index = found.front();
         Popup()->scrollTo(index);
         QTest::mouseClick(Popup()->viewport(), Qt::LeftButton, {},
                           Popup()->visualRect(index).center());
@@ -173,8 +175,8 @@ TEST_F(PrintView, ATypedScaleIsWhatItReads) {
     Open(dialog, 0, true);
     auto* box = WidgetOf<QComboBox>(dialog, kPrintScale);
     auto* line = box->findChild<QLineEdit*>();
-    line->setFocus();
-    line->selectAll();
+    QTest::mouseClick(line, Qt::LeftButton);
+    QTest::keyClick(line, Qt::Key_A, Qt::ControlModifier);
     QTest::keyClicks(line, "5000");
     EXPECT_EQ(dialog.GetScale(), 5000);
     EXPECT_EQ(dialog.DlgItemText(kPageWidth), "6");
