@@ -79,6 +79,7 @@ const Register kRegistered({
     "CVZABEBar",
     "Area and block pickers",
     "Area/block/layer bar",
+    "Area and block bar",
     kv::abe_bar::kTemplate,
     {
         {"areacode", "text", "area code to select at the start", nullptr},

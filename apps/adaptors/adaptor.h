@@ -86,7 +86,8 @@ private:
 struct Adaptor {
     std::string className;
     std::string family;
-    std::string caption;
+    std::string caption;  ///< of its window
+    std::string purpose;  ///< what it is for, as a menu names it
     int templateId = 0;
     std::vector<Input> inputs;
     std::string returns;  ///< what the outcome holds: each name in it, and what it means

@@ -15,6 +15,7 @@ const Register kRegistered({
     "CKvGuiAreaDlg",
     "Blocks",
     "Area Selection Dialog",
+    "Select areas",
     kv::blk_ext::kAreaTemplate,
     BlockInputs(),
     kBlockOutcome,

@@ -14,6 +14,7 @@ const Register kRegistered({
     "CKvGuiBlkExtDlg",
     "Blocks",
     "Area Block/Extension Selection Dialog",
+    "Select blocks",
     kv::blk_ext::kTemplate,
     BlockInputs(),
     kBlockOutcome,

@@ -8,7 +8,8 @@ namespace adaptors {
 
 /// The adaptor of a dialog that picks words from groups of check boxes.
 template <typename Dialog>
-Adaptor CheckListAdaptor(const std::string& className, const std::string& caption, int templateId,
+Adaptor CheckListAdaptor(const std::string& className, const std::string& caption,
+                         const std::string& purpose, int templateId,
                          const std::string& sampleWord) {
     std::vector<Input> inputs = CallerInputs();
     inputs.back().sample = sampleWord;
@@ -16,6 +17,7 @@ Adaptor CheckListAdaptor(const std::string& className, const std::string& captio
     return {className,
             "Qualifiers",
             caption,
+            purpose,
             templateId,
             inputs,
             "values (the chosen words), text (of the caller's control)",

@@ -33,6 +33,7 @@ const Register kRegistered({
     "CKvGuiCompanyListSel",
     "Qualifiers",
     "Company Match Dialog",
+    "Match companies",
     kv::list_sel::kCompanyTemplate,
     Joined({{"column", "text", "column with the company", "company"},
             {"table", "text", "company table", "NORVADON.gulf_mexico_company"},

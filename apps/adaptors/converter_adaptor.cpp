@@ -22,7 +22,8 @@ Json State(const CKvConverterDialog& dialog) {
 }
 
 const Register kRegistered(ToolAdaptor<CKvConverterDialog>(
-    "CKvConverterDialog", "Coordinate tools", "LatLon and XY Converter", kTemplate,
+    "CKvConverterDialog", "Coordinate tools", "LatLon and XY Converter",
+    "Latitude and longitude to X and Y", kTemplate,
     "latitude, longitude (the texts of the three boxes), x, y, unit, projection (of the upper "
     "converter, as shown); toX, toY, toUnit, toProjection (the result of the lower one, as shown)",
     State));

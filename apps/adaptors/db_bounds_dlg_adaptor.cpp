@@ -20,6 +20,7 @@ const Register kRegistered({
     "CKvDbBoundsDlg",
     "Map building",
     "Dialog",
+    "Bounds",
     kv::db_bounds_dlg::kTemplate,
     {
         {"from", "text", "the first bound, any text", "1000"},

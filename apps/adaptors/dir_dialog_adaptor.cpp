@@ -17,6 +17,7 @@ const Register kRegistered({
     "CDirDialog",
     "Controls",
     "Choose Folder",
+    "Choose a folder",
     kv::file_dialog::kTemplate,
     {
         {"folder", "text", "the folder to begin with; the current one by itself", nullptr},

@@ -17,6 +17,7 @@ const Register kRegistered({
     "CKvGuiDMSDlg",
     "Map building",
     "DMS Dialog",
+    "Maximum and minimum angle",
     kv::dms_dlg::kTemplate,
     {
         {"max", "text", "the maximum in decimal degrees; empty for none", "28.504236"},

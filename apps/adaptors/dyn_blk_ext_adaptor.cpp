@@ -18,6 +18,7 @@ const Register kRegistered({
     "CKvGuiDynBlkExtDlg",
     "Blocks",
     "Area Block/Extension Selection Dialog, on a table of the host's",
+    "Select blocks of a table",
     kv::blk_ext::kTemplate,
     Joined({{"abeTable", "text", "table with the areas and blocks to offer",
              "NORVADON.gulf_mexico_pipeline"},

@@ -33,6 +33,7 @@ const Register kRegistered({
     "CFilePickCtrl",
     "Controls",
     "File Picker",
+    "Choose a file",
     kv::file_pick::kTemplate,
     {
         {"caption", "text", "the window's caption", "Choose File"},

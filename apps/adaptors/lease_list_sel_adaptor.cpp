@@ -21,6 +21,7 @@ const Register kRegistered({
     "CKvGuiLeaseListSel",
     "Qualifiers",
     "Lease Match",
+    "Match leases",
     kv::list_sel::kLeaseTemplate,
     Joined({{"column", "text", "column with the lease number", "lease_no"},
             {"table", "text", "lease table, with the column lplana", "NORVADON.gulf_mexico_lease"}},

@@ -6,8 +6,10 @@ namespace adaptors {
 
 namespace {
 
-const Register kRegistered(CheckListAdaptor<CKvGuiLeaseStatusDlg>(
-    "CKvGuiLeaseStatusDlg", "Lease Status", kv::lease_status::kTemplate, "EXPIRED"));
+const Register kRegistered(CheckListAdaptor<CKvGuiLeaseStatusDlg>("CKvGuiLeaseStatusDlg",
+                                                                  "Lease Status", "Lease status",
+                                                                  kv::lease_status::kTemplate,
+                                                                  "EXPIRED"));
 
 }  // namespace
 

@@ -58,6 +58,7 @@ const Register kRegistered({
     "CKvGuiLesseeListSel",
     "Qualifiers",
     "Lessee Match",
+    "Match lessees",
     kv::list_sel::kLesseeTemplate,
     Joined({{"column", "text", "column with the company", "company"},
             {"table", "text", "table of lease owners", "NORVADON.gulf_mexico_lease_owner"},

@@ -32,6 +32,7 @@ const Register kRegistered({
     "CKvGuiListSel",
     "Qualifiers",
     "Multiple Selections Dialog",
+    "Match values of a column",
     kv::list_sel::kTemplate,
     Joined({{"column", "text", "column to search", "lessee"},
             {"column2", "text", "second column, searched together with the first", nullptr},

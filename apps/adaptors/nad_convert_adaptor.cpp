@@ -16,7 +16,8 @@ Json State(const CKvNadConvertDlg& dialog) {
 }
 
 const Register kRegistered(ToolAdaptor<CKvNadConvertDlg>(
-    "CKvNadConvertDlg", "Coordinate tools", "Nad27 and Nad83 Converter", kTemplate,
+    "CKvNadConvertDlg", "Coordinate tools", "Nad27 and Nad83 Converter", "NAD27 to NAD83",
+    kTemplate,
     "latitude27, longitude27, latitude83, longitude83 (the texts of the three boxes of each)",
     State));
 

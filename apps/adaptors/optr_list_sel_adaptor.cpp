@@ -23,6 +23,7 @@ const Register kRegistered({
     "CKvGuiOptrListSel",
     "Qualifiers",
     "Multiple Selections Dialog (operators)",
+    "Match operators",
     kv::list_sel::kTemplate,
     Joined({{"column", "text", "column with the operator", "operator"},
             {"keyColumn", "text", "column of the key", "areacode"},

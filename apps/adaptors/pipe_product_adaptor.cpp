@@ -7,7 +7,8 @@ namespace adaptors {
 namespace {
 
 const Register kRegistered(CheckListAdaptor<CKvGuiPipeProductDlg>(
-    "CKvGuiPipeProductDlg", "Pipeline Product Codes:", kv::pipe_product::kTemplate, "OIL"));
+    "CKvGuiPipeProductDlg", "Pipeline Product Codes:", "Pipeline products",
+    kv::pipe_product::kTemplate, "OIL"));
 
 }  // namespace
 

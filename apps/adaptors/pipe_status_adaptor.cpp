@@ -6,8 +6,9 @@ namespace adaptors {
 
 namespace {
 
-const Register kRegistered(CheckListAdaptor<CKvGuiPipeStatusDlg>(
-    "CKvGuiPipeStatusDlg", "Pipeline Status", kv::pipe_status::kTemplate, "ACT"));
+const Register kRegistered(
+    CheckListAdaptor<CKvGuiPipeStatusDlg>("CKvGuiPipeStatusDlg", "Pipeline Status",
+                                          "Pipeline status", kv::pipe_status::kTemplate, "ACT"));
 
 }  // namespace
 

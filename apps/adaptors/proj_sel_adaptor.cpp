@@ -26,6 +26,7 @@ const Register kRegistered({
     "CKvGuiProjSel",
     "Map building",
     "Projection Selection Dialog",
+    "Projection of a map",
     kv::proj_sel::kTemplate,
     {
         {"projection", "number", "the code to begin with, whose UTM zone is offered", 115},

@@ -18,6 +18,7 @@ const Register kRegistered({
     "CKvGuiProjectionDialog",
     "Map building",
     "Projection",
+    "Projection of any zone",
     kv::projection_dialog::kTemplate,
     {{"projection", "number", "the code to begin with, -1 for none", 115}},
     "projection (the code that was picked last, -1 for none), description (its text)",

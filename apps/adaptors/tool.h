@@ -69,9 +69,10 @@ private:
 /// tool's state.
 template <typename Dialog>
 Adaptor ToolAdaptor(const std::string& className, const std::string& family,
-                    const std::string& caption, int templateId, const std::string& returns,
-                    typename ToolOf<Dialog>::StateOf state) {
-    Adaptor adaptor{className, family, caption, templateId, {}, returns, {}, ToolMethods()};
+                    const std::string& caption, const std::string& purpose, int templateId,
+                    const std::string& returns, typename ToolOf<Dialog>::StateOf state) {
+    Adaptor adaptor{className, family,  caption, purpose,      templateId,
+                    {},        returns, {},      ToolMethods()};
     adaptor.makeTool = [state](CWnd* owner) {
         return std::make_unique<ToolOf<Dialog>>(owner, state);
     };

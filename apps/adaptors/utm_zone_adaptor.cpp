@@ -22,6 +22,7 @@ const Register kRegistered({
     "CKvGuiUTMZoneDlg",
     "Map building",
     "UTM Zone Code",
+    "UTM zone and spheroid",
     kv::utm_zone::kTemplate,
     {
         {"zone", "number", "the zone to begin with, 99 for Straight Mercator", 15},

@@ -12,6 +12,7 @@
 #include "frame/module.h"
 #include "map_picks/map_picks.h"
 #include "qt/qt_desktop.h"
+#include "workbench/host_style.h"
 #include "workbench/pictures.h"
 #include "workbench/workbench.h"
 
@@ -22,6 +23,7 @@ enum ExitCode { kDone = 0, kWrongUse = 2, kFailure = 3 };
 constexpr const char* kHelpFooter = R"(
 The bar at the top picks an area and a block; Run shows it on the map, or lists what is there. The
 menu Dialogs opens every dialog of the library with inputs that make sense on the sample data.
+Ctrl+K finds any command by its name, F6 goes round the bar, the map and the table.
 
 Exit codes: 0 done, 2 wrong use, 3 a failure of the database or of a file.)";
 
@@ -108,6 +110,7 @@ int main(int argc, char** argv) {
     }
     QApplication::setApplicationName(QStringLiteral("Workbench"));
     QApplication application(argc, argv);
+    QApplication::setStyle(new workbench::HostStyle);
     InitControlDll();
     kv::qt::QtDesktop desktop;
     map_picks::Install();

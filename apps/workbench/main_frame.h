@@ -7,15 +7,23 @@
 
 namespace workbench {
 
+/// The bar, which tells its host when something may have changed in it.
+class WorkbenchBar : public CVZABEBar {
+public:
+    std::function<void()> m_onIdle;
+    void OnUpdateCmdUI(CCmdTarget* target, BOOL disableIfNoHandler) override;
+};
+
 /// The main window as the library sees it: a frame with the bar docked at the top.
 class MainFrame : public CFrameWnd {
 public:
-    CVZABEBar m_bar;
+    WorkbenchBar m_bar;
     std::function<void()> m_onRun;      ///< Run was pressed in the bar
     std::function<void()> m_onClosing;  ///< the window is about to go
     std::function<void()> m_onClosed;
 
-    /// False when the bar's template is missing: the library was not started.
+    /// No larger than the screen. False when the bar's template is missing: the library was not
+    /// started.
     bool CreateWithBar();
 
     static const kv::MessageMap& Messages();

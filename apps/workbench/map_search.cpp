@@ -1,9 +1,7 @@
 #include "workbench/map_search.h"
 
-#include <cmath>
-
-#include "base/numbers.h"
 #include "base/text.h"
+#include "frame/coordinate_text.h"
 
 namespace workbench {
 
@@ -11,16 +9,16 @@ namespace {
 
 constexpr const char* kAllBlocks = "ALL";
 
-std::optional<Place> PlaceIn(const std::string& text) {
-    std::size_t end = 0;
-    const auto lat = kv::ScanNumber(text, &end);
-    if (!lat) return {};
-    std::size_t length = 0;
-    const std::string rest = text.substr(end);
-    const auto lon = kv::ScanNumber(rest, &length);
-    const bool all = lon && kv::TrimSpace(rest.substr(length)).empty();
-    if (!all || std::abs(*lat) > 90 || std::abs(*lon) > 180) return {};
-    return Place{*lat, *lon};
+std::optional<Place> PlaceIn(std::string_view text) {
+    const auto found = kv::ParseCoordinate(text);
+    if (!found || !found->latitude || !found->longitude) return {};
+    return Place{*found->latitude, *found->longitude};
+}
+
+/// The status line has more words than a person types: "GREEN CANYON, block 200".
+std::string WithoutWords(std::string text) {
+    text = kv::ReplaceAll(text, ", ALL BLOCKS", "");
+    return kv::ReplaceAll(text, ", BLOCK ", " ");
 }
 
 std::vector<std::string> AreasCalled(const MapModel& model, const std::string& name) {
@@ -33,21 +31,34 @@ std::vector<std::string> AreasCalled(const MapModel& model, const std::string& n
     return codes;
 }
 
+/// A block by its number as the map has it, or with its water behind that.
+Pick BlockCalled(const MapModel& model, const std::vector<std::string>& codes,
+                 const std::string& label) {
+    Pick pick = model.FindPick(codes, label);
+    for (const std::string& code : codes) {
+        if (!pick.Empty()) break;
+        const std::string_view water = WaterSuffix(code);
+        if (!water.empty() && label.ends_with(water))
+            pick = model.FindPick({code}, label.substr(0, label.size() - water.size()));
+    }
+    return pick;
+}
+
 }  // namespace
 
 std::optional<SearchHit> Search(const MapModel& model, std::string_view text) {
-    const std::string wanted = kv::ToUpper(kv::TrimSpace(text));
+    const std::string wanted = WithoutWords(kv::ToUpper(kv::TrimSpace(text)));
     if (wanted.empty()) return {};
     if (auto codes = AreasCalled(model, wanted); !codes.empty()) {
         return SearchHit{{}, model.FindPick(codes, kAllBlocks)};
     }
-    if (const auto place = PlaceIn(kv::ReplaceAll(wanted, ",", " "))) return SearchHit{place, {}};
-    const std::size_t gap = wanted.find_last_of(" #");
-    if (gap == std::string::npos) return {};
-    const auto codes = AreasCalled(model, kv::TrimSpace(wanted.substr(0, gap)));
-    Pick pick = model.FindPick(codes, wanted.substr(gap + 1));
-    if (pick.Empty()) return {};
-    return SearchHit{{}, std::move(pick)};
+    if (const std::size_t gap = wanted.find_last_of(" #"); gap != std::string::npos) {
+        const auto codes = AreasCalled(model, kv::TrimSpace(wanted.substr(0, gap)));
+        Pick pick = BlockCalled(model, codes, wanted.substr(gap + 1));
+        if (!pick.Empty()) return SearchHit{{}, std::move(pick)};
+    }
+    if (const auto place = PlaceIn(text)) return SearchHit{place, {}};
+    return {};
 }
 
 }  // namespace workbench

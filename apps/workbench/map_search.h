@@ -15,8 +15,9 @@ struct SearchHit {
 };
 
 /// Understands an area by its name, MMS code or area code, with a block behind it or none
-/// ("GREEN CANYON 200", "GC 200A", "43608"), and two decimal angles ("28.5 -89.125"). Nothing where
-/// the map has no such thing.
+/// ("GREEN CANYON 200", "GC 200A", "43608", "GREEN CANYON, block 200"), the block with its water or
+/// without, and a place in any notation of `kv::ParseCoordinate`. Nothing where the map has no such
+/// thing.
 std::optional<SearchHit> Search(const MapModel& model, std::string_view text);
 
 }  // namespace workbench

@@ -1,7 +1,9 @@
 #include "workbench/map_tools.h"
 
+#include <QWidget>
 #include <algorithm>
 
+#include "qt/qt_desktop.h"
 #include "window/acting/input.h"
 #include "window/desktop.h"
 #include "window/window_system.h"
@@ -39,6 +41,24 @@ void MapTools::Show(const adaptors::Adaptor& adaptor) {
         window->ShowWindow(SW_SHOW);
         kv::input::Activate(*window->m_hWnd);
     }
+    kv::WindowSystem::Get().Settle();
+}
+
+std::vector<CDialog*> MapTools::Shown() const {
+    std::vector<CDialog*> shown;
+    for (const auto& [className, tool] : tools_) {
+        CDialog* window = tool->Window();
+        if (window && window->IsWindowVisible()) shown.push_back(window);
+    }
+    return shown;
+}
+
+void MapTools::Activate(CDialog& tool) {
+    if (QWidget* widget = kv::qt::WidgetOf(*tool.m_hWnd)) {
+        widget->raise();
+        widget->activateWindow();
+    }
+    kv::input::Activate(*tool.m_hWnd);
     kv::WindowSystem::Get().Settle();
 }
 

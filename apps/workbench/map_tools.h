@@ -3,6 +3,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "adaptors/tool.h"
 #include "workbench/map/geometry.h"
@@ -20,6 +21,11 @@ public:
     void Show(const adaptors::Adaptor& adaptor);
     /// Hands a place of the map to each tool that is shown.
     void SetPosition(const Place& place);
+
+    /// Those that are shown, in the order of their names.
+    std::vector<CDialog*> Shown() const;
+    /// Brings a tool to the front, with the keyboard.
+    static void Activate(CDialog& tool);
 
     /// Null for one that was never asked for.
     adaptors::Tool* Find(const std::string& className) const;

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "adaptors/adaptor.h"
-#include "workbench/report_layers.h"
+#include "workbench/results/report_layers.h"
 
 namespace workbench {
 

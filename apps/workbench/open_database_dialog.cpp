@@ -35,7 +35,6 @@ OpenDatabaseDialog::OpenDatabaseDialog(const CKvDbInfo& current, QWidget* parent
     place->addWidget(browse);
 
     auto* hint = new QLabel(tr("sqlite:PATH, postgresql://HOST/DATABASE, odbc:DSN"), this);
-    hint->setEnabled(false);
 
     auto* form = new QFormLayout;
     auto* label = new QLabel(tr("&Server:"), this);

@@ -28,13 +28,6 @@ int AreaTypeOf(const std::string& field) {
     return field == kv::catalogue::kColumnAreaCode ? 1 : 2;
 }
 
-std::string_view SuffixIn(const AreaMap& area) {
-    const std::string_view water = std::string_view(area.code).substr(0, 3);
-    if (water == "426") return "-S";
-    if (water == "427") return "-L";
-    return water >= "420" && water <= "429" ? "-BAY" : "";
-}
-
 }  // namespace
 
 std::optional<SelectedBlocks> SelectedBlocksOf(const adaptors::Adaptor& adaptor,
@@ -64,7 +57,7 @@ std::vector<BlockRef> OnTheMap(const MapModel& model, const SelectedBlocks& sele
         for (std::size_t block = 0; block < area->blocks.Size(); ++block) {
             const std::string label(area->blocks.Label(block));
             if (places.contains({name, ""}) || places.contains({name, label}) ||
-                places.contains({name, label + std::string(SuffixIn(*area))})) {
+                places.contains({name, label + std::string(WaterSuffix(area->code))})) {
                 blocks.push_back({area.get(), block});
             }
         }

@@ -95,4 +95,12 @@ void StatusLine::Say(const QString& text) {
     bar_.showMessage(text, kMessageTime);
 }
 
+void StatusLine::Clear() {
+    bar_.clearMessage();
+}
+
+QString StatusLine::Said() const {
+    return bar_.currentMessage();
+}
+
 }  // namespace workbench

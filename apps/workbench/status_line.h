@@ -32,6 +32,10 @@ public:
     void ShowProgress(const QString& title, int done, int total);
     void HideProgress();
     void Say(const QString& text);
+    /// What was said is of no use any more.
+    void Clear();
+    /// What is being said.
+    QString Said() const;
 
 signals:
     void CancelPressed();

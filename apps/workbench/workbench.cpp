@@ -2,15 +2,20 @@
 
 #include <QApplication>
 #include <QDockWidget>
+#include <QScreen>
 #include <QStatusBar>
 #include <QTimer>
+#include <algorithm>
 
 #include "base/text.h"
+#include "frame/kvcom/misc.h"
 #include "frame/kvcom/profile.h"
 #include "qt/qt_desktop.h"
 #include "window/window_system.h"
 #include "workbench/dataset.h"
+#include "workbench/map_search.h"
 #include "workbench/match.h"
+#include "workbench/sample_maker.h"
 
 namespace workbench {
 
@@ -68,10 +73,6 @@ QString Described(const Pick& pick) {
     return QStringLiteral("%1, all blocks").arg(names.join(QStringLiteral(", ")));
 }
 
-QString Counted(const ResultTable& table) {
-    return QStringLiteral("%1: %L2").arg(QString::fromStdString(table.title)).arg(table.RowCount());
-}
-
 }  // namespace
 
 Workbench::Workbench(CKvDbInfo database) : database_(std::move(database)) {
@@ -80,13 +81,18 @@ Workbench::Workbench(CKvDbInfo database) : database_(std::move(database)) {
     window_ = kv::qt::MainWindowOf(*frame_.m_hWnd);
     MakePanes();
     status_ = new StatusLine(*window_->statusBar());
+    commands_ = new Commands(*window_, *status_);
     MakeMenus();
+    new FocusRound([this] { return FocusParts(); }, window_);
     ConnectAll();
     Restore();
+    ShowTitle();
+    commands_->Refresh();
 }
 
 Workbench::~Workbench() {
     frame_.m_onClosed = nullptr;
+    frame_.m_bar.m_onIdle = nullptr;
     frame_.DestroyWindow();
 }
 
@@ -114,6 +120,9 @@ QDockWidget* Workbench::MakePane(const QString& title, const char* name, QWidget
 
 void Workbench::ConnectAll() {
     frame_.m_onRun = [this] { OnRun(); };
+    frame_.m_bar.m_onIdle = [this] {
+        if (results_) results_->SetCurrent(PickOfBar() == reported_);
+    };
     frame_.m_onClosing = [this] { Save(); };
     frame_.m_onClosed = [] { QCoreApplication::quit(); };
 
@@ -124,6 +133,12 @@ void Workbench::ConnectAll() {
     connect(canvas_, &MapCanvas::BlockClicked, this, [this](const BlockRef& block) {
         canvas_->MarkPick({{}, block});
         PickInBar(block);
+        // The bar has led the keys to its next box.
+        canvas_->setFocus(Qt::MouseFocusReason);
+    });
+    connect(canvas_, &MapCanvas::PickChanged, this, [this] {
+        ShowTitle();
+        commands_->Refresh();
     });
     connect(canvas_, &MapCanvas::PlaceClicked, this,
             [this](const Place& place) { tools_.SetPosition(place); });
@@ -131,6 +146,8 @@ void Workbench::ConnectAll() {
             [this](const QString& area, const QString& block) {
                 ShowOnMap({area.toStdString()}, block.toStdString());
             });
+    connect(results_, &ResultsPane::RowChosen, this, &Workbench::ShowChosenRow);
+    connect(results_, &ResultsPane::Changed, commands_, &Commands::Refresh);
     connect(&runner_, &WorkRunner::Progress, status_, &StatusLine::ShowProgress);
     connect(&runner_, &WorkRunner::Idle, status_, &StatusLine::HideProgress);
     connect(&runner_, &WorkRunner::Failed, this, &Workbench::Fail);
@@ -140,6 +157,13 @@ void Workbench::ConnectAll() {
 void Workbench::Restore() {
     window_->restoreGeometry(Remembered(kGeometry));
     window_->restoreState(Remembered(kState), kStateVersion);
+    // The screen may be another one than that time.
+    const QRect screen = window_->screen()->availableGeometry();
+    QRect place = window_->geometry();
+    place.setSize(place.size().boundedTo(screen.size()));
+    place.moveRight(std::min(place.right(), screen.right()));
+    place.moveBottom(std::min(place.bottom(), screen.bottom()));
+    window_->setGeometry(place);
 }
 
 void Workbench::Save() {
@@ -151,7 +175,11 @@ void Workbench::Save() {
 void Workbench::Show() {
     new FirstPaint(*canvas_, [this] {
         emit FirstPainted();
-        LoadMap();
+        if (const auto missing = MissingSample(database_)) {
+            OfferSample(*missing);
+        } else {
+            LoadMap();
+        }
     });
     frame_.ShowWindow(SW_SHOW);
     canvas_->setFocus();
@@ -162,9 +190,27 @@ void Workbench::LoadMap() {
     canvas_->ModelGoes();
     model_.Clear();
     loader_ = std::make_shared<MapLoader>(model_, [this] {
-        if (canvas_) canvas_->ModelChanged();
+        if (!canvas_) return;
+        canvas_->ModelChanged();
+        if (model_.Areas().size() == 1) commands_->Refresh();
     });
     runner_.Begin(loader_);
+    commands_->Refresh();
+}
+
+/// Whoever has not yet made the sample database is told how, and may do so here.
+void Workbench::OfferSample(const QString& path) {
+    if (failure_) {
+        failure_(tr("There is no sample database %1.").arg(path));
+        return;
+    }
+    if (!AskForSample(path, window_)) return;
+    QString failure;
+    if (MakeSample(SampleProgram(), path, window_, failure)) {
+        LoadMap();
+    } else if (!failure.isEmpty()) {
+        Fail(failure);
+    }
 }
 
 bool Workbench::UseDatabase(const CKvDbInfo& info, QString& failure) {
@@ -178,10 +224,12 @@ bool Workbench::UseDatabase(const CKvDbInfo& info, QString& failure) {
         return false;
     }
     database_ = wanted;
+    ShowTitle();
     frame_.m_bar.GetAreaCombo()->SetWindowText("");
     frame_.m_bar.SetBlkExt("");
     frame_.m_bar.GetAreaCombo()->V_InitializeCombo();
     results_->SetTable({});
+    selected_.reset();
     LoadMap();
     return true;
 }
@@ -195,6 +243,7 @@ void Workbench::Fail(const QString& message) {
 }
 
 void Workbench::OnRun() {
+    status_->Clear();
     if (frame_.m_bar.IsMapSelected()) {
         RunMap();
     } else {
@@ -246,34 +295,113 @@ void Workbench::RunReport() {
         Fail(UnknownArea());
         return;
     }
-    runner_.Begin(std::make_shared<ReportLoader>(
-        *layer, std::move(conditions), [this](ResultTable table) { ShowTable(std::move(table)); }));
+    const BarPick asked = PickOfBar();
+    std::string words;
+    try {
+        words = WordsOfPick();
+    } catch (const CKvException& e) {
+        Fail(QString::fromStdString(e.GetErrorMessage(true, true)));
+        return;
+    }
+    runner_.Begin(std::make_shared<ReportLoader>(*layer, std::string(layer->title) + " in " + words,
+                                                 std::move(conditions),
+                                                 [this, asked](ResultTable table) {
+                                                     reported_ = asked;
+                                                     ShowTable(std::move(table));
+                                                 }));
+    if (follows_) RunMap();
+}
+
+Workbench::BarPick Workbench::PickOfBar() const {
+    return {frame_.m_bar.GetArea(), frame_.m_bar.GetBlk(false)};
+}
+
+/// The area by its name, where the bar's text means one alone, and the block if it is one.
+std::string Workbench::WordsOfPick() const {
+    std::string words = frame_.m_bar.GetArea();
+    const std::vector<std::string> areas = AreaLiterals(frame_.m_bar.GetAreacode(true));
+    if (areas.size() == 1) {
+        const Rows names(std::string("select ") + kv::catalogue::kColumnAreaName + " from " +
+                         TableName(kv::catalogue::kAreaTable) + " where " +
+                         kv::catalogue::kColumnAreaCode + " = " + areas.front());
+        if (names.Count() > 0) words = names.Cell(0, 0);
+    }
+    const std::string block = frame_.m_bar.GetBlk(true);
+    return block == kv::catalogue::kAllBlocks ? words : words + " " + block;
+}
+
+/// The database, and what of the map is picked.
+void Workbench::ShowTitle() {
+    std::string user, password, server;
+    CKvMisc::GetParsedConnectString(user, password, server, false);
+    server = server.substr(0, server.find('?'));
+    QStringList parts;
+    if (!canvas_->GetPick().Empty()) parts << Described(canvas_->GetPick());
+    parts << Text(std::string_view(server).substr(server.rfind('/') + 1)) << tr("Workbench");
+    frame_.SetWindowText(parts.join(QStringLiteral(" - ")).toUtf8().constData());
+}
+
+void Workbench::SetMapFollows(bool follows) {
+    follows_ = follows;
+    if (follows_) ShowChosenRow(results_->ChosenRow());
+}
+
+/// Marks on the map what a row of the table tells of.
+void Workbench::ShowChosenRow(int row) {
+    if (row < 0) {
+        canvas_->MarkRow({}, {});
+        return;
+    }
+    const ResultTable::Key& key = results_->Model().Table().keys[static_cast<std::size_t>(row)];
+    canvas_->MarkRow(model_.FindPick({key.areaCode}, key.block).block, key.place);
+    if (follows_) canvas_->BringRowUp();
 }
 
 void Workbench::ShowTable(ResultTable table) {
     if (!results_) return;
-    status_->Say(Counted(table));
+    status_->Say(Text(table.Heading(table.RowCount())));
     results_->SetTable(std::move(table));
     resultsDock_->show();
     resultsDock_->raise();
 }
 
-void Workbench::PickInBar(const BlockRef& block) {
+void Workbench::PickInBar(const AreaMap& area, std::string_view block) {
     CVZABEBar& bar = frame_.m_bar;
-    const bool named = bar.GetAreaMode() != kv::catalogue::kMmsCode || !block.area->mmsCode.empty();
+    const bool named = bar.GetAreaMode() != kv::catalogue::kMmsCode || !area.mmsCode.empty();
     if (!named || !bar.GetEnableABE()) return;
     try {
-        // The block box shows the water behind the number.
-        const Rows label(kv::catalogue::BlockLabelExpression() + "lbnum||lbext) from " +
-                         TableName(kv::catalogue::kBlockTable) +
-                         " where areacode = " + Quoted(block.area->code) +
-                         " and lbnum||lbext = " + Quoted(std::string(block.Label())));
-        bar.SetArea(block.area->code);
-        bar.SetBlkExt(label.Cell(0, 0));
+        std::string label(block);
+        if (block != kv::catalogue::kAllBlocks) {
+            // The block box shows the water behind the number.
+            const Rows rows(kv::catalogue::BlockLabelExpression() + "lbnum||lbext) from " +
+                            TableName(kv::catalogue::kBlockTable) + " where areacode = " +
+                            Quoted(area.code) + " and lbnum||lbext = " + Quoted(label));
+            label = rows.Cell(0, 0);
+        }
+        bar.SetArea(area.code);
+        bar.SetBlkExt(label);
     } catch (const CKvException& e) {
         Fail(QString::fromStdString(e.GetErrorMessage(true, true)));
     }
     kv::WindowSystem::Get().Settle();
+}
+
+bool Workbench::GoTo(const QString& text) {
+    const auto hit = Search(model_, text.toStdString());
+    if (!hit) return false;
+    if (hit->place) {
+        canvas_->ShowPlace(*hit->place);
+        if (const auto block = model_.BlockAt(ToMap(*hit->place))) PickInBar(*block);
+    } else {
+        canvas_->ShowPick(hit->pick);
+        if (hit->pick.block) {
+            PickInBar(*hit->pick.block);
+        } else {
+            PickInBar(*hit->pick.areas.front(), kv::catalogue::kAllBlocks);
+        }
+    }
+    canvas_->setFocus(Qt::ShortcutFocusReason);
+    return true;
 }
 
 void Workbench::OpenDialog(const adaptors::Adaptor& adaptor) {
@@ -285,6 +413,7 @@ void Workbench::OpenDialog(const adaptors::Adaptor& adaptor) {
 }
 
 void Workbench::RunDialog(const adaptors::Adaptor& adaptor) {
+    status_->Clear();
     adaptors::Run run(adaptor.SampleInputs());
     try {
         adaptor.run(run);
@@ -305,13 +434,11 @@ void Workbench::ShowSelected(const adaptors::Adaptor& adaptor, const adaptors::R
     if (!selected) return;
     selected_ = std::move(selected);
     canvas_->ShowSelected(OnTheMap(model_, *selected_));
+    commands_->Refresh();
 }
 
 void Workbench::ShowNeighbors() {
-    if (!selected_) {
-        Fail(tr("No blocks were selected yet: a block dialog among the dialogs does that."));
-        return;
-    }
+    if (!selected_) return;
     canvas_->ShowNeighbors(OnTheMap(model_, NeighborsOf(*selected_)));
 }
 
@@ -321,11 +448,13 @@ void Workbench::ShowMatch(const adaptors::Adaptor& adaptor, const adaptors::Run&
         if (!match) return;
         outcome_->AddNote(tr("Matching rows: %1 where %2")
                               .arg(Text(match->layer->title), Text(match->condition)));
-        runner_.Begin(std::make_shared<ReportLoader>(*match->layer, std::vector{match->condition},
-                                                     [this](ResultTable table) {
-                                                         table.title = "Matching " + table.title;
-                                                         ShowTable(std::move(table));
-                                                     }));
+        const std::string what = "Matching " + std::string(match->layer->title);
+        runner_.Begin(std::make_shared<ReportLoader>(
+            *match->layer, what, std::vector{match->condition}, [this](ResultTable table) {
+                table.title = table.what;
+                reported_ = PickOfBar();
+                ShowTable(std::move(table));
+            }));
     } catch (const std::exception& e) {
         Fail(QString::fromUtf8(e.what()));
     }

@@ -9,13 +9,15 @@
 
 #include "adaptors/adaptor.h"
 #include "frame/kvdbkvn/db_info.h"
+#include "workbench/commands.h"
+#include "workbench/focus_round.h"
 #include "workbench/main_frame.h"
 #include "workbench/map/map_canvas.h"
 #include "workbench/map_loader.h"
 #include "workbench/map_tools.h"
 #include "workbench/outcome_pane.h"
-#include "workbench/report_layers.h"
-#include "workbench/results_pane.h"
+#include "workbench/results/report_layers.h"
+#include "workbench/results/results_pane.h"
 #include "workbench/selected_blocks.h"
 #include "workbench/status_line.h"
 #include "workbench/work_runner.h"
@@ -49,13 +51,20 @@ public:
     /// clicked.
     void OpenDialog(const adaptors::Adaptor& adaptor);
 
-    /// Marks on the map the blocks that touch those of the last selection of a block dialog.
+    /// Marks on the map the blocks that touch those of the last selection of a block dialog, if
+    /// there was one.
     void ShowNeighbors();
+    /// Shows what a person typed, an area, a block or a place, on the map and in the bar. False
+    /// when the map has no such thing.
+    bool GoTo(const QString& text);
+    /// Whether the map moves to what is reported, and to the row that is chosen.
+    void SetMapFollows(bool follows);
 
     /// Shows an area's block, or all of its blocks, on the map.
     void ShowOnMap(const std::vector<std::string>& areaCodes, const std::string& block);
-    /// Puts a block into the bar's boxes.
-    void PickInBar(const BlockRef& block);
+    /// Puts an area and a block, or all of its blocks, into the bar's boxes.
+    void PickInBar(const AreaMap& area, std::string_view block);
+    void PickInBar(const BlockRef& block) { PickInBar(*block.area, block.Label()); }
 
     /// What is told of failures: a message box, unless this is set.
     void SetFailureShown(std::function<void(const QString&)> shown) { failure_ = std::move(shown); }
@@ -69,11 +78,19 @@ public:
     OutcomePane& Outcome() { return *outcome_; }
     MapTools& Tools() { return tools_; }
     WorkRunner& Runner() { return runner_; }
+    StatusLine& Status() { return *status_; }
 
 signals:
     void FirstPainted();
 
 private:
+    /// What the boxes of the bar say.
+    struct BarPick {
+        std::string area;
+        std::string block;
+        bool operator==(const BarPick&) const = default;
+    };
+
     void MakePanes();
     QDockWidget* MakePane(const QString& title, const char* name, QWidget* widget);
     void ConnectAll();
@@ -86,12 +103,21 @@ private:
     void MakeViewMenu();
     void MakeLayersMenu(QMenu& view);
     void MakeDialogsMenu();
+    void MakeDialogRow(QMenu& menu, const adaptors::Adaptor& adaptor, QString& taken);
     void MakeHelpMenu();
+    std::vector<FocusPart> FocusParts();
+    FocusPart PanePart(QDockWidget& pane, std::function<void()> enter);
+    void BringUpMain();
 
     void OnRun();
     void RunMap();
     void RunReport();
     QString UnknownArea() const;
+    BarPick PickOfBar() const;
+    std::string WordsOfPick() const;
+    void ShowTitle();
+    void ShowChosenRow(int row);
+    void OfferSample(const QString& path);
     void ShowTable(ResultTable table);
     void ShowMatch(const adaptors::Adaptor& adaptor, const adaptors::Run& run);
     void ShowSelected(const adaptors::Adaptor& adaptor, const adaptors::Run& run);
@@ -100,8 +126,14 @@ private:
     void OpenDatabase();
     void SaveResults();
     void ZoomTo();
-    void ZoomToPick();
+    void FindCommand();
     void ExplainKeys();
+    // Why a command would do nothing now; empty where it acts.
+    QString NoMap() const;
+    QString NoPick() const;
+    QString NoSelectedBlocks() const;
+    QString NoRows() const;
+    QString NoSelectedRows() const;
 
     CWinApp app_;
     MainFrame frame_;
@@ -112,6 +144,8 @@ private:
     std::shared_ptr<MapLoader> loader_;
     std::optional<SelectedBlocks> selected_;
     std::function<void(const QString&)> failure_;
+    BarPick reported_;
+    bool follows_ = false;
 
     // Of the main window, and gone with it.
     QPointer<QMainWindow> window_;
@@ -121,6 +155,7 @@ private:
     QPointer<QDockWidget> resultsDock_;
     QPointer<QDockWidget> outcomeDock_;
     QPointer<StatusLine> status_;
+    QPointer<Commands> commands_;
 };
 
 }  // namespace workbench

@@ -1,4 +1,5 @@
 #include <QAction>
+#include <QApplication>
 #include <QCoreApplication>
 #include <QDockWidget>
 #include <QFileDialog>
@@ -7,8 +8,13 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QToolBar>
+#include <utility>
 
-#include "workbench/map_search.h"
+#include "pickers/abe_bar_ids.h"
+#include "qt/qt_desktop.h"
+#include "window/acting/input.h"
+#include "window/window_system.h"
+#include "workbench/command_palette.h"
 #include "workbench/open_database_dialog.h"
 #include "workbench/workbench.h"
 
@@ -28,6 +34,23 @@ constexpr LayerEntry kLayerEntries[] = {
     {"&Graticule", &MapLayers::graticule}, {"&Legend", &MapLayers::legend},
 };
 
+/// Puts the mark of a mnemonic ahead of the first letter, of words first, that is not among
+/// `taken`, and takes it.
+QString WithMnemonic(const QString& text, QString& taken) {
+    const auto isFree = [&](qsizetype at) {
+        return text[at].isLetter() && !taken.contains(text[at], Qt::CaseInsensitive);
+    };
+    for (const bool anywhere : {false, true}) {
+        for (qsizetype at = 0; at < text.size(); ++at) {
+            const bool begins = at == 0 || text[at - 1].isSpace();
+            if ((!begins && !anywhere) || !isFree(at)) continue;
+            taken += text[at];
+            return QString(text).insert(at, u'&');
+        }
+    }
+    return text;
+}
+
 /// Where the user wants to begin looking for files: where the last one was.
 QString& LastFolder() {
     static QString folder;
@@ -45,55 +68,94 @@ void Workbench::MakeMenus() {
 }
 
 void Workbench::MakeFileMenu() {
-    QMenu* menu = window_->menuBar()->addMenu(tr("&File"));
-    menu->addAction(tr("&Open database..."), QKeySequence::Open, this, &Workbench::OpenDatabase);
-    menu->addAction(tr("&Read map again"), QKeySequence(Qt::Key_F5), this, &Workbench::LoadMap);
-    menu->addSeparator();
-    menu->addAction(tr("&Save results as CSV..."), QKeySequence::Save, this,
-                    &Workbench::SaveResults);
-    menu->addSeparator();
-    menu->addAction(tr("E&xit"), QKeySequence(Qt::CTRL | Qt::Key_Q), window_.data(),
-                    &QWidget::close);
+    QMenu& menu = *window_->menuBar()->addMenu(tr("&File"));
+    commands_->Add(menu, tr("&Open database..."), QKeySequence::Open, [this] { OpenDatabase(); });
+    commands_->Add(menu, tr("&Read map again"), Qt::CTRL | Qt::Key_R, [this] { LoadMap(); });
+    menu.addSeparator();
+    commands_->Add(
+        menu, tr("&Save results as CSV..."), QKeySequence::Save, [this] { SaveResults(); },
+        [this] { return NoRows(); });
+    menu.addSeparator();
+    commands_->Add(menu, tr("E&xit"), Qt::CTRL | Qt::Key_Q, [this] { window_->close(); });
 }
 
 void Workbench::MakeEditMenu() {
-    QMenu* menu = window_->menuBar()->addMenu(tr("&Edit"));
+    QMenu& menu = *window_->menuBar()->addMenu(tr("&Edit"));
     // Ctrl+C and Ctrl+A belong to whatever has the focus.
-    menu->addAction(tr("&Copy rows"), results_.data(), &ResultsPane::Copy);
-    menu->addAction(tr("Select &all rows"), results_.data(), &ResultsPane::SelectAll);
-    menu->addSeparator();
-    menu->addAction(tr("&Find in results"), QKeySequence::Find, this, [this] {
-        resultsDock_->show();
-        resultsDock_->raise();
-        results_->Find();
-    });
+    commands_->Add(
+        menu, tr("&Copy rows"), {}, [this] { results_->Copy(); },
+        [this] { return NoSelectedRows(); });
+    commands_->Add(
+        menu, tr("Select &all rows"), {}, [this] { results_->SelectAll(); },
+        [this] { return NoRows(); });
+    menu.addSeparator();
+    commands_->Add(
+        menu, tr("&Find in results"), QKeySequence::Find,
+        [this] {
+            resultsDock_->show();
+            resultsDock_->raise();
+            results_->Find();
+        },
+        [this] { return NoRows(); });
 }
 
 void Workbench::MakeViewMenu() {
-    QMenu* menu = window_->menuBar()->addMenu(tr("&View"));
-    menu->addAction(tr("Zoom &in"), QKeySequence::ZoomIn, this, [this] { canvas_->ZoomBy(kZoom); });
-    menu->addAction(tr("Zoom &out"), QKeySequence::ZoomOut, this,
-                    [this] { canvas_->ZoomBy(1 / kZoom); });
-    menu->addAction(tr("Zoom to &all"), QKeySequence(Qt::CTRL | Qt::Key_0), canvas_.data(),
-                    &MapCanvas::ShowAll);
-    menu->addAction(tr("Zoom to &pick"), QKeySequence(Qt::CTRL | Qt::Key_1), this,
-                    &Workbench::ZoomToPick);
-    menu->addAction(tr("&Zoom to..."), QKeySequence(Qt::CTRL | Qt::Key_G), this,
-                    &Workbench::ZoomTo);
-    menu->addAction(tr("Show &neighbors of the selected blocks"),
-                    QKeySequence(Qt::CTRL | Qt::Key_N), this, &Workbench::ShowNeighbors);
-    menu->addSeparator();
-    MakeLayersMenu(*menu);
-    menu->addSeparator();
+    QMenu& menu = *window_->menuBar()->addMenu(tr("&View"));
+    const auto noMap = [this] { return NoMap(); };
+    commands_->Add(
+        menu, tr("Zoom &in"), QKeySequence::ZoomIn, [this] { canvas_->ZoomBy(kZoom); }, noMap);
+    commands_->Add(
+        menu, tr("Zoom &out"), QKeySequence::ZoomOut, [this] { canvas_->ZoomBy(1 / kZoom); },
+        noMap);
+    commands_->Add(
+        menu, tr("Zoom to &all"), Qt::CTRL | Qt::Key_0, [this] { canvas_->ShowAll(); }, noMap);
+    commands_->Add(
+        menu, tr("Zoom to &pick"), Qt::CTRL | Qt::Key_1,
+        [this] { canvas_->ShowPick(canvas_->GetPick()); }, [this] { return NoPick(); });
+    commands_->Add(
+        menu, tr("&Zoom to..."), Qt::CTRL | Qt::Key_G, [this] { ZoomTo(); }, noMap);
+    commands_->Add(
+        menu, tr("Show &neighbors of the selected blocks"), Qt::CTRL | Qt::Key_N,
+        [this] { ShowNeighbors(); }, [this] { return NoSelectedBlocks(); });
+    QAction* follows = menu.addAction(tr("Map &follows the results"));
+    follows->setCheckable(true);
+    connect(follows, &QAction::toggled, this, &Workbench::SetMapFollows);
+    menu.addSeparator();
+    MakeLayersMenu(menu);
+    menu.addSeparator();
     for (QToolBar* bar : window_->findChildren<QToolBar*>(QString(), Qt::FindDirectChildrenOnly)) {
         QAction* shown = bar->toggleViewAction();
         shown->setText(tr("Area and &block bar"));
-        menu->addAction(shown);
+        menu.addAction(shown);
     }
     resultsDock_->toggleViewAction()->setText(tr("&Results"));
     outcomeDock_->toggleViewAction()->setText(tr("&Dialog outcome"));
-    menu->addAction(resultsDock_->toggleViewAction());
-    menu->addAction(outcomeDock_->toggleViewAction());
+    menu.addAction(resultsDock_->toggleViewAction());
+    menu.addAction(outcomeDock_->toggleViewAction());
+}
+
+QString Workbench::NoMap() const {
+    return model_.Areas().empty() ? tr("The map is empty.") : QString();
+}
+
+QString Workbench::NoPick() const {
+    return canvas_->GetPick().Empty() ? tr("Nothing is picked on the map yet: Run with Map, or a "
+                                           "click on a block, does so.")
+                                      : QString();
+}
+
+QString Workbench::NoSelectedBlocks() const {
+    return selected_
+               ? QString()
+               : tr("No blocks were selected yet: a block dialog among the dialogs does that.");
+}
+
+QString Workbench::NoRows() const {
+    return results_->Model().Table().RowCount() == 0 ? tr("There are no results.") : QString();
+}
+
+QString Workbench::NoSelectedRows() const {
+    return results_->HasSelection() ? QString() : tr("No row of the results is selected.");
 }
 
 void Workbench::MakeLayersMenu(QMenu& view) {
@@ -112,42 +174,126 @@ void Workbench::MakeLayersMenu(QMenu& view) {
 
 void Workbench::MakeDialogsMenu() {
     QMenu* menu = window_->menuBar()->addMenu(tr("&Dialogs"));
-    menu->setToolTipsVisible(true);
+    commands_->Add(*menu, tr("&Find a command..."), Qt::CTRL | Qt::Key_K,
+                   [this] { FindCommand(); });
+    menu->addSeparator();
     std::string family;
     QMenu* submenu = nullptr;
+    QString families = QStringLiteral("f");
+    QString taken;
     for (const adaptors::Adaptor* adaptor : adaptors::All()) {
         if (!submenu || adaptor->family != family) {
             family = adaptor->family;
-            submenu = menu->addMenu(QString::fromStdString(family));
+            submenu = menu->addMenu(WithMnemonic(QString::fromStdString(family), families));
             submenu->setToolTipsVisible(true);
+            taken.clear();
         }
-        const QString name = QString::fromStdString(adaptor->className);
-        const QString caption = QString::fromStdString(adaptor->caption);
-        QAction* action = submenu->addAction(caption.isEmpty() ? name : caption, this,
-                                             [this, adaptor] { OpenDialog(*adaptor); });
-        action->setObjectName(name);
-        action->setStatusTip(name);
-        action->setToolTip(name);
+        MakeDialogRow(*submenu, *adaptor, taken);
+    }
+}
+
+void Workbench::MakeDialogRow(QMenu& menu, const adaptors::Adaptor& adaptor, QString& taken) {
+    const QString name = QString::fromStdString(adaptor.className);
+    const QString purpose = WithMnemonic(QString::fromStdString(adaptor.purpose), taken);
+    QAction* action = commands_->Add(menu, purpose + QStringLiteral("..."), {},
+                                     [this, &adaptor] { OpenDialog(adaptor); });
+    action->setObjectName(name);
+    action->setStatusTip(name);
+    action->setToolTip(name);
+}
+
+void Workbench::FindCommand() {
+    CommandPalette palette(*window_->menuBar(), window_);
+    if (palette.exec() != QDialog::Accepted) return;
+    QAction* chosen = palette.Chosen();
+    if (chosen->isEnabled()) {
+        chosen->trigger();
+    } else {
+        status_->Say(chosen->statusTip());
     }
 }
 
 void Workbench::MakeHelpMenu() {
-    QMenu* menu = window_->menuBar()->addMenu(tr("&Help"));
-    menu->addAction(tr("&Mouse and keys..."), QKeySequence::HelpContents, this,
-                    &Workbench::ExplainKeys);
+    QMenu& menu = *window_->menuBar()->addMenu(tr("&Help"));
+    commands_->Add(menu, tr("&Mouse and keys..."), QKeySequence::HelpContents,
+                   [this] { ExplainKeys(); });
+}
+
+// F6 goes round these.
+
+void Workbench::BringUpMain() {
+    window_->raise();
+    window_->activateWindow();
+}
+
+FocusPart Workbench::PanePart(QDockWidget& pane, std::function<void()> enter) {
+    return {[&pane] {
+                const QWidget* focus = QApplication::focusWidget();
+                return focus && pane.isAncestorOf(focus);
+            },
+            [this, enter = std::move(enter)] {
+                BringUpMain();
+                enter();
+            }};
+}
+
+std::vector<FocusPart> Workbench::FocusParts() {
+    std::vector<FocusPart> parts;
+    CVZABEBar& bar = frame_.m_bar;
+    if (bar.IsVisible() && bar.GetEnableABE()) {
+        parts.push_back({[&bar] {
+                             const kv::Node* focus = kv::WindowSystem::Get().Focus();
+                             return focus && focus->IsSelfOrDescendantOf(*bar.m_hWnd);
+                         },
+                         [this, &bar] {
+                             BringUpMain();
+                             kv::input::MoveFocus(*bar.GetDlgItem(kv::abe_bar::kArea)->m_hWnd);
+                             kv::WindowSystem::Get().Settle();
+                         }});
+    }
+    parts.push_back({[this] { return canvas_->hasFocus(); },
+                     [this] {
+                         BringUpMain();
+                         canvas_->setFocus(Qt::TabFocusReason);
+                     }});
+    if (!results_->visibleRegion().isEmpty())
+        parts.push_back(PanePart(*resultsDock_, [this] { results_->View().Enter(); }));
+    if (!outcome_->visibleRegion().isEmpty())
+        parts.push_back(
+            PanePart(*outcomeDock_, [this] { outcome_->setFocus(Qt::TabFocusReason); }));
+    for (CDialog* tool : tools_.Shown()) {
+        parts.push_back({[tool] {
+                             const QWidget* window = kv::qt::WidgetOf(*tool->m_hWnd);
+                             return window && window->isActiveWindow();
+                         },
+                         [tool] { MapTools::Activate(*tool); }});
+    }
+    return parts;
 }
 
 void Workbench::ExplainKeys() {
     const std::pair<QString, QString> rows[] = {
+        {tr("Type in the area box"),
+         tr("pick an area by its name or its code; a blank ahead, or the "
+            "first row of the list, changes which")},
+        {tr("Tab, then type"), tr("pick a block of it, or ALL")},
+        {tr("Run, F5, Enter in the block box"),
+         tr("show the pick on the map, or with Report list what is there")},
+        {tr("F6, Shift+F6"), tr("go round the bar, the map, the results and open tools")},
+        {tr("Ctrl+K"), tr("find any command or dialog by its name")},
         {tr("Drag, arrow keys"), tr("move the map")},
         {tr("Wheel, +, -"), tr("zoom in and out")},
         {tr("Double click"), tr("zoom in; with Shift, out")},
         {tr("Home"), tr("show all of the map")},
+        {tr("L, click on its heading"), tr("fold the legend")},
         {tr("Click on a block"), tr("pick it in the bar")},
         {tr("Click with a converter open"), tr("hand the place to the converter")},
-        {tr("Ctrl+G"), tr("go to an area, a block or a place")},
+        {tr("Ctrl+G"), tr("go to an area, a block or a place, in the bar as well")},
         {tr("Click on a heading"), tr("sort the results")},
+        {tr("Click, arrow keys on a row"), tr("mark it on the map")},
         {tr("Enter, double click on a row"), tr("show its block on the map")},
+        {tr("Shift+arrow keys, Ctrl+A"), tr("select rows")},
+        {tr("Ctrl+C"), tr("copy the selected rows with their headings")},
         {tr("Ctrl+F"), tr("find in the results")},
     };
     QString text = QStringLiteral("<table cellspacing=4>");
@@ -171,10 +317,6 @@ void Workbench::OpenDatabase() {
 }
 
 void Workbench::SaveResults() {
-    if (results_->Model().columnCount() == 0) {
-        status_->Say(tr("There are no results to save."));
-        return;
-    }
     const QString name = QString::fromStdString(results_->Model().Table().title) + ".csv";
     QFileDialog dialog(window_, tr("Save Results"), LastFolder(),
                        tr("Comma-separated values (*.csv);;All files (*)"));
@@ -192,26 +334,19 @@ void Workbench::SaveResults() {
     }
 }
 
+/// Asks again where nothing was found; what was typed stands there still.
 void Workbench::ZoomTo() {
-    bool given = false;
-    const QString text =
-        QInputDialog::getText(window_, tr("Zoom To"),
-                              tr("Area, area and block, or latitude and longitude\n"
-                                 "(GREEN CANYON, GC 200, 28.5 -89.125):"),
-                              QLineEdit::Normal, {}, &given);
-    if (!given) return;
-    const auto hit = Search(model_, text.toStdString());
-    if (!hit) {
-        Fail(tr("\"%1\" is not on the map.").arg(text));
-    } else if (hit->place) {
-        canvas_->ShowPlace(*hit->place);
-    } else {
-        canvas_->ShowPick(hit->pick);
+    QInputDialog dialog(window_);
+    dialog.setWindowTitle(tr("Zoom To"));
+    dialog.setLabelText(
+        tr("Area, area and block, or latitude and longitude\n"
+           "(GREEN CANYON, GC 200, 28.5 -89.125, 28\u00b030'N 89\u00b007'30\"W):"));
+    while (dialog.exec() == QDialog::Accepted) {
+        // What has not been read yet cannot be found.
+        runner_.Finish();
+        if (GoTo(dialog.textValue())) return;
+        Fail(tr("\"%1\" is not on the map.").arg(dialog.textValue()));
     }
-}
-
-void Workbench::ZoomToPick() {
-    if (!canvas_->GetPick().Empty()) canvas_->ShowPick(canvas_->GetPick());
 }
 
 }  // namespace workbench

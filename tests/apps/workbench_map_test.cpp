@@ -3,7 +3,9 @@
 #include <QImage>
 #include <QPainter>
 #include <cmath>
+#include <memory>
 #include <random>
+#include <set>
 
 #include "support/small_database.h"
 #include "workbench/map/angle_text.h"
@@ -178,6 +180,39 @@ TEST(LabelBoard, GivesAPlaceOnce) {
     EXPECT_TRUE(board.Take(55, 15, 50, 12));
 }
 
+TEST(LabelBoard, TellsWhatALabelWouldCover) {
+    LabelBoard board;
+    board.Reset(200, 100);
+    EXPECT_EQ(board.CostOf(10, 10, 30, 10), 0);
+    board.Spare(20, 12, 0, 0, LabelBoard::kSpot);
+    EXPECT_EQ(board.CostOf(10, 10, 30, 10), 1);
+    board.SpareLine(-1e7, 14, 1e7, 14, LabelBoard::kBorder);
+    EXPECT_EQ(board.CostOf(40, 10, 15, 10), 4 * LabelBoard::kBorder);
+    EXPECT_EQ(board.CostOf(40, 30, 15, 10), 0);
+    // It may be covered all the same, once.
+    EXPECT_TRUE(board.Take(10, 10, 30, 10));
+    EXPECT_EQ(board.CostOf(20, 10, 5, 5), std::nullopt);
+    EXPECT_EQ(board.CostOf(190, 10, 30, 10), std::nullopt);
+}
+
+TEST(MapView, ShowsNothingThatIsOffTheEarth) {
+    MapView view;
+    view.Resize(900, 560);
+    view.ShowAll();
+    for (int i = 0; i < 20; ++i) {
+        view.Zoom({10, 10}, 0.5);
+        view.Pan(300, -300);
+    }
+    const Box seen = view.Visible();
+    EXPECT_GE(seen.minX, -180.001);
+    EXPECT_LE(seen.maxX, 180.001);
+    EXPECT_LT(ToPlace({0, seen.maxY}).lat, 85.06);
+    EXPECT_GT(ToPlace({0, seen.minY}).lat, -85.06);
+    const ScaleBar bar = ScaleBarOf(view, {450, 550}, 140);
+    EXPECT_GT(bar.pixels, 10);
+    EXPECT_THAT(bar.label, testing::EndsWith(" km"));
+}
+
 TEST(AngleText, CarriesSecondsThatRoundUp) {
     EXPECT_EQ(DegreesMinutesSeconds({28.5042361, -89.125}), "28°30'15.25\"N 89°07'30.00\"W");
     EXPECT_EQ(DegreesMinutesSeconds({28.99999999, -89.99999999}), "29°00'00.00\"N 90°00'00.00\"W");
@@ -305,7 +340,40 @@ TEST_F(SampleMapTest, SearchUnderstandsAreasBlocksAndPlaces) {
     EXPECT_FALSE(Search(model, "ATLANTIS 1"));
     EXPECT_FALSE(Search(model, "GC 99999"));
     EXPECT_FALSE(Search(model, ""));
-    EXPECT_FALSE(Search(model, "91 0"));
+    EXPECT_FALSE(Search(model, "91 181 0"));
+}
+
+TEST_F(SampleMapTest, SearchUnderstandsEveryNotationOfAPlace) {
+    for (const char* text :
+         {"28.5 -89.125", "28.5N 89.125W", "28 30 0 N, 89 07 30 W", "28:30:00 -89:07:30",
+          "89\u00b007'30\"W 28\u00b030'N", "lat 28.5 lon -89.125", "(28.5; -89.125)"}) {
+        const auto hit = Search(model, text);
+        ASSERT_TRUE(hit && hit->place) << text;
+        EXPECT_NEAR(hit->place->lat, 28.5, 1e-9) << text;
+        EXPECT_NEAR(hit->place->lon, -89.125, 1e-9) << text;
+    }
+    EXPECT_FALSE(Search(model, "28.5"));
+}
+
+TEST_F(SampleMapTest, SearchUnderstandsWhatTheStatusLineSays) {
+    const Place place{28.504236, -89.125};
+    for (const std::string& text : {DegreesMinutesSeconds(place), DecimalDegrees(place)}) {
+        const auto hit = Search(model, text);
+        ASSERT_TRUE(hit && hit->place) << text;
+        EXPECT_NEAR(hit->place->lat, place.lat, 0.005 / 3600) << text;
+        EXPECT_NEAR(hit->place->lon, place.lon, 0.005 / 3600) << text;
+    }
+    EXPECT_EQ(Search(model, "GREEN CANYON, block 200")->pick.block->Label(), "200");
+    EXPECT_EQ(Search(model, "GREEN CANYON, all blocks")->pick.areas.front()->code, "43608");
+    EXPECT_EQ(Search(model, "GREEN CANYON 200")->pick.block->Label(), "200");
+}
+
+TEST_F(SampleMapTest, SearchUnderstandsABlockWithItsWater) {
+    const auto hit = Search(model, "PS 9-S");
+    ASSERT_TRUE(hit && hit->pick.block);
+    EXPECT_EQ(hit->pick.block->area->code, "42601");
+    EXPECT_EQ(hit->pick.block->Label(), "9");
+    EXPECT_FALSE(Search(model, "GC 200-S"));
 }
 
 TEST_F(SampleMapTest, ThePickStandsOutInTheMiddleOfTheMap) {
@@ -323,6 +391,97 @@ TEST_F(SampleMapTest, ThePickStandsOutInTheMiddleOfTheMap) {
     };
     EXPECT_EQ(middle({}), LightLook().shelf);
     EXPECT_NE(middle(pick), LightLook().shelf);
+}
+
+QImage Drawn(const MapModel& model, const MapView& view, const MapLayers& layers) {
+    QImage image(view.Width(), view.Height(), QImage::Format_RGB32);
+    QPainter painter(&image);
+    MapPainter().Draw(painter, model, view, layers, {});
+    return image;
+}
+
+/// Where two pictures of one size differ.
+QRect Difference(const QImage& a, const QImage& b) {
+    QRect where;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            if (a.pixel(x, y) != b.pixel(x, y)) where |= QRect(x, y, 1, 1);
+        }
+    }
+    return where;
+}
+
+TEST(MapPainter, PutsANameWhereItCoversNoWell) {
+    auto area = std::make_unique<AreaMap>();
+    area->name = "SAMPLE FIELD";
+    area->blocks.Begin("");
+    for (const Point& corner : {Point{0, 0.3}, {0.3, 0.3}, {0.3, 0}, {0, 0}})
+        area->blocks.Add(corner);
+    for (int i = 0; i < 400; ++i) {
+        area->wells.Begin("");
+        area->wells.Add({0.1 + 0.005 * (i % 20), 0.14 + 0.001 * (i / 20.0)});
+    }
+    area->Finish();
+    const FeatureLayer& wells = area->wells;
+    MapModel model;
+    MapView view;
+    view.Resize(500, 500);
+    view.SetBounds({0, 0, 0.3, 0.3});
+    view.SetMiddle({0.15, 0.15}, 1500);
+    const Point middle = area->labelAt;
+    model.Add(std::move(area));
+    MapLayers layers{true, false, false, false, false, false};
+    const QImage without = Drawn(model, view, layers);
+    layers.labels = true;
+    const QRect name = Difference(Drawn(model, view, layers), without);
+    ASSERT_GT(name.width(), 60);
+    for (std::size_t well = 0; well < wells.Size(); ++well) {
+        const ScreenPoint at = view.ToScreen(wells.Points(well).front());
+        EXPECT_FALSE(name.contains(static_cast<int>(at.x), static_cast<int>(at.y)));
+    }
+    // Without wells there it stands in the middle.
+    layers = {false, false, false, false, false, false};
+    const QImage bare = Drawn(model, view, layers);
+    layers.labels = true;
+    const ScreenPoint at = view.ToScreen(middle);
+    EXPECT_TRUE(Difference(Drawn(model, view, layers), bare)
+                    .contains(static_cast<int>(at.x), static_cast<int>(at.y)));
+}
+
+TEST_F(SampleMapTest, FromAfarTheLegendTellsTheColorsOfTheWaters) {
+    MapView view;
+    view.Resize(900, 600);
+    view.SetBounds(model.Bounds());
+    view.ShowAll();
+    MapLayers layers{false, false, false, false, false, true};
+    const QImage image = Drawn(model, view, layers);
+    layers.legend = false;
+    const QRect legend = Difference(Drawn(model, view, layers), image);
+    ASSERT_FALSE(legend.isEmpty());
+    const MapLook& look = LightLook();
+    std::set<QRgb> colors;
+    for (int y = legend.top(); y <= legend.bottom(); ++y) {
+        for (int x = legend.left(); x < legend.left() + 30; ++x)
+            colors.insert(image.pixel(x, y));
+    }
+    for (const QColor& color : {look.state, look.bay, look.shelf, look.deep})
+        EXPECT_TRUE(colors.count(color.rgb())) << color.name().toStdString();
+}
+
+TEST_F(SampleMapTest, AFoldedLegendIsButItsHeading) {
+    MapView view;
+    view.Resize(900, 600);
+    view.SetBounds(model.Bounds());
+    view.SetMiddle(ToMap({28.5, -91}), 1000);
+    MapLayers layers{true, true, true, false, false, true};
+    const QImage open = Drawn(model, view, layers);
+    layers.legendFolded = true;
+    const QImage folded = Drawn(model, view, layers);
+    layers.legend = false;
+    const QImage none = Drawn(model, view, layers);
+    EXPECT_GT(Difference(open, none).height(), 150);
+    EXPECT_LT(Difference(folded, none).height(), 50);
+    EXPECT_GT(Difference(folded, none).height(), 10);
 }
 
 TEST(MapLoader, GoesWithoutLayersThatTheDatabaseLacks) {

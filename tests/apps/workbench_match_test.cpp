@@ -51,7 +51,7 @@ protected:
     /// How many rows a report of the match has.
     static int Report(const Match& match) {
         ResultTable result;
-        ReportLoader loader(*match.layer, {match.condition},
+        ReportLoader loader(*match.layer, "Matching", {match.condition},
                             [&](ResultTable table) { result = std::move(table); });
         test::ReadAll(loader);
         return result.RowCount();

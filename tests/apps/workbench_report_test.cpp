@@ -3,7 +3,8 @@
 #include <algorithm>
 #include <set>
 
-#include "workbench/report_layers.h"
+#include "base/numbers.h"
+#include "workbench/results/report_layers.h"
 #include "workbench_fixture.h"
 
 namespace workbench {
@@ -19,7 +20,7 @@ protected:
         for (const std::string& area : areas)
             conditions.push_back(BlockCondition(layer, area, block));
         ResultTable result;
-        ReportLoader loader(layer, std::move(conditions),
+        ReportLoader loader(layer, "Rows", std::move(conditions),
                             [&](ResultTable table) { result = std::move(table); });
         test::ReadAll(loader);
         return result;
@@ -114,9 +115,43 @@ TEST_F(ReportTest, APipelineIsListedOnceWhereSeveralAreasAreReported) {
                                        " or to_areacode in " + in));
 }
 
+TEST_F(ReportTest, BothAreasOfAPipelineAreTheirNames) {
+    const ResultTable report = Report(Of(KV_LAYER_PIPELINES), {"'43112'", "'43113'"}, "ALL");
+    ASSERT_EQ(report.columns[1].heading, "From area");
+    ASSERT_EQ(report.columns[3].heading, "To area");
+    const Rows areas("select areaname from " + TableName("_connam2"));
+    std::set<std::string> names;
+    for (int row = 0; row < areas.Count(); ++row)
+        names.insert(areas.Cell(row, 0));
+    ASSERT_GT(report.RowCount(), 0);
+    for (int row = 0; row < report.RowCount(); ++row) {
+        EXPECT_TRUE(names.count(report.Cell(row, 1))) << report.Cell(row, 1);
+        EXPECT_TRUE(names.count(report.Cell(row, 3))) << report.Cell(row, 3);
+    }
+}
+
+TEST_F(ReportTest, ARowKnowsItsPlaceWhereTheLayerHasPlaces) {
+    const ResultTable wells = Report(Of(KV_LAYER_WELLS), {"'43113'"}, "391");
+    ASSERT_GT(wells.RowCount(), 0);
+    ASSERT_TRUE(wells.keys[0].place);
+    EXPECT_DOUBLE_EQ(wells.keys[0].place->lat, kv::Atof(wells.Cell(0, 10)));
+    EXPECT_DOUBLE_EQ(wells.keys[0].place->lon, kv::Atof(wells.Cell(0, 11)));
+    const ResultTable leases = Report(Of(KV_LAYER_LEASES), {"'43113'"}, "391");
+    ASSERT_GT(leases.RowCount(), 0);
+    EXPECT_FALSE(leases.keys[0].place);
+}
+
+TEST_F(ReportTest, LatitudesHaveTheSameDecimals) {
+    const ResultTable wells = Report(Of(KV_LAYER_WELLS), {"'43113'"}, "ALL");
+    std::set<std::size_t> decimals;
+    for (int row = 0; row < wells.RowCount(); ++row)
+        decimals.insert(wells.Cell(row, 10).size() - wells.Cell(row, 10).find('.'));
+    EXPECT_EQ(decimals.size(), 1U);
+}
+
 TEST_F(ReportTest, TellsHowFarItIs) {
-    ReportLoader loader(Of(KV_LAYER_WELLS), {"t.areacode = '43112'", "t.areacode = '43113'"},
-                        [](ResultTable) {});
+    ReportLoader loader(Of(KV_LAYER_WELLS), "Wells",
+                        {"t.areacode = '43112'", "t.areacode = '43113'"}, [](ResultTable) {});
     EXPECT_EQ(loader.Title(), "Reading Wells");
     EXPECT_EQ(loader.Total(), 2);
     EXPECT_TRUE(loader.Step());

@@ -3,15 +3,18 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QHeaderView>
+#include <QLabel>
 #include <QLineEdit>
+#include <QScrollBar>
 #include <QTableView>
 #include <QTest>
 #include <numeric>
+#include <utility>
 
 #include "support/file_size_limit.h"
 #include "support/temp_folder.h"
-#include "workbench/csv.h"
-#include "workbench/results_pane.h"
+#include "workbench/results/csv.h"
+#include "workbench/results/results_pane.h"
 
 namespace workbench {
 namespace {
@@ -81,7 +84,7 @@ TEST(Csv, WhatCannotBeWrittenLeavesTheOldFile) {
 
 TEST(TabSeparated, KeepsEachRowOnALine) {
     const std::vector<int> rows = {0, 3};
-    EXPECT_EQ(TabSeparated(Sample(), rows, true), "Well\tDepth, ft\nA-10\t9000\nC 1\t700.5");
+    EXPECT_EQ(TabSeparated(Sample(), rows), "Well\tDepth, ft\nA-10\t9000\nC 1\t700.5");
 }
 
 TEST(ResultsModel, SortsNumbersByValueAndEmptyOnesLast) {
@@ -122,11 +125,161 @@ TEST(ResultsPane, CopiesTheSelectedRowsWithTheirHeadings) {
     pane.View().setFocus();
     pane.View().selectRow(0);
     QTest::keyClick(&pane.View(), Qt::Key_C, Qt::ControlModifier);
-    EXPECT_EQ(QApplication::clipboard()->text().toStdString(), "A-10\t9000");
-    pane.View().selectAll();
+    EXPECT_EQ(QApplication::clipboard()->text().toStdString(), "Well\tDepth, ft\nA-10\t9000");
+    QTest::keyClick(&pane.View(), Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(&pane.View(), Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(QApplication::clipboard()->text().toStdString(),
               "Well\tDepth, ft\nA-10\t9000\nB \"deep\"\t12000\na-2\t\nC 1\t700.5");
+}
+
+TEST(ResultsPane, ShiftAndAnArrowSelectOneRowMore) {
+    ResultsPane pane;
+    pane.SetTable(Sample());
+    pane.show();
+    QApplication::setActiveWindow(&pane);
+    pane.View().Enter();
+    EXPECT_TRUE(pane.View().hasFocus());
+    EXPECT_EQ(pane.SelectedText().toStdString(), "Well\tDepth, ft\nA-10\t9000");
+    QTest::keyClick(&pane.View(), Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_EQ(pane.SelectedText().toStdString(), "Well\tDepth, ft\nA-10\t9000\nB \"deep\"\t12000");
+}
+
+TEST(ResultsPane, NothingIsCopiedWhereNothingIsSelected) {
+    ResultsPane pane;
+    pane.SetTable(Sample());
+    QApplication::clipboard()->setText("kept");
+    pane.Copy();
+    EXPECT_EQ(QApplication::clipboard()->text().toStdString(), "kept");
+}
+
+TEST(ResultsPane, TheWindowAroundDoesNotGetItsKeys) {
+    ResultsPane pane;
+    pane.SetTable(Sample());
+    for (const auto& [key, modifiers] :
+         {std::pair{Qt::Key_C, Qt::ControlModifier}, std::pair{Qt::Key_A, Qt::ControlModifier}}) {
+        QKeyEvent event(QEvent::ShortcutOverride, key, modifiers);
+        event.ignore();
+        QApplication::sendEvent(&pane.View(), &event);
+        EXPECT_TRUE(event.isAccepted()) << key;
+    }
+}
+
+TEST(ResultsPane, SaysWhatItsRowsAre) {
+    ResultsPane pane;
+    EXPECT_EQ(pane.Heading().text().toStdString(),
+              "Pick an area and a block above, choose Report, and press Run.");
+    ResultTable table = Sample();
+    table.what = "Wells in GREEN CANYON 200";
+    pane.SetTable(table);
+    EXPECT_EQ(pane.Heading().text().toStdString(), "Wells in GREEN CANYON 200: 4");
+    pane.FindField().setText("a-");
+    EXPECT_EQ(pane.Heading().text().toStdString(), "Wells in GREEN CANYON 200: 2 of 4");
+    table.cells.clear(), table.keys.clear();
+    pane.SetTable(table);
+    EXPECT_EQ(pane.Heading().text().toStdString(), "There are no wells in GREEN CANYON 200.");
+}
+
+TEST(ResultTable, KeepsAbbreviationsInItsSentence) {
+    ResultTable table;
+    table.what = "APDs in GC";
+    EXPECT_EQ(table.Heading(0), "There are no APDs in GC.");
+    table.what = "2D Shotpoints in GC";
+    EXPECT_EQ(table.Heading(0), "There are no 2D Shotpoints in GC.");
+}
+
+TEST(ResultTable, GroupsTheDigitsOfACount) {
+    ResultTable table;
+    table.what = "Wells in GC";
+    table.keys.resize(1'234'567);
+    EXPECT_EQ(table.Heading(999), "Wells in GC: 999 of 1,234,567");
+}
+
+TEST(ResultTable, NumbersOfAColumnHaveTheSameDecimals) {
+    ResultTable table;
+    table.columns = {{"Size", true}, {"Name"}, {"Block", true}};
+    table.cells = {"16", "1.5", "12A", "2.375", "x", "7", "", "y", "8", "-4.5", "z", "9"};
+    table.keys.resize(4);
+    table.AlignDecimals();
+    EXPECT_THAT(table.cells, ElementsAre("16.000", "1.5", "12A", "2.375", "x", "7", "", "y", "8",
+                                         "-4.500", "z", "9"));
+}
+
+TEST(ResultsPane, AColumnIsAsWideAsTheWidestOfAllItsRows) {
+    ResultTable table = Sample();
+    for (int row = 0; row < 3000; ++row) {
+        table.cells.insert(table.cells.end(), {"well", "1"});
+        table.keys.push_back({"1", "1"});
+    }
+    ResultsPane pane;
+    pane.SetTable(table);
+    const int narrow = pane.View().columnWidth(0);
+    const QString wide = "A NAME THAT IS WIDER THAN ALL";
+    table.cells[table.cells.size() - 2] = wide.toStdString();
+    pane.SetTable(table);
+    const int room = pane.View().columnWidth(0);
+    EXPECT_GT(room, narrow);
+    EXPECT_GT(room, pane.View().fontMetrics().horizontalAdvance(wide));
+    EXPECT_LT(room, pane.View().fontMetrics().horizontalAdvance(wide) + 40);
+}
+
+/// Four columns in a window that has room for two.
+ResultTable Wide() {
+    ResultTable table;
+    table.columns = {{"Well"}, {"Operator"}, {"Area"}, {"Lease"}};
+    for (int row = 0; row < 40; ++row) {
+        for (const char* cell : {"A-10", "EXAMPLE MINERALS", "GREEN CANYON", "G 12345"})
+            table.cells.push_back(cell + std::to_string(row));
+        table.keys.push_back({"1", "10"});
+    }
+    return table;
+}
+
+TEST(ResultsPane, TheFirstColumnStaysWhenTheOthersAreScrolled) {
+    ResultsPane pane;
+    pane.resize(260, 200);
+    pane.SetTable(Wide());
+    pane.show();
+    ResultsView& view = pane.View();
+    EXPECT_FALSE(view.Kept().isVisible());
+    view.horizontalScrollBar()->setValue(view.horizontalScrollBar()->maximum());
+    view.verticalScrollBar()->setValue(57);
+    ASSERT_TRUE(view.Kept().isVisible());
+    EXPECT_EQ(view.Kept().columnWidth(0), view.columnWidth(0));
+    EXPECT_EQ(view.Kept().rowViewportPosition(5), view.rowViewportPosition(5));
+    EXPECT_EQ(view.Kept().mapTo(&view, QPoint()).x(), view.verticalHeader()->width());
+    for (int column = 1; column < 4; ++column)
+        EXPECT_TRUE(view.Kept().isColumnHidden(column));
+
+    // A click there selects the row, and the keys are the table's.
+    QApplication::setActiveWindow(&pane);
+    QTest::mouseClick(view.Kept().viewport(), Qt::LeftButton, {},
+                      view.Kept().visualRect(pane.Model().index(4, 0)).center());
+    EXPECT_TRUE(pane.SelectedText().contains("A-104"));
+    EXPECT_TRUE(view.hasFocus());
+}
+
+TEST(ResultsPane, WhatTheArrowsComeToIsNotBelowTheFirstColumn) {
+    ResultsPane pane;
+    pane.resize(260, 200);
+    pane.SetTable(Wide());
+    pane.show();
+    ResultsView& view = pane.View();
+    view.setCurrentIndex(pane.Model().index(0, 3));
+    view.setCurrentIndex(pane.Model().index(0, 1));
+    EXPECT_GE(view.columnViewportPosition(1), view.columnWidth(0));
+}
+
+TEST(ResultsPane, TellsWhichRowTheUserCameTo) {
+    ResultsPane pane;
+    pane.SetTable(Sample());
+    pane.show();
+    std::vector<int> rows;
+    QObject::connect(&pane, &ResultsPane::RowChosen, [&](int row) { rows.push_back(row); });
+    pane.FindField().setText("a-");
+    rows.clear();
+    pane.View().setCurrentIndex(pane.Model().index(1, 0));
+    EXPECT_THAT(rows, ElementsAre(2));
+    EXPECT_EQ(pane.ChosenRow(), 2);
 }
 
 TEST(ResultsPane, AClickOnAHeadingSorts) {

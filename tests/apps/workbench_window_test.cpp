@@ -4,12 +4,15 @@
 #include <QMenuBar>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QStatusBar>
 #include <QTableView>
 #include <QTest>
 #include <QToolBar>
 #include <QToolButton>
+#include <algorithm>
+#include <set>
 
 #include "frame/kvcom/profile.h"
 #include "frame/module.h"
@@ -20,53 +23,12 @@
 #include "window/acting/user.h"
 #include "window/window_system.h"
 #include "workbench/workbench.h"
-#include "workbench_fixture.h"
+#include "workbench_window_fixture.h"
 
 namespace workbench {
 namespace {
 
 using namespace kv::abe_bar;
-
-/// The workbench on the sample database, and a person at its bar.
-class WorkbenchTest : public test::SampleTest {
-protected:
-    WorkbenchTest() { InitControlDll(); }
-    ~WorkbenchTest() override {
-        host.reset();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
-
-    /// Opens the window and reads the map.
-    void Open(const std::string& server = test::SampleServer()) {
-        CKvDbInfo info("", "", server.c_str());
-        test::ConnectTo(info);
-        host = std::make_unique<Workbench>(info);
-        host->SetFailureShown(
-            [this](const QString& message) { failures.push_back(message.toStdString()); });
-        QSignalSpy painted(host.get(), &Workbench::FirstPainted);
-        host->Show();
-        while (painted.isEmpty())
-            QApplication::processEvents();
-        host->Runner().Finish();
-        user = std::make_unique<kv::User>(*host->Frame().m_bar.m_hWnd,
-                                          [](const std::string& words) { FAIL() << words; });
-    }
-    void Pick(const char* area, const char* block) {
-        user->Select(kArea, area);
-        user->Select(kBlock, block);
-    }
-    QAction* MenuAction(const QString& text) {
-        for (QAction* action : host->Window().findChildren<QAction*>()) {
-            if (action->text().remove(u'&') == text) return action;
-        }
-        return nullptr;
-    }
-
-    kv::qt::QtDesktop desktop;
-    std::vector<std::string> failures;
-    std::unique_ptr<Workbench> host;
-    std::unique_ptr<kv::User> user;
-};
 
 TEST_F(WorkbenchTest, RunWithMapCentersOnThePickAndHighlightsIt) {
     Open();
@@ -197,6 +159,46 @@ TEST_F(WorkbenchTest, ABlockThatIsNotThereIsSaid) {
     EXPECT_THAT(failures, testing::ElementsAre("There is no block \"9999\" there on the map."));
 }
 
+TEST_F(WorkbenchTest, AClickOnTheMapLeavesTheKeysThere) {
+    Open();
+    MapCanvas& canvas = host->Canvas();
+    canvas.ShowPick(host->Model().FindPick({"43113"}, "391"));
+    QTest::mouseClick(&canvas, Qt::LeftButton, {}, canvas.rect().center());
+    QApplication::processEvents();
+    EXPECT_TRUE(canvas.hasFocus());
+    const double before = canvas.View().Scale();
+    PressKey(Qt::Key_Plus);
+    EXPECT_GT(canvas.View().Scale(), before);
+    EXPECT_EQ(user->Text(kBlock), "391");
+}
+
+TEST_F(WorkbenchTest, TheWindowOpensWithinTheScreen) {
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    ASSERT_LT(screen.width(), 900) << "nothing to fit in";
+    Open();
+    const QRect place = host->Window().frameGeometry();
+    // The bar is a little wider than this screen.
+    EXPECT_LE(place.width(), std::max(screen.width(), host->Window().minimumSizeHint().width()));
+    EXPECT_TRUE(screen.contains(place.topLeft()));
+    EXPECT_LE(place.bottom(), screen.bottom());
+    EXPECT_LE(host->Window().minimumSizeHint().width(), 960);
+    EXPECT_LE(host->Window().minimumSizeHint().height(), 540);
+}
+
+TEST_F(WorkbenchTest, AWindowThatWasLargerThanTheScreenComesBackWithinIt) {
+    Open();
+    host->Window().resize(1600, 1200);
+    kv::input::CloseWindow(*host->Frame().m_hWnd);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    host.reset();
+    Open();
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    const QRect place = host->Window().geometry();
+    EXPECT_LE(place.width(), std::max(screen.width(), host->Window().minimumSizeHint().width()));
+    EXPECT_TRUE(screen.contains(place.topLeft()));
+    EXPECT_LE(place.bottom(), screen.bottom());
+}
+
 TEST_F(WorkbenchTest, AFailedDatabaseIsSaidAndAnotherOneWorks) {
     Open("sqlite:" + folder.Native("missing.db"));
     ASSERT_EQ(failures.size(), 1U);
@@ -286,7 +288,33 @@ TEST_F(WorkbenchTest, EveryDialogIsInTheMenuOfItsFamily) {
         ASSERT_TRUE(action) << adaptor->className;
         const auto menus = action->associatedObjects();
         ASSERT_EQ(menus.size(), 1);
-        EXPECT_EQ(qobject_cast<QMenu*>(menus[0])->title().toStdString(), adaptor->family);
+        const QString family = qobject_cast<QMenu*>(menus[0])->title().remove(u'&');
+        EXPECT_EQ(family.toStdString(), adaptor->family);
+    }
+}
+
+TEST_F(WorkbenchTest, EveryDialogIsNamedByWhatItDoesAndOpensAWindow) {
+    Open();
+    std::set<QString> names;
+    for (const adaptors::Adaptor* adaptor : adaptors::All()) {
+        const auto* action =
+            host->Window().findChild<QAction*>(QString::fromStdString(adaptor->className));
+        const QString name = QString(action->text()).remove(u'&');
+        EXPECT_EQ(name.toStdString(), adaptor->purpose + "...");
+        EXPECT_TRUE(names.insert(name).second) << adaptor->purpose;
+    }
+}
+
+TEST_F(WorkbenchTest, NoTwoRowsOfAMenuShareALetter) {
+    Open();
+    for (const QMenu* menu : host->Window().findChildren<QMenu*>()) {
+        std::set<QKeySequence> letters;
+        for (const QAction* action : menu->actions()) {
+            if (action->isSeparator()) continue;
+            const QKeySequence letter = QKeySequence::mnemonic(action->text());
+            EXPECT_FALSE(letter.isEmpty()) << action->text().toStdString();
+            EXPECT_TRUE(letters.insert(letter).second) << action->text().toStdString();
+        }
     }
 }
 
@@ -380,7 +408,9 @@ TEST_F(WorkbenchTest, TheBarWorksOnWhenAnotherBarWasRun) {
 
 TEST_F(WorkbenchTest, TheWindowComesBackAsItWasLeft) {
     Open();
-    host->Window().resize(937, 611);
+    // Not as wide as the screen, if the bar lets it.
+    host->Window().resize(737, 611);
+    const int width = host->Window().width();
     QAction* outcome = MenuAction("Dialog outcome");
     ASSERT_TRUE(outcome);
     ASSERT_TRUE(outcome->isChecked());
@@ -391,7 +421,7 @@ TEST_F(WorkbenchTest, TheWindowComesBackAsItWasLeft) {
     host.reset();
 
     Open();
-    EXPECT_EQ(host->Window().width(), 937);
+    EXPECT_EQ(host->Window().width(), width);
     EXPECT_EQ(host->Window().height(), 611);
     EXPECT_FALSE(MenuAction("Dialog outcome")->isChecked());
     EXPECT_TRUE(MenuAction("Results")->isChecked());

@@ -48,16 +48,46 @@ void MapCanvas::ModelGoes() {
     marks_ = {};
     ForgetMoves();
     update();
+    emit PickChanged();
 }
 
 void MapCanvas::ShowPick(const Pick& pick) {
     marks_.pick = pick;
     ChangeView().Show(pick.Bounds(), pick.block ? kRoomAroundBlock : kRoomAroundAreas);
     Moved();
+    emit PickChanged();
 }
 
 void MapCanvas::MarkPick(const Pick& pick) {
     marks_.pick = pick;
+    update();
+    emit PickChanged();
+}
+
+void MapCanvas::MarkRow(std::optional<BlockRef> block, std::optional<Place> place) {
+    marks_.rowBlock = block;
+    marks_.rowPlace = place;
+    update();
+}
+
+void MapCanvas::BringRowUp() {
+    Box bounds;
+    if (marks_.rowPlace) {
+        bounds.Include(ToMap(*marks_.rowPlace));
+    } else if (marks_.rowBlock) {
+        bounds = marks_.rowBlock->Bounds();
+    }
+    const Box seen = View().Visible();
+    if (bounds.Empty() ||
+        (seen.Contains({bounds.minX, bounds.minY}) && seen.Contains({bounds.maxX, bounds.maxY}))) {
+        return;
+    }
+    ChangeView().SetMiddle(bounds.Middle(), View().Scale());
+    Moved();
+}
+
+void MapCanvas::FoldLegend() {
+    layers_.legendFolded = !layers_.legendFolded;
     update();
 }
 
@@ -139,6 +169,10 @@ void MapCanvas::mouseReleaseEvent(QMouseEvent* event) {
         return;
     }
     const QPointF at = event->position();
+    if (painter_.LegendHeading().contains(at)) {
+        FoldLegend();
+        return;
+    }
     const Point point = View().ToMap({at.x(), at.y()});
     if (const auto block = model_.BlockAt(point)) emit BlockClicked(*block);
     emit PlaceClicked(ToPlace(point));
@@ -150,6 +184,14 @@ void MapCanvas::mouseDoubleClickEvent(QMouseEvent* event) {
     ChangeView().Zoom({event->position().x(), event->position().y()},
                       out ? 1 / kZoomPerDoubleClick : kZoomPerDoubleClick);
     Moved();
+}
+
+void MapCanvas::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_L && event->modifiers() == Qt::NoModifier) {
+        FoldLegend();
+    } else {
+        MapWidget::keyPressEvent(event);
+    }
 }
 
 void MapCanvas::leaveEvent(QEvent*) {

@@ -7,7 +7,8 @@
 
 namespace workbench {
 
-/// Shows the map. Dragging moves it, too, and a double click zooms in, with Shift out.
+/// Shows the map. Dragging moves it, too, and a double click zooms in, with Shift out. A click on
+/// the heading of the legend, or the key L, folds it and unfolds it.
 class MapCanvas : public kv::map::MapWidget {
     Q_OBJECT
 public:
@@ -29,9 +30,16 @@ public:
     void ShowSelected(std::vector<BlockRef> blocks);
     /// Marks, in another colour, blocks beside those.
     void ShowNeighbors(std::vector<BlockRef> blocks);
+    /// Marks what a row of a table tells of: a block, and a place in it, as far as there are any.
+    void MarkRow(std::optional<BlockRef> block, std::optional<Place> place);
+    /// Brings that into sight, where it is not.
+    void BringRowUp();
     const MapMarks& Marks() const { return marks_; }
     /// Brings a place to the middle, near enough for its block to be told.
     void ShowPlace(const Place& place);
+
+    /// Where a click folds the legend.
+    const QRectF& LegendHeading() const { return painter_.LegendHeading(); }
 
     const MapLayers& Layers() const { return layers_; }
     void SetLayers(const MapLayers& layers);
@@ -40,6 +48,7 @@ public:
     QSize minimumSizeHint() const override { return {240, 160}; }
 
 signals:
+    void PickChanged();
     /// The mouse is at that place.
     void Pointed(const workbench::Place& place);
     void PointedNowhere();
@@ -54,6 +63,7 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void changeEvent(QEvent* event) override;
     bool event(QEvent* event) override;
@@ -62,6 +72,7 @@ private:
     void ChooseLook();
     void Hover(const QPointF& at);
     void ShowMarked();
+    void FoldLegend();
     QString TipAt(const QPointF& at) const;
 
     const MapModel& model_;

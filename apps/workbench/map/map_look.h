@@ -37,6 +37,7 @@ struct MapLook {
 
     QColor pick;
     QColor neighbor;
+    QColor row;
     QColor hover;
     QColor panel;
     QColor panelLine;

@@ -108,6 +108,13 @@ Water WaterOf(std::string_view areaCode) {
     return region.substr(0, 2) == "42" ? Water::kBay : Water::kShelf;
 }
 
+std::string_view WaterSuffix(std::string_view areaCode) {
+    const std::string_view water = areaCode.substr(0, 3);
+    if (water == "426") return "-S";
+    if (water == "427") return "-L";
+    return water >= "420" && water <= "429" ? "-BAY" : "";
+}
+
 void AreaMap::Finish() {
     for (FeatureLayer* layer : {&blocks, &wells, &platforms, &pipelines})
         layer->Finish();

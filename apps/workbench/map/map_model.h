@@ -33,6 +33,8 @@ enum PlatformKind : std::uint8_t { kPlatformStanding, kPlatformRemoved };
 enum class Water { kState, kBay, kShelf, kDeep };
 /// By the area code's first three characters.
 Water WaterOf(std::string_view areaCode);
+/// What the pickers show behind the number of a block in state waters, by those characters: "-S".
+std::string_view WaterSuffix(std::string_view areaCode);
 
 /// One area of the map with all that lies in it. Pipelines belong to the area they begin in.
 struct AreaMap {

@@ -1,7 +1,9 @@
 #include "workbench/map/map_painter.h"
 
+#include <algorithm>
+#include <array>
 #include <cmath>
-#include <functional>
+#include <utility>
 
 #include "workbench/map/angle_text.h"
 #include "workbench/map/graticule.h"
@@ -25,11 +27,17 @@ constexpr double kSymbolsFrom = 1'400;
 constexpr double kSpotLabelsFrom = 4'200;
 
 constexpr double kMargin = 10;
+constexpr double kSymbolReach = 4;  ///< from the middle of a symbol to what it needs to be seen
 constexpr double kTick = 8;
 constexpr double kEdge = 16;  ///< from the lower edge to the middle of its labels
 
-/// Where an area's name is put, in parts of the room there is, until it is in nobody's way.
-constexpr QPointF kAreaLabelShifts[] = {{0, 0}, {0, -0.25}, {0, 0.25}, {-0.25, 0}, {0.25, 0}};
+/// Where an area's name may be put, in parts of the room there is: in the middle if it is in
+/// nobody's way there.
+constexpr double kShifts[] = {0, -0.2, 0.2, -0.4, 0.4};
+/// What it costs to put a name off the middle by all of the room.
+constexpr double kCostOfShift = 24;
+/// What a name may cover before a shorter way to write it is looked for.
+constexpr int kLittle = 10;
 
 struct LegendRow {
     const char* text;
@@ -44,6 +52,29 @@ constexpr LegendRow kPlatformRows[] = {{"Platform", kPlatformStanding},
                                        {"Removed platform", kPlatformRemoved}};
 constexpr LegendRow kPipelineRows[] = {
     {"Oil pipeline", kPipeOil}, {"Gas pipeline", kPipeGas}, {"Other pipeline", kPipeOther}};
+
+struct WaterRow {
+    const char* text;
+    Water water;
+};
+constexpr WaterRow kWaterRows[] = {{"State waters", Water::kState},
+                                   {"Bays and lakes", Water::kBay},
+                                   {"Federal shelf", Water::kShelf},
+                                   {"Federal deep water", Water::kDeep}};
+
+const QColor& WaterColor(const MapLook& look, Water water) {
+    switch (water) {
+        case Water::kState:
+            return look.state;
+        case Water::kBay:
+            return look.bay;
+        case Water::kShelf:
+            return look.shelf;
+        case Water::kDeep:
+            break;
+    }
+    return look.deep;
+}
 
 QColor WithAlpha(QColor color, double part) {
     color.setAlphaF(static_cast<float>(color.alphaF() * std::clamp(part, 0.0, 1.0)));
@@ -121,14 +152,16 @@ void MapPainter::Draw(QPainter& painter, const MapModel& model, const MapView& v
     DrawMarks(marks);
     if (layers.wells) DrawSpots(false);
     if (layers.platforms) DrawSpots(true);
+    DrawRowMark(marks);
 
     DrawScaleBar();
+    legendHeading_ = {};
     if (layers.legend) DrawLegend();
     if (layers.graticule) DrawEdgeLabels();
     if (layers.labels) {
         DrawPickLabel(marks.pick);
         DrawAreaLabels();
-        DrawBlockLabels();
+        DrawBlockLabels(marks.pick);
         if (layers.platforms) DrawSpotLabels(true);
         if (layers.wells) DrawSpotLabels(false);
     }
@@ -154,20 +187,7 @@ void MapPainter::FindVisible(const MapModel& model) {
 void MapPainter::DrawAreas() {
     painter_->setPen(Qt::NoPen);
     for (const AreaMap* area : visible_) {
-        switch (area->water) {
-            case Water::kState:
-                painter_->setBrush(look_.state);
-                break;
-            case Water::kBay:
-                painter_->setBrush(look_.bay);
-                break;
-            case Water::kShelf:
-                painter_->setBrush(look_.shelf);
-                break;
-            case Water::kDeep:
-                painter_->setBrush(look_.deep);
-                break;
-        }
+        painter_->setBrush(WaterColor(look_, area->water));
         painter_->drawPath(Outline(*area));
     }
 }
@@ -200,6 +220,14 @@ void MapPainter::DrawAreaLines() {
         const bool near = BlockPixels(*area) >= kBlockLabelsFrom;
         painter_->setPen(QPen(look_.areaLine, near ? 1.8 : 1.0));
         painter_->drawPath(Outline(*area));
+        for (const auto& ring : area->outline.rings) {
+            QPointF before = At(ring.back());
+            for (const Point& point : ring) {
+                const QPointF at = At(point);
+                board_.SpareLine(before.x(), before.y(), at.x(), at.y(), LabelBoard::kBorder);
+                before = at;
+            }
+        }
     }
 }
 
@@ -238,6 +266,8 @@ void MapPainter::DrawSpots(bool platforms) {
         layer.ForEachIn(seen, [&](std::size_t number) {
             const QPointF at = At(layer.Points(number).front());
             const std::uint8_t kind = layer.Kind(number);
+            board_.Spare(at.x() - kSymbolReach, at.y() - kSymbolReach, 2 * kSymbolReach,
+                         2 * kSymbolReach, LabelBoard::kSpot);
             painter_->drawPixmap(at - QPointF(half, half),
                                  platforms ? symbols_.Platform(kind) : symbols_.Well(kind));
         });
@@ -258,6 +288,7 @@ void MapPainter::DrawDots(bool platforms) {
                 if (layer.Kind(number) != kind) return;
                 const QPointF at = At(layer.Points(number).front());
                 dots_.emplace_back(at.x() - size / 2, at.y() - size / 2, size, size);
+                board_.Spare(at.x(), at.y(), 0, 0, LabelBoard::kSpot);
             });
         }
         const auto color = static_cast<std::uint8_t>(kind);
@@ -294,6 +325,26 @@ void MapPainter::DrawMarks(const MapMarks& marks) {
     painter_->setBrush(Qt::NoBrush);
     painter_->setPen(QPen(look_.pick, 2.4, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     painter_->drawPath(path);
+}
+
+/// A ring around the place; the outline of the block where there is no place.
+void MapPainter::DrawRowMark(const MapMarks& marks) {
+    constexpr double kRadius = 10;
+    const auto draw = [&](const auto& shape) {
+        painter_->setPen(QPen(look_.halo, 5));
+        shape();
+        painter_->setPen(QPen(look_.row, 2.4));
+        shape();
+    };
+    painter_->setBrush(Qt::NoBrush);
+    if (marks.rowPlace) {
+        const QPointF at = At(workbench::ToMap(*marks.rowPlace));
+        draw([&] { painter_->drawEllipse(at, kRadius, kRadius); });
+    } else if (marks.rowBlock) {
+        const BlockRef& block = *marks.rowBlock;
+        const QPolygonF ring = Ring(block.area->blocks.Points(block.block));
+        draw([&] { painter_->drawPolygon(ring); });
+    }
 }
 
 void MapPainter::DrawMarkedBlocks(const std::vector<BlockRef>& blocks, const QColor& color) {
@@ -353,11 +404,42 @@ bool MapPainter::PutLabel(LabelArt& art, std::string_view label, QPointF middle)
     return true;
 }
 
-bool MapPainter::PutAreaLabel(std::string_view label, const QSizeF& room, QPointF middle) {
-    if (label.empty()) return false;
+std::optional<int> MapPainter::CostOf(LabelArt& art, std::string_view label, QPointF middle) {
+    const QSizeF size = art.SizeOf(label);
+    return board_.CostOf(std::round(middle.x() - size.width() / 2),
+                         std::round(middle.y() - size.height() / 2), size.width(), size.height());
+}
+
+void MapPainter::PutLabelAtBest(LabelArt& art, std::string_view label,
+                                std::span<const QPointF> middles) {
+    const QPointF* best = nullptr;
+    int least = 0;
+    for (const QPointF& middle : middles) {
+        const auto cost = CostOf(art, label, middle);
+        if (!cost || (best && *cost >= least)) continue;
+        best = &middle, least = *cost;
+        if (least == 0) break;
+    }
+    if (best) PutLabel(art, label, *best);
+}
+
+std::optional<MapPainter::Placed> MapPainter::BestForArea(std::string_view label,
+                                                          const QSizeF& room, QPointF middle) {
+    if (label.empty()) return {};
     const QSizeF size = areaLabels_.SizeOf(label);
-    if (size.width() > room.width() || size.height() > room.height()) return false;
-    return PutLabel(areaLabels_, label, middle);
+    if (size.width() > room.width() || size.height() > room.height()) return {};
+    std::optional<Placed> best;
+    for (const double down : kShifts) {
+        for (const double right : kShifts) {
+            const double shift = std::abs(down) + std::abs(right);
+            const auto fixed = static_cast<int>(shift * kCostOfShift);
+            if (best && best->cost <= fixed) continue;
+            const QPointF at = middle + QPointF(right * room.width(), down * room.height());
+            const auto cost = CostOf(areaLabels_, label, at);
+            if (cost && (!best || *cost + fixed < best->cost)) best = {label, at, *cost + fixed};
+        }
+    }
+    return best;
 }
 
 void MapPainter::DrawAreaLabels() {
@@ -373,15 +455,16 @@ void MapPainter::DrawAreaLabels() {
                     area->labelRoom.Height() * view_->Scale());
         // The name stays in sight when the middle of the area is not.
         if (!screen.contains(middle)) middle = seen.center(), room = seen.size();
-        const bool near = BlockPixels(*area) >= kBlockLabelsFrom;
-        for (const QPointF& shift : kAreaLabelShifts) {
-            const QPointF at =
-                middle + QPointF(shift.x() * room.width(), shift.y() * room.height());
-            if (PutAreaLabel(area->name, room, at) || PutAreaLabel(Wrapped(area->name), room, at) ||
-                PutAreaLabel(area->mmsCode, room, at) || !near) {
-                break;
-            }
+        const std::string wrapped = Wrapped(area->name);
+        std::optional<Placed> best;
+        for (const std::string_view label :
+             {std::string_view(area->name), std::string_view(wrapped),
+              std::string_view(area->mmsCode)}) {
+            const auto placed = BestForArea(label, room, middle);
+            if (placed && (!best || placed->cost < best->cost)) best = placed;
+            if (best && best->cost <= kLittle) break;
         }
+        if (best) PutLabel(areaLabels_, best->label, best->middle);
     }
 }
 
@@ -394,27 +477,37 @@ void MapPainter::DrawPickLabel(const Pick& pick) {
     board_.Take(room.x(), room.y() + room.height() / 4, room.width(), room.height() * 3 / 4);
 }
 
-void MapPainter::DrawBlockLabels() {
+void MapPainter::DrawBlockLabels(const Pick& pick) {
     const Box seen = view_->Visible();
     for (const AreaMap* area : visible_) {
         if (BlockPixels(*area) < kBlockLabelsFrom) continue;
-        area->blocks.ForEachIn(seen, [&](std::size_t number) { DrawBlockLabel({area, number}); });
+        area->blocks.ForEachIn(seen, [&](std::size_t number) {
+            if (pick.block != BlockRef{area, number}) DrawBlockLabel({area, number});
+        });
     }
 }
 
-/// In the middle of a small block, in the corner of a large one, where it is out of the way.
+/// In the middle of a small block, in a corner of a large one, where it is out of the way.
 void MapPainter::DrawBlockLabel(const BlockRef& block) {
     const Box& box = block.Bounds();
     const QSizeF size = blockLabels_.SizeOf(block.Label());
-    if (size.width() > box.Width() * view_->Scale()) return;
-    QPointF middle = At(box.Middle());
-    if (box.Width() * view_->Scale() >= kCornerLabelsFrom) {
-        const QPointF corner =
-            At({box.minX, box.maxY}) + QPointF(size.width() / 2 + 5, size.height() / 2 + 4);
-        const Point inner = view_->ToMap({corner.x() - size.width() / 2, corner.y()});
-        if (Inside(block.area->blocks.Points(block.block), inner)) middle = corner;
+    const double width = box.Width() * view_->Scale();
+    if (size.width() > width) return;
+    const QPointF middle = At(box.Middle());
+    if (width < kCornerLabelsFrom) {
+        PutLabelAtBest(blockLabels_, block.Label(), std::array{middle});
+        return;
     }
-    PutLabel(blockLabels_, block.Label(), middle);
+    const QPointF off(width / 2 - size.width() / 2 - 5,
+                      box.Height() * view_->Scale() / 2 - size.height() / 2 - 4);
+    std::vector<QPointF> places;
+    for (const auto& [right, down] : {std::pair{-1, -1}, {1, -1}, {-1, 1}, {1, 1}}) {
+        const QPointF corner = middle + QPointF(right * off.x(), down * off.y());
+        const Point outer = view_->ToMap({corner.x() + right * size.width() / 2, corner.y()});
+        if (Inside(block.area->blocks.Points(block.block), outer)) places.push_back(corner);
+    }
+    places.push_back(middle);
+    PutLabelAtBest(blockLabels_, block.Label(), places);
 }
 
 void MapPainter::DrawSpotLabels(bool platforms) {
@@ -425,8 +518,11 @@ void MapPainter::DrawSpotLabels(bool platforms) {
         layer.ForEachIn(seen, [&](std::size_t number) {
             const std::string_view label = layer.Label(number);
             const QSizeF size = spotLabels_.SizeOf(label);
-            const QPointF right(MapSymbols::kSize / 2 + size.width() / 2, 0);
-            PutLabel(spotLabels_, label, At(layer.Points(number).front()) + right);
+            const QPointF beside(MapSymbols::kSize / 2 + size.width() / 2, 0);
+            const QPointF above(0, MapSymbols::kSize / 2 + size.height() / 2);
+            const QPointF at = At(layer.Points(number).front());
+            PutLabelAtBest(spotLabels_, label,
+                           std::array{at + beside, at - beside, at - above, at + above});
         });
     }
 }
@@ -458,55 +554,99 @@ void MapPainter::DrawScaleBar() {
     painter_->drawPolyline(corners, 4);
 }
 
-void MapPainter::DrawLegend() {
+std::vector<MapPainter::LegendLine> MapPainter::LegendLines() {
+    std::vector<LegendLine> lines;
     const bool symbols = ShowsSpots(*view_);
-    struct Row {
-        QString text;
-        std::function<void(QPointF)> draw;
-    };
-    std::vector<Row> rows;
-    const auto addSymbols = [&](const auto& from, bool platforms) {
-        for (const LegendRow& row : from) {
-            rows.push_back({QString::fromLatin1(row.text), [this, row, platforms](QPointF middle) {
-                                const double half = MapSymbols::kSize / 2;
-                                painter_->drawPixmap(middle - QPointF(half, half),
-                                                     platforms ? symbols_.Platform(row.kind)
-                                                               : symbols_.Well(row.kind));
-                            }});
+    if (!symbols) AddWaters(lines);
+    const auto addSpots = [&](const auto& rows, bool platforms) {
+        for (const LegendRow& row : rows) {
+            lines.push_back({QString::fromLatin1(row.text), [=, this](QPointF middle) {
+                                 DrawSpotSample(middle, platforms, row.kind, symbols);
+                             }});
         }
     };
-    if (layers_.wells && symbols) addSymbols(kWellRows, false);
-    if (layers_.platforms && symbols) addSymbols(kPlatformRows, true);
+    const bool spots = view_->Scale() >= kDotsFrom;
+    if (layers_.wells && spots) addSpots(kWellRows, false);
+    if (layers_.platforms && spots) addSpots(kPlatformRows, true);
     if (layers_.pipelines && view_->Scale() >= kPipelinesFrom) {
         for (const LegendRow& row : kPipelineRows) {
-            rows.push_back({QString::fromLatin1(row.text), [this, row](QPointF middle) {
-                                painter_->setPen(QPen(PipelineColor(look_, row.kind), 2));
-                                painter_->drawLine(middle - QPointF(8, 0), middle + QPointF(8, 0));
-                            }});
+            lines.push_back({QString::fromLatin1(row.text), [this, row](QPointF middle) {
+                                 painter_->setPen(QPen(PipelineColor(look_, row.kind), 2));
+                                 painter_->drawLine(middle - QPointF(8, 0), middle + QPointF(8, 0));
+                             }});
         }
     }
-    if (rows.empty()) return;
+    return lines;
+}
 
+/// Those that are in sight.
+void MapPainter::AddWaters(std::vector<LegendLine>& lines) {
+    for (const WaterRow& row : kWaterRows) {
+        const bool seen = std::any_of(visible_.begin(), visible_.end(), [&](const AreaMap* area) {
+            return area->water == row.water;
+        });
+        if (!seen) continue;
+        lines.push_back({QString::fromLatin1(row.text), [this, water = row.water](QPointF middle) {
+                             painter_->setPen(QPen(look_.areaLine, 1));
+                             painter_->setBrush(WaterColor(look_, water));
+                             painter_->drawRect(QRectF(middle - QPointF(7.5, 4.5), QSizeF(15, 9)));
+                         }});
+    }
+}
+
+/// From afar a spot is but a dot of its colour.
+void MapPainter::DrawSpotSample(QPointF middle, bool platform, std::uint8_t kind, bool symbol) {
+    if (symbol) {
+        const double half = MapSymbols::kSize / 2;
+        painter_->drawPixmap(middle - QPointF(half, half),
+                             platform ? symbols_.Platform(kind) : symbols_.Well(kind));
+        return;
+    }
+    painter_->setPen(Qt::NoPen);
+    painter_->setBrush(platform ? PlatformColor(look_, kind) : WellColor(look_, kind));
+    painter_->drawRect(QRectF(middle - QPointF(2, 2), QSizeF(4, 4)));
+}
+
+void MapPainter::DrawLegend() {
+    std::vector<LegendLine> lines = LegendLines();
+    if (lines.empty()) return;
+    if (layers_.legendFolded) lines.clear();
+    const QString heading = QStringLiteral("Legend");
     const QFont font = Sized(font_, 0.82, QFont::Normal);
+    const QFont bold = Sized(font_, 0.82, QFont::DemiBold);
     const QFontMetricsF metrics(font);
-    double width = 0;
-    for (const Row& row : rows)
-        width = std::max(width, metrics.horizontalAdvance(row.text));
-    const double line = std::max(metrics.height() + 2, MapSymbols::kSize + 2);
+    double width = QFontMetricsF(bold).horizontalAdvance(heading);
+    for (const LegendLine& line : lines)
+        width = std::max(width, metrics.horizontalAdvance(line.text));
+    const double height = std::max(metrics.height() + 2, MapSymbols::kSize + 2);
     const QRectF panel(view_->Width() - kMargin - (width + 44), kMargin, width + 44,
-                       line * static_cast<double>(rows.size()) + 12);
+                       height * static_cast<double>(lines.size() + 1) + 12);
     board_.Take(panel.x(), panel.y(), panel.width(), panel.height());
+    legendHeading_ = QRectF(panel.topLeft(), QSizeF(panel.width(), height + 8));
     painter_->setPen(QPen(look_.panelLine, 1));
     painter_->setBrush(look_.panel);
     painter_->drawRoundedRect(panel.translated(0.5, 0.5), 4, 4);
-    painter_->setFont(font);
-    double y = panel.top() + 6 + line / 2;
-    for (const Row& row : rows) {
-        row.draw({std::round(panel.left() + 19), std::round(y)});
+
+    double y = panel.top() + 6 + height / 2;
+    const QPointF mark(std::round(panel.left() + 19), std::round(y));
+    // It points to where the lines are, or would be.
+    const QPolygonF down{{mark + QPointF(-4, -2), mark + QPointF(4, -2), mark + QPointF(0, 3)}};
+    const QPolygonF aside{{mark + QPointF(-2, -4), mark + QPointF(-2, 4), mark + QPointF(3, 0)}};
+    painter_->setPen(Qt::NoPen);
+    painter_->setBrush(look_.panelText);
+    painter_->drawPolygon(layers_.legendFolded ? aside : down);
+    const auto write = [&](const QString& text) {
         painter_->setPen(look_.panelText);
-        painter_->drawText(QRectF(panel.left() + 36, y - line / 2, width + 4, line),
-                           Qt::AlignVCenter, row.text);
-        y += line;
+        painter_->drawText(QRectF(panel.left() + 36, y - height / 2, width + 4, height),
+                           Qt::AlignVCenter, text);
+    };
+    painter_->setFont(bold);
+    write(heading);
+    painter_->setFont(font);
+    for (const LegendLine& line : lines) {
+        y += height;
+        line.draw({std::round(panel.left() + 19), std::round(y)});
+        write(line.text);
     }
 }
 

@@ -4,7 +4,9 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QRectF>
+#include <functional>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -26,6 +28,7 @@ struct MapLayers {
     bool labels = true;
     bool graticule = true;
     bool legend = true;
+    bool legendFolded = false;
 };
 
 /// What stands out on the map.
@@ -35,6 +38,9 @@ struct MapMarks {
     /// The blocks of a selection, and those beside them.
     std::vector<BlockRef> selected = {};
     std::vector<BlockRef> neighbors = {};
+    /// What a row of the results tells of.
+    std::optional<BlockRef> rowBlock = {};
+    std::optional<Place> rowPlace = {};
 };
 
 /// Draws the map: areas from afar, then blocks, and from near what stands and lies in them.
@@ -48,8 +54,21 @@ public:
 
     void Draw(QPainter& painter, const MapModel& model, const MapView& view,
               const MapLayers& layers, const MapMarks& marks);
+    /// Where the heading of the legend was drawn; empty where there is no legend.
+    const QRectF& LegendHeading() const { return legendHeading_; }
 
 private:
+    /// A way to write a name, and where.
+    struct Placed {
+        std::string_view label;
+        QPointF middle;
+        int cost;
+    };
+    struct LegendLine {
+        QString text;
+        std::function<void(QPointF middle)> draw;
+    };
+
     QPointF At(const Point& point) const;
     QPolygonF Ring(std::span<const Point> points) const;
     QPainterPath Outline(const AreaMap& area) const;
@@ -66,19 +85,27 @@ private:
     void DrawSpots(bool platforms);
     void DrawDots(bool platforms);
     void DrawMarks(const MapMarks& marks);
+    void DrawRowMark(const MapMarks& marks);
     void DrawMarkedBlocks(const std::vector<BlockRef>& blocks, const QColor& color);
 
     void DrawGraticule();
     void DrawEdgeLabels();
     void DrawAreaLabels();
-    void DrawBlockLabels();
+    /// Those that are not picked.
+    void DrawBlockLabels(const Pick& pick);
     void DrawSpotLabels(bool platforms);
     void DrawPickLabel(const Pick& pick);
     void DrawBlockLabel(const BlockRef& block);
     /// False when it would lie over another label, or not wholly on the screen.
     bool PutLabel(LabelArt& art, std::string_view label, QPointF middle);
-    bool PutAreaLabel(std::string_view label, const QSizeF& room, QPointF middle);
+    /// Puts it at the place that covers least, of those that are free; the first of equals.
+    void PutLabelAtBest(LabelArt& art, std::string_view label, std::span<const QPointF> middles);
+    std::optional<int> CostOf(LabelArt& art, std::string_view label, QPointF middle);
+    std::optional<Placed> BestForArea(std::string_view label, const QSizeF& room, QPointF middle);
     void DrawLegend();
+    std::vector<LegendLine> LegendLines();
+    void DrawSpotSample(QPointF middle, bool platform, std::uint8_t kind, bool symbol);
+    void AddWaters(std::vector<LegendLine>& lines);
     void DrawScaleBar();
 
     MapLook look_ = LightLook();
@@ -97,6 +124,7 @@ private:
     std::vector<const AreaMap*> visible_;
     std::vector<QLineF> lines_;
     std::vector<QRectF> dots_;
+    QRectF legendHeading_;
 };
 
 }  // namespace workbench

@@ -1,4 +1,4 @@
-#include "workbench/results_model.h"
+#include "workbench/results/results_model.h"
 
 #include <algorithm>
 

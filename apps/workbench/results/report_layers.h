@@ -9,7 +9,7 @@
 
 #include "frame/catalogue.h"
 #include "workbench/dataset.h"
-#include "workbench/result_table.h"
+#include "workbench/results/result_table.h"
 #include "workbench/step_work.h"
 
 namespace workbench {
@@ -17,7 +17,8 @@ namespace workbench {
 /// What a report shows of one layer.
 struct ReportLayer {
     struct Column {
-        std::string_view expression;  ///< SQL; "t" is the layer's table, "a" that of the areas
+        /// SQL; "t" is the layer's table, "a" that of the areas, whose name is "{areas}".
+        std::string_view expression;
         std::string_view heading;
         bool number = false;
     };
@@ -55,8 +56,9 @@ std::vector<std::string> AreaLiterals(const std::string& areacode);
 /// Reads a report, the rows of a condition at a step.
 class ReportLoader final : public StepWork {
 public:
-    /// `finished` gets what was read, when all was read or the user cancelled.
-    ReportLoader(const ReportLayer& layer, std::vector<std::string> conditions,
+    /// `what` tells what the rows are; `finished` gets what was read, when all was read or the user
+    /// cancelled.
+    ReportLoader(const ReportLayer& layer, std::string what, std::vector<std::string> conditions,
                  std::function<void(ResultTable)> finished);
 
     std::string Title() const override;
@@ -74,6 +76,8 @@ private:
     std::function<void(ResultTable)> finished_;
     std::size_t next_ = 0;
     ResultTable table_;
+    int latitude_ = -1;  ///< columns
+    int longitude_ = -1;
     std::set<std::string> read_;  ///< first cells of the steps before
 };
 

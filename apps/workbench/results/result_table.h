@@ -1,7 +1,10 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
+
+#include "workbench/map/geometry.h"
 
 namespace workbench {
 
@@ -11,13 +14,15 @@ struct ResultTable {
         std::string heading;
         bool number = false;  ///< sorted by value and set to the right
     };
-    /// The block that a row belongs to.
+    /// The block that a row belongs to, and where in it.
     struct Key {
         std::string areaCode;
         std::string block;
+        std::optional<Place> place = std::nullopt;
     };
 
-    std::string title;
+    std::string title;  ///< of the layer
+    std::string what;   ///< what the rows are, as "Wells in GREEN CANYON 200"
     std::vector<Column> columns;
     std::vector<std::string> cells;  ///< row by row
     std::vector<Key> keys;           ///< one for each row
@@ -28,6 +33,12 @@ struct ResultTable {
         return cells[static_cast<std::size_t>(row) * columns.size() +
                      static_cast<std::size_t>(column)];
     }
+
+    /// Gives the numbers of a column as many decimals as the one that has the most of them.
+    void AlignDecimals();
+    /// What was found, in words: "Wells in GREEN CANYON 200: 2", of no rows a sentence, and where
+    /// only `shown` of them are shown, both numbers.
+    std::string Heading(int shown) const;
 };
 
 }  // namespace workbench

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "workbench/result_table.h"
+#include "workbench/results/result_table.h"
 
 namespace workbench {
 
@@ -18,8 +18,8 @@ std::string CsvCell(std::string_view text);
 bool SaveCsv(const ResultTable& table, std::span<const int> rows, std::string_view path,
              std::string& error);
 
-/// The same rows with tabs between the cells, for the clipboard. Line ends and tabs within a cell
-/// become blanks.
-std::string TabSeparated(const ResultTable& table, std::span<const int> rows, bool headings);
+/// The same with tabs between the cells, for the clipboard. Line ends and tabs within a cell become
+/// blanks.
+std::string TabSeparated(const ResultTable& table, std::span<const int> rows);
 
 }  // namespace workbench

@@ -1,4 +1,4 @@
-#include "workbench/report_layers.h"
+#include "workbench/results/report_layers.h"
 
 #include <algorithm>
 #include <utility>
@@ -12,6 +12,8 @@ namespace {
 
 using Column = ReportLayer::Column;
 
+constexpr std::string_view kLatitude = "Latitude";
+constexpr std::string_view kLongitude = "Longitude";
 constexpr std::string_view kAreaName = "a.areaname";
 constexpr std::string_view kBlockName = "t.lbnum||t.lbext";
 constexpr std::string_view kOfArea = "t.areacode = {area}";
@@ -28,8 +30,8 @@ constexpr Column kWells[] = {
     {"t.total_depth", "Total depth (ft)", true},
     {"t.water_depth", "Water depth (ft)", true},
     {"t.spud_date", "Spudded"},
-    {"t.surf_lat", "Latitude", true},
-    {"t.surf_lon", "Longitude", true},
+    {"t.surf_lat", kLatitude, true},
+    {"t.surf_lon", kLongitude, true},
 };
 constexpr Column kLeases[] = {
     {"t.lease_no", "Lease"},        {kAreaName, "Area"},
@@ -40,9 +42,9 @@ constexpr Column kLeases[] = {
     {"t.bonus", "Bonus ($)", true},
 };
 constexpr Column kApds[] = {
-    {"t.apd_no", "APD", true},   {"t.well_name", "Well"},      {kAreaName, "Area"},
-    {kBlockName, "Block", true}, {"t.operator", "Operator"},   {"t.received_date", "Received"},
-    {"t.lat", "Latitude", true}, {"t.lon", "Longitude", true},
+    {"t.apd_no", "APD", true},   {"t.well_name", "Well"},     {kAreaName, "Area"},
+    {kBlockName, "Block", true}, {"t.operator", "Operator"},  {"t.received_date", "Received"},
+    {"t.lat", kLatitude, true},  {"t.lon", kLongitude, true},
 };
 constexpr Column kPlatforms[] = {
     {"t.complex_id", "Complex", true},
@@ -53,19 +55,19 @@ constexpr Column kPlatforms[] = {
     {"t.water_depth", "Water depth (ft)", true},
     {"t.install_date", "Installed"},
     {"t.removal_date", "Removed"},
-    {"t.lat", "Latitude", true},
-    {"t.lon", "Longitude", true},
+    {"t.lat", kLatitude, true},
+    {"t.lon", kLongitude, true},
 };
 constexpr Column kPlans[] = {
-    {"t.plan_no", "Plan"},       {"t.plan_type", "Type"},      {kAreaName, "Area"},
-    {kBlockName, "Block", true}, {"t.operator", "Operator"},   {"t.received_date", "Received"},
-    {"t.lat", "Latitude", true}, {"t.lon", "Longitude", true},
+    {"t.plan_no", "Plan"},       {"t.plan_type", "Type"},     {kAreaName, "Area"},
+    {kBlockName, "Block", true}, {"t.operator", "Operator"},  {"t.received_date", "Received"},
+    {"t.lat", kLatitude, true},  {"t.lon", kLongitude, true},
 };
 constexpr Column kPipelines[] = {
     {"t.segment_no", "Segment", true},
     {kAreaName, "From area"},
     {kBlockName, "From block", true},
-    {"t.to_areacode", "To area code"},
+    {"(select o.areaname from {areas} o where o.stcode = t.to_areacode)", "To area"},
     {"t.to_lbnum||t.to_lbext", "To block", true},
     {"t.operator", "Operator"},
     {"t.status", "Status"},
@@ -74,17 +76,17 @@ constexpr Column kPipelines[] = {
     {"t.approval_date", "Approved"},
 };
 constexpr Column kProspects[] = {
-    {"t.prospect", "Prospect"}, {kAreaName, "Area"},         {kBlockName, "Block", true},
-    {"t.company", "Company"},   {"t.lat", "Latitude", true}, {"t.lon", "Longitude", true},
+    {"t.prospect", "Prospect"}, {kAreaName, "Area"},        {kBlockName, "Block", true},
+    {"t.company", "Company"},   {"t.lat", kLatitude, true}, {"t.lon", kLongitude, true},
 };
 constexpr Column kFields[] = {
     {"t.field", "Field"},        {kAreaName, "Area"},
     {kBlockName, "Block", true}, {"t.discovery_date", "Discovered"},
-    {"t.lat", "Latitude", true}, {"t.lon", "Longitude", true},
+    {"t.lat", kLatitude, true},  {"t.lon", kLongitude, true},
 };
 constexpr Column kShotpoints[] = {
     {"t.line", "Line"},          {"t.shotpoint", "Shotpoint", true}, {kAreaName, "Area"},
-    {kBlockName, "Block", true}, {"t.lat", "Latitude", true},        {"t.lon", "Longitude", true},
+    {kBlockName, "Block", true}, {"t.lat", kLatitude, true},         {"t.lon", kLongitude, true},
 };
 
 /// A pipeline belongs to the block it begins in and to the one it ends in.
@@ -128,13 +130,14 @@ std::string BlockCondition(const ReportLayer& layer, const std::string& quotedAr
 }
 
 std::string ReportStatement(const ReportLayer& layer, const std::string& condition) {
+    const std::string areas = TableName(kv::catalogue::kAreaTable);
     std::string statement = "select ";
     for (const Column& column : layer.columns) {
-        statement.append(column.expression).append(", ");
+        statement += kv::ReplaceAll(std::string(column.expression), "{areas}", areas) + ", ";
     }
     statement.append("t.areacode, ").append(kBlockName);
-    statement += " from " + TableName(std::string(layer.table)) + " t, " +
-                 TableName(kv::catalogue::kAreaTable) + " a where a.stcode = t.areacode and ";
+    statement += " from " + TableName(std::string(layer.table)) + " t, " + areas +
+                 " a where a.stcode = t.areacode and ";
     return statement.append(condition).append(" order by ").append(layer.order);
 }
 
@@ -145,11 +148,15 @@ std::vector<std::string> AreaLiterals(const std::string& areacode) {
     return kv::Split(list, ',');
 }
 
-ReportLoader::ReportLoader(const ReportLayer& layer, std::vector<std::string> conditions,
+ReportLoader::ReportLoader(const ReportLayer& layer, std::string what,
+                           std::vector<std::string> conditions,
                            std::function<void(ResultTable)> finished)
     : layer_(layer), conditions_(std::move(conditions)), finished_(std::move(finished)) {
     table_.title = layer.title;
+    table_.what = std::move(what);
     for (const Column& column : layer.columns) {
+        if (column.heading == kLatitude) latitude_ = table_.ColumnCount();
+        if (column.heading == kLongitude) longitude_ = table_.ColumnCount();
         table_.columns.push_back({std::string(column.heading), column.number});
     }
 }
@@ -179,10 +186,14 @@ void ReportLoader::AddRow(const Rows& rows, int row) {
     for (int column = 0; column < columns; ++column) {
         table_.cells.emplace_back(rows.Cell(row, column));
     }
-    table_.keys.push_back({rows.Cell(row, columns), rows.Cell(row, columns + 1)});
+    ResultTable::Key key{rows.Cell(row, columns), rows.Cell(row, columns + 1)};
+    if (latitude_ >= 0 && longitude_ >= 0 && *rows.Cell(row, latitude_))
+        key.place = Place{rows.Number(row, latitude_), rows.Number(row, longitude_)};
+    table_.keys.push_back(std::move(key));
 }
 
 void ReportLoader::Finished() {
+    table_.AlignDecimals();
     finished_(std::move(table_));
 }
 

@@ -3,7 +3,7 @@
 #include <QAbstractTableModel>
 #include <vector>
 
-#include "workbench/result_table.h"
+#include "workbench/results/result_table.h"
 
 namespace workbench {
 

@@ -1,4 +1,4 @@
-#include "workbench/csv.h"
+#include "workbench/results/csv.h"
 
 #include "base/paths.h"
 
@@ -55,13 +55,13 @@ bool SaveCsv(const ResultTable& table, std::span<const int> rows, std::string_vi
     return written;
 }
 
-std::string TabSeparated(const ResultTable& table, std::span<const int> rows, bool headings) {
+std::string TabSeparated(const ResultTable& table, std::span<const int> rows) {
     std::string text;
     const auto add = [&](auto&& cellAt) {
         if (!text.empty()) text += '\n';
         text += Line(table.ColumnCount(), '\t', cellAt);
     };
-    if (headings) add([&](std::size_t column) { return TabCell(table.columns[column].heading); });
+    add([&](std::size_t column) { return TabCell(table.columns[column].heading); });
     for (const int row : rows) {
         add([&](std::size_t column) { return TabCell(table.Cell(row, static_cast<int>(column))); });
     }

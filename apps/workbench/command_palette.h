@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QDialog>
+#include <vector>
+
+class QAction;
+class QLineEdit;
+class QMenuBar;
+class QTreeWidget;
+
+namespace workbench {
+
+/// Finds any command of the menus by some words of its name.
+class CommandPalette : public QDialog {
+    Q_OBJECT
+public:
+    explicit CommandPalette(const QMenuBar& menus, QWidget* parent = nullptr);
+
+    QLineEdit& Words() { return *words_; }
+    QTreeWidget& List() { return *list_; }
+    /// The command that was chosen, which may be a disabled one; null where the user gave up.
+    QAction* Chosen() const { return chosen_; }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void Narrow(const QString& words);
+    void Choose();
+
+    QLineEdit* words_;
+    QTreeWidget* list_;
+    std::vector<QAction*> actions_;  ///< one for each row of the list
+    QAction* chosen_ = nullptr;
+};
+
+}  // namespace workbench
