@@ -158,7 +158,11 @@ void Workbench::Restore() {
     window_->restoreGeometry(Remembered(kGeometry));
     window_->restoreState(Remembered(kState), kStateVersion);
     // The screen may be another one than that time.
-    const QRect screen = window_->screen()->availableGeometry();
+    if (window_->isMaximized() || window_->isFullScreen()) return;
+    constexpr int kBorder = 8;
+    constexpr int kTitle = 32;
+    const QRect screen =
+        window_->screen()->availableGeometry().adjusted(kBorder, kTitle, -kBorder, -kBorder);
     QRect place = window_->geometry();
     place.setSize(place.size().boundedTo(screen.size()));
     place.moveRight(std::min(place.right(), screen.right()));

@@ -52,7 +52,10 @@ protected:
         user->Select(kArea, area);
         user->Select(kBlock, block);
     }
+    /// Also where a dropped list has taken the window's activation, as it does without a display.
     void GoToMap() {
+        host->Window().activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&host->Window()));
         host->Canvas().setFocus();
         QApplication::processEvents();
         ASSERT_TRUE(host->Canvas().hasFocus());

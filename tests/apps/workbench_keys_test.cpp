@@ -92,16 +92,19 @@ TEST_F(WorkbenchKeys, F6PassesByWhatIsNotSeen) {
 TEST_F(WorkbenchKeys, RowsAreCopiedWithTheirHeadings) {
     Pick("EI", "391");
     Report("Wells");
-    // The platform of no display does not come back from a popup by itself.
-    QApplication::setActiveWindow(&host->Window());
-    host->Results().View().Enter();
-    PressKey(Qt::Key_Down, Qt::ShiftModifier);
-    PressKey(Qt::Key_C, Qt::ControlModifier);
+    ResultsView& view = host->Results().View();
+    const auto press = [&view](Qt::Key key, Qt::KeyboardModifier modifier) {
+        QKeyEvent event(QEvent::KeyPress, key, modifier);
+        QApplication::sendEvent(&view, &event);
+    };
+    view.Enter();
+    press(Qt::Key_Down, Qt::ShiftModifier);
+    press(Qt::Key_C, Qt::ControlModifier);
     const QStringList lines = QApplication::clipboard()->text().split(u'\n');
     ASSERT_EQ(lines.size(), 3);
     EXPECT_TRUE(lines[0].startsWith(QStringLiteral("API number\tWell\tArea\tBlock")));
-    PressKey(Qt::Key_A, Qt::ControlModifier);
-    PressKey(Qt::Key_C, Qt::ControlModifier);
+    press(Qt::Key_A, Qt::ControlModifier);
+    press(Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(QApplication::clipboard()->text().count(u'\n'), host->Results().Model().rowCount());
 }
 

@@ -176,7 +176,7 @@ TEST_F(WorkbenchTest, TheWindowOpensWithinTheScreen) {
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
     ASSERT_LT(screen.width(), 900) << "nothing to fit in";
     Open();
-    const QRect place = host->Window().frameGeometry();
+    const QRect place = host->Window().geometry();
     // The bar is a little wider than this screen.
     EXPECT_LE(place.width(), std::max(screen.width(), host->Window().minimumSizeHint().width()));
     EXPECT_TRUE(screen.contains(place.topLeft()));
