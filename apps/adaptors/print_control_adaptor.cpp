@@ -56,6 +56,7 @@ const Register kRegistered({
     "CKvGuiPrintControl",
     "Print and sizing",
     "Print / Preview Dialog",
+    "Scale and paper for printing",
     kv::print_control::kTemplate,
     {
         BoundsInput(),

@@ -23,6 +23,7 @@ const Register kRegistered({
     "CKvGuiSizingDlg",
     "Print and sizing",
     "Map Sizing Dialog",
+    "Scale and size of a map",
     kv::sizing::kTemplate,
     {
         BoundsInput(),
