@@ -10,7 +10,7 @@
 class CDirDialog;
 
 /// The folder chooser's window: takes the button that the chooser has put over OK.
-class CDirDialogWnd : public CWnd {
+class KVGUICTL_API CDirDialogWnd : public CWnd {
 public:
     explicit CDirDialogWnd(CDirDialog& dialog) : m_dialog(dialog) {}
 

@@ -9,7 +9,7 @@
 namespace kv::dir_dialog {
 
 /// What the box in which a folder is typed needs of the dialog around it.
-class Chooser {
+class KVGUICTL_API Chooser {
 public:
     virtual ~Chooser() = default;
     /// The path that a text means in the folder that is shown.
@@ -29,7 +29,7 @@ KVGUICTL_API std::string RestOfName(std::string_view typed, const std::string& n
 
 /// The box in which a folder is typed. It takes every key: Enter goes to the folder, any other
 /// character too, once what is typed is one, and else completes its name.
-class CDirDialogEdit : public CEdit {
+class KVGUICTL_API CDirDialogEdit : public CEdit {
 public:
     /// The chooser, which is not owned, has to outlive it.
     explicit CDirDialogEdit(kv::dir_dialog::Chooser& chooser) : m_chooser(chooser) {}
