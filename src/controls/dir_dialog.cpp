@@ -156,9 +156,14 @@ bool CDirDialog::Make(const std::string& path, const char* otherwise) {
     return false;
 }
 
-bool CDirDialog::MayExportInto(const std::string& path) const {
+bool CDirDialog::MayExportInto(const std::string& path) {
+    if (!m_bOpenExportDir) return true;
     const auto entries = kv::ReadFolder(PathMeant(path));
-    if (!m_bOpenExportDir || !entries || entries->empty()) return true;
+    if (!entries) {
+        Refuse(path + "\nThis folder cannot be read.");
+        return false;
+    }
+    if (entries->empty()) return true;
     const std::string question = path +
                                  "\nThis folder contains files already.\nYou could override your "
                                  "existing files. \nDo you still want to export files into this "

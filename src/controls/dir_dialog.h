@@ -53,7 +53,7 @@ private:
     void GoToAndEnd(const std::string& path);
     void Refuse(const std::string& words);
     bool Make(const std::string& path, const char* otherwise);
-    bool MayExportInto(const std::string& path) const;
+    bool MayExportInto(const std::string& path);
     bool IsDrive(const std::string& path) const;
     kv::DriveKind KindOf(const std::string& path) const;
 

@@ -10,6 +10,7 @@
 #include "controls/dir_dialog_ids.h"
 #include "frame/module.h"
 #include "support/dialog_fixture.h"
+#include "support/file_faults.h"
 #include "support/temp_folder.h"
 
 namespace test {
@@ -216,6 +217,20 @@ TEST_F(DirDialog, AnExportIntoAFolderWithFilesIsAskedAbout) {
     EXPECT_EQ(Open("D:\\Empty", true), IDOK);
     EXPECT_EQ(Open("D:\\made", true), IDOK);
     EXPECT_EQ(Open("D:\\Gulf", false), IDOK);
+}
+
+TEST_F(DirDialog, AnExportIntoAFolderThatCannotBeReadIsRefused) {
+    Tells("D:\\Gulf\nThis folder cannot be read.");
+    EXPECT_EQ(Run(
+                  [](kv::User& user) {
+                      user.Paste(kFolderEdit, "D:\\Gulf");
+                      const FileFaults faults(1);
+                      user.Click(kOpen);
+                      EXPECT_TRUE(user.Open());
+                      user.Click(IDCANCEL);
+                  },
+                  true),
+              IDCANCEL);
 }
 
 TEST_F(DirDialog, ValidatePathIsOpenWithThatPath) {

@@ -49,9 +49,13 @@ Chord ParseChord(std::string_view text) {
 }  // namespace
 
 std::string ClassName(const CWnd& window) {
+    // A window goes by the handle that it was made with, whichever stand in front of that.
+    const CWnd* own = &window;
+    while (const CWnd* behind = window.m_hWnd ? window.m_hWnd->HandleBehind(own) : nullptr)
+        own = behind;
     int status = 0;
-    char* name = abi::__cxa_demangle(typeid(window).name(), nullptr, nullptr, &status);
-    std::string result = status == 0 ? name : typeid(window).name();
+    char* name = abi::__cxa_demangle(typeid(*own).name(), nullptr, nullptr, &status);
+    std::string result = status == 0 ? name : typeid(*own).name();
     std::free(name);
     return result;
 }

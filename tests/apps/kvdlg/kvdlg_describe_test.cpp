@@ -140,7 +140,8 @@ TEST(KvdlgDescribe, FieldsGoByTheLabelAheadOfThem) {
 
 std::map<int, std::string> KeysOf(const char* className) {
     std::map<int, std::string> keys;
-    for (const Json& control : Kvdlg().Describe(className).at("controls")) {
+    const Json controls = Kvdlg().Describe(className).at("controls");
+    for (const Json& control : controls) {
         if (control.contains("key")) keys[control.at("id")] = control.at("key");
     }
     return keys;
@@ -156,7 +157,8 @@ TEST(KvdlgDescribe, TellsTheKeysThatReachTheControls) {
 }
 
 TEST(KvdlgDescribe, TellsWhatAControlWithoutATextIsFor) {
-    for (const Json& control : Kvdlg().Describe("CKvGuiListSel").at("controls")) {
+    const Json controls = Kvdlg().Describe("CKvGuiListSel").at("controls");
+    for (const Json& control : controls) {
         const bool asked = control.at("id") == 29300;
         EXPECT_EQ(control.value("tip", ""), asked ? "Take the list from a file" : "");
     }
