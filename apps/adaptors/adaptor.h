@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "window/templates/dialog_template.h"
+
 class CWnd;
 
 /// An adaptor runs one dialog or tool from JSON: inputs in, outcome out. Both hosts find it by the
@@ -83,6 +85,12 @@ private:
     Call call_;
 };
 
+/// A control that a dialog makes itself, in the tab order behind one of its template.
+struct AddedControl {
+    int behind;
+    kv::ControlRow row;
+};
+
 struct Adaptor {
     std::string className;
     std::string family;
@@ -95,6 +103,7 @@ struct Adaptor {
     std::vector<Method> calls = {};  ///< what `Run::SetCall` understands
     /// Of a modeless tool: makes one over a window, null for none, that the host then keeps.
     std::function<std::unique_ptr<Tool>(CWnd* owner)> makeTool = {};
+    std::vector<AddedControl> added = {};
 
     /// The sample inputs, those that are left out excepted.
     Json SampleInputs() const;

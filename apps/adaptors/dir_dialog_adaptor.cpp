@@ -1,5 +1,6 @@
 #include "adaptors/adaptor.h"
 #include "controls/dir_dialog.h"
+#include "controls/dir_dialog_ids.h"
 
 namespace adaptors {
 
@@ -26,6 +27,10 @@ const Register kRegistered({
     },
     "folder (with a backslash at its end), export",
     RunDirDialog,
+    {},
+    {},
+    {{kv::file_dialog::kName, {kv::dir_dialog::kFolderEdit, kv::ControlKind::kEdit, "", {}}},
+     {IDOK, {kv::dir_dialog::kOpen, kv::ControlKind::kDefaultButton, "Open", {}}}},
 });
 
 }  // namespace

@@ -129,20 +129,34 @@ Json DescribeRow(const kv::ControlRow& row, const std::string& label, const kv::
     return result;
 }
 
-Json DescribeTemplate(int templateId) {
+std::vector<kv::ControlRow> RowsOf(const kv::DialogTemplate& dialogTemplate,
+                                   const std::vector<adaptors::AddedControl>& added) {
+    std::vector<kv::ControlRow> rows;
+    for (const kv::ControlRow& row : dialogTemplate.rows) {
+        rows.push_back(row);
+        for (const adaptors::AddedControl& each : added) {
+            if (each.behind == row.id) rows.push_back(each.row);
+        }
+    }
+    return rows;
+}
+
+Json DescribeControls(const adaptors::Adaptor& adaptor) {
     Json rows = Json::array();
-    const kv::DialogTemplate* found = kv::FindTemplate(templateId);
+    const kv::DialogTemplate* found = kv::FindTemplate(adaptor.templateId);
     if (!found) return rows;
+    const std::vector<kv::ControlRow> all = RowsOf(*found, adaptor.added);
+    kv::DialogTemplate whole = *found;
+    whole.rows = all;
     // A bar has no caption.
     const bool dialog = *found->caption != '\0';
     const auto host = std::make_shared<kv::Node>(
         dialog ? kv::NodeClass::kDialog : kv::NodeClass::kBar, 0, DWORD{0});
-    kv::CreateControls(*host, *found);
+    kv::CreateControls(*host, whole);
     std::string label;
-    for (std::size_t at = 0; at < found->rows.size(); ++at) {
-        const kv::ControlRow& row = found->rows[at];
-        if (IsLabel(row) && !IsUnit(found->rows, at)) label = row.text;
-        rows.push_back(DescribeRow(row, label + UnitOf(found->rows, at), *host->Children()[at]));
+    for (std::size_t at = 0; at < all.size(); ++at) {
+        if (IsLabel(all[at]) && !IsUnit(all, at)) label = all[at].text;
+        rows.push_back(DescribeRow(all[at], label + UnitOf(all, at), *host->Children()[at]));
     }
     return rows;
 }
@@ -191,7 +205,7 @@ Json Describe(kv::Node& window, const std::string& snapshot) {
 }
 
 Json DescribeDialog(const adaptors::Adaptor& adaptor) {
-    const Json controls = DescribeTemplate(adaptor.templateId);
+    const Json controls = DescribeControls(adaptor);
     return {{"class", adaptor.className}, {"family", adaptor.family},
             {"caption", adaptor.caption}, {"inputs", DescribeInputs(adaptor.inputs)},
             {"controls", controls},       {"calls", DescribeCalls(adaptor.calls)},

@@ -12,6 +12,9 @@ using namespace kv::dir_dialog;
 
 namespace {
 
+/// A window that only changes its place in the tab order.
+constexpr UINT kStays = SWP_NOMOVE | SWP_NOSIZE;
+
 std::string FilterWith(const char* given) {
     return std::string("Show Folders Only|.|") +
            (given && *given ? given : "All Files (*.*)|*.*||");
@@ -89,9 +92,11 @@ void CDirDialog::OnInitDone() {
     };
     m_edit.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_BORDER | ES_AUTOHSCROLL,
                   placeOf(kv::file_dialog::kName), this, kFolderEdit);
+    m_edit.SetWindowPos(GetDlgItem(kv::file_dialog::kName), 0, 0, 0, 0, kStays);
     m_edit.SetWindowText(m_strInitialDir.c_str());
     m_open.Create("Open", WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_PUSHBUTTON, placeOf(IDOK), this,
                   kOpen);
+    m_open.SetWindowPos(GetDlgItem(IDOK), 0, 0, 0, 0, kStays);
     SetDefID(kOpen);
     GetDlgItem(IDOK)->ShowWindow(SW_HIDE);
     GetDlgItem(kv::file_dialog::kName)->ShowWindow(SW_HIDE);

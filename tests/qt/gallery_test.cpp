@@ -105,7 +105,9 @@ TEST_F(Gallery, ShowsEveryKindOfControl) {
     // All of it, also of a dialog that scrolls, since the screen is too small for it.
     const QSize whole = kv::qt::CurrentScale().ToScreen(
         CSize{dialog.m_hWnd->Rect().Width(), dialog.m_hWnd->Rect().Height()});
-    EXPECT_EQ(image.size(), whole * Window()->devicePixelRatio());
+    const QSize screen = Window()->screen()->availableGeometry().size();
+    const bool fits = whole.width() < screen.width() && whole.height() < screen.height();
+    EXPECT_EQ(image.size(), (fits ? Window()->size() : whole) * Window()->devicePixelRatio());
     EXPECT_GT(ColorsIn(image), 20);
 }
 
