@@ -131,9 +131,13 @@ Json DescribeRow(const kv::ControlRow& row, const std::string& label, const kv::
 
 std::vector<kv::ControlRow> RowsOf(const kv::DialogTemplate& dialogTemplate,
                                    const std::vector<adaptors::AddedControl>& added) {
+    using enum kv::ControlKind;
+    const bool otherDefault = std::ranges::any_of(
+        added, [](const adaptors::AddedControl& each) { return each.row.kind == kDefaultButton; });
     std::vector<kv::ControlRow> rows;
     for (const kv::ControlRow& row : dialogTemplate.rows) {
         rows.push_back(row);
+        if (otherDefault && row.kind == kDefaultButton) rows.back().kind = kPushButton;
         for (const adaptors::AddedControl& each : added) {
             if (each.behind == row.id) rows.push_back(each.row);
         }
