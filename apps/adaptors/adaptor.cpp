@@ -42,11 +42,11 @@ bool IsOfType(const Json& value, const std::string& type) {
     return true;
 }
 
-std::string InWords(const std::string& type) {
+}  // namespace
+
+std::string TypeInWords(const std::string& type) {
     return type == "flag" ? "true or false" : "a " + type;
 }
-
-}  // namespace
 
 void Run::DoCall(const std::string& method, const Json& arguments) const {
     if (!call_) throw BadInput("There is nothing to call here: \"" + method + "\"");
@@ -72,16 +72,19 @@ Json Adaptor::SampleInputs() const {
     return sample;
 }
 
+const Input& Adaptor::RequireInput(const std::string& name) const {
+    const Input* input = FindNamed(inputs, name);
+    if (input) return *input;
+    throw BadInput(className + " takes no input \"" + name + "\"; it takes: " + NamesOf(inputs),
+                   name);
+}
+
 void Adaptor::Check(const Json& given) const {
     if (!given.is_object()) throw BadInput("\"inputs\" has to be an object");
     for (const auto& [name, value] : given.items()) {
-        const Input* input = FindNamed(inputs, name);
-        if (!input) {
-            throw BadInput(
-                className + " takes no input \"" + name + "\"; it takes: " + NamesOf(inputs), name);
-        }
-        if (!IsOfType(value, input->type)) {
-            throw BadInput("The input \"" + name + "\" takes " + InWords(input->type) +
+        const Input& input = RequireInput(name);
+        if (!IsOfType(value, input.type)) {
+            throw BadInput("The input \"" + name + "\" takes " + TypeInWords(input.type) +
                                ", and not " + value.dump(),
                            name);
         }

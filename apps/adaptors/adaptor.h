@@ -27,6 +27,9 @@ struct Input {
     Json sample;  ///< what makes sense on the sample data; null where the input may be left out
 };
 
+/// "a number", or "true or false".
+std::string TypeInWords(const std::string& type);
+
 /// What a tool's host may call while the tool is open.
 struct Method {
     std::string name;
@@ -107,6 +110,8 @@ struct Adaptor {
 
     /// The sample inputs, those that are left out excepted.
     Json SampleInputs() const;
+    /// Throws BadInput for a name that is none of the inputs.
+    const Input& RequireInput(const std::string& name) const;
     /// Throws BadInput when `given` is no object, holds a name that is none of the inputs, or a
     /// value that is not of the input's type.
     void Check(const Json& given) const;

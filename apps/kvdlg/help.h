@@ -8,6 +8,8 @@ inline constexpr const char* kHelp = R"(
   kvdlg describe CKvGuiPipeStatusDlg           how to talk to one of them
   kvdlg run CKvGuiPipeStatusDlg                opens it in a window
   kvdlg run CKvGuiPipeStatusDlg --script FILE  plays a script on it, without a window
+  kvdlg run CKvGuiPipeStatusDlg --set text=ACT --print text
+                                               for shell scripts: one input, one value of the outcome
   kvdlg run --help                             how to write a script
 
 Exit codes: 0 done, 1 cancelled, 2 wrong use or a script that does not fit, 3 a failure of the
@@ -40,6 +42,8 @@ below; null for none. Left out, it is one without a name, with Letter paper. "dr
 beside those of the registry, as {"D": {"folder": "C:\\data", "kind": "removable"}}; the kind may also
 be "fixed", which it is if left out, "remote" or "CD-ROM".
 
+A name in a script that is none of these is refused, with its line.
+
 "user" lists scenes, which are taken in the order in which things open. A message box that opens
 between two actions of a window is the scene behind that window's.
 
@@ -71,6 +75,11 @@ Actions, with the ids that "kvdlg describe CLASS" tells:
   {"close": null}                 closes the window by its window button
   {"call": [METHOD, ...]}         what the host of an open tool calls, with its arguments
   {"snapshot": NAME}              adds the controls as they stand to "windows"
+
+For shell scripts, --set NAME=VALUE gives one input, a number, true or false, a list or an object as
+in JSON, and a text without quotes; of a list of texts each --set adds one. --print KEY prints what the
+outcome holds under that name, a text without quotes, of a list each item on a line; "bounds.0" is the
+first item of "bounds". The exit code tells whether the dialog was cancelled.
 
 The outcome is one JSON object: "result" (IDOK, IDCANCEL), "outcome" (what the dialog leaves to its
 caller), "messages" (texts of the message boxes), "sql" (with --trace), "windows" (each window's

@@ -9,7 +9,6 @@
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
-#include <fstream>
 #include <iostream>
 #include <optional>
 #include <sstream>
@@ -19,9 +18,12 @@
 #include "frame/kvdbkvn/db_abs_data_mgr.h"
 #include "frame/kvdbkvn/statement_trace.h"
 #include "frame/module.h"
+#include "kvdlg/class_name.h"
 #include "kvdlg/failure.h"
 #include "kvdlg/help.h"
+#include "kvdlg/inputs.h"
 #include "kvdlg/play.h"
+#include "kvdlg/printed_value.h"
 #include "kvdlg/report.h"
 #include "kvdlg/script.h"
 #include "kvdlg/script_lines.h"
@@ -33,29 +35,13 @@ using adaptors::Adaptor;
 
 struct Options {
     std::string className;
-    std::string inputFile;
-    std::string scriptFile;
+    Given given;
     std::string database;
     std::string picture;
+    std::string printed;         ///< key of the one value to print, by itself
+    std::string printedWithNul;  ///< the same, each item with a NUL behind it
     bool trace = false;
 };
-
-std::string ReadFile(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    std::ostringstream text;
-    text << file.rdbuf();
-    if (!file) throw FileFailure("The file " + path + " cannot be read");
-    return text.str();
-}
-
-const Adaptor& Require(const std::string& className) {
-    const Adaptor* adaptor = adaptors::Find(className);
-    if (!adaptor) {
-        throw BadUse("There is no dialog \"" + className +
-                     "\"; \"kvdlg list\" tells which there are");
-    }
-    return *adaptor;
-}
 
 /// Prints what was asked for. Throws FileFailure where it does not arrive.
 void PrintOut(const std::string& text) {
@@ -78,34 +64,6 @@ int List() {
 int DescribeClass(const Options& options) {
     PrintOut(Print(DescribeDialog(Require(options.className))) + "\n");
     return kDone;
-}
-
-std::optional<Script> ReadScript(const Options& options) {
-    if (options.scriptFile.empty()) return {};
-    Script script{ReadFile(options.scriptFile), {}};
-    script.json = ParseJson(script.text, "The script " + options.scriptFile);
-    if (!script.json.is_object()) throw BadScript("Line 1: expected the script to be an object");
-    return script;
-}
-
-/// The inputs of the input file, under "inputs" or by themselves.
-Json InputsOfFile(const std::string& path) {
-    const Json given = ParseJson(ReadFile(path), "The file " + path);
-    return given.is_object() && given.contains("inputs") ? given["inputs"] : given;
-}
-
-/// Those of the input file go over those of the script. A person who gives none gets the samples.
-Json InputsOf(const Options& options, const Adaptor& adaptor, const std::optional<Script>& script) {
-    if (!script && options.inputFile.empty()) return adaptor.SampleInputs();
-    Json inputs = script ? script->json.value("inputs", Json::object()) : Json::object();
-    if (!options.inputFile.empty()) {
-        const Json own = InputsOfFile(options.inputFile);
-        if (!own.is_object() || !inputs.is_object()) {
-            throw BadScript("The file " + options.inputFile + ": expected an object of inputs");
-        }
-        inputs.update(own);
-    }
-    return inputs;
 }
 
 /// Puts the line of the script ahead of a complaint about an input that stands there.
@@ -182,11 +140,19 @@ void RunOn(const Adaptor& adaptor, adaptors::Run& run, const Options& options,
     }
 }
 
+std::string WhatIsAskedFor(const Json& outcome, const Options& options) {
+    if (!options.printed.empty()) return Bare(ValueOf(outcome, options.printed), '\n');
+    if (!options.printedWithNul.empty())
+        return Bare(ValueOf(outcome, options.printedWithNul), '\0');
+    return Print(outcome) + "\n";
+}
+
 int RunDialog(const Options& options) {
     const Adaptor& adaptor = Require(options.className);
-    const std::optional<Script> script = ReadScript(options);
+    const std::optional<Script> script = ReadScript(options.given);
+    const Json inputs = InputsOf(options.given, adaptor, script);
     if (!options.database.empty()) UseDatabase(options.database);
-    adaptors::Run run(InputsOf(options, adaptor, script));
+    adaptors::Run run(inputs);
     Records records;
     kv::db::SetStatementTrace(
         [&](const std::string& statement) { records.sql.push_back(statement); });
@@ -197,7 +163,7 @@ int RunDialog(const Options& options) {
         throw BadScript(WithLine(e, script));
     }
     kv::db::SetStatementTrace(nullptr);
-    PrintOut(Print(Outcome(run, records, options.trace)) + "\n");
+    PrintOut(WhatIsAskedFor(Outcome(run, records, options.trace), options));
     return run.result == IDCANCEL ? kCancelled : run.result == IDOK ? kDone : kDataFailure;
 }
 
@@ -229,15 +195,30 @@ void OccupyClosedStreams() {
 
 void AddRunOptions(CLI::App& run, Options& options) {
     run.add_option("CLASS", options.className, "The dialog's class")->required();
-    run.add_option("--input", options.inputFile,
-                   "JSON file with the inputs; those of a script are overridden. Without this, a "
-                   "window opens with the samples that \"describe\" names");
-    run.add_option("--script", options.scriptFile,
-                   "JSON file that plays the user, without a window; if left out, a window opens");
+    Given& given = options.given;
+    run.add_option("--input", given.inputFile,
+                   "JSON file with the inputs, - for standard input; those of a script are "
+                   "overridden. Without this, a window opens with the samples that \"describe\" "
+                   "names");
+    run.add_option(
+           "--set", given.settings,
+           "NAME=VALUE, one input, over those of the files; may be given again, and adds to "
+           "a list then")
+        ->allow_extra_args(false);
+    run.add_option("--script", given.scriptFile,
+                   "JSON file that plays the user, without a window, - for standard input; if left "
+                   "out, a window opens");
     run.add_option("--db", options.database,
                    "Server text, as sqlite:PATH or postgresql://...; the sample database if left "
                    "out");
     run.add_flag("--trace", options.trace, "Adds the SQL texts that were sent");
+    auto* print =
+        run.add_option("--print", options.printed,
+                       "Prints one value of the outcome by itself, of a list each item on "
+                       "a line; its name, or \"result\", or \"messages\"");
+    run.add_option("--print0", options.printedWithNul,
+                   "The same with a NUL behind each, for values of several lines")
+        ->excludes(print);
     run.add_option("--picture", options.picture,
                    "PNG file for a picture of the dialog as it stands when it closes; with a "
                    "script, no display is needed for it");
@@ -251,6 +232,7 @@ int main(int argc, char** argv) {
     CLI::App app("Runs the dialogs of KVGuiCtl from the shell", "kvdlg");
     app.footer(kHelp);
     app.require_subcommand(1);
+    app.set_version_flag("--version", std::string("kvdlg ") + KVGUICTL_VERSION);
     Options options;
 
     auto* list = app.add_subcommand("list", "Every dialog: class, family, caption");

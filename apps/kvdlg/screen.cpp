@@ -2,6 +2,8 @@
 
 #include <QApplication>
 #include <QLoggingCategory>
+#include <cstdlib>
+#include <iostream>
 #include <optional>
 
 #include "kvdlg/failure.h"
@@ -45,11 +47,26 @@ private:
     WindowClosed closed_;
 };
 
+/// A platform that cannot be had ends the program from within Qt; better with a line than a crash.
+void EndInWords(QtMsgType type, const QMessageLogContext&, const QString&) {
+    if (type != QtFatalMsg) return;
+    std::cerr << "kvdlg: The display cannot be reached:";
+    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", kPlatform}) {
+        if (qEnvironmentVariableIsSet(name)) std::cerr << " " << name << "=" << getenv(name);
+    }
+    std::cerr << "; --script plays the user without one" << std::endl;
+    std::_Exit(kDataFailure);
+}
+
 /// What Qt needs to start, where it has not been started.
 class Application {
 public:
     Application() {
-        if (!QApplication::instance()) application_.emplace(count_, names_);
+        if (!QApplication::instance()) {
+            const QtMessageHandler before = qInstallMessageHandler(EndInWords);
+            application_.emplace(count_, names_);
+            qInstallMessageHandler(before);
+        }
         QApplication::setApplicationName(QStringLiteral("kvdlg"));
         // Between two dialogs no window is open, and the program goes on.
         QApplication::setQuitOnLastWindowClosed(false);

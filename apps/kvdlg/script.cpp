@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <map>
+#include <span>
+#include <string_view>
 #include <vector>
 
 #include "adaptors/print_inputs.h"
@@ -122,6 +124,18 @@ std::string LineOf(const Lines& lines, const std::string& pointer) {
     return at == lines.end() ? std::string() : "Line " + std::to_string(at->second) + ", ";
 }
 
+/// A name that nobody asks for is a slip of the pen.
+void RefuseOthers(const Json& object, std::span<const std::string_view> known,
+                  const std::function<std::string(const std::string& key)>& where) {
+    for (const auto& [key, value] : object.items()) {
+        if (std::ranges::find(known, key) != known.end()) continue;
+        std::string names;
+        for (const std::string_view each : known)
+            names += (names.empty() ? "" : ", ") + std::string(each);
+        Wrong(where(key), "nothing but " + names + " here, and not \"" + key + "\"");
+    }
+}
+
 Action MakeAction(const Json& step, const std::string& where, const Hooks& hooks) {
     if (!step.is_object() || step.size() != 1) Wrong(where, "an object with one action");
     const std::string name = step.begin().key();
@@ -154,6 +168,10 @@ struct ScenePlace {
     const Lines& lines;
 
     std::string Pointer() const { return "/user/" + std::to_string(index); }
+    /// The line of one of its keys.
+    std::string WordsOfKey(const std::string& key) const {
+        return LineOf(lines, Pointer() + "/" + key) + "scene " + std::to_string(index + 1);
+    }
     std::string Words() const {
         return LineOf(lines, Pointer()) + "scene " + std::to_string(index + 1);
     }
@@ -216,10 +234,29 @@ std::string MapTextOf(const Json& picks, const std::string& where) {
     return text;
 }
 
+/// Each kind of scene by the key that tells it, with what else it may hold.
+struct SceneKind {
+    std::string_view keys[2];
+};
+constexpr SceneKind kSceneKinds[] = {{{"window", "do"}}, {{"message", "answer"}},
+                                     {{"file"}},         {{"print"}},
+                                     {{"map"}},          {{"pump", "do"}}};
+
+void CheckKeys(const Json& scene, const ScenePlace& place) {
+    if (!scene.is_object()) Wrong(place.Words(), "an object");
+    const auto kind = std::ranges::find_if(
+        kSceneKinds, [&](const SceneKind& each) { return scene.contains(each.keys[0]); });
+    if (kind == std::end(kSceneKinds)) {
+        Wrong(place.Words(), "\"window\", \"message\", \"file\", \"print\", \"map\" or \"pump\"");
+    }
+    RefuseOthers(scene, std::span(kind->keys).first(kind->keys[1].empty() ? 1 : 2),
+                 [&](const std::string& key) { return place.WordsOfKey(key); });
+}
+
 void AddScene(const Json& scene, const ScenePlace& place, kv::HeadlessDesktop& desktop,
               const Hooks& hooks) {
+    CheckKeys(scene, place);
     const std::string where = place.Words();
-    if (!scene.is_object()) Wrong(where, "an object");
     const auto play = [actions = MakeActions(scene, place, hooks)](kv::User& user) {
         for (const Action& action : actions)
             action(user);
@@ -246,12 +283,10 @@ void AddScene(const Json& scene, const ScenePlace& place, kv::HeadlessDesktop& d
         }
     } else if (scene.contains("map")) {
         desktop.ExpectOther(kMap, MapTextOf(scene["map"], where));
-    } else if (scene.contains("pump")) {
+    } else {
         if (!scene["pump"].is_number_integer())
             Wrong(where, "\"pump\" to be how many pumpings go by first");
         desktop.ExpectPump(play, scene["pump"].get<int>());
-    } else {
-        Wrong(where, "\"window\", \"message\", \"file\", \"print\", \"map\" or \"pump\"");
     }
 }
 
@@ -292,6 +327,9 @@ Json ParseJson(const std::string& text, const std::string& nameOfText) {
 
 void SetOutside(const Json& script, const std::map<std::string, int>& lines,
                 kv::HeadlessDesktop& desktop) {
+    constexpr std::string_view kHead[] = {"inputs", "printer", "drives", "user"};
+    RefuseOthers(script, kHead,
+                 [&](const std::string& key) { return LineOf(lines, "/" + key) + "the script"; });
     if (script.contains("drives")) {
         MapDrives(script["drives"], LineOf(lines, "/drives") + "the script");
     }

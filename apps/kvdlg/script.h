@@ -35,7 +35,7 @@ struct Hooks {
 Json ParseJson(const std::string& text, const std::string& nameOfText);
 
 /// Sets what lies outside the windows as the head of the script says: which printer there is, and
-/// which drives. Throws BadScript naming the line.
+/// which drives. Throws BadScript naming the line, also for a name that no script has.
 void SetOutside(const Json& script, const std::map<std::string, int>& lines,
                 kv::HeadlessDesktop& desktop);
 

@@ -97,6 +97,145 @@ TEST(KvdlgProgram, InputsOfAFileGoOverThoseOfTheScript) {
     EXPECT_EQ(ended.Printed().at("outcome").at("text"), "REM");
 }
 
+TEST(KvdlgProgram, StandardInputIsAScriptOrTheInputs) {
+    const Kvdlg kvdlg;
+    kvdlg.folder.Write("script.json", kPickAndEnd);
+    kvdlg.folder.Write("inputs.json", R"({"text": "REM"})");
+    const std::string script = kvdlg.folder.Native("script.json");
+    const auto from = [&](const char* file) { return "<'" + kvdlg.folder.Native(file) + "'"; };
+
+    const auto played = kvdlg.Run({"run", kStatus, "--script", "-"}, from("script.json"));
+    EXPECT_EQ(played.exit, 0) << played.error;
+    EXPECT_EQ(played.Printed().at("outcome").at("text"), "ACT");
+    const auto given =
+        kvdlg.Run({"run", kStatus, "--script", script, "--input", "-"}, from("inputs.json"));
+    EXPECT_EQ(given.exit, 0) << given.error;
+    EXPECT_EQ(given.Printed().at("outcome").at("text"), "REM");
+
+    const auto both =
+        kvdlg.Run({"run", kStatus, "--script", "-", "--input", "-"}, from("script.json"));
+    EXPECT_EQ(both.exit, 2);
+    EXPECT_THAT(both.error, HasSubstr("not both"));
+    const auto empty = kvdlg.Run({"run", kStatus, "--script", "-"}, "</dev/null");
+    EXPECT_EQ(empty.exit, 2);
+    EXPECT_THAT(empty.error, HasSubstr("no JSON"));
+    const auto closed = kvdlg.Run({"run", kStatus, "--script", "-"}, "</");
+    EXPECT_EQ(closed.exit, 3);
+    EXPECT_EQ(closed.error, "kvdlg: Standard input cannot be read\n");
+}
+
+TEST(KvdlgProgram, AnInputIsSetOnTheCommandLine) {
+    const Kvdlg kvdlg;
+    kvdlg.folder.Write("inputs.json", R"({"text": "REM"})");
+    const auto ended = kvdlg.Play(
+        kStatus, kPickAndEnd,
+        {"--input", kvdlg.folder.Native("inputs.json"), "--set", "text=ABN", "--print", "text"});
+    EXPECT_EQ(ended.exit, 0) << ended.error;
+    EXPECT_EQ(ended.out, "ABN\n");
+
+    const auto number =
+        kvdlg.Play("CKvGuiSizingDlg", R"({"user": [{"window": "", "do": [{"click": 1}]}]})",
+                   {"--set", "bounds=[0, 40000, 0, 20000]", "--set", "scale=2000", "--set",
+                    "unit=feet", "--print", "scale"});
+    EXPECT_EQ(number.exit, 0) << number.error;
+    EXPECT_EQ(number.out, "2000\n");
+}
+
+constexpr const char* kList = "CKvGuiListSel";
+constexpr const char* kListAndCancel =
+    R"({"inputs": {"column": "lessee", "table": "NORVADON.gulf_mexico_lease", "text": "<LIST>"},
+        "user": [{"window": "CKvGuiListSel", "do": [{"click": 2}]}]})";
+
+TEST(KvdlgProgram, AListIsSetItemByItem) {
+    const auto ended =
+        Kvdlg().Play(kList, kListAndCancel, {"--set", "values=A = B", "--set", "values=C,D"});
+    EXPECT_EQ(ended.exit, 1) << ended.error;
+    const Kvdlg::Json items{"A = B", "C,D"};
+    EXPECT_EQ(ended.Printed().at("outcome").at("values"), items);
+}
+
+TEST(KvdlgProgram, WhatCannotBeSetIsRefusedByName) {
+    const Kvdlg kvdlg;
+    const std::pair<const char*, const char*> wrong[] = {
+        {"text", "--set takes NAME=VALUE, and not \"text\""},
+        {"txt=ACT", "takes no input \"txt\"; it takes: values, text"},
+    };
+    for (const auto& [setting, words] : wrong) {
+        const auto ended = kvdlg.Play(kStatus, kPickAndEnd, {"--set", setting});
+        EXPECT_EQ(ended.exit, 2);
+        EXPECT_THAT(ended.error, HasSubstr(words));
+    }
+    const auto ended = kvdlg.Play("CKvGuiSizingDlg", "{}", {"--set", "scale=many"});
+    EXPECT_EQ(ended.exit, 2);
+    EXPECT_THAT(ended.error, HasSubstr("The input \"scale\" takes a number, and not many"));
+}
+
+TEST(KvdlgProgram, OneValueIsPrintedByItself) {
+    const Kvdlg kvdlg;
+    const auto printed = [&](const char* option, const char* key) {
+        return kvdlg
+            .Play(kList, kListAndCancel,
+                  {"--set", "values=two\nlines", "--set", "values=two", option, key})
+            .out;
+    };
+    EXPECT_EQ(printed("--print", "text"), "<LIST>\n");
+    EXPECT_EQ(printed("--print", "useListFile"), "false\n");
+    EXPECT_EQ(printed("--print", "values"), "two\nlines\ntwo\n");
+    EXPECT_EQ(printed("--print0", "values"), std::string("two\nlines\0two\0", 14));
+    EXPECT_EQ(printed("--print", "values.1"), "two\n");
+    EXPECT_EQ(printed("--print", "result"), "IDCANCEL\n");
+    EXPECT_EQ(printed("--print", "messages"), "");
+    const auto both = kvdlg.Play(kStatus, kPickAndEnd, {"--print", "text", "--print0", "text"});
+    EXPECT_EQ(both.exit, 2);
+}
+
+TEST(KvdlgProgram, AValueThatIsNotThereShowsTheOutcome) {
+    for (const char* key : {"txt", "text.0", "values.2", "values.-1"}) {
+        const auto ended = Kvdlg().Play(kList, kListAndCancel,
+                                        {"--set", "values=A", "--set", "values=B", "--print", key});
+        EXPECT_EQ(ended.exit, 2) << key;
+        EXPECT_EQ(ended.out, "");
+        EXPECT_THAT(ended.error, HasSubstr("There is no \"" + std::string(key) + "\""));
+        EXPECT_THAT(ended.error, HasSubstr(R"("values":["A","B"])"));
+    }
+}
+
+TEST(KvdlgProgram, AClassIsFoundInLettersOfAnyCase) {
+    const auto ended = Kvdlg().Run({"describe", "ckvguipipestatusdlg"});
+    EXPECT_EQ(ended.exit, 0);
+    EXPECT_EQ(ended.Printed().at("class"), kStatus);
+}
+
+TEST(KvdlgProgram, ANearClassIsSuggested) {
+    const Kvdlg kvdlg;
+    for (const char* typed : {"CKvGuiPipStatusDlg", "PipeStatus", "ckvguipipestatusdlgs"}) {
+        const auto ended = kvdlg.Run({"describe", typed});
+        EXPECT_EQ(ended.exit, 2);
+        EXPECT_THAT(ended.error, HasSubstr("did you mean CKvGuiPipeStatusDlg?")) << typed;
+    }
+    EXPECT_THAT(kvdlg.Run({"describe", "CNoDialog"}).error,
+                HasSubstr("\"kvdlg list\" tells which there are"));
+}
+
+TEST(KvdlgProgram, TheVersionIsTold) {
+    const auto ended = Kvdlg().Run({"--version"});
+    EXPECT_EQ(ended.exit, 0);
+    EXPECT_THAT(ended.out, testing::MatchesRegex("kvdlg [0-9]+\\.[0-9]+\\.[0-9]+\n"));
+}
+
+TEST(KvdlgProgram, ADisplayThatCannotBeReachedEndsWith3AndALine) {
+    if (!KVDLG_WITH_WINDOWS) GTEST_SKIP() << "kvdlg was built without windows";
+    Kvdlg kvdlg;
+    kvdlg.folder.Set("DISPLAY", ":4711");
+    kvdlg.folder.Set("QT_QPA_PLATFORM", "xcb");
+    const auto ended = kvdlg.Run({"run", kStatus});
+    EXPECT_EQ(ended.exit, 3);
+    EXPECT_EQ(
+        ended.error,
+        "kvdlg: The display cannot be reached: DISPLAY=:4711 QT_QPA_PLATFORM=xcb; --script plays "
+        "the user without one\n");
+}
+
 TEST(KvdlgProgram, WithoutADisplayNoWindowOpensAndItIsSaid) {
     const auto ended = Kvdlg().Run({"run", kStatus});
     EXPECT_EQ(ended.exit, 2);
