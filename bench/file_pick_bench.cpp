@@ -2,6 +2,7 @@
 // and sorting the names.
 
 #include <dirent.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <cstdio>
@@ -13,7 +14,6 @@
 #include "controls/file_pick_ctrl.h"
 #include "controls/file_pick_ids.h"
 #include "frame/module.h"
-#include "peers.h"
 #include "ratio.h"
 #include "window/acting/headless_desktop.h"
 #include "window/window_system.h"
@@ -22,10 +22,17 @@ namespace {
 
 constexpr int kFiles = 100'000;
 
+/// Where there is memory for files: on a disk, making so many can take many minutes.
+std::string PlaceForFiles() {
+    const std::filesystem::path memory = "/dev/shm";
+    const bool there = std::filesystem::is_directory(memory);
+    return (there ? memory : std::filesystem::temp_directory_path()).string();
+}
+
 /// A folder of so many files, gone when the program ends.
 class BigFolder {
 public:
-    BigFolder() : mark_("kvguictl-bench-folder") {
+    BigFolder() : path_(PlaceForFiles() + "/kvbench-folder-" + std::to_string(getpid())) {
         std::filesystem::create_directory(Path());
         for (int i = 0; i < kFiles; ++i) {
             const std::string name = Path() + "/map " + std::to_string(i * 61'681 % kFiles);
@@ -36,10 +43,10 @@ public:
         std::error_code ignored;
         std::filesystem::remove_all(Path(), ignored);
     }
-    std::string Path() const { return mark_.Path() + ".d"; }
+    const std::string& Path() const { return path_; }
 
 private:
-    bench::PassingFile mark_;
+    std::string path_;
 };
 
 const std::string& FolderPath() {
