@@ -133,8 +133,6 @@ void Workbench::ConnectAll() {
     connect(canvas_, &MapCanvas::BlockClicked, this, [this](const BlockRef& block) {
         canvas_->MarkPick({{}, block});
         PickInBar(block);
-        // The bar has led the keys to its next box.
-        canvas_->setFocus(Qt::MouseFocusReason);
     });
     connect(canvas_, &MapCanvas::PickChanged, this, [this] {
         ShowTitle();

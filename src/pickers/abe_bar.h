@@ -29,7 +29,7 @@ public:
     bool IsMapSelected() const;
     void SetRadioState(bool bReport);
     /// Selects the area with that area code, filling the area list first where it is not filled
-    /// yet.
+    /// yet. The focus goes on to the block box, but from a widget of the host's own.
     void SetArea(const std::string& areacode);
     void SetBlkExt(const std::string& text) { m_blkCombo.SetWindowText(text.c_str()); }
     void SetIncludeAll(bool includeAll) { m_blkCombo.SetIncludeAll(includeAll); }

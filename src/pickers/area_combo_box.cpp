@@ -134,8 +134,9 @@ void CKvAreaComboBox::V_SelChanged(bool bCommit) {
     const bool typing = HoldsFocus() && start == end && text == WindowText();
     if (typing) {
         if (!GoesOn(text)) m_pBlkCombo->SetFocusBehindTyping();
-    } else if (filled || HoldsFocus()) {
-        // Who only passes through the box goes where they want to.
+    } else if (HoldsFocus() || (filled && GetFocus())) {
+        // Who only passes through the box goes where they want to, and where no control has the
+        // focus, a widget of the host's own has it and keeps it.
         m_pBlkCombo->SetFocus();
     }
 }

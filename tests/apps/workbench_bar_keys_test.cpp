@@ -137,6 +137,23 @@ TEST_F(WorkbenchOnADisplay, KeysOnTheMapStayThere) {
     EXPECT_TRUE(canvas.GetPick().Empty()) << "nothing was run";
 }
 
+TEST_F(WorkbenchOnADisplay, AClickOnTheMapLeavesTheKeysThere) {
+    const MapCanvas& canvas = host->Canvas();
+    host->Canvas().ShowPick(host->Model().FindPick({"43113"}, "391"));
+    Play("key ctrl+l key v");
+    ASSERT_TRUE(See([&] { return user->Text(kArea).starts_with("V"); }));
+    const QPoint at = canvas.mapToGlobal(canvas.rect().center());
+    Play(QStringLiteral("mousemove %1 %2 click 1").arg(at.x()).arg(at.y()));
+    ASSERT_TRUE(See([&] { return user->Text(kBlock) == "391"; }));
+    EXPECT_EQ(user->Text(kArea), "EI");
+    EXPECT_TRUE(canvas.hasFocus());
+    const double scale = canvas.View().Scale();
+    Play("key minus key 7 key minus");
+    ASSERT_TRUE(See([&] { return canvas.View().Scale() < scale * 0.6; }));
+    EXPECT_TRUE(canvas.hasFocus());
+    EXPECT_EQ(user->Text(kBlock), "391");
+}
+
 TEST_F(WorkbenchOnADisplay, KeysInTheSearchBoxStayThere) {
     RunReport();
     Play("key ctrl+f");

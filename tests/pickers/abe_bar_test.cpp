@@ -370,6 +370,23 @@ TEST_F(AbeBar, WhoPassesThroughTheAreaBoxWithoutABlockGoesWhereTheyWantTo) {
     EXPECT_EQ(CWnd::GetFocus(), &frame);
 }
 
+TEST_F(AbeBar, AWidgetOfTheHostsKeepsTheFocusWhenTheHostSetsTheArea) {
+    kv::WindowSystem::Get().SetFocus(nullptr);
+    bar.SetArea("4281");
+    EXPECT_EQ(user->Text(kArea), "HB");
+    EXPECT_THAT(user->Rows(kBlock), ElementsAre("ALL", "8-BAY"));
+    EXPECT_EQ(CWnd::GetFocus(), nullptr);
+}
+
+TEST_F(AbeBar, AWidgetOfTheHostsTakesTheFocusFromAHalfTypedArea) {
+    user->Select(kArea, " -AREA NAME-");
+    user->Type(kArea, "GRAND I");
+    kv::WindowSystem::Get().SetFocus(nullptr);
+    EXPECT_EQ(CWnd::GetFocus(), nullptr);
+    EXPECT_EQ(user->Text(kArea), "GRAND ISLE");
+    EXPECT_THAT(user->Rows(kBlock), ElementsAre("ALL", "10", "100", "9", "9A"));
+}
+
 TEST_F(AbeBar, ThePickedAreaOnceMoreKeepsTheBlock) {
     CompleteThePick();
     statements.clear();
