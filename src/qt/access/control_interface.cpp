@@ -1,17 +1,20 @@
 #include "qt/access/control_interface.h"
 
 #include <QApplication>
+#include <algorithm>
 #include <utility>
+#include <vector>
 
 #include "qt/drawing/text.h"
 #include "qt/peers/acting.h"
+#include "qt/peers/names.h"
 #include "qt/peers/peer.h"
 #include "window/acting/input.h"
 #include "window/controls/button_node.h"
 #include "window/controls/combo_box_node.h"
 #include "window/dialog_keys.h"
 #include "window/dialogs/dialog.h"
-#include "window/drawing/text_metrics.h"
+#include "window/mnemonics.h"
 #include "window/window_system.h"
 
 namespace kv::qt {
@@ -56,25 +59,26 @@ QAccessible::Role RoleOfLabel(DWORD kind) {
     return picture ? QAccessible::Graphic : QAccessible::StaticText;
 }
 
-/// The label that lies directly ahead of a control in the order of the dialog, null for none: its
-/// mnemonic is the control's.
-const Node* LabelAhead(const Node& node) {
-    const Node* ahead = nullptr;
-    for (const auto& sibling : node.Parent()->Children()) {
-        if (sibling.get() == &node) break;
-        ahead = sibling.get();
-    }
-    return ahead && ahead->Class() == NodeClass::kStatic ? ahead : nullptr;
-}
-
 /// Of the edit of a combo box the box's.
 QString MnemonicText(const Node& node) {
     if (!TakesFocus(node) || !node.Parent()) return {};
     if (node.Parent()->Class() == NodeClass::kComboBox) return MnemonicText(*node.Parent());
-    const Node* bearer = node.Class() == NodeClass::kButton ? &node : LabelAhead(node);
-    const char letter = bearer ? MnemonicOf(bearer->Text()) : '\0';
+    const char letter = KeyOf(node);
     if (letter == 0) return {};
-    return QStringLiteral("Alt+") + QChar::fromLatin1(letter).toUpper();
+    return QStringLiteral("Alt+") + QChar::fromLatin1(letter);
+}
+
+/// The controls beside a label that go by its text.
+std::vector<const Node*> LabelledBy(const Node& label) {
+    std::vector<const Node*> labelled;
+    if (!label.Parent()) return labelled;
+    for (const auto& sibling : label.Parent()->Children()) {
+        const std::vector<const Node*> labels = LabelsOf(*sibling);
+        if (std::find(labels.begin(), labels.end(), &label) != labels.end()) {
+            labelled.push_back(sibling.get());
+        }
+    }
+    return labelled;
 }
 
 void AddButtonState(const ButtonNode& button, QAccessible::State& state) {
@@ -150,6 +154,22 @@ QList<QAccessibleInterface*> ControlInterface::Children() const {
 
 int ControlInterface::indexOfChild(const QAccessibleInterface* child) const {
     return static_cast<int>(Children().indexOf(const_cast<QAccessibleInterface*>(child)));
+}
+
+QList<QPair<QAccessibleInterface*, QAccessible::Relation>> ControlInterface::relations(
+    QAccessible::Relation match) const {
+    QList<QPair<QAccessibleInterface*, QAccessible::Relation>> relations;
+    const Node* node = GetNode();
+    if (!node) return relations;
+    const auto add = [&](const std::vector<const Node*>& others, QAccessible::RelationFlag what) {
+        if (!match.testFlag(what)) return;
+        for (const Node* other : others) {
+            if (QAccessibleInterface* shown = InterfaceOf(*other)) relations.append({shown, what});
+        }
+    };
+    add(LabelsOf(*node), QAccessible::Label);
+    add(LabelledBy(*node), QAccessible::Labelled);
+    return relations;
 }
 
 QAccessibleInterface* ControlInterface::focusChild() const {

@@ -21,6 +21,9 @@ public:
     QObject* object() const override { return widget_; }
     QWindow* window() const override;
 
+    /// The labels by which a control goes, and of a label the controls that go by it.
+    QList<QPair<QAccessibleInterface*, QAccessible::Relation>> relations(
+        QAccessible::Relation match = QAccessible::AllRelations) const override;
     QAccessibleInterface* focusChild() const override;
     QAccessibleInterface* childAt(int x, int y) const override;
     QAccessibleInterface* parent() const override;

@@ -17,6 +17,7 @@
 #include "qt/peers/edit_peer.h"
 #include "qt/peers/keyboard.h"
 #include "qt/peers/list_box_peer.h"
+#include "qt/peers/names.h"
 #include "qt/peers/wheel.h"
 #include "window/acting/input.h"
 

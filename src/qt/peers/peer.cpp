@@ -8,8 +8,7 @@
 #include "qt/drawing/text.h"
 #include "qt/peers/acting.h"
 #include "qt/peers/keyboard.h"
-#include "window/list_view/list_view_node.h"
-#include "window/named.h"
+#include "qt/peers/names.h"
 #include "window/owner_draw.h"
 #include "window/window_system.h"
 
@@ -28,71 +27,8 @@ bool IsGroupBox(const Node& node) {
     return node.Class() == NodeClass::kButton && (node.Style() & BS_TYPEMASK) == BS_GROUPBOX;
 }
 
-bool IsLabel(const Node& node) {
-    return node.Class() == NodeClass::kStatic && !node.Text().empty() &&
-           (node.Style() & SS_TYPEMASK) != SS_ICON;
-}
-
-bool ShowsOwnText(const Node& node) {
-    return node.Class() == NodeClass::kButton || node.Class() == NodeClass::kStatic ||
-           node.Class() == NodeClass::kDialog || node.Class() == NodeClass::kFrame ||
-           node.Class() == NodeClass::kBar || node.Class() == NodeClass::kToolBar;
-}
-
-/// A control's text as the name of another one.
-QString NameFrom(const Node& node) {
-    QString name = PlainText(node.Text()).trimmed();
-    if (name.endsWith(u':')) name.chop(1);
-    return name;
-}
-
-/// A check box or radio button that has its text in another control.
-bool IsBareCheck(const Node& node) {
-    const DWORD kind = node.Style() & BS_TYPEMASK;
-    return node.Class() == NodeClass::kButton && node.Text().empty() &&
-           (kind == BS_AUTOCHECKBOX || kind == BS_AUTORADIOBUTTON);
-}
-
-/// The control with a text close to the right of another one, null for none.
-const Node* TextBeside(const Node& node) {
-    constexpr int kMostGap = 12;
-    const CRect& own = node.Rect();
-    for (const auto& sibling : node.Parent()->Children()) {
-        const CRect& other = sibling->Rect();
-        const int gap = other.left - own.right;
-        const bool beside =
-            gap >= 0 && gap <= kMostGap && other.top < own.bottom && other.bottom > own.top;
-        if (beside && ShowsOwnText(*sibling) && !sibling->Text().empty()) return sibling.get();
-    }
-    return nullptr;
-}
-
-/// Whether a label is the unit of the number that the spin button ahead of it steps.
-bool IsUnit(const Node& label, const Node& ahead) {
-    return ahead.Class() == NodeClass::kSpin && TextBeside(ahead) == &label;
-}
-
-/// The unit behind a spin button, or behind a control that has one; null for none.
-template <typename Next>
-const Node* UnitOf(const Node& node, Next next) {
-    const auto& siblings = node.Parent()->Children();
-    const Node* spin = &node;
-    if (node.Class() != NodeClass::kSpin) spin = next == siblings.end() ? nullptr : next->get();
-    if (!spin || spin->Class() != NodeClass::kSpin) return nullptr;
-    const Node* unit = TextBeside(*spin);
-    return unit && IsLabel(*unit) ? unit : nullptr;
-}
-
-/// What the columns of a list view say, with commas between.
-QString Headings(const Node& node) {
-    QStringList headings;
-    for (const ListColumn& column : static_cast<const ListViewNode&>(node).Columns()) {
-        if (!column.text.empty()) headings.append(ToQString(column.text));
-    }
-    return headings.join(QStringLiteral(", "));
-}
-
-/// Some widgets become known to screen readers while they are being made, as the platform's own.
+/// Some widgets become known to screen readers while they are being made, as the platform's own;
+/// also before one listens.
 void ForgetInterfaceOf(QWidget* widget) {
     QAccessibleInterface* early = QAccessible::queryAccessibleInterface(widget);
     if (early) QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(early));
@@ -285,40 +221,6 @@ void Peer::ShowColors() {
     if (palette.resolveMask() == 0 && !widget_->testAttribute(Qt::WA_SetPalette)) return;
     widget_->setPalette(palette);
     widget_->setAutoFillBackground(ownBackground && !field);
-}
-
-QString AccessibleName(const Node& node) {
-    const auto* named = dynamic_cast<const Named*>(node.Handle());
-    if (const std::string name = named ? named->SpokenName() : ""; !name.empty()) {
-        return ToQString(name);
-    }
-    if (ShowsOwnText(node) && !node.Text().empty()) return PlainText(node.Text());
-    const Node* parent = node.Parent();
-    if (parent && parent->Class() == NodeClass::kComboBox) return AccessibleName(*parent);
-    if (!parent || node.Class() == NodeClass::kStatic) return {};
-    if (IsBareCheck(node)) {
-        if (!node.ToolTip().empty()) return ToQString(node.ToolTip());
-        if (const Node* beside = TextBeside(node)) return NameFrom(*beside);
-    }
-    const auto& siblings = parent->Children();
-    auto at = std::find_if(siblings.begin(), siblings.end(),
-                           [&](const auto& each) { return each.get() == &node; });
-    if (node.Class() == NodeClass::kListView &&
-        (at == siblings.begin() || !IsLabel(**std::prev(at)))) {
-        if (const QString headings = Headings(node); !headings.isEmpty()) return headings;
-    }
-    const Node* unit = UnitOf(node, at == siblings.end() ? at : std::next(at));
-    const QString behind = unit ? u' ' + NameFrom(*unit) : QString();
-    while (at != siblings.begin()) {
-        --at;
-        const bool label =
-            IsLabel(**at) && !(at != siblings.begin() && IsUnit(**at, **std::prev(at)));
-        if (label || (IsGroupBox(**at) && !(*at)->Text().empty())) {
-            return NameFrom(**at) + behind;
-        }
-    }
-    if (!node.ToolTip().empty()) return ToQString(node.ToolTip());
-    return PlainText(parent->Text()) + behind;
 }
 
 /// The parts of a control go by its name.

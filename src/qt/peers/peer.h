@@ -73,10 +73,6 @@ void AddWidget(Peer& peer, QWidget* widget);
 /// it, null for a top-level window.
 void MakePeer(Node& node, QWidget* host);
 
-/// The text of a control that has none of its own: of the label ahead of it, of a list view with
-/// no label of its own that of its headings.
-QString AccessibleName(const Node& node);
-
 /// Who tells screen readers what changed; null for nobody.
 void SetAnnouncer(void (*announce)(const Peer& peer, Change change));
 

@@ -21,6 +21,16 @@ inline QString ValueOf(QAccessibleInterface* shown) {
     return shown->text(QAccessible::Value);
 }
 
+/// What is related to a control in that way.
+inline std::vector<QAccessibleInterface*> Related(const QAccessibleInterface& shown,
+                                                  QAccessible::RelationFlag how) {
+    std::vector<QAccessibleInterface*> related;
+    for (const auto& [other, relation] : shown.relations(how)) {
+        if (relation == QAccessible::Relation(how)) related.push_back(other);
+    }
+    return related;
+}
+
 inline std::vector<QString> NamesOfChildren(QAccessibleInterface* shown) {
     std::vector<QString> names;
     for (int index = 0; index < shown->childCount(); ++index)

@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QLabel>
 #include <QTimer>
 
 #include "access_fixture.h"
@@ -115,7 +116,7 @@ TEST_F(ControlsAccess, ButtonsArePressedAndTellTheirKey) {
     EXPECT_THAT(
         Of(20)->actionInterface()->keyBindingsForAction(QAccessibleActionInterface::pressAction()),
         ElementsAre("Alt+G"));
-    EXPECT_EQ(Of(1)->text(QAccessible::Accelerator), "");
+    EXPECT_EQ(Of(1)->text(QAccessible::Accelerator), "Alt+O") << "the letter it was given";
     Do(Of(11), QAccessibleActionInterface::setFocusAction());
     EXPECT_TRUE(State(1).defaultButton);
     EXPECT_FALSE(State(20).defaultButton);
@@ -126,6 +127,48 @@ TEST_F(ControlsAccess, AFieldHasTheKeyOfTheLabelAheadOfIt) {
     EXPECT_EQ(Of(11)->text(QAccessible::Accelerator), "Alt+N");
     EXPECT_EQ(Of(12)->text(QAccessible::Accelerator), "");
     EXPECT_EQ(Name(12), "Name");
+}
+
+TEST_F(ControlsAccess, ALabelAndItsFieldAreRelatedAsThoseOfThePlatformAre) {
+    QWidget window;
+    QLabel label("&Name:", &window);
+    QLineEdit field(&window);
+    label.setBuddy(&field);
+    const auto related = [](QAccessibleInterface* one, const QAccessibleInterface* other) {
+        for (const auto& [each, relation] : one->relations()) {
+            if (each == other) return relation;
+        }
+        return QAccessible::Relation();
+    };
+    QAccessibleInterface* itsLabel = QAccessible::queryAccessibleInterface(&label);
+    QAccessibleInterface* itsField = QAccessible::queryAccessibleInterface(&field);
+    Show({At(10, kLabel, 7, "&Name:"), At(11, kEdit, 20), At(20, kPushButton, 40, "Go")});
+    EXPECT_EQ(related(Of(11), Of(10)), related(itsField, itsLabel));
+    EXPECT_EQ(related(Of(10), Of(11)), related(itsLabel, itsField));
+    EXPECT_NE(related(Of(10), Of(11)), QAccessible::Relation());
+    EXPECT_THAT(Of(20)->relations(), IsEmpty());
+}
+
+TEST_F(ControlsAccess, AFieldGoesByItsUnitAndACheckByTheTextBesideIt) {
+    using test::Related;
+    Show({{10, kLabel, "Maximum", {7, 7, 40, 12}},
+          {11, kEdit, "", {50, 7, 30, 12}},
+          {42, kSpin, "", {80, 7, 10, 12}},
+          {12, kLabel, "Degrees", {92, 7, 40, 12}},
+          {30, kCheckBox, "", {7, 30, 10, 12}},
+          {20, kPushButton, "File...", {20, 30, 50, 14}}});
+    EXPECT_THAT(Related(*Of(11), QAccessible::Label), ElementsAre(Of(10), Of(12)));
+    EXPECT_THAT(Related(*Of(12), QAccessible::Labelled), ElementsAre(Of(11), Of(42)));
+    EXPECT_THAT(Related(*Of(30), QAccessible::Label), ElementsAre(Of(20)));
+    EXPECT_THAT(Related(*Of(20), QAccessible::Labelled), ElementsAre(Of(30)));
+}
+
+TEST_F(ControlsAccess, TheEditOfAComboBoxGoesByTheLabelOfTheBox) {
+    Show({At(10, kLabel, 7, "&Area:"), At(12, kDropDown, 20)});
+    QAccessibleInterface* edit = test::ChildOfRole(Of(12), QAccessible::EditableText);
+    ASSERT_NE(edit, nullptr);
+    EXPECT_THAT(test::Related(*edit, QAccessible::Label), ElementsAre(Of(10)));
+    EXPECT_THAT(test::Related(*Of(10), QAccessible::Labelled), ElementsAre(Of(12)));
 }
 
 TEST_F(ControlsAccess, AButtonThatOpensAModalWindowAnswersAtOnce) {

@@ -4,6 +4,7 @@
 #include "access_fixture.h"
 #include "window/controls/progress_node.h"
 #include "window/controls/spin_node.h"
+#include "window/mnemonics.h"
 
 using kv::ControlKind;
 
@@ -103,6 +104,33 @@ TEST_P(TemplateAccess, ControlsTellTheirRolesNamesAndStates) {
         EXPECT_EQ(state.readOnly, row.kind == ControlKind::kEdit && (style & ES_READONLY) != 0);
         EXPECT_EQ(state.passwordEdit, row.kind == ControlKind::kEdit && (style & ES_PASSWORD) != 0);
         EXPECT_EQ(TakesKeyboard(row.kind) && test::NameOf(&shown).trimmed().isEmpty(), false);
+    });
+}
+
+/// The texts of labels as one name.
+QString NameFrom(const std::vector<QAccessibleInterface*>& labels) {
+    QStringList words;
+    for (QAccessibleInterface* label : labels) {
+        const QString text = test::NameOf(label).trimmed();
+        words << (text.endsWith(u':') ? text.chopped(1) : text);
+    }
+    return words.join(u' ');
+}
+
+TEST_P(TemplateAccess, LabelsAndWhatGoesByThemKnowEachOther) {
+    using test::Related;
+    using testing::Contains;
+    ForEach([](const kv::ControlRow&, kv::Node& node, QAccessibleInterface& shown) {
+        const auto labels = Related(shown, QAccessible::Label);
+        if (!labels.empty()) EXPECT_EQ(test::NameOf(&shown), NameFrom(labels));
+        for (const QAccessibleInterface* label : labels)
+            EXPECT_THAT(Related(*label, QAccessible::Labelled), Contains(&shown));
+        for (const QAccessibleInterface* labelled : Related(shown, QAccessible::Labelled))
+            EXPECT_THAT(Related(*labelled, QAccessible::Label), Contains(&shown));
+        // What the key of a label reaches goes by that label.
+        const kv::Node* field = kv::FieldOf(node);
+        if (!field || node.Text().empty()) return;
+        EXPECT_THAT(Related(*test::Shown(*field), QAccessible::Label), Contains(&shown));
     });
 }
 
