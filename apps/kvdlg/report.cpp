@@ -145,6 +145,14 @@ std::vector<kv::ControlRow> RowsOf(const kv::DialogTemplate& dialogTemplate,
     return rows;
 }
 
+/// A bar has neither a caption nor a button that ends it.
+bool IsBar(const kv::DialogTemplate& dialogTemplate) {
+    const auto ends = [](const kv::ControlRow& row) {
+        return row.id == IDOK || row.id == IDCANCEL;
+    };
+    return *dialogTemplate.caption == '\0' && std::ranges::none_of(dialogTemplate.rows, ends);
+}
+
 Json DescribeControls(const adaptors::Adaptor& adaptor) {
     Json rows = Json::array();
     const kv::DialogTemplate* found = kv::FindTemplate(adaptor.templateId);
@@ -152,10 +160,8 @@ Json DescribeControls(const adaptors::Adaptor& adaptor) {
     const std::vector<kv::ControlRow> all = RowsOf(*found, adaptor.added);
     kv::DialogTemplate whole = *found;
     whole.rows = all;
-    // A bar has no caption.
-    const bool dialog = *found->caption != '\0';
     const auto host = std::make_shared<kv::Node>(
-        dialog ? kv::NodeClass::kDialog : kv::NodeClass::kBar, 0, DWORD{0});
+        IsBar(*found) ? kv::NodeClass::kBar : kv::NodeClass::kDialog, 0, DWORD{0});
     kv::CreateControls(*host, whole);
     std::string label;
     for (std::size_t at = 0; at < all.size(); ++at) {

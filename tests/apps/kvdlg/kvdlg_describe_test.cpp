@@ -156,6 +156,12 @@ TEST(KvdlgDescribe, TellsTheKeysThatReachTheControls) {
     EXPECT_TRUE(KeysOf("CVZABEBar").empty()) << "a bar has none";
 }
 
+TEST(KvdlgDescribe, TellsTheKeysOfADialogWithoutACaptionToo) {
+    const std::map<int, std::string> expected{{29189, "Alt+C"}, {29183, "Alt+D"}, {29188, "Alt+F"},
+                                              {1, "Alt+O"},     {29184, "Alt+T"}, {2, "Alt+A"}};
+    EXPECT_EQ(KeysOf("CFilePickCtrl"), expected);
+}
+
 TEST(KvdlgDescribe, TellsWhatAControlWithoutATextIsFor) {
     const Json controls = Kvdlg().Describe("CKvGuiListSel").at("controls");
     for (const Json& control : controls) {
