@@ -5,6 +5,7 @@
 #include <QStatusBar>
 #include <QToolButton>
 
+#include "workbench/elided_label.h"
 #include "workbench/map/angle_text.h"
 
 namespace workbench {
@@ -12,7 +13,6 @@ namespace workbench {
 namespace {
 
 constexpr int kProgressWidth = 160;
-constexpr int kFieldRoom = 16;
 constexpr int kMessageTime = 15'000;  ///< milliseconds
 
 }  // namespace
@@ -43,9 +43,9 @@ StatusLine::StatusLine(QStatusBar& bar)
 }
 
 QLabel* StatusLine::AddField(const QString& widest, const QString& name) {
-    auto* field = new QLabel(&bar_);
+    auto* field = new ElidedLabel(&bar_);
     field->setAccessibleName(name);
-    field->setMinimumWidth(field->fontMetrics().horizontalAdvance(widest) + kFieldRoom);
+    field->SetWidest(widest);
     field->setAlignment(Qt::AlignCenter);
     field->setTextInteractionFlags(Qt::TextSelectableByMouse);
     bar_.addPermanentWidget(field);

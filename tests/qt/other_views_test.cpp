@@ -335,6 +335,30 @@ TEST_F(Frame, ABarDocksFloatsAndRemembers) {
     EXPECT_FALSE(bar_.IsWindowVisible());
 }
 
+TEST_F(Frame, ABarScrollsInANarrowWindowToWhatGetsTheFocus) {
+    const auto inSight = [this](int id) {
+        return WidgetOf(id)->visibleRegion().boundingRect() == WidgetOf(id)->rect();
+    };
+    Main()->resize(800, 300);
+    Process();
+    EXPECT_TRUE(inSight(11) && inSight(kRun));
+    const int roomy = BarOf(bar_)->height();
+    QTest::mouseClick(WidgetOf(11), Qt::LeftButton);
+    Main()->resize(BarOf(bar_)->sizeHint().width() / 2, 300);
+    Process();
+    ASSERT_LT(Main()->width(), BarOf(bar_)->sizeHint().width());
+    EXPECT_GT(BarOf(bar_)->height(), roomy) << "there is a scroll bar";
+    EXPECT_TRUE(inSight(11));
+    EXPECT_FALSE(inSight(kRun));
+    QTest::keyClick(WidgetOf(11), Qt::Key_Tab);
+    EXPECT_TRUE(inSight(kRun));
+    QTest::mouseClick(WidgetOf(kRun), Qt::LeftButton);
+    EXPECT_THAT(frame_.commands, ElementsAre(kRun));
+    Main()->resize(800, 300);
+    Process();
+    EXPECT_EQ(BarOf(bar_)->height(), roomy);
+}
+
 TEST_F(Frame, AToolBarSendsCommandsAndShowsTheirState) {
     CToolBar tools;
     tools.Create(&frame_);

@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "workbench/elided_label.h"
 #include "workbench/results/csv.h"
 
 namespace workbench {
@@ -23,7 +24,7 @@ constexpr int kFindWidth = 260;
 
 ResultsPane::ResultsPane(QWidget* parent)
     : QWidget(parent),
-      heading_(new QLabel(this)),
+      heading_(new ElidedLabel(this)),
       find_(new QLineEdit(this)),
       view_(new ResultsView(this)) {
     find_->setPlaceholderText(tr("Find"));

@@ -27,6 +27,8 @@ namespace kv::qt {
 namespace {
 
 constexpr int kBarMargin = 7;
+/// Less than that no bar needs to show.
+constexpr int kLeastBarWidth = 120;
 /// What is seen around a control that was scrolled to.
 constexpr int kSightMargin = 8;
 
@@ -40,6 +42,22 @@ QWidget* OwnerOf(const Node& node) {
 void ComeUp(const Node& node, QWidget& window) {
     window.raise();
     if (WindowSystem::Get().ActiveWindow() == &node) window.activateWindow();
+}
+
+/// Scrolls to the control that a widget is a part of.
+void BringIntoView(QScrollArea& area, const QWidget* widget) {
+    const QWidget* body = area.widget();
+    if (!widget || !body->isAncestorOf(widget)) return;
+    while (widget->parentWidget() != body)
+        widget = widget->parentWidget();
+    const QRect place = widget->geometry();
+    area.ensureVisible(place.right(), place.bottom(), kSightMargin, kSightMargin);
+    area.ensureVisible(place.left(), place.top(), kSightMargin, kSightMargin);
+}
+
+void FollowFocus(QScrollArea& area) {
+    QObject::connect(qApp, &QApplication::focusChanged, &area,
+                     [&area](QWidget*, const QWidget* now) { BringIntoView(area, now); });
 }
 
 /// A window of the platform, whose user closes, moves and activates it through the layer.
@@ -177,7 +195,7 @@ public:
         scroll_->setGeometry(QRect(QPoint(), size()));
         body_->setFixedSize(contents);
         // The controls take their places behind this.
-        const auto bring = [this] { BringIntoView(QApplication::focusWidget()); };
+        const auto bring = [this] { BringIntoView(*scroll_, QApplication::focusWidget()); };
         QMetaObject::invokeMethod(scroll_, bring, Qt::QueuedConnection);
     }
     QWidget* Body() override { return body_ ? body_ : this; }
@@ -208,23 +226,52 @@ private:
         scroll_->setFocusPolicy(Qt::NoFocus);
         scroll_->setWidget(body_);
         scroll_->show();
-        connect(qApp, &QApplication::focusChanged, scroll_,
-                [this](QWidget*, const QWidget* now) { BringIntoView(now); });
+        FollowFocus(*scroll_);
         Node* focus = WindowSystem::Get().Focus();
         if (Peer* peer = focus ? PeerOf(*focus) : nullptr) peer->Changed(Change::kFocus);
     }
 
-    void BringIntoView(const QWidget* widget) {
-        if (!widget || !body_->isAncestorOf(widget)) return;
-        while (widget->parentWidget() != body_)
-            widget = widget->parentWidget();
-        const QRect place = widget->geometry();
-        scroll_->ensureVisible(place.right(), place.bottom(), kSightMargin, kSightMargin);
-        scroll_->ensureVisible(place.left(), place.top(), kSightMargin, kSightMargin);
-    }
-
     QScrollArea* scroll_ = nullptr;
     QWidget* body_ = nullptr;
+};
+
+/// What the controls of a bar in a frame lie on. In a narrow window they scroll.
+class BarScroll : public QScrollArea {
+public:
+    BarScroll(Node& node, QWidget* bar) : QScrollArea(bar) {
+        setFrameShape(QFrame::NoFrame);
+        setFocusPolicy(Qt::NoFocus);
+        setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+        setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        setWidget(new BodyView(node, nullptr));
+        // The bar is seen through it.
+        widget()->setAutoFillBackground(false);
+        viewport()->setAutoFillBackground(false);
+        FollowFocus(*this);
+    }
+    void Fit(const QSize& contents) {
+        widget()->setFixedSize(contents);
+        updateGeometry();
+    }
+    QSize sizeHint() const override { return {widget()->width(), Height()}; }
+    QSize minimumSizeHint() const override {
+        return {std::min(widget()->width(), kLeastBarWidth), Height()};
+    }
+
+protected:
+    void resizeEvent(QResizeEvent* event) override {
+        QScrollArea::resizeEvent(event);
+        if (height() != Height()) updateGeometry();
+        BringIntoView(*this, QApplication::focusWidget());
+    }
+
+private:
+    /// With room for the scroll bar where there is one.
+    int Height() const {
+        const bool scrolls = width() < widget()->width();
+        const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+        return widget()->height() + (scrolls ? bar : 0);
+    }
 };
 
 QWidget* MakeBar(Node& node, QWidget* host) {
@@ -232,7 +279,7 @@ QWidget* MakeBar(Node& node, QWidget* host) {
     if (!frame) return new BodyView(node, host);
     auto* bar = new QToolBar(frame);
     bar->setObjectName(QStringLiteral("bar%1").arg(node.Id()));
-    bar->addWidget(new BodyView(node, bar));
+    bar->addWidget(new BarScroll(node, bar));
     frame->addToolBar(bar);
     const auto weak = node.weak_from_this();
     QObject::connect(bar, &QToolBar::visibilityChanged, bar, [weak, bar] {
@@ -241,6 +288,11 @@ QWidget* MakeBar(Node& node, QWidget* host) {
         Act(weak, [bar](Node& each) { each.SetVisible(!bar->isHidden()); });
     });
     return bar;
+}
+
+BarScroll& ScrollOf(QWidget& widget) {
+    const auto& bar = static_cast<const QToolBar&>(widget);
+    return static_cast<BarScroll&>(*bar.widgetForAction(bar.actions().constFirst()));
 }
 
 const CControlBar* HandleOf(Node& node) {
@@ -314,8 +366,7 @@ QMainWindow* BarPeer::Frame() const {
 
 QWidget* BarPeer::ChildHost() {
     if (!Frame()) return Widget();
-    auto* bar = static_cast<QToolBar*>(Widget());
-    return bar->widgetForAction(bar->actions().constFirst());
+    return ScrollOf(*Widget()).widget();
 }
 
 void BarPeer::Changed(Change change) {
@@ -343,7 +394,7 @@ void BarPeer::ShowRect() {
     for (const auto& child : GetNode().Children()) {
         extent.cx = std::max(extent.cx, child->Rect().right + kBarMargin);
     }
-    ChildHost()->setFixedSize(CurrentScale().ToScreen(extent));
+    ScrollOf(*Widget()).Fit(CurrentScale().ToScreen(extent));
 }
 
 void BarPeer::ShowDocking() {
