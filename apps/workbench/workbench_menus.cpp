@@ -10,9 +10,7 @@
 #include <QToolBar>
 #include <utility>
 
-#include "pickers/abe_bar_ids.h"
 #include "qt/qt_desktop.h"
-#include "window/acting/input.h"
 #include "window/window_system.h"
 #include "workbench/command_palette.h"
 #include "workbench/open_database_dialog.h"
@@ -251,7 +249,7 @@ std::vector<FocusPart> Workbench::FocusParts() {
                          },
                          [this, &bar] {
                              BringUpMain();
-                             kv::input::MoveFocus(*bar.GetDlgItem(kv::abe_bar::kArea)->m_hWnd);
+                             bar.GoToArea();
                              kv::WindowSystem::Get().Settle();
                          }});
     }
@@ -278,8 +276,7 @@ std::vector<FocusPart> Workbench::FocusParts() {
 void Workbench::ExplainKeys() {
     const std::pair<QString, QString> rows[] = {
         {tr("Type in the area box"),
-         tr("pick an area by its name or its code; a blank ahead, or the "
-            "first row of the list, changes which")},
+         tr("pick an area by its name or its code; the first rows of the list change which")},
         {tr("Tab, then type"), tr("pick a block of it, or ALL")},
         {tr("Run, F5, Enter in the block box"),
          tr("show the pick on the map, or with Report list what is there")},
@@ -294,7 +291,6 @@ void Workbench::ExplainKeys() {
         {tr("Click with a converter open"), tr("hand the place to the converter")},
         {tr("Ctrl+G"), tr("go to an area, a block or a place, in the bar as well")},
         {tr("Ctrl+L"), tr("go to the bar")},
-        {tr("F5; Enter in the block box"), tr("run")},
         {tr("Click on a heading"), tr("sort the results")},
         {tr("Click, arrow keys on a row"), tr("mark it on the map")},
         {tr("Enter, double click on a row"), tr("show its block on the map")},

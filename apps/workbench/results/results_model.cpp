@@ -104,10 +104,13 @@ void ResultsModel::sort(int column, Qt::SortOrder order) {
     sortColumn_ = column;
     order_ = order;
     Arrange();
+    std::vector<int> places(static_cast<std::size_t>(table_.RowCount()));
+    for (std::size_t place = 0; place < shown_.size(); ++place)
+        places[static_cast<std::size_t>(shown_[place])] = static_cast<int>(place);
     QModelIndexList after;
     for (qsizetype i = 0; i < before.size(); ++i) {
-        const auto at = std::find(shown_.begin(), shown_.end(), rows[static_cast<std::size_t>(i)]);
-        after.append(index(static_cast<int>(at - shown_.begin()), before[i].column()));
+        const auto row = static_cast<std::size_t>(rows[static_cast<std::size_t>(i)]);
+        after.append(index(places[row], before[i].column()));
     }
     changePersistentIndexList(before, after);
     emit layoutChanged();
