@@ -78,6 +78,8 @@ void Workbench::MakeFileMenu() {
         menu, tr("&Save results as CSV..."), QKeySequence::Save, [this] { SaveResults(); },
         [this] { return NoRows(); });
     menu.addSeparator();
+    printing_->AddTo(menu, *commands_, [this] { return NoMap(); });
+    menu.addSeparator();
     commands_->Add(menu, tr("E&xit"), Qt::CTRL | Qt::Key_Q, [this] { window_->close(); });
 }
 
@@ -295,6 +297,7 @@ void Workbench::ExplainKeys() {
         {tr("Ctrl+G"), tr("go to an area, a block or a place, in the bar as well")},
         {tr("Ctrl+L"), tr("go to the bar")},
         {tr("F5; Enter in the block box"), tr("run")},
+        {tr("Ctrl+P"), tr("print the pick, or what is seen where nothing is picked")},
         {tr("Click on a heading"), tr("sort the results")},
         {tr("Click, arrow keys on a row"), tr("mark it on the map")},
         {tr("Enter, double click on a row"), tr("show its block on the map")},
