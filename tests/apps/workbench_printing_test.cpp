@@ -7,13 +7,14 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
+#include <cmath>
 #include <deque>
 #include <filesystem>
 
-#include "frame/kvdbkvn/db_util.h"
 #include "pdf_pages.h"
 #include "print/print_control.h"
 #include "print/print_control_ids.h"
+#include "sample_block.h"
 #include "window/window_system.h"
 #include "workbench/printing/print_preview.h"
 #include "workbench_window_fixture.h"
@@ -108,31 +109,32 @@ protected:
 TEST_F(WorkbenchPrinting, ExportsThePickAsAPdfAtTheScaleThatWasChosen) {
     Open();
     PickBlock();
-    Trigger("Export PDF...", {AtScale("4000"), NameFile(folder.Native("block.pdf"))});
+    Trigger("Export PDF...", {AtScale("2000"), NameFile(folder.Native("block.pdf"))});
     EXPECT_THAT(failures, SizeIs(0));
     EXPECT_THAT(boxes, SizeIs(0)) << "an export asks for no printer";
     EXPECT_EQ(Said(), "Saved " + folder.Native("block.pdf"));
     const auto pages = Pages("block.pdf");
     ASSERT_THAT(pages, SizeIs(1));
-    CMinMax2Dd_t block;
-    const int projection = CKvDbUtil::S_GetProjectionByArea("43113", "");
-    ASSERT_TRUE(CKvDbUtil::S_GetXYBounds("43113", "391", "", block, projection, "", 0));
-    // Its corners lie around the middle of Letter paper.
-    const QPointF half((block.maxX - block.minX) / 8000, (block.maxY - block.minY) / 8000);
-    const auto corners = pages[0].Corners();
-    const auto touches = [&](double x, double y) {
-        return std::any_of(corners.begin(), corners.end(), [&](const QPointF& at) {
-            return std::abs(at.x() - x) < 0.01 && std::abs(at.y() - y) < 0.6;
-        });
-    };
-    EXPECT_TRUE(touches(4.25 - half.x(), 5.5 - half.y()));
-    EXPECT_TRUE(touches(4.25 + half.x(), 5.5 + half.y()));
+    const std::vector<Point> block = test::CornersOfTheBlock();
+    Box bounds;
+    for (const Point& corner : block)
+        bounds.Include(corner);
+    const auto drawn = pages[0].Corners();
+    for (const Point& corner : block) {
+        // It lies in the middle of Letter paper.
+        const QPointF belongs(4.25 + (corner.x - bounds.Middle().x) / 2000,
+                              5.5 - (corner.y - bounds.Middle().y) / 2000);
+        EXPECT_TRUE(std::any_of(drawn.begin(), drawn.end(), [&](const QPointF& at) {
+            return std::hypot(at.x() - belongs.x(), at.y() - belongs.y()) <
+                   0.002 * bounds.Width() / 2000;
+        }));
+    }
 }
 
 TEST_F(WorkbenchPrinting, AMapLargerThanThePaperTakesSeveralPages) {
     Open();
     PickBlock();
-    Trigger("Export PDF...", {AtScale("2000"), NameFile(folder.Native("block.pdf"))});
+    Trigger("Export PDF...", {AtScale("1000"), NameFile(folder.Native("block.pdf"))});
     const auto pages = Pages("block.pdf");
     EXPECT_GT(pages.size(), 1U);
     EXPECT_EQ(Said(), "Saved " + folder.Native("block.pdf") + ", " + std::to_string(pages.size()) +

@@ -79,7 +79,8 @@ void PageFrame::DrawTicks(const Side& side, double step, double kept) {
         // Not into the next side's margin, nor over the number of the page that joins on.
         const double along = tick.at * length;
         const bool fits = along + kTick >= half && length - along + kTick >= half;
-        if (fits && std::abs(along - length / 2) >= half + kept) WriteAlong(side, at, text);
+        const bool free = kept == 0 || std::abs(along - length / 2) >= half + kept;
+        if (fits && free) WriteAlong(side, at, text);
     }
 }
 

@@ -101,7 +101,7 @@ void PageMap::DrawAreas() {
 }
 
 void PageMap::DrawBlockLines() {
-    constexpr double kWidth = 0.4;
+    constexpr double kWidth = 0.6;
     for (const AreaMap& area : plan_.map.areas) {
         if (BlockSize(area) < kBlockLinesFrom) continue;
         QPainterPath path;
