@@ -35,7 +35,7 @@ public:
     BigFolder() : path_(PlaceForFiles() + "/kvbench-folder-" + std::to_string(getpid())) {
         std::filesystem::create_directory(Path());
         for (int i = 0; i < kFiles; ++i) {
-            const std::string name = Path() + "/map " + std::to_string(i * 61'681 % kFiles);
+            const std::string name = Path() + "/map " + std::to_string(i * 61'681LL % kFiles);
             std::fclose(std::fopen((name + ".txt").c_str(), "w"));
         }
     }

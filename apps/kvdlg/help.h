@@ -40,7 +40,9 @@ A script plays the user. It is a JSON file:
 The head may say which printer there is, as "printer": {...}, in the words of the scene "print"
 below; null for none. Left out, it is one without a name, with Letter paper. "drives" maps letters
 beside those of the registry, as {"D": {"folder": "C:\\data", "kind": "removable"}}; the kind may also
-be "fixed", which it is if left out, "remote" or "CD-ROM".
+be "fixed", which it is if left out, "remote" or "CD-ROM". "time": "2024-05-06T07:08:09Z" is what time
+it is, and stays so; left out, it is the machine's. "screen": [1366, 728] is how large the screen is in
+pixels; left out, [1920, 1080].
 
 A name in a script that is none of these is refused, with its line.
 

@@ -1,7 +1,10 @@
 #include "kvdlg/script.h"
 
 #include <algorithm>
+#include <charconv>
+#include <chrono>
 #include <map>
+#include <optional>
 #include <span>
 #include <string_view>
 #include <vector>
@@ -309,6 +312,53 @@ void MapDrives(const Json& drives, const std::string& where) {
     }
 }
 
+/// A number of digits alone, as long as the text.
+std::optional<int> DigitsOf(std::string_view text) {
+    int number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    const bool digits = error == std::errc() && end == text.data() + text.size();
+    return digits && text.front() != '-' ? std::optional(number) : std::nullopt;
+}
+
+/// Of a text as "2024-05-06T07:08:09Z"; none for any other.
+std::optional<std::chrono::system_clock::time_point> TimeOf(const std::string& text) {
+    constexpr std::string_view kForm = "dddd-dd-ddTdd:dd:ddZ";
+    if (text.size() != kForm.size()) return {};
+    for (std::size_t at = 0; at < kForm.size(); ++at) {
+        if (kForm[at] != 'd' && kForm[at] != text[at]) return {};
+    }
+    const auto part = [&](std::size_t at, std::size_t count) {
+        return DigitsOf(std::string_view(text).substr(at, count)).value_or(-1);
+    };
+    const std::chrono::year_month_day date{std::chrono::year(part(0, 4)),
+                                           std::chrono::month(static_cast<unsigned>(part(5, 2))),
+                                           std::chrono::day(static_cast<unsigned>(part(8, 2)))};
+    const int hours = part(11, 2), minutes = part(14, 2), seconds = part(17, 2);
+    const bool clock =
+        hours >= 0 && hours < 24 && minutes >= 0 && minutes < 60 && seconds >= 0 && seconds < 60;
+    if (!clock || part(0, 4) < 0 || !date.ok()) return {};
+    return std::chrono::sys_days(date) + std::chrono::hours(hours) + std::chrono::minutes(minutes) +
+           std::chrono::seconds(seconds);
+}
+
+void SetTime(const Json& time, const std::string& where, kv::HeadlessDesktop& desktop) {
+    const auto now = time.is_string() ? TimeOf(time.get<std::string>()) : std::nullopt;
+    if (!now) Wrong(where, "\"time\" to be a text as \"2024-05-06T07:08:09Z\"");
+    desktop.SetNow(*now);
+}
+
+void SetScreen(const Json& screen, const std::string& where, kv::HeadlessDesktop& desktop) {
+    constexpr int kMost = 100'000;
+    const auto isLength = [](const Json& length) {
+        return length.is_number_integer() && length.get<double>() > 0 &&
+               length.get<double>() <= kMost;
+    };
+    const bool whole =
+        screen.is_array() && screen.size() == 2 && isLength(screen[0]) && isLength(screen[1]);
+    if (!whole) Wrong(where, "\"screen\" to be its width and height, as [1920, 1080]");
+    desktop.SetScreenSize({screen[0].get<int>(), screen[1].get<int>()});
+}
+
 }  // namespace
 
 Json ParseJson(const std::string& text, const std::string& nameOfText) {
@@ -327,17 +377,19 @@ Json ParseJson(const std::string& text, const std::string& nameOfText) {
 
 void SetOutside(const Json& script, const std::map<std::string, int>& lines,
                 kv::HeadlessDesktop& desktop) {
-    constexpr std::string_view kHead[] = {"inputs", "printer", "drives", "user"};
-    RefuseOthers(script, kHead,
-                 [&](const std::string& key) { return LineOf(lines, "/" + key) + "the script"; });
-    if (script.contains("drives")) {
-        MapDrives(script["drives"], LineOf(lines, "/drives") + "the script");
-    }
+    constexpr std::string_view kHead[] = {"inputs", "printer", "drives", "time", "screen", "user"};
+    const auto where = [&](const std::string& key) {
+        return LineOf(lines, "/" + key) + "the script";
+    };
+    RefuseOthers(script, kHead, where);
+    if (script.contains("drives")) MapDrives(script["drives"], where("drives"));
+    if (script.contains("time")) SetTime(script["time"], where("time"), desktop);
+    if (script.contains("screen")) SetScreen(script["screen"], where("screen"), desktop);
     if (!script.contains("printer")) return;
     if (script["printer"].is_null()) {
         desktop.SetNoPrinter();
     } else {
-        desktop.SetPrinter(PrinterOf(script, "printer", LineOf(lines, "/printer") + "the script"));
+        desktop.SetPrinter(PrinterOf(script, "printer", where("/printer")));
     }
 }
 

@@ -82,6 +82,9 @@ Workbench::Workbench(CKvDbInfo database) : database_(std::move(database)) {
     MakePanes();
     status_ = new StatusLine(*window_->statusBar());
     commands_ = new Commands(*window_, *status_);
+    printing_ = new Printing(frame_, model_, *canvas_, runner_, *status_,
+                             [this](const QString& message) { Fail(message); });
+    printing_->setParent(window_);
     MakeMenus();
     new FocusRound([this] { return FocusParts(); }, window_);
     ConnectAll();

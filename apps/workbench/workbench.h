@@ -16,6 +16,7 @@
 #include "workbench/map_loader.h"
 #include "workbench/map_tools.h"
 #include "workbench/outcome_pane.h"
+#include "workbench/printing/printing.h"
 #include "workbench/results/report_layers.h"
 #include "workbench/results/results_pane.h"
 #include "workbench/selected_blocks.h"
@@ -157,6 +158,7 @@ private:
     QPointer<QDockWidget> outcomeDock_;
     QPointer<StatusLine> status_;
     QPointer<Commands> commands_;
+    QPointer<Printing> printing_;
 };
 
 }  // namespace workbench

@@ -76,6 +76,8 @@ void Workbench::MakeFileMenu() {
         menu, tr("&Save results as CSV..."), QKeySequence::Save, [this] { SaveResults(); },
         [this] { return NoRows(); });
     menu.addSeparator();
+    printing_->AddTo(menu, *commands_, [this] { return NoMap(); });
+    menu.addSeparator();
     commands_->Add(menu, tr("E&xit"), Qt::CTRL | Qt::Key_Q, [this] { window_->close(); });
 }
 
@@ -291,6 +293,7 @@ void Workbench::ExplainKeys() {
         {tr("Click with a converter open"), tr("hand the place to the converter")},
         {tr("Ctrl+G"), tr("go to an area, a block or a place, in the bar as well")},
         {tr("Ctrl+L"), tr("go to the bar")},
+         {tr("Ctrl+P"), tr("print the pick, or what is seen where nothing is picked")},
         {tr("Click on a heading"), tr("sort the results")},
         {tr("Click, arrow keys on a row"), tr("mark it on the map")},
         {tr("Enter, double click on a row"), tr("show its block on the map")},

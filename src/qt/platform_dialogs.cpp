@@ -17,6 +17,7 @@
 #include "qt/peers/acting.h"
 #include "qt/peers/peer.h"
 #include "window/dialogs/file_dialog.h"
+#include "window/dialogs/print_dialog.h"
 #include "window/window_system.h"
 #include "window/wnd.h"
 
@@ -142,6 +143,17 @@ QComboBox* AddPrinters(QPageSetupDialog& dialog, const QStringList& printers,
     return choice;
 }
 
+/// A paper that the dialog does not know, such as a cut off a roll, stands ahead of those that it
+/// does; it would put another one in its place. Null where it knows the paper.
+QComboBox* AddPaper(QPageSetupDialog& dialog, const PrinterSettings& settings) {
+    const QPageSize page = PageOf(settings);
+    auto* papers = dialog.findChild<QComboBox*>(QStringLiteral("pageSizeCombo"));
+    if (!papers || page.id() != QPageSize::Custom) return nullptr;
+    papers->insertItem(0, ToQString(FormName(settings)), QVariant::fromValue(page));
+    papers->setCurrentIndex(0);
+    return papers;
+}
+
 }  // namespace
 
 int ShowMessageBox(const MessageBoxRequest& request) {
@@ -182,9 +194,16 @@ int ShowPrintSetup(PrinterSettings& settings, const QStringList& printers) {
                                                    : QPageLayout::Portrait);
         QPageSetupDialog dialog(&printer, ParentFor(nullptr));
         const QComboBox* choice = AddPrinters(dialog, printers, ToQString(shown.device));
+        const QComboBox* papers = AddPaper(dialog, shown);
+        const PrinterSettings before = shown;
         answer = dialog.exec();
         if (answer == QDialog::Rejected) return IDCANCEL;
         Take(printer.pageLayout(), shown);
+        if (papers && papers->currentIndex() == 0) {
+            const bool landscape = shown.landscape;
+            shown = before;
+            shown.landscape = landscape;
+        }
         if (choice) shown.device = ToBytes(choice->currentText());
     }
     settings = shown;

@@ -247,4 +247,56 @@ TEST_F(PrintSetup, EveryPaperHasItsName) {
         EXPECT_EQ(formOf(id), QPageSize::name(id).toStdString());
 }
 
+/// A yard of a roll.
+kv::PrinterSettings Roll() {
+    kv::PrinterSettings settings;
+    settings.paper = 256;
+    settings.widthTenthMm = 9144;
+    settings.heightTenthMm = 15000;
+    settings.form = "Roll 36 in";
+    return settings;
+}
+
+TEST_F(PrintSetup, APaperOffARollStaysWhatItIs) {
+    kv::PrinterSettings settings = Roll();
+    Then([] {
+        EXPECT_EQ(Box()->findChild<QComboBox*>(QStringLiteral("pageSizeCombo"))->currentText(),
+                  "Roll 36 in");
+        Box()->findChild<QRadioButton*>(QStringLiteral("landscape"))->click();
+        Press(QDialogButtonBox::Ok);
+    });
+    EXPECT_EQ(kv::qt::ShowPrintSetup(settings, {}), IDOK);
+    EXPECT_EQ(settings.widthTenthMm, 9144);
+    EXPECT_EQ(settings.heightTenthMm, 15000);
+    EXPECT_EQ(settings.form, "Roll 36 in");
+    EXPECT_EQ(settings.paper, 256);
+    EXPECT_TRUE(settings.landscape);
+}
+
+TEST_F(PrintSetup, APaperOffARollCanBeChangedForAnother) {
+    kv::PrinterSettings settings = Roll();
+    Then([] {
+        Choose(kA3, false);
+        Press(QDialogButtonBox::Ok);
+    });
+    EXPECT_EQ(kv::qt::ShowPrintSetup(settings, {}), IDOK);
+    EXPECT_EQ(settings.paper, kA3);
+    EXPECT_EQ(settings.widthTenthMm, 2970);
+    EXPECT_EQ(settings.form, "A3");
+}
+
+TEST_F(PrintSetup, APaperOffARollIsKeptWithAnotherPrinter) {
+    kv::PrinterSettings settings = Roll();
+    settings.device = "Office";
+    Then([] {
+        Then([] { Press(QDialogButtonBox::Ok); });
+        auto* printers = Box()->findChild<QComboBox*>(QStringLiteral("printers"));
+        printers->setFocus();
+        QTest::keyClick(printers, Qt::Key_Down);
+    });
+    EXPECT_EQ(kv::qt::ShowPrintSetup(settings, {"Office", "Plotter"}), IDOK);
+    EXPECT_EQ(settings.device, "Plotter");
+    EXPECT_EQ(settings.form, "Roll 36 in");
+}
+
 }  // namespace

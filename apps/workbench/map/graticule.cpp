@@ -27,7 +27,10 @@ std::vector<double> Multiples(double step, double from, double to) {
     return values;
 }
 
-/// The largest of 1, 2 and 5 with zeros behind that is not above `limit`.
+constexpr double kMetresPerNauticalMile = 1852;
+
+}  // namespace
+
 double RoundBelow(double limit) {
     const double power = std::pow(10.0, std::floor(std::log10(limit)));
     for (const double factor : {5.0, 2.0}) {
@@ -35,10 +38,6 @@ double RoundBelow(double limit) {
     }
     return power;
 }
-
-constexpr double kMetresPerNauticalMile = 1852;
-
-}  // namespace
 
 Graticule GraticuleOf(const MapView& view) {
     const double step = StepFor(view.Scale());

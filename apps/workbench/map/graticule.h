@@ -15,6 +15,9 @@ struct Graticule {
 /// At round degrees or minutes, some hundred pixels apart or more.
 Graticule GraticuleOf(const MapView& view);
 
+/// The largest of 1, 2 and 5 with zeros behind that is not above `limit`.
+double RoundBelow(double limit);
+
 /// A bar of a round length.
 struct ScaleBar {
     double pixels = 0;

@@ -7,6 +7,7 @@
 
 #include "workbench/map/angle_text.h"
 #include "workbench/map/graticule.h"
+#include "workbench/map/map_legend.h"
 
 namespace workbench {
 
@@ -38,43 +39,6 @@ constexpr double kShifts[] = {0, -0.2, 0.2, -0.4, 0.4};
 constexpr double kCostOfShift = 24;
 /// What a name may cover before a shorter way to write it is looked for.
 constexpr int kLittle = 10;
-
-struct LegendRow {
-    const char* text;
-    std::uint8_t kind;
-};
-constexpr LegendRow kWellRows[] = {{"Completed well", kWellCompleted},
-                                   {"Drilling", kWellDrilling},
-                                   {"Temporarily abandoned", kWellSuspended},
-                                   {"Sidetracked", kWellSidetracked},
-                                   {"Plugged and abandoned", kWellAbandoned}};
-constexpr LegendRow kPlatformRows[] = {{"Platform", kPlatformStanding},
-                                       {"Removed platform", kPlatformRemoved}};
-constexpr LegendRow kPipelineRows[] = {
-    {"Oil pipeline", kPipeOil}, {"Gas pipeline", kPipeGas}, {"Other pipeline", kPipeOther}};
-
-struct WaterRow {
-    const char* text;
-    Water water;
-};
-constexpr WaterRow kWaterRows[] = {{"State waters", Water::kState},
-                                   {"Bays and lakes", Water::kBay},
-                                   {"Federal shelf", Water::kShelf},
-                                   {"Federal deep water", Water::kDeep}};
-
-const QColor& WaterColor(const MapLook& look, Water water) {
-    switch (water) {
-        case Water::kState:
-            return look.state;
-        case Water::kBay:
-            return look.bay;
-        case Water::kShelf:
-            return look.shelf;
-        case Water::kDeep:
-            break;
-    }
-    return look.deep;
-}
 
 QColor WithAlpha(QColor color, double part) {
     color.setAlphaF(static_cast<float>(color.alphaF() * std::clamp(part, 0.0, 1.0)));

@@ -6,9 +6,22 @@ namespace workbench {
 
 namespace {
 
-constexpr QPointF kMiddle(MapSymbols::kSize / 2, MapSymbols::kSize / 2);
 constexpr double kRadius = 3.6;
 constexpr double kTick = 5.4;
+constexpr double kHalo = 3.5;
+constexpr double kLine = 1.5;
+
+QPainterPath Circle(double radius) {
+    QPainterPath path;
+    path.addEllipse(QPointF(), radius, radius);
+    return path;
+}
+
+QPainterPath Line(const QPointF& from, const QPointF& to) {
+    QPainterPath path(from);
+    path.lineTo(to);
+    return path;
+}
 
 }  // namespace
 
@@ -42,63 +55,54 @@ QColor PipelineColor(const MapLook& look, std::uint8_t kind) {
     }
 }
 
+std::vector<SymbolPart> WellParts(const MapLook& look, std::uint8_t kind) {
+    const QColor color = WellColor(look, kind);
+    const bool filled = kind == kWellCompleted || kind == kWellSidetracked;
+    const QColor fill = filled ? color : look.ground;
+    // A rim of the ground keeps a well apart from lines below it.
+    std::vector<SymbolPart> parts{{Circle(kRadius), fill, look.halo, kHalo},
+                                  {Circle(kRadius), fill, color, kLine}};
+    if (kind == kWellDrilling) parts.push_back({Circle(0.8), color, color, kLine});
+    if (kind == kWellSuspended) parts.push_back({Line({-kTick, 0}, {kTick, 0}), {}, color, kLine});
+    if (kind == kWellSidetracked) parts.push_back({Line({}, {4.6, 4.6}), {}, color, kLine});
+    if (kind == kWellAbandoned) {
+        const double tick = kTick * 0.78;
+        parts.push_back({Line({-tick, -tick}, {tick, tick}), {}, color, kLine});
+        parts.push_back({Line({-tick, tick}, {tick, -tick}), {}, color, kLine});
+    }
+    return parts;
+}
+
+std::vector<SymbolPart> PlatformParts(const MapLook& look, std::uint8_t kind) {
+    const QColor color = PlatformColor(look, kind);
+    QPainterPath square;
+    square.addRect(-3.5, -3.5, 7, 7);
+    const QColor fill = kind == kPlatformStanding ? color : look.ground;
+    return {{square, fill, look.halo, kHalo}, {square, fill, color, kLine}};
+}
+
 void MapSymbols::SetLook(const MapLook& look, double pixelRatio) {
     if (look == look_ && pixelRatio == pixelRatio_) return;
     look_ = look;
     pixelRatio_ = pixelRatio;
-    for (std::size_t kind = 0; kind < wells_.size(); ++kind) {
-        wells_[kind] = DrawWell(static_cast<WellKind>(kind));
-    }
-    for (std::size_t kind = 0; kind < platforms_.size(); ++kind) {
-        platforms_[kind] = DrawPlatform(static_cast<PlatformKind>(kind));
-    }
+    for (std::size_t kind = 0; kind < wells_.size(); ++kind)
+        wells_[kind] = Drawn(WellParts(look_, static_cast<std::uint8_t>(kind)));
+    for (std::size_t kind = 0; kind < platforms_.size(); ++kind)
+        platforms_[kind] = Drawn(PlatformParts(look_, static_cast<std::uint8_t>(kind)));
 }
 
-QPixmap MapSymbols::Blank() const {
+QPixmap MapSymbols::Drawn(const std::vector<SymbolPart>& parts) const {
     QPixmap pixmap((QSizeF(kSize, kSize) * pixelRatio_).toSize());
     pixmap.setDevicePixelRatio(pixelRatio_);
     pixmap.fill(Qt::transparent);
-    return pixmap;
-}
-
-QPixmap MapSymbols::DrawWell(WellKind kind) const {
-    QPixmap pixmap = Blank();
     QPainter painter(&pixmap);
     painter.setRenderHint(QPainter::Antialiasing);
-    const QColor color = WellColor(look_, kind);
-    const bool filled = kind == kWellCompleted || kind == kWellSidetracked;
-    // A rim of the ground keeps a well apart from lines below it.
-    painter.setPen(QPen(look_.halo, 3.5));
-    painter.setBrush(filled ? color : look_.ground);
-    painter.drawEllipse(kMiddle, kRadius, kRadius);
-    painter.setPen(QPen(color, 1.5));
-    painter.drawEllipse(kMiddle, kRadius, kRadius);
-    if (kind == kWellDrilling) {
-        painter.setBrush(color);
-        painter.drawEllipse(kMiddle, 0.8, 0.8);
+    painter.translate(kSize / 2, kSize / 2);
+    for (const SymbolPart& part : parts) {
+        painter.setBrush(part.fill.isValid() ? QBrush(part.fill) : QBrush(Qt::NoBrush));
+        painter.setPen(part.line.isValid() ? QPen(part.line, part.width) : QPen(Qt::NoPen));
+        painter.drawPath(part.shape);
     }
-    if (kind == kWellSuspended) {
-        painter.drawLine(kMiddle - QPointF(kTick, 0), kMiddle + QPointF(kTick, 0));
-    }
-    if (kind == kWellAbandoned) {
-        const double tick = kTick * 0.78;
-        painter.drawLine(kMiddle - QPointF(tick, tick), kMiddle + QPointF(tick, tick));
-        painter.drawLine(kMiddle - QPointF(tick, -tick), kMiddle + QPointF(tick, -tick));
-    }
-    return pixmap;
-}
-
-QPixmap MapSymbols::DrawPlatform(PlatformKind kind) const {
-    QPixmap pixmap = Blank();
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const QColor color = PlatformColor(look_, kind);
-    const QRectF square(kMiddle - QPointF(3.5, 3.5), QSizeF(7, 7));
-    painter.setBrush(kind == kPlatformStanding ? color : look_.ground);
-    painter.setPen(QPen(look_.halo, 3.5));
-    painter.drawRect(square);
-    painter.setPen(QPen(color, 1.5));
-    painter.drawRect(square);
     return pixmap;
 }
 

@@ -1,12 +1,26 @@
 #pragma once
 
+#include <QPainterPath>
 #include <QPixmap>
 #include <array>
+#include <vector>
 
 #include "workbench/map/map_look.h"
 #include "workbench/map/map_model.h"
 
 namespace workbench {
+
+/// A part of a symbol, around its middle and in pixels. An invalid colour leaves its fill or its
+/// line out.
+struct SymbolPart {
+    QPainterPath shape;
+    QColor fill;
+    QColor line;
+    double width = 0;
+};
+/// The parts of a symbol in the order in which they are drawn.
+std::vector<SymbolPart> WellParts(const MapLook& look, std::uint8_t kind);
+std::vector<SymbolPart> PlatformParts(const MapLook& look, std::uint8_t kind);
 
 /// The symbols of wells and platforms, drawn once for a look.
 class MapSymbols {
@@ -18,9 +32,7 @@ public:
     const QPixmap& Platform(std::uint8_t kind) const { return platforms_[kind]; }
 
 private:
-    QPixmap Blank() const;
-    QPixmap DrawWell(WellKind kind) const;
-    QPixmap DrawPlatform(PlatformKind kind) const;
+    QPixmap Drawn(const std::vector<SymbolPart>& parts) const;
 
     MapLook look_;
     double pixelRatio_ = 0;

@@ -1,0 +1,20 @@
+#include "workbench/printing/page_painter.h"
+
+#include "workbench/printing/page_frame.h"
+#include "workbench/printing/page_insets.h"
+#include "workbench/printing/page_map.h"
+
+namespace workbench {
+
+void DrawPage(const PrintPlan& plan, std::int64_t page, Paper& paper) {
+    const PageView view(plan, page);
+    const MapLook look = LookOnPaper(plan.ink);
+    PageLabels labels(view.Neat());
+    PageMap map(plan, view, look, paper);
+    map.DrawShapes(labels);
+    PageInsets(plan, view, look, paper, labels).Draw(page);
+    if (plan.layers.labels) map.DrawLabels(labels);
+    PageFrame(plan, view, look, paper).Draw(page);
+}
+
+}  // namespace workbench
