@@ -82,6 +82,7 @@ Workbench::Workbench(CKvDbInfo database) : database_(std::move(database)) {
     MakePanes();
     status_ = new StatusLine(*window_->statusBar());
     commands_ = new Commands(*window_, *status_);
+    readouts_ = std::make_unique<Readouts>(model_, tools_, *canvas_, *status_, *commands_);
     MakeMenus();
     new FocusRound([this] { return FocusParts(); }, window_);
     ConnectAll();
@@ -191,6 +192,7 @@ void Workbench::Show() {
 
 void Workbench::LoadMap() {
     if (loader_) runner_.Drop(loader_);
+    readouts_->MapGoes();
     canvas_->ModelGoes();
     model_.Clear();
     loader_ = std::make_shared<MapLoader>(model_, [this] {
@@ -409,11 +411,7 @@ bool Workbench::GoTo(const QString& text) {
 }
 
 void Workbench::OpenDialog(const adaptors::Adaptor& adaptor) {
-    if (adaptor.makeTool) {
-        tools_.Show(adaptor);
-    } else {
-        RunDialog(adaptor);
-    }
+    if (!tools_.Show(adaptor)) RunDialog(adaptor);
 }
 
 void Workbench::RunDialog(const adaptors::Adaptor& adaptor) {

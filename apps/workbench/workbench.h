@@ -16,6 +16,7 @@
 #include "workbench/map_loader.h"
 #include "workbench/map_tools.h"
 #include "workbench/outcome_pane.h"
+#include "workbench/readouts/readouts.h"
 #include "workbench/results/report_layers.h"
 #include "workbench/results/results_pane.h"
 #include "workbench/selected_blocks.h"
@@ -77,6 +78,7 @@ public:
     ResultsPane& Results() { return *results_; }
     OutcomePane& Outcome() { return *outcome_; }
     MapTools& Tools() { return tools_; }
+    const Readouts& ReadoutTools() const { return *readouts_; }
     WorkRunner& Runner() { return runner_; }
     StatusLine& Status() { return *status_; }
 
@@ -157,6 +159,8 @@ private:
     QPointer<QDockWidget> outcomeDock_;
     QPointer<StatusLine> status_;
     QPointer<Commands> commands_;
+
+    std::unique_ptr<Readouts> readouts_;
 };
 
 }  // namespace workbench
