@@ -13,6 +13,7 @@
 #include "coordtools/distance_ids.h"
 #include "frame/kvcom/util_lldrv.h"
 #include "frame/kvdbkvn/db_util.h"
+#include "window/acting/input.h"
 #include "window/window_system.h"
 #include "workbench_window_fixture.h"
 

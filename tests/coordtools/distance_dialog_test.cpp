@@ -393,7 +393,7 @@ TEST_F(Distance, OkHidesItAndTellsTheHost) {
     Feed();
     user->Click(IDOK);
     ExpectTold();
-    EXPECT_EQ(user->Text(kDistance), "5000.00");
+    EXPECT_EQ(tool.DlgItemText(kDistance), "5000.00");
 }
 
 TEST_F(Distance, EscapeDoesWhatOkDoes) {
