@@ -23,7 +23,7 @@ Json AngleTexts(const CDialog& dialog, const kv::coordtools::AngleIds& ids) {
     return texts;
 }
 
-void RunTool(Run& run, Tool& tool) {
+void RunTool(Run& run, ScriptedTool& tool) {
     CDialog* dialog = tool.Window();
     if (!dialog) {
         run.result = -1;

@@ -19,24 +19,32 @@ public:
     virtual CDialog* Window() = 0;
     /// Gives it a position, as a click on a map does; decimal degrees.
     virtual void SetPosition(double lat, double lon) = 0;
-    /// One of `ToolMethods`.
+};
+
+/// A modeless tool as a script works on it.
+class ScriptedTool {
+public:
+    virtual ~ScriptedTool() = default;
+    /// Null when the window could not be made, or was destroyed.
+    virtual CDialog* Window() = 0;
+    /// One of the adaptor's `calls`.
     virtual void Call(const std::string& method, const Json& arguments) = 0;
     /// What its boxes hold.
     virtual Json State() = 0;
 };
 
-/// What every tool understands: ResetToDefault, SetPosition and Show.
+/// What every tool that takes positions understands: ResetToDefault, SetPosition and Show.
 std::vector<Method> ToolMethods();
 
 /// The texts of an angle's boxes.
 Json AngleTexts(const CDialog& dialog, const kv::coordtools::AngleIds& ids);
 
 /// Lets the user work on a tool until it is hidden.
-void RunTool(Run& run, Tool& tool);
+void RunTool(Run& run, ScriptedTool& tool);
 
 /// A tool of that class; `state` tells what its boxes hold.
 template <typename Dialog>
-class ToolOf : public Tool {
+class ToolOf : public Tool, public ScriptedTool {
 public:
     using StateOf = Json (*)(const Dialog&);
 
@@ -76,7 +84,10 @@ Adaptor ToolAdaptor(const std::string& className, const std::string& family,
     adaptor.makeTool = [state](CWnd* owner) {
         return std::make_unique<ToolOf<Dialog>>(owner, state);
     };
-    adaptor.run = [make = adaptor.makeTool](Run& run) { RunTool(run, *make(nullptr)); };
+    adaptor.run = [state](Run& run) {
+        ToolOf<Dialog> tool(nullptr, state);
+        RunTool(run, tool);
+    };
     return adaptor;
 }
 

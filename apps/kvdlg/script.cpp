@@ -389,7 +389,7 @@ void SetOutside(const Json& script, const std::map<std::string, int>& lines,
     if (script["printer"].is_null()) {
         desktop.SetNoPrinter();
     } else {
-        desktop.SetPrinter(PrinterOf(script, "printer", where("/printer")));
+        desktop.SetPrinter(PrinterOf(script, "printer", where("printer")));
     }
 }
 

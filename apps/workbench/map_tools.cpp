@@ -12,36 +12,54 @@ namespace workbench {
 
 namespace {
 
-/// At the right edge of the main window, as far as the screen has room there.
-void PutBeside(CWnd& tool, const CWnd& mainWindow) {
+/// What a window manager puts over the contents of a window.
+constexpr int kTitle = 32;
+
+}  // namespace
+
+/// At the right edge of the main window, as far as the screen has room there, and below the tools
+/// that stand there already.
+void MapTools::PutBeside(CWnd& tool) const {
     CRect place;
     CRect around;
     tool.GetWindowRect(&place);
-    mainWindow.GetWindowRect(&around);
+    owner_.GetWindowRect(&around);
     const CSize screen = kv::WindowSystem::Get().GetDesktop().ScreenSize();
     const int left = std::max(0, std::min(around.right, screen.cx - place.Width()));
-    const int top = std::max(0, std::min(around.top, screen.cy - place.Height()));
+    int top = around.top;
+    for (const CDialog* other : Shown()) {
+        CRect taken;
+        other->GetWindowRect(&taken);
+        if (other != &tool && taken.right > left) top = std::max(top, taken.bottom + kTitle);
+    }
+    top = std::max(0, std::min(top, screen.cy - place.Height()));
     tool.MoveWindow(left, top, place.Width(), place.Height());
 }
 
-}  // namespace
+void MapTools::SetMaker(const std::string& className, Make make) {
+    makers_[className] = std::move(make);
+}
 
 adaptors::Tool* MapTools::Find(const std::string& className) const {
     const auto at = tools_.find(className);
     return at == tools_.end() ? nullptr : at->second.get();
 }
 
-void MapTools::Show(const adaptors::Adaptor& adaptor) {
+bool MapTools::Show(const adaptors::Adaptor& adaptor) {
+    const auto maker = makers_.find(adaptor.className);
+    const Make& make = maker == makers_.end() ? adaptor.makeTool : maker->second;
+    if (!make) return false;
     auto& tool = tools_[adaptor.className];
     if (!tool) {
-        tool = adaptor.makeTool(&owner_);
-        if (tool->Window()) PutBeside(*tool->Window(), owner_);
+        tool = make(&owner_);
+        if (tool->Window()) PutBeside(*tool->Window());
     }
     if (CDialog* window = tool->Window()) {
         window->ShowWindow(SW_SHOW);
         kv::input::Activate(*window->m_hWnd);
     }
     kv::WindowSystem::Get().Settle();
+    return true;
 }
 
 std::vector<CDialog*> MapTools::Shown() const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -17,8 +18,12 @@ public:
     /// The tools lie over that window.
     explicit MapTools(CWnd& owner) : owner_(owner) {}
 
-    /// Shows a tool, with what it held when it was hidden.
-    void Show(const adaptors::Adaptor& adaptor);
+    using Make = std::function<std::unique_ptr<adaptors::Tool>(CWnd* owner)>;
+    /// Says who makes the tool of a class, in place of its adaptor.
+    void SetMaker(const std::string& className, Make make);
+
+    /// Shows a tool, with what it held when it was hidden. False for a class that is no tool.
+    bool Show(const adaptors::Adaptor& adaptor);
     /// Hands a place of the map to each tool that is shown.
     void SetPosition(const Place& place);
 
@@ -31,7 +36,10 @@ public:
     adaptors::Tool* Find(const std::string& className) const;
 
 private:
+    void PutBeside(CWnd& tool) const;
+
     CWnd& owner_;
+    std::map<std::string, Make> makers_;
     std::map<std::string, std::unique_ptr<adaptors::Tool>> tools_;
 };
 

@@ -20,6 +20,7 @@ constexpr int kMessageTime = 15'000;  ///< milliseconds
 StatusLine::StatusLine(QStatusBar& bar)
     : QObject(&bar),
       bar_(bar),
+      mode_(AddField(QString(), tr("What the mouse does"))),
       work_(new QLabel(&bar)),
       progress_(new QProgressBar(&bar)),
       cancel_(new QToolButton(&bar)) {
@@ -33,6 +34,7 @@ StatusLine::StatusLine(QStatusBar& bar)
     bar.addPermanentWidget(work_);
     bar.addPermanentWidget(progress_);
     bar.addPermanentWidget(cancel_);
+    mode_->hide();
     HideProgress();
 
     block_ = AddField(QString(), tr("Block under the mouse"));
@@ -55,6 +57,15 @@ QLabel* StatusLine::AddField(const QString& widest, const QString& name) {
 void StatusLine::SetProjected(ProjectedText projected) {
     project_ = std::move(projected);
     projected_->setVisible(static_cast<bool>(project_));
+}
+
+void StatusLine::ShowMode(const QString& mode) {
+    mode_->setText(mode);
+    mode_->setVisible(!mode.isEmpty());
+}
+
+QString StatusLine::Mode() const {
+    return mode_->text();
 }
 
 void StatusLine::ShowPlace(const Place& place, const std::optional<BlockRef>& block) {

@@ -27,6 +27,10 @@ public:
     /// What fills the field of projected coordinates; without a function there is no such field.
     void SetProjected(ProjectedText projected);
 
+    /// What the mouse does on the map just now; empty where it does what it always does.
+    void ShowMode(const QString& mode);
+    QString Mode() const;
+
     void ShowPlace(const Place& place, const std::optional<BlockRef>& block);
     void ShowNoPlace();
     void ShowProgress(const QString& title, int done, int total);
@@ -44,6 +48,7 @@ private:
     QLabel* AddField(const QString& widest, const QString& name);
 
     QStatusBar& bar_;
+    QLabel* mode_;
     QLabel* work_;
     QProgressBar* progress_;
     QToolButton* cancel_;

@@ -85,6 +85,7 @@ Workbench::Workbench(CKvDbInfo database) : database_(std::move(database)) {
     printing_ = new Printing(frame_, model_, *canvas_, runner_, *status_,
                              [this](const QString& message) { Fail(message); });
     printing_->setParent(window_);
+    readouts_ = std::make_unique<Readouts>(model_, tools_, *canvas_, *status_, *commands_);
     MakeMenus();
     new FocusRound([this] { return FocusParts(); }, window_);
     ConnectAll();
@@ -192,6 +193,7 @@ void Workbench::Show() {
 
 void Workbench::LoadMap() {
     if (loader_) runner_.Drop(loader_);
+    readouts_->MapGoes();
     canvas_->ModelGoes();
     model_.Clear();
     loader_ = std::make_shared<MapLoader>(model_, [this] {
@@ -410,11 +412,7 @@ bool Workbench::GoTo(const QString& text) {
 }
 
 void Workbench::OpenDialog(const adaptors::Adaptor& adaptor) {
-    if (adaptor.makeTool) {
-        tools_.Show(adaptor);
-    } else {
-        RunDialog(adaptor);
-    }
+    if (!tools_.Show(adaptor)) RunDialog(adaptor);
 }
 
 void Workbench::RunDialog(const adaptors::Adaptor& adaptor) {

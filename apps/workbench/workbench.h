@@ -17,6 +17,7 @@
 #include "workbench/map_tools.h"
 #include "workbench/outcome_pane.h"
 #include "workbench/printing/printing.h"
+#include "workbench/readouts/readouts.h"
 #include "workbench/results/report_layers.h"
 #include "workbench/results/results_pane.h"
 #include "workbench/selected_blocks.h"
@@ -78,6 +79,7 @@ public:
     ResultsPane& Results() { return *results_; }
     OutcomePane& Outcome() { return *outcome_; }
     MapTools& Tools() { return tools_; }
+    const Readouts& ReadoutTools() const { return *readouts_; }
     WorkRunner& Runner() { return runner_; }
     StatusLine& Status() { return *status_; }
 
@@ -159,6 +161,8 @@ private:
     QPointer<StatusLine> status_;
     QPointer<Commands> commands_;
     QPointer<Printing> printing_;
+
+    std::unique_ptr<Readouts> readouts_;
 };
 
 }  // namespace workbench

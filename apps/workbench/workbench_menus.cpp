@@ -61,6 +61,7 @@ void Workbench::MakeMenus() {
     MakeFileMenu();
     MakeEditMenu();
     MakeViewMenu();
+    readouts_->MakeMenu(*window_->menuBar()->addMenu(tr("&Tools")));
     MakeDialogsMenu();
     MakeHelpMenu();
 }
@@ -284,16 +285,21 @@ void Workbench::ExplainKeys() {
          tr("show the pick on the map, or with Report list what is there")},
         {tr("F6, Shift+F6"), tr("go round the bar, the map, the results and open tools")},
         {tr("Ctrl+K"), tr("find any command or dialog by its name")},
-        {tr("Drag, arrow keys"), tr("move the map")},
+        {tr("Drag, middle button, arrow keys"), tr("move the map")},
         {tr("Wheel, +, -"), tr("zoom in and out")},
         {tr("Double click"), tr("zoom in; with Shift, out")},
         {tr("Home"), tr("show all of the map")},
         {tr("L, click on its heading"), tr("fold the legend")},
         {tr("Click on a block"), tr("pick it in the bar")},
         {tr("Click with a converter open"), tr("hand the place to the converter")},
+        {tr("Ctrl+T"), tr("read the coordinates under the mouse; a click holds them, the next one "
+                          "lets them go")},
+        {tr("Ctrl+D"), tr("measure distances: drag, or click twice; with Shift go on from the last "
+                          "point; Escape ends")},
+        {tr("Ctrl+Shift+C"), tr("copy the position that is read")},
         {tr("Ctrl+G"), tr("go to an area, a block or a place, in the bar as well")},
         {tr("Ctrl+L"), tr("go to the bar")},
-         {tr("Ctrl+P"), tr("print the pick, or what is seen where nothing is picked")},
+        {tr("Ctrl+P"), tr("print the pick, or what is seen where nothing is picked")},
         {tr("Click on a heading"), tr("sort the results")},
         {tr("Click, arrow keys on a row"), tr("mark it on the map")},
         {tr("Enter, double click on a row"), tr("show its block on the map")},

@@ -25,11 +25,11 @@ constexpr std::array<ControlRow, 3> BoxRows(const BoxIds& ids, int x, int y, int
 
 /// The three boxes of an angle in a line, behind their label. As one decimal number the degrees'
 /// box is twice as wide and its label eight times, which is no more than all three take.
-constexpr std::array<ControlRow, 10> AngleRows(const AngleIds& ids, const char* label, int x,
-                                               int y) {
-    const int boxes = x + kAngleLabelWidth;
+constexpr std::array<ControlRow, 10> AngleRows(const AngleIds& ids, const char* label, int x, int y,
+                                               int labelWidth = kAngleLabelWidth) {
+    const int boxes = x + labelWidth;
     const std::array<ControlRow, 1> name{
-        {{IDC_STATIC, ControlKind::kLabel, label, {x, y + 2, kAngleLabelWidth - 4, 8}}}};
+        {{IDC_STATIC, ControlKind::kLabel, label, {x, y + 2, labelWidth - 4, 8}}}};
     return JoinRows(name, BoxRows(ids.degrees, boxes, y, 28, "D"),
                     BoxRows(ids.minutes, boxes + 52, y, 26, "M"),
                     BoxRows(ids.seconds, boxes + 102, y, 36, "S"));

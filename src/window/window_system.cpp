@@ -8,6 +8,7 @@
 #include "window/desktop.h"
 #include "window/dialog_keys.h"
 #include "window/modal_scope.h"
+#include "window/stacking.h"
 
 namespace kv {
 
@@ -61,6 +62,7 @@ void WindowSystem::ForgetDesktop(const Desktop& desktop) {
 }
 
 void WindowSystem::AddTopLevel(std::shared_ptr<Node> node) {
+    NoteOnTop(*node);
     topLevels_.push_back(std::move(node));
 }
 
@@ -181,6 +183,7 @@ void WindowSystem::SetFocusQuietly(Node* node) {
     if (node) {
         active_ = node->Root();
         active_->lastFocus_ = node->weak_from_this();
+        NoteOnTop(*active_);
     }
     if (former) former->Tell(Change::kFocus);
     if (node) node->Tell(Change::kFocus);
@@ -205,6 +208,7 @@ void WindowSystem::SettleFocus() {
 
 void WindowSystem::Activate(Node& window) {
     if (window.Destroyed() || !window.ReallyEnabled()) return;
+    NoteOnTop(window);
     if (focus_ && focus_->IsSelfOrDescendantOf(window)) return;
     active_ = &window;
     Node* last = window.LastFocus();

@@ -5,7 +5,7 @@
 namespace {
 
 TEST(CoordinateToolTemplates, HoldTheirTexts) {
-    for (const int id : {14608, 15113})
+    for (const int id : {7007, 7008, 14608, 15113})
         test::ExpectToldTexts(id);
 }
 

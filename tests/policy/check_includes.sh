@@ -30,7 +30,7 @@ BEGIN {
 
     # A window is its node, its handle, its keys, and what is common to all windows: one unit of
     # several files, and the only one.
-    split("node wnd window_system dialog_keys mnemonics modal_scope", parts, " ")
+    split("node wnd window_system dialog_keys mnemonics modal_scope stacking", parts, " ")
     for (i in parts) one_unit["window/" parts[i]] = "window/node and its kin"
     most_files = 40
 }

@@ -90,6 +90,116 @@ constexpr const char* kTexts = R"texts(
     1136 drop list ""
     2 button "Cancel"
 
+7007 "Coordinate and Projection"
+    65535 label "x Coordinate"
+    7022 edit "" read-only
+    65535 label "Unit"
+    7047 drop list "" sorted
+    65535 label "y Coordinate"
+    7023 edit "" read-only
+    65535 label "Format"
+    7048 drop list "" sorted
+    65535 label "Map Projection"
+    7024 edit "" read-only
+    65535 label "User Projection"
+    29078 editable combo ""
+    65535 label "Latitude"
+    29027 edit ""
+    29028 spin ""
+    29029 label "D"
+    29030 edit ""
+    29031 spin ""
+    29032 label "M"
+    29033 edit ""
+    29034 spin ""
+    29035 label "S"
+    65535 label "Longitude"
+    29036 edit ""
+    29037 spin ""
+    29038 label "D"
+    29039 edit ""
+    29040 spin ""
+    29041 label "M"
+    29042 edit ""
+    7025 spin ""
+    29043 label "S"
+    7039 edit "" hidden
+    7040 edit "" hidden
+    1 default button "OK"
+    2 button "Cancel" hidden
+
+7008 "Check Distance"
+    65535 label "Distance"
+    7025 edit "" read-only
+    65535 label "Unit"
+    7034 drop list "" sorted
+    65535 label "Offset X"
+    7031 edit "" read-only
+    65535 label "Offset Y"
+    7032 edit "" read-only
+    65535 label "Map Projection"
+    7045 edit "" read-only
+    65535 label "Format"
+    7049 drop list "" sorted
+    65535 label "User Projection"
+    29079 editable combo ""
+    65535 group box ""
+    65535 label "Start Point  X"
+    7027 edit "" read-only
+    65535 label "Start Point Y"
+    7028 edit "" read-only
+    65535 label "Start Point Latitude"
+    29044 edit ""
+    29045 spin ""
+    29046 label "D"
+    29047 edit ""
+    29048 spin ""
+    29049 label "M"
+    29050 edit ""
+    29051 spin ""
+    29052 label "S"
+    65535 label "Start Point Longitude"
+    29053 edit ""
+    29054 spin ""
+    29055 label "D"
+    29056 edit ""
+    29057 spin ""
+    29058 label "M"
+    29059 edit ""
+    7026 spin ""
+    29060 label "S"
+    65535 group box ""
+    65535 label "End Point X"
+    7029 edit "" read-only
+    65535 label "End Point Y"
+    7030 edit "" read-only
+    65535 label "End Point Latitude"
+    29061 edit ""
+    29062 spin ""
+    29063 label "D"
+    29064 edit ""
+    29065 spin ""
+    29066 label "M"
+    29067 edit ""
+    29068 spin ""
+    29069 label "S"
+    65535 label "End Point Longitude"
+    29070 edit ""
+    29071 spin ""
+    29072 label "D"
+    29073 edit ""
+    29074 spin ""
+    29075 label "M"
+    29076 edit ""
+    7035 spin ""
+    29077 label "S"
+    7041 edit "" hidden
+    7042 edit "" hidden
+    7043 edit "" hidden
+    7044 edit "" hidden
+    1 default button "OK"
+    2 button "Cancel" hidden
+
 12000 "Lessee Match"
     12039 label "Find:"
     1191 edit ""

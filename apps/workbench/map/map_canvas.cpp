@@ -117,6 +117,16 @@ void MapCanvas::ShowPlace(const Place& place) {
     Moved();
 }
 
+void MapCanvas::SetTaken(Taken taken, const QCursor& cursor) {
+    taken_ = taken;
+    cursor_ = cursor;
+    if (!dragging_) setCursor(cursor_);
+}
+
+void MapCanvas::SetDrawnOver(std::function<void(QPainter&, const MapView&)> draw) {
+    drawnOver_ = std::move(draw);
+}
+
 void MapCanvas::SetLayers(const MapLayers& layers) {
     layers_ = layers;
     update();
@@ -125,33 +135,43 @@ void MapCanvas::SetLayers(const MapLayers& layers) {
 void MapCanvas::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter_.Draw(painter, model_, View(), layers_, marks_);
+    if (drawnOver_) drawnOver_(painter, View());
     if (ByKeys()) DrawKeyFrame(painter);
 }
 
 void MapCanvas::mousePressEvent(QMouseEvent* event) {
     MapWidget::mousePressEvent(event);
-    if (event->button() != Qt::LeftButton) return;
+    const bool moves = event->button() == Qt::LeftButton || event->button() == Qt::MiddleButton;
+    if (!moves || held_ != Qt::NoButton) return;
+    held_ = event->button();
     pressedAt_ = lastAt_ = event->position();
+    pressedPlace_ = PlaceAt(pressedAt_);
     dragging_ = false;
 }
 
 void MapCanvas::mouseMoveEvent(QMouseEvent* event) {
     const QPointF at = event->position();
-    if (event->buttons() & Qt::LeftButton) {
-        const double far = (at - pressedAt_).manhattanLength();
-        if (!dragging_ && far >= QApplication::startDragDistance()) {
-            dragging_ = true;
-            setCursor(Qt::ClosedHandCursor);
-        }
-        if (dragging_) {
-            ChangeView().Pan(at.x() - lastAt_.x(), at.y() - lastAt_.y());
-            lastAt_ = at;
-            Moved();
-        }
+    if (event->buttons() & held_) {
+        Drag(at);
     } else {
+        held_ = Qt::NoButton;
         Hover(at);
     }
-    emit Pointed(ToPlace(View().ToMap({at.x(), at.y()})));
+    emit Pointed(PlaceAt(at));
+}
+
+void MapCanvas::Drag(const QPointF& at) {
+    const double far = (at - pressedAt_).manhattanLength();
+    if (!dragging_ && far < QApplication::startDragDistance()) return;
+    dragging_ = true;
+    if (DragsLine()) {
+        emit PlaceDragged(pressedPlace_, PlaceAt(at), false);
+        return;
+    }
+    setCursor(Qt::ClosedHandCursor);
+    ChangeView().Pan(at.x() - lastAt_.x(), at.y() - lastAt_.y());
+    lastAt_ = at;
+    Moved();
 }
 
 void MapCanvas::Hover(const QPointF& at) {
@@ -162,24 +182,35 @@ void MapCanvas::Hover(const QPointF& at) {
 }
 
 void MapCanvas::mouseReleaseEvent(QMouseEvent* event) {
-    if (event->button() != Qt::LeftButton) return;
-    setCursor(Qt::CrossCursor);
-    if (dragging_) {
-        dragging_ = false;
+    if (event->button() != held_) return;
+    const bool line = DragsLine();
+    held_ = Qt::NoButton;
+    setCursor(cursor_);
+    if (!dragging_) {
+        if (event->button() == Qt::LeftButton) Click(event->position());
         return;
     }
-    const QPointF at = event->position();
-    if (painter_.LegendHeading().contains(at)) {
+    dragging_ = false;
+    if (line) emit PlaceDragged(pressedPlace_, PlaceAt(event->position()), true);
+}
+
+void MapCanvas::Click(const QPointF& at) {
+    const bool ours = taken_ == Taken::kNothing;
+    if (ours && painter_.LegendHeading().contains(at)) {
         FoldLegend();
         return;
     }
-    const Point point = View().ToMap({at.x(), at.y()});
-    if (const auto block = model_.BlockAt(point)) emit BlockClicked(*block);
-    emit PlaceClicked(ToPlace(point));
+    const auto block = model_.BlockAt(View().ToMap({at.x(), at.y()}));
+    if (ours && block) emit BlockClicked(*block);
+    emit PlaceClicked(PlaceAt(at));
 }
 
 void MapCanvas::mouseDoubleClickEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) return;
+    if (taken_ != Taken::kNothing) {
+        mousePressEvent(event);
+        return;
+    }
     const bool out = event->modifiers() & Qt::ShiftModifier;
     ChangeView().Zoom({event->position().x(), event->position().y()},
                       out ? 1 / kZoomPerDoubleClick : kZoomPerDoubleClick);

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <QCursor>
+#include <functional>
+
 #include "qt/map/map_widget.h"
 #include "workbench/map/map_model.h"
 #include "workbench/map/map_painter.h"
@@ -7,8 +10,16 @@
 
 namespace workbench {
 
-/// Shows the map. Dragging moves it, too, and a double click zooms in, with Shift out. A click on
-/// the heading of the legend, or the key L, folds it and unfolds it.
+/// What of the left mouse button is a tool's, while one waits for places.
+enum class Taken {
+    kNothing,
+    kClicks,  ///< a click does nothing else, and a double click is two
+    kDrags,   ///< nor does a drag move the map
+};
+
+/// Shows the map. Dragging moves it, too, with the left button or the middle one, and a double
+/// click zooms in, with Shift out. A click on the heading of the legend, or the key L, folds it and
+/// unfolds it.
 class MapCanvas : public kv::map::MapWidget {
     Q_OBJECT
 public:
@@ -41,6 +52,11 @@ public:
     /// Where a click folds the legend.
     const QRectF& LegendHeading() const { return painter_.LegendHeading(); }
 
+    /// `cursor` is the one that the canvas has where nothing is dragged.
+    void SetTaken(Taken taken, const QCursor& cursor);
+    /// What is drawn over the map.
+    void SetDrawnOver(std::function<void(QPainter&, const MapView&)> draw);
+
     const MapLayers& Layers() const { return layers_; }
     void SetLayers(const MapLayers& layers);
 
@@ -56,6 +72,9 @@ signals:
     void PlaceClicked(const workbench::Place& place);
     /// A block was clicked.
     void BlockClicked(const workbench::BlockRef& block);
+    /// The mouse is dragged from one place to another, where drags are taken; `done` when its
+    /// button is let go.
+    void PlaceDragged(const workbench::Place& from, const workbench::Place& to, bool done);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -70,6 +89,10 @@ protected:
 
 private:
     void ChooseLook();
+    Place PlaceAt(const QPointF& at) const { return ToPlace(View().ToMap({at.x(), at.y()})); }
+    bool DragsLine() const { return held_ == Qt::LeftButton && taken_ == Taken::kDrags; }
+    void Drag(const QPointF& at);
+    void Click(const QPointF& at);
     void Hover(const QPointF& at);
     void ShowMarked();
     void FoldLegend();
@@ -79,7 +102,12 @@ private:
     MapPainter painter_;
     MapLayers layers_;
     MapMarks marks_;
+    std::function<void(QPainter&, const MapView&)> drawnOver_;
+    Taken taken_ = Taken::kNothing;
+    QCursor cursor_ = Qt::CrossCursor;
+    Qt::MouseButton held_ = Qt::NoButton;
     bool dragging_ = false;
+    Place pressedPlace_;
     QPointF pressedAt_;
     QPointF lastAt_;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "qt/peers/peer.h"
+#include "window/stacking.h"
 
 class QMainWindow;
 class QScreen;
@@ -11,12 +12,13 @@ namespace kv::qt {
 QSize RoomOn(const QScreen& screen);
 
 /// A dialog: a window of its own, modal or not.
-class DialogPeer : public Peer {
+class DialogPeer : public Peer, public Stacked {
 public:
     explicit DialogPeer(Node& node);
 
     void ShowRect() override;
     QWidget* Picture() override { return ChildHost(); }
+    void Raise() override { Widget()->raise(); }
 
 protected:
     void ShowText() override;
@@ -28,11 +30,12 @@ protected:
 };
 
 /// A main window.
-class FramePeer : public Peer {
+class FramePeer : public Peer, public Stacked {
 public:
     explicit FramePeer(Node& node);
 
     void ShowRect() override;
+    void Raise() override { Widget()->raise(); }
 
 protected:
     void ShowText() override;

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "frame/kvcom/driver_calls.h"
 #include "services/kvcom/projection_zones.h"
 #include "services/kvcom/projections.h"
 
@@ -16,15 +17,22 @@ constexpr double kDegreesPerRadian = 180.0 / std::numbers::pi;
 constexpr double kFeetPerMeter = 3937.0 / 1200.0;
 constexpr int kFeet = 0;
 
+kv::coord::DriverCalls g_calls;
+
 double UnitsPerMeter(int units) {
     return units == kFeet ? kFeetPerMeter : 1.0;
 }
 
 }  // namespace
 
+const kv::coord::DriverCalls& kv::coord::CountedDriverCalls() {
+    return g_calls;
+}
+
 void CKvUtilLLdrv::LLdrv(double dLat, double dLon, double* pX, double* pY, int nProjection,
                          int nUnits, int /*nOne*/, float /*fHundred*/, float /*fZeroA*/,
                          float /*fZeroB*/) {
+    ++g_calls.toXY;
     *pX = *pY = kNoXY;
     const Projection* projection = Projections::Get().Find(nProjection);
     if (!projection) return;
@@ -39,6 +47,7 @@ void CKvUtilLLdrv::LLdrv(double dLat, double dLon, double* pX, double* pY, int n
 void CKvUtilLLdrv::XYdrv(double dX, double dY, double* pLat, double* pLon, int nProjection,
                          int nUnits, int /*nOne*/, float /*fHundred*/, float /*fZeroA*/,
                          float /*fZeroB*/) {
+    ++g_calls.toAngles;
     *pLat = *pLon = HUGE_VAL;
     const Projection* projection = Projections::Get().Find(nProjection);
     if (!projection || !std::isfinite(dX) || !std::isfinite(dY)) return;

@@ -1,0 +1,122 @@
+#include "window/stacking.h"
+
+#include "support/dialog_fixture.h"
+#include "window/frames/frame_wnd.h"
+
+using enum kv::ControlKind;
+using test::FocusedId;
+using test::RecordingDialog;
+using test::Row;
+using test::TestTemplate;
+
+namespace {
+
+/// Counts how often it is brought up.
+class CountingView : public kv::View, public kv::Stacked {
+public:
+    explicit CountingView(int& raised) : raised_(raised) {}
+    void Changed(kv::Change) override {}
+    void RowsInserted(int, int) override {}
+    void RowsRemoved(int, int) override {}
+    void Raise() override { ++raised_; }
+
+private:
+    int& raised_;
+};
+
+class Stacking : public test::DialogTest {
+protected:
+    Stacking() {
+        for (RecordingDialog* each : {&first, &second})
+            each->Create(test::kTestTemplate);
+        first.m_hWnd->SetView(std::make_unique<CountingView>(raised));
+    }
+    void BringFirst() { kv::BringToTop(*first.m_hWnd); }
+    bool FirstIsOnTop() { return kv::IsOnTop(*first.m_hWnd); }
+
+    TestTemplate template_{{Row(11, kEdit), Row(IDOK, kDefaultButton, "OK")}};
+    RecordingDialog first;
+    RecordingDialog second;
+    int raised = 0;
+};
+
+TEST_F(Stacking, TheNewestWindowIsOnTop) {
+    EXPECT_FALSE(FirstIsOnTop());
+    EXPECT_TRUE(kv::IsOnTop(*second.m_hWnd));
+}
+
+TEST_F(Stacking, AWindowComesUpAndTheKeyboardStays) {
+    const kv::Node* focus = kv::WindowSystem::Get().Focus();
+    ASSERT_EQ(focus, second.m_hWnd->FindChild(11));
+    BringFirst();
+    EXPECT_TRUE(FirstIsOnTop());
+    EXPECT_FALSE(kv::IsOnTop(*second.m_hWnd));
+    EXPECT_EQ(raised, 1);
+    EXPECT_EQ(kv::WindowSystem::Get().Focus(), focus);
+    EXPECT_EQ(kv::WindowSystem::Get().ActiveWindow(), second.m_hWnd);
+    EXPECT_TRUE(second.ToldOfFocus().empty());
+}
+
+TEST_F(Stacking, NothingIsDoneForTheOneOnTop) {
+    BringFirst();
+    const auto changes = kv::WindowSystem::Get().Changes();
+    BringFirst();
+    EXPECT_EQ(raised, 1);
+    EXPECT_EQ(kv::WindowSystem::Get().Changes(), changes);
+}
+
+TEST_F(Stacking, AHiddenWindowStaysHidden) {
+    first.ShowWindow(SW_HIDE);
+    BringFirst();
+    EXPECT_FALSE(first.IsWindowVisible());
+    EXPECT_FALSE(FirstIsOnTop());
+    EXPECT_EQ(raised, 0);
+}
+
+TEST_F(Stacking, AHiddenWindowLiesOverNothing) {
+    second.ShowWindow(SW_HIDE);
+    EXPECT_TRUE(FirstIsOnTop());
+    BringFirst();
+    EXPECT_EQ(raised, 0);
+    second.ShowWindow(SW_SHOW);
+    EXPECT_FALSE(FirstIsOnTop());
+}
+
+TEST_F(Stacking, WhoeverGetsTheKeyboardComesUp) {
+    BringFirst();
+    kv::input::Activate(*second.m_hWnd);
+    EXPECT_TRUE(kv::IsOnTop(*second.m_hWnd));
+    kv::input::MoveFocus(*first.m_hWnd->FindChild(11));
+    EXPECT_TRUE(FirstIsOnTop());
+    EXPECT_EQ(raised, 1) << "its view has seen to that itself";
+}
+
+TEST_F(Stacking, AWindowThatItOwnsMayLieOverIt) {
+    RecordingDialog owned(test::kTestTemplate, &first);
+    owned.Create(test::kTestTemplate, &first);
+    BringFirst();
+    EXPECT_TRUE(FirstIsOnTop());
+    EXPECT_TRUE(kv::IsOnTop(*owned.m_hWnd));
+    EXPECT_FALSE(kv::IsOnTop(*second.m_hWnd));
+    kv::input::Activate(*second.m_hWnd);
+    EXPECT_FALSE(kv::IsOnTop(*owned.m_hWnd));
+    kv::input::MoveFocus(*first.m_hWnd->FindChild(11));
+    EXPECT_TRUE(kv::IsOnTop(*owned.m_hWnd)) << "it comes up with its owner";
+}
+
+TEST_F(Stacking, ToolsOfAFrameStayOverItWhenItIsActive) {
+    CFrameWnd frame;
+    frame.Create("Host");
+    frame.ShowWindow(SW_SHOW);
+    RecordingDialog tool;
+    tool.Create(test::kTestTemplate, &frame);
+    kv::input::Activate(*frame.m_hWnd);
+    EXPECT_TRUE(kv::IsOnTop(*tool.m_hWnd));
+    tool.DestroyWindow();
+    EXPECT_TRUE(kv::IsOnTop(*frame.m_hWnd));
+    frame.DestroyWindow();
+    EXPECT_FALSE(FirstIsOnTop());
+    EXPECT_TRUE(kv::IsOnTop(*second.m_hWnd));
+}
+
+}  // namespace
