@@ -16,6 +16,7 @@
 #include "workbench/map_loader.h"
 #include "workbench/map_tools.h"
 #include "workbench/outcome_pane.h"
+#include "workbench/records/record_tools.h"
 #include "workbench/results/report_layers.h"
 #include "workbench/results/results_pane.h"
 #include "workbench/selected_blocks.h"
@@ -68,6 +69,8 @@ public:
 
     /// What is told of failures: a message box, unless this is set.
     void SetFailureShown(std::function<void(const QString&)> shown) { failure_ = std::move(shown); }
+    /// What is told beside: a message box, unless this is set.
+    void SetNoteShown(std::function<void(const QString&)> shown) { note_ = std::move(shown); }
     void SetProjected(ProjectedText projected) { status_->SetProjected(std::move(projected)); }
 
     MainFrame& Frame() { return frame_; }
@@ -77,6 +80,8 @@ public:
     ResultsPane& Results() { return *results_; }
     OutcomePane& Outcome() { return *outcome_; }
     MapTools& Tools() { return tools_; }
+    RecordTools& Records() { return *records_; }
+    WellPane& Well() { return *well_; }
     WorkRunner& Runner() { return runner_; }
     StatusLine& Status() { return *status_; }
 
@@ -122,6 +127,8 @@ private:
     void ShowMatch(const adaptors::Adaptor& adaptor, const adaptors::Run& run);
     void ShowSelected(const adaptors::Adaptor& adaptor, const adaptors::Run& run);
     void Fail(const QString& message);
+    void Tell(const QString& note);
+    void MakeRecordTools();
 
     void OpenDatabase();
     void Run();
@@ -145,6 +152,7 @@ private:
     std::shared_ptr<MapLoader> loader_;
     std::optional<SelectedBlocks> selected_;
     std::function<void(const QString&)> failure_;
+    std::function<void(const QString&)> note_;
     BarPick reported_;
     bool follows_ = false;
 
@@ -153,6 +161,8 @@ private:
     QPointer<MapCanvas> canvas_;
     QPointer<ResultsPane> results_;
     QPointer<OutcomePane> outcome_;
+    QPointer<WellPane> well_;
+    QPointer<RecordTools> records_;
     QPointer<QDockWidget> resultsDock_;
     QPointer<QDockWidget> outcomeDock_;
     QPointer<StatusLine> status_;

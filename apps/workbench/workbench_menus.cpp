@@ -63,6 +63,7 @@ void Workbench::MakeMenus() {
     MakeFileMenu();
     MakeEditMenu();
     MakeViewMenu();
+    records_->MakeMenus(*window_->menuBar(), *commands_);
     MakeDialogsMenu();
     MakeHelpMenu();
 }
@@ -122,6 +123,7 @@ void Workbench::MakeViewMenu() {
     QAction* follows = menu.addAction(tr("Map &follows the results"));
     follows->setCheckable(true);
     connect(follows, &QAction::toggled, this, &Workbench::SetMapFollows);
+    commands_->Add(menu, tr("Ar&ea order..."), {}, [this] { records_->AskAreaOrder(); });
     menu.addSeparator();
     MakeLayersMenu(menu);
     menu.addSeparator();
@@ -265,6 +267,9 @@ std::vector<FocusPart> Workbench::FocusParts() {
     if (!outcome_->visibleRegion().isEmpty())
         parts.push_back(
             PanePart(*outcomeDock_, [this] { outcome_->setFocus(Qt::TabFocusReason); }));
+    if (!well_->visibleRegion().isEmpty())
+        parts.push_back(
+            PanePart(records_->Dock(), [this] { well_->setFocus(Qt::TabFocusReason); }));
     for (CDialog* tool : tools_.Shown()) {
         parts.push_back({[tool] {
                              const QWidget* window = kv::qt::WidgetOf(*tool->m_hWnd);
@@ -293,6 +298,7 @@ void Workbench::ExplainKeys() {
         {tr("Click on a block"), tr("pick it in the bar")},
         {tr("Click with a converter open"), tr("hand the place to the converter")},
         {tr("Ctrl+G"), tr("go to an area, a block or a place, in the bar as well")},
+        {tr("Ctrl+Shift+F"), tr("find a well; Ctrl+I shows its record and the comments on it")},
         {tr("Ctrl+L"), tr("go to the bar")},
         {tr("F5; Enter in the block box"), tr("run")},
         {tr("Click on a heading"), tr("sort the results")},
