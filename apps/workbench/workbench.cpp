@@ -80,6 +80,7 @@ Workbench::Workbench(CKvDbInfo database) : database_(std::move(database)) {
     if (!frame_.CreateWithBar()) qFatal("The bar has no template: was InitControlDll called?");
     window_ = kv::qt::MainWindowOf(*frame_.m_hWnd);
     MakePanes();
+    MakeRecordTools();
     status_ = new StatusLine(*window_->statusBar());
     commands_ = new Commands(*window_, *status_);
     printing_ = new Printing(frame_, model_, *canvas_, runner_, *status_,
@@ -112,6 +113,19 @@ void Workbench::MakePanes() {
     window_->tabifyDockWidget(resultsDock_, outcomeDock_);
     resultsDock_->raise();
     window_->resizeDocks({resultsDock_}, {kPaneHeight}, Qt::Vertical);
+}
+
+void Workbench::MakeRecordTools() {
+    well_ = new WellPane;
+    QDockWidget* dock = MakePane(tr("Well"), "well", well_);
+    records_ = new RecordTools({frame_, *canvas_, *results_, runner_, database_, *dock, *well_,
+                                [this](ResultTable table) {
+                                    reported_ = PickOfBar();
+                                    ShowTable(std::move(table));
+                                },
+                                [this](const QString& words) { Fail(words); },
+                                [this](const QString& note) { Tell(note); }},
+                               window_);
 }
 
 QDockWidget* Workbench::MakePane(const QString& title, const char* name, QWidget* widget) {
@@ -249,6 +263,14 @@ void Workbench::Fail(const QString& message) {
     }
 }
 
+void Workbench::Tell(const QString& note) {
+    if (note_) {
+        note_(note);
+    } else {
+        frame_.MessageBox(note.toUtf8().constData(), "Workbench", MB_OK | MB_ICONINFORMATION);
+    }
+}
+
 void Workbench::OnRun() {
     status_->Clear();
     if (frame_.m_bar.IsMapSelected()) {
@@ -295,7 +317,8 @@ void Workbench::RunReport() {
         return;
     }
     std::vector<std::string> conditions;
-    for (const std::string& area : AreaLiterals(frame_.m_bar.GetAreacode(true))) {
+    for (const std::string& area :
+         records_->InOrder(AreaLiterals(frame_.m_bar.GetAreacode(true)))) {
         conditions.push_back(BlockCondition(*layer, area, frame_.m_bar.GetBlk(true)));
     }
     if (conditions.empty()) {

@@ -18,6 +18,7 @@
 #include "workbench/outcome_pane.h"
 #include "workbench/printing/printing.h"
 #include "workbench/readouts/readouts.h"
+#include "workbench/records/record_tools.h"
 #include "workbench/results/report_layers.h"
 #include "workbench/results/results_pane.h"
 #include "workbench/selected_blocks.h"
@@ -70,6 +71,8 @@ public:
 
     /// What is told of failures: a message box, unless this is set.
     void SetFailureShown(std::function<void(const QString&)> shown) { failure_ = std::move(shown); }
+    /// What is told beside: a message box, unless this is set.
+    void SetNoteShown(std::function<void(const QString&)> shown) { note_ = std::move(shown); }
     void SetProjected(ProjectedText projected) { status_->SetProjected(std::move(projected)); }
 
     MainFrame& Frame() { return frame_; }
@@ -80,6 +83,8 @@ public:
     OutcomePane& Outcome() { return *outcome_; }
     MapTools& Tools() { return tools_; }
     const Readouts& ReadoutTools() const { return *readouts_; }
+    RecordTools& Records() { return *records_; }
+    WellPane& Well() { return *well_; }
     WorkRunner& Runner() { return runner_; }
     StatusLine& Status() { return *status_; }
 
@@ -125,6 +130,8 @@ private:
     void ShowMatch(const adaptors::Adaptor& adaptor, const adaptors::Run& run);
     void ShowSelected(const adaptors::Adaptor& adaptor, const adaptors::Run& run);
     void Fail(const QString& message);
+    void Tell(const QString& note);
+    void MakeRecordTools();
 
     void OpenDatabase();
     void Run();
@@ -148,6 +155,7 @@ private:
     std::shared_ptr<MapLoader> loader_;
     std::optional<SelectedBlocks> selected_;
     std::function<void(const QString&)> failure_;
+    std::function<void(const QString&)> note_;
     BarPick reported_;
     bool follows_ = false;
 
@@ -156,6 +164,8 @@ private:
     QPointer<MapCanvas> canvas_;
     QPointer<ResultsPane> results_;
     QPointer<OutcomePane> outcome_;
+    QPointer<WellPane> well_;
+    QPointer<RecordTools> records_;
     QPointer<QDockWidget> resultsDock_;
     QPointer<QDockWidget> outcomeDock_;
     QPointer<StatusLine> status_;

@@ -62,6 +62,7 @@ void Workbench::MakeMenus() {
     MakeEditMenu();
     MakeViewMenu();
     readouts_->MakeMenu(*window_->menuBar()->addMenu(tr("&Tools")));
+    records_->MakeMenus(*window_->menuBar(), *commands_);
     MakeDialogsMenu();
     MakeHelpMenu();
 }
@@ -123,6 +124,7 @@ void Workbench::MakeViewMenu() {
     QAction* follows = menu.addAction(tr("Map &follows the results"));
     follows->setCheckable(true);
     connect(follows, &QAction::toggled, this, &Workbench::SetMapFollows);
+    commands_->Add(menu, tr("Ar&ea order..."), {}, [this] { records_->AskAreaOrder(); });
     menu.addSeparator();
     MakeLayersMenu(menu);
     menu.addSeparator();
@@ -266,6 +268,9 @@ std::vector<FocusPart> Workbench::FocusParts() {
     if (!outcome_->visibleRegion().isEmpty())
         parts.push_back(
             PanePart(*outcomeDock_, [this] { outcome_->setFocus(Qt::TabFocusReason); }));
+    if (!well_->visibleRegion().isEmpty())
+        parts.push_back(
+            PanePart(records_->Dock(), [this] { well_->setFocus(Qt::TabFocusReason); }));
     for (CDialog* tool : tools_.Shown()) {
         parts.push_back({[tool] {
                              const QWidget* window = kv::qt::WidgetOf(*tool->m_hWnd);
@@ -298,6 +303,7 @@ void Workbench::ExplainKeys() {
                           "point; Escape ends")},
         {tr("Ctrl+Shift+C"), tr("copy the position that is read")},
         {tr("Ctrl+G"), tr("go to an area, a block or a place, in the bar as well")},
+        {tr("Ctrl+Shift+F"), tr("find a well; Ctrl+I shows its record and the comments on it")},
         {tr("Ctrl+L"), tr("go to the bar")},
         {tr("Ctrl+P"), tr("print the pick, or what is seen where nothing is picked")},
         {tr("Click on a heading"), tr("sort the results")},

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <set>
 #include <utility>
 
 #include "base/text.h"
@@ -22,25 +23,24 @@ constexpr int kLabelRows = 2;
 struct ModeLabel {
     const char* label;
     int mode;
+    const char* column;
     const char* toolTip;
     const char* name;
 };
 
 constexpr std::array<ModeLabel, 3> kModeLabels{{
-    {catalogue::kLabelAreaName, catalogue::kAreaName, "Areas by name", "Area, by name"},
-    {catalogue::kLabelAreaCode, catalogue::kAreaCode, "Areas by area code", "Area, by area code"},
-    {catalogue::kLabelMmsCode, catalogue::kMmsCode, "Areas by MMS code", "Area, by MMS code"},
+    {catalogue::kLabelAreaName, catalogue::kAreaName, catalogue::kColumnAreaName, "Areas by name",
+     "Area, by name"},
+    {catalogue::kLabelAreaCode, catalogue::kAreaCode, catalogue::kColumnAreaCode,
+     "Areas by area code", "Area, by area code"},
+    {catalogue::kLabelMmsCode, catalogue::kMmsCode, catalogue::kColumnMmsCode, "Areas by MMS code",
+     "Area, by MMS code"},
 }};
 
 /// Null for an unknown mode.
 const ModeLabel* FindMode(int mode) {
     const auto at = std::ranges::find(kModeLabels, mode, &ModeLabel::mode);
     return at == kModeLabels.end() ? nullptr : &*at;
-}
-
-std::string SelectLabels(const char* first, const char* second) {
-    return std::string("select '") + first + "' from dual union select '" + second +
-           "' from dual union ";
 }
 
 std::string Quoted(const std::string& text) {
@@ -69,38 +69,58 @@ std::string CKvAreaComboBox::SpokenName() const {
     return mode ? mode->name : "";
 }
 
-std::string CKvAreaComboBox::AreaQuery() const {
-    const auto distinct = [this](const char* column) {
-        return std::string("select distinct ") + column + " from " + m_sTable;
-    };
-    switch (m_nMode) {
-        case catalogue::kAreaCode:
-            return SelectLabels(catalogue::kLabelAreaName, catalogue::kLabelMmsCode) +
-                   distinct(catalogue::kColumnAreaCode);
-        case catalogue::kAreaName:
-            return SelectLabels(catalogue::kLabelAreaCode, catalogue::kLabelMmsCode) +
-                   distinct(catalogue::kColumnAreaName);
-        case catalogue::kMmsCode:
-            return SelectLabels(catalogue::kLabelAreaName, catalogue::kLabelAreaCode) +
-                   distinct(catalogue::kColumnMmsCode) + " where " + catalogue::kColumnMmsCode +
-                   " is not null";
-        default:
-            return {};
-    }
+const char* CKvAreaComboBox::AreaColumn() const {
+    const ModeLabel* mode = FindMode(m_nMode);
+    return mode ? mode->column : nullptr;
 }
 
-void CKvAreaComboBox::Fill(const std::string& query, bool& firstFill) {
+std::string CKvAreaComboBox::LabelQuery() const {
+    std::string query;
+    for (const ModeLabel& each : kModeLabels) {
+        if (each.mode != m_nMode)
+            query += std::string("select '") + each.label + "' from dual union ";
+    }
+    return query;
+}
+
+std::string CKvAreaComboBox::DistinctAreas() const {
+    return std::string("select distinct ") + AreaColumn() + " from " + m_sTable;
+}
+
+std::string CKvAreaComboBox::AreaQuery() const {
+    if (!AreaColumn()) return {};
+    const std::string query = LabelQuery() + DistinctAreas();
+    if (m_nMode != catalogue::kMmsCode) return query;
+    return query + " where " + catalogue::kColumnMmsCode + " is not null";
+}
+
+bool CKvAreaComboBox::Fill(const std::string& query, bool& firstFill) {
     if (m_pBlkCombo) m_pBlkCombo->ResetContent();
     const bool clear = !firstFill;
     firstFill = false;
-    FillFromQuery(query, clear);
+    return FillFromQuery(query, clear);
+}
+
+void CKvAreaComboBox::ShowLabelsAlone() {
+    if (m_pBlkCombo) m_pBlkCombo->ResetContent();
+    ResetContent();
+    if (!AreaColumn()) return;
+    std::set<std::string> labels;
+    for (const ModeLabel& each : kModeLabels) {
+        if (each.mode != m_nMode) labels.insert(each.label);
+    }
+    for (const std::string& label : labels)
+        AddString(label.c_str());
+}
+
+void CKvAreaComboBox::EnsureTable() {
+    if (!m_sTable.empty()) return;
+    m_sTable = CKvDbDatasetSet::S_GetGlobalOwner() + "." + CKvDbDatasetSet::S_GetGlobalDataset() +
+               catalogue::kAreaTable;
 }
 
 void CKvAreaComboBox::V_InitializeCombo() {
-    if (m_sTable.empty()) {
-        m_sTable = CKvDbDatasetSet::S_GetGlobalOwner() + "." +
-                   CKvDbDatasetSet::S_GetGlobalDataset() + catalogue::kAreaTable;
-    }
+    EnsureTable();
     Fill(AreaQuery(), g_firstFill);
 }
 

@@ -53,17 +53,27 @@ protected:
     void PreSubclassWindow() override { ShowMode(); }
     void OnEditUpdate();
 
-    /// The statement of the present mode that lists labels and areas, empty for an unknown mode.
-    std::string AreaQuery() const;
+    /// Names the table that is not named yet.
+    void EnsureTable();
+    /// The column of the present mode, null for an unknown mode.
+    const char* AreaColumn() const;
+    /// The beginning of each statement that lists labels and areas: the labels of the other modes.
+    std::string LabelQuery() const;
+    /// The areas of the present mode, to which a condition may be added.
+    std::string DistinctAreas() const;
     /// Fills the list from the statement. The first fill in the process, which `firstFill` marks,
-    /// does not clear it.
-    void Fill(const std::string& query, bool& firstFill);
+    /// does not clear it. False when the database failed.
+    bool Fill(const std::string& query, bool& firstFill);
+    /// Leaves no rows but the labels of the other modes, by which this one can be left.
+    void ShowLabelsAlone();
 
     std::string m_sTable;
     CKvBlkComboBox* m_pBlkCombo = nullptr;
     int m_nMode = kv::catalogue::kMmsCode;
 
 private:
+    /// The statement of the present mode, empty for an unknown mode.
+    std::string AreaQuery() const;
     std::string AreacodesOfMms(const std::string& mmsCode, bool bQuoted) const;
     /// Whether that filled a list anew.
     bool TakeText(const std::string& text);

@@ -28,27 +28,31 @@ void CKvBlkComboBox::EnsureTables() {
 }
 
 std::string CKvBlkComboBox::BlockQuery() const {
-    std::string query = m_bIncludeAll ? catalogue::kSelectAllBlocks : "";
-    query += catalogue::BlockLabelExpression() + "lbnum||lbext), lbnum from " + m_sBlockTable;
+    return BlockQuery("select decode(", m_sBlockTable, m_sArea, "");
+}
 
-    const auto areaCodes = [this](const char* column) {
+std::string CKvBlkComboBox::BlockQuery(std::string_view select, const std::string& tables,
+                                       const std::string& area,
+                                       const std::string& condition) const {
+    std::string query = m_bIncludeAll ? catalogue::kSelectAllBlocks : "";
+    query += catalogue::BlockLabelExpression(select) + "lbnum||lbext), lbnum from " + tables;
+
+    const auto areaCodes = [&](const char* column) {
         return std::string("(select ") + catalogue::kColumnAreaCode + " from " + m_sAreaTable +
-               " where " + column + " = '" + m_sArea + "')";
+               " where " + column + " = '" + area + "')";
     };
     switch (m_nMode) {
         case catalogue::kAreaName:
             // A name stands for one area code.
-            query += " where areacode = " + areaCodes(catalogue::kColumnAreaName) + "order by\t2";
-            break;
+            return query + " where areacode = " + areaCodes(catalogue::kColumnAreaName) +
+                   condition + "order by\t2";
         case catalogue::kAreaCode:
-            query += " where areacode = '" + m_sArea + "'" + "order by 2";
-            break;
+            return query + " where areacode = '" + area + "'" + condition + "order by 2";
         default:
             // An MMS code may stand for several.
-            query += " where areacode in " + areaCodes(catalogue::kColumnMmsCode) + "order by 2";
-            break;
+            return query + " where areacode in " + areaCodes(catalogue::kColumnMmsCode) +
+                   condition + "order by 2";
     }
-    return query;
 }
 
 void CKvBlkComboBox::V_InitializeCombo() {

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "frame/catalogue.h"
 #include "frame/kvdbkvn/db_info.h"
@@ -38,7 +39,11 @@ protected:
     /// Names the tables that are not named yet.
     void EnsureTables();
     /// The statement of the present state.
-    std::string BlockQuery() const;
+    virtual std::string BlockQuery() const;
+    /// Such a statement: its beginning up to "decode(", the tables, the area that is meant, and
+    /// what is asked beside it.
+    std::string BlockQuery(std::string_view select, const std::string& tables,
+                           const std::string& area, const std::string& condition) const;
 
     bool m_bIncludeAll = true;
     std::string m_sBlockTable;

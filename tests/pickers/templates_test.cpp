@@ -5,7 +5,7 @@
 namespace {
 
 TEST(PickerTemplates, HoldTheirTexts) {
-    for (const int id : {13060})
+    for (const int id : {13060, 15109, 15110})
         test::ExpectToldTexts(id);
 }
 

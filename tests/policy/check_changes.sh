@@ -7,9 +7,15 @@
 set -euo pipefail
 # Whoever is added here has looked at what becomes of the rows when a statement, or the commit,
 # fails. Definitions (ExecuteDDL) commit by themselves.
-known="src/blocks/neighbor_blocks.cpp CNeighborBlocks::DeleteFromABE2
+known="apps/workbench/records/well_comments.cpp Add
+apps/workbench/records/well_comments.cpp Change
+apps/workbench/records/well_comments.cpp LetAllRead
+apps/workbench/records/well_comments.cpp Remove
+src/blocks/neighbor_blocks.cpp CNeighborBlocks::DeleteFromABE2
 src/blocks/neighbor_blocks.cpp CNeighborBlocks::InsertMapToTable
-src/blocks/neighbor_blocks.cpp CNeighborBlocks::InsertRows"
+src/blocks/neighbor_blocks.cpp CNeighborBlocks::InsertRows
+src/pickers/custom_order_dlg.cpp WriteArea
+src/records/create_user_table.cpp CKvCreateUserTable::Create_Comment_Table"
 [ $# -lt 2 ] || known=$(cat "$2")
 cd "$1"
 export LC_ALL=C

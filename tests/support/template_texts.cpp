@@ -712,6 +712,66 @@ constexpr const char* kTexts = R"texts(
     29295 check box "Print in Grayscale"
     1 default button "OK"
     2 button "Cancel"
+
+15109 "Order By"
+    29090 group box "Order By"
+    29091 radio "Custom"
+    29092 radio "Area Name"
+    29093 button "&Customize..."
+    1 default button "&OK"
+    2 button "&Cancel"
+
+15110 "Customize Area Name Order"
+    29100 label "Order by Areanames in This Order"
+    29094 list ""
+    29096 button "&Top"
+    29095 button "Move &Up"
+    29097 button "Move &Down"
+    29098 button "&Bottom"
+    29099 button "&Reset..."
+    1 default button "&OK"
+    2 button "&Cancel"
+
+15117 "Folder"
+    65535 group box "Load File From"
+    23771 radio "User Folder (Saved Files)"
+    23772 radio "System Folder (Template Files)"
+    1 default button "OK"
+
+15126 "Wells Search"
+    1001 label "Areaname/Block"
+    1042 editable combo "" sorted
+    1064 editable combo ""
+    29254 label "Well Number"
+    29253 edit ""
+    29255 label "API Number"
+    1045 editable combo ""
+    29250 radio "By API Number"
+    29251 radio "By Area/Block/Well Number"
+    1170 button "List..." hidden
+    1171 button "List..." hidden
+    1146 check box "" hidden
+    1147 check box "" hidden
+    1148 check box "" hidden
+    1149 check box "" hidden
+    1 default button "OK"
+    2 button "Cancel"
+
+15131 "Create Table Dialog"
+    65535 group box "Log In Details"
+    65535 label "User Name"
+    29280 edit ""
+    65535 label "Password:"
+    29281 edit ""
+    65535 label "Database Alias:"
+    29282 edit "" read-only
+    65535 group box "Database Details"
+    65535 label "Dataset:"
+    29283 drop list ""
+    65535 label "Table Name:"
+    29286 drop list ""
+    1 default button "OK"
+    2 button "Cancel"
 )texts";
 
 std::string KindInWords(ControlKind kind) {

@@ -22,8 +22,11 @@ TEST(TemplateTexts, AreThoseThatAreTold) {
 }
 
 TEST(TemplateSizes, AreTheseWhereTheyAreGiven) {
-    const std::map<int, std::pair<int, int>> kSizes{
-        {182, {511, 240}}, {15129, {513, 249}}, {13060, {428, 19}}};
+    const std::map<int, std::pair<int, int>> kSizes{{182, {511, 240}},
+                                                    {15129, {513, 249}},
+                                                    {13060, {428, 19}},
+                                                    {15126, {265, 155}},
+                                                    {15131, {210, 164}}};
     std::size_t found = 0;
     for (const kv::DialogTemplate* each : kv::LibraryResources().templates) {
         const auto size = kSizes.find(each->id);

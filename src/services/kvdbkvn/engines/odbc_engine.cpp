@@ -453,8 +453,10 @@ private:
     std::map<std::string, dialect::Columns> columns_;
 };
 
-/// Braces keep the signs that mean something between keywords.
+/// Braces keep the signs that mean something between keywords. Only where there are any: some
+/// drivers take braces around a user's name for a part of it.
 std::string Quoted(const std::string& value) {
+    if (value.find_first_of(" []{}(),;?*=!@") == std::string::npos) return value;
     return "{" + ReplaceAll(value, "}", "}}") + "}";
 }
 
