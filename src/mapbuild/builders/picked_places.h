@@ -3,7 +3,7 @@
 #include <map>
 #include <optional>
 #include <string>
-#include <tuple>
+#include <utility>
 #include <vector>
 
 #include "frame/kvdbkvn/db_util.h"
