@@ -194,10 +194,16 @@ Json DescribeCalls(const std::vector<adaptors::Method>& calls) {
 /// Opens the dialog, looks at it, and leaves it where it can be left.
 Json FirstScript(const adaptors::Adaptor& adaptor, const Json& controls) {
     Json actions = Json::array({{{"snapshot", "start"}}});
-    const bool canCancel = std::any_of(controls.begin(), controls.end(), [](const Json& control) {
-        return control["id"] == IDCANCEL && !control.contains("hidden");
-    });
-    if (canCancel) actions.push_back({{"click", IDCANCEL}});
+    const auto shows = [&controls](int id) {
+        return std::any_of(controls.begin(), controls.end(), [id](const Json& control) {
+            return control["id"] == id && !control.contains("hidden");
+        });
+    };
+    if (shows(IDCANCEL)) {
+        actions.push_back({{"click", IDCANCEL}});
+    } else if (!adaptor.makeTool && shows(IDOK)) {
+        actions.push_back({{"click", IDOK}});
+    }
     return {{"inputs", adaptor.SampleInputs()},
             {"user", Json::array({{{"window", adaptor.className}, {"do", actions}}})}};
 }

@@ -176,6 +176,8 @@ int CKvGuiProjCtrl::GetProjection() {
     }
     if (line == kMoreLine) {
         GetMoreProjection();
+        // Left current, the line would open the dialog again with whatever the host asks next.
+        if (m_nProjection == kNone) m_pCombo->SetCurSel(-1);
     } else {
         m_nProjection = m_nMoreCode;
     }

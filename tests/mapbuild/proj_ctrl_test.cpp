@@ -498,12 +498,14 @@ TEST_F(ProjCtrlTest, ACancelledZoneIsACancelledMore) {
     });
 }
 
-TEST_F(ProjCtrlTest, ACancelledMoreWithNoCodeBeforeStaysOnMore) {
+TEST_F(ProjCtrlTest, ACancelledMoreWithNoCodeBeforeLeavesNoLine) {
     Show(115, -1, [&](kv::User& user) {
         ExpectCancelOf("CKvGuiProjSel");
         user.Select(kOtherCombo, "More...");
         EXPECT_EQ(otherGiven, -1);
-        EXPECT_EQ(user.Text(kOtherCombo), "More...");
+        EXPECT_EQ(user.Text(kOtherCombo), "");
+        // Whoever asks again opens nothing.
+        EXPECT_EQ(other.GetProjection(), -1);
     });
 }
 

@@ -5,7 +5,7 @@
 namespace {
 
 TEST(MapBuildingTemplates, HoldTheirTexts) {
-    for (const int id : {250, 13002, 13062, 15103, 15114})
+    for (const int id : {250, 13002, 13062, 15100, 15101, 15103, 15108, 15114, 15128, 15133})
         test::ExpectToldTexts(id);
 }
 

@@ -7,8 +7,10 @@
 #include <cstdlib>
 #include <filesystem>
 
+#include "frame/kvcom/util_geo.h"
 #include "frame/kvcom/util_lldrv.h"
 #include "frame/kvdbkvn/db_dataset_set.h"
+#include "frame/kvdbkvn/statement_trace.h"
 #include "sampledata/blocks.h"
 #include "support/database_helpers.h"
 #include "support/sqlite_file.h"
@@ -319,6 +321,56 @@ TEST_F(DbUtil, LogsAFailureAndAnswersAsForAPlaceThatIsNotThere) {
     EXPECT_EQ(County("48167", false).projection, -1);
     EXPECT_EQ(bounds_, (CMinMax2Dd_t{1, 2, 3, 4}));
     EXPECT_THAT(folder_.Read("log.txt"), HasSubstr("no such table"));
+}
+
+TEST_F(DbUtil, GivesTheOutlinesOfManyBlocksAsTheirBoundsOneByOne) {
+    const std::vector<CKvDbUtil::Pick> picks{
+        {"GC", "500", " "},   {"GREEN CANYON", "501", ""}, {"HI", "12", "A"},
+        {"HI", "12", " "},    {"HI", "12", "-S"},          {"GC", "99999", " "},
+        {"ZZ", "1", ""},      {"GC", "500", " "},          {"42001", "12", "-BAY"},
+        {"42001", "12", " "}, {"EAST BAY", "ALL", ""},     {"", "", ""},
+        {"HI", "12", "-BAY"},
+    };
+    const auto outlines = CKvDbUtil::S_GetOutlines(picks, "");
+    ASSERT_EQ(outlines.size(), picks.size());
+    for (std::size_t i = 0; i < picks.size(); ++i) {
+        CMinMax2Dd_t expected;
+        const bool found =
+            CKvDbUtil::S_GetLLBounds(picks[i].area, picks[i].block, picks[i].ext, expected, "");
+        EXPECT_EQ(!outlines[i].empty(), found) << i;
+        EXPECT_EQ(CKvUtilGeo::PolyLineGetMinMax(outlines[i]), expected) << i;
+    }
+    EXPECT_EQ(outlines[0].size(),
+              BlocksOf(CodeOf("GREEN CANYON"), 500, "").front()->outline.size());
+}
+
+TEST_F(DbUtil, GivesAThousandOutlinesInFewStatements) {
+    std::vector<CKvDbUtil::Pick> picks;
+    for (const Block* block : BlocksOf(CodeOf("GREEN CANYON"), 0, ""))
+        picks.push_back({"GC", std::to_string(block->number), block->ext});
+    ASSERT_GT(picks.size(), 900U);
+    int statements = 0;
+    kv::db::SetStatementTrace([&](const std::string&) { ++statements; });
+    const auto outlines = CKvDbUtil::S_GetOutlines(picks, "GULF_MEXICO");
+    kv::db::SetStatementTrace(nullptr);
+    EXPECT_LE(statements, 8);
+    for (const auto& outline : outlines)
+        EXPECT_GE(outline.size(), 3U);
+}
+
+TEST_F(DbUtil, ThrowsAFailureForWhoeverHasToTellOfIt) {
+    const std::string path = folder_.Native("empty.db");
+    MakeSqliteFile(path);
+    ConnectToFile(path);
+    {
+        const kv::db::LookUpsThrow failures;
+        EXPECT_THROW(CKvDbUtil::S_GetArea("GREEN CANYON", false), CKvException);
+        EXPECT_THROW(CKvDbUtil::S_GetOutlines({{"GC", "500", " "}}, ""), CKvException);
+        EXPECT_THROW(CKvDbUtil::S_GetLLBoundsOnshore("22109", bounds_), CKvException);
+        EXPECT_FALSE(folder_.Has("log.txt"));
+    }
+    EXPECT_THAT(CKvDbUtil::S_GetOutlines({{"GC", "500", " "}}, ""), ElementsAre(IsEmpty()));
+    EXPECT_TRUE(folder_.Has("log.txt"));
 }
 
 TEST_F(DbUtil, LogsADatabaseThatCannotBeReached) {

@@ -472,6 +472,132 @@ constexpr const char* kTexts = R"texts(
     29310 edit "" read-only
     1 button "OK"
 
+15100 "Quick Offshore Map Builder"
+    7020 group box "Map Basics"
+    7026 label "Map Name"
+    1237 edit ""
+    1288 radio "X/Y Bounded"
+    2100 radio "Lat/Lon Bounded"
+    1369 radio "Feet"
+    1370 radio "Meters"
+    65535 group box "Width by Height Boundary"
+    65535 label "Width"
+    1280 editable combo ""
+    65535 label "Height"
+    1281 editable combo ""
+    65535 group box "Percentage Boundary"
+    65535 label "Percent"
+    1284 editable combo ""
+    65535 group box "Origin (Lower Left Corner)"
+    65535 label "Latitude Coordinates"
+    1500 edit "" read-only
+    65535 label "D"
+    1501 edit "" read-only
+    65535 label "M"
+    1502 edit "" read-only
+    65535 label "S"
+    65535 label "Longitude Coordinates"
+    1503 edit "" read-only
+    65535 label "D"
+    1504 edit "" read-only
+    65535 label "M"
+    1505 edit "" read-only
+    65535 label "S"
+    7021 label "X Coordinates"
+    1292 edit "" read-only
+    7022 label "Y Coordinates"
+    1233 edit "" read-only
+    65535 group box "Opposite (Upper Right Corner)"
+    65535 label "Latitude Coordinates"
+    1506 edit "" read-only
+    65535 label "D"
+    1507 edit "" read-only
+    65535 label "M"
+    1508 edit "" read-only
+    65535 label "S"
+    65535 label "Longitude Coordinates"
+    1509 edit "" read-only
+    65535 label "D"
+    1510 edit "" read-only
+    65535 label "M"
+    1511 edit "" read-only
+    65535 label "S"
+    7023 label "X Coordinates"
+    1236 edit "" read-only
+    7024 label "Y Coordinates"
+    1293 edit "" read-only
+    65535 label "Projection"
+    1234 drop list ""
+    1235 button "Sizing Options..."
+    29259 button "Snap Bounds"
+    1 default button "OK"
+    2 button "Cancel"
+
+15101 "Custom Map Builder Dialog"
+    65535 label "Map Name"
+    1238 edit ""
+    65535 group box "Map Units"
+    1369 radio "Feet"
+    1370 radio "Meters"
+    65535 group box "Map Bounds Type"
+    1288 radio "X/Y Bounded"
+    2100 radio "Lat/Lon Bounded"
+    65535 group box "Origin Definition"
+    1318 radio "Origin as X/Y"
+    3003 radio "Origin as Lat/Lon"
+    65535 group box "Width and Height"
+    1255 radio "Width and Height"
+    1256 radio "Upper Right Corner"
+    65535 group box "Origin (Lower Left Corner)"
+    1311 label "Latitude Coordinates" hidden
+    1247 edit "" hidden
+    1302 label "D" hidden
+    1248 edit "" hidden
+    1303 label "M" hidden
+    1249 edit "" hidden
+    1304 label "S" hidden
+    1313 label "Longitude Coordinates" hidden
+    1241 edit "" hidden
+    1305 label "D" hidden
+    1242 edit "" hidden
+    1307 label "M" hidden
+    1243 edit "" hidden
+    1309 label "S" hidden
+    1295 label "X Coordinates"
+    1292 edit ""
+    1296 label "Y Coordinates"
+    1233 edit ""
+    1319 group box "Opposite (Upper Right Corner)"
+    1279 label "Origin +" hidden
+    1282 label "Origin +" hidden
+    1312 label "Latitude Coordinates" hidden
+    1226 edit "" hidden
+    1299 label "D" hidden
+    1231 edit "" hidden
+    1300 label "M" hidden
+    1232 edit "" hidden
+    1301 label "S" hidden
+    1314 label "Longitude Coordinates" hidden
+    1244 edit "" hidden
+    1306 label "D" hidden
+    1245 edit "" hidden
+    1308 label "M" hidden
+    1246 edit "" hidden
+    1310 label "S" hidden
+    1298 label "X Coordinates"
+    1227 edit ""
+    1297 label "Y Coordinates"
+    1234 edit ""
+    1317 label "Predefined sizes" hidden
+    1315 drop list "" hidden
+    65535 label "Primary Projection"
+    1257 editable combo ""
+    65535 label "Secondary Projection" hidden
+    1258 editable combo "" hidden
+    1235 button "Sizing Options..."
+    1 default button "OK"
+    2 button "Cancel"
+
 15102 "Map Sizing Dialog"
     65535 group box "Scale"
     1263 check box "" hidden
@@ -516,6 +642,67 @@ constexpr const char* kTexts = R"texts(
     2101 radio "Miscellaneous Cassini" hidden
     2106 radio "Miscellaneous Bonne" hidden
     1287 list ""
+    1 default button "OK"
+    2 button "Cancel"
+
+15108 "Export Pick Boundary Dialog"
+    7020 group box "Map Basics" hidden
+    7026 label "Map Name" hidden
+    1237 edit "" hidden
+    1288 radio "X/Y Bounded" hidden
+    2100 radio "Lat/Lon Bounded" hidden
+    1369 radio "Feet" hidden
+    1370 radio "Meters" hidden
+    65535 group box "Width by Height Boundary"
+    65535 label "Width"
+    1280 editable combo ""
+    65535 label "Height"
+    1281 editable combo ""
+    65535 group box "Percentage Boundary"
+    65535 label "Percent"
+    1284 editable combo ""
+    65535 group box "Origin (Lower Left Corner)"
+    65535 label "Latitude Coordinates"
+    1500 edit "" read-only
+    65535 label "D"
+    1501 edit "" read-only
+    65535 label "M"
+    1502 edit "" read-only
+    65535 label "S"
+    65535 label "Longitude Coordinates"
+    1503 edit "" read-only
+    65535 label "D"
+    1504 edit "" read-only
+    65535 label "M"
+    1505 edit "" read-only
+    65535 label "S"
+    7021 label "X Coordinates" hidden
+    1292 edit "" read-only hidden
+    7022 label "Y Coordinates" hidden
+    1233 edit "" read-only hidden
+    65535 group box "Opposite (Upper Right Corner)"
+    65535 label "Latitude Coordinates"
+    1506 edit "" read-only
+    65535 label "D"
+    1507 edit "" read-only
+    65535 label "M"
+    1508 edit "" read-only
+    65535 label "S"
+    65535 label "Longitude Coordinates"
+    1509 edit "" read-only
+    65535 label "D"
+    1510 edit "" read-only
+    65535 label "M"
+    1511 edit "" read-only
+    65535 label "S"
+    7023 label "X Coordinates" hidden
+    1236 edit "" read-only hidden
+    7024 label "Y Coordinates" hidden
+    1293 edit "" read-only hidden
+    65535 label "Projection"
+    1234 drop list ""
+    1235 button "Sizing Options..." hidden
+    29259 button "Snap Bounds" hidden
     1 default button "OK"
     2 button "Cancel"
 
@@ -619,6 +806,12 @@ constexpr const char* kTexts = R"texts(
     29184 drop list ""
     2 button "Cancel"
 
+15128 "Map Bounds"
+    65535 label "Snap Bounds"
+    29265 editable combo ""
+    1 default button "OK"
+    2 button "Cancel"
+
 15129 "Area Selection Dialog"
     65535 label "Find:"
     1191 edit ""
@@ -671,6 +864,12 @@ constexpr const char* kTexts = R"texts(
     1 button "OK"
     1190 button "Clear"
     2 button "Cancel"
+
+15133 "Choose Projection"
+    65535 label "Please choose the projection for map report"
+    29288 radio "Map Projection"
+    29289 radio "Base Projection"
+    1 default button "OK"
 
 15134 "Print / Preview Dialog"
     65535 group box "Map"

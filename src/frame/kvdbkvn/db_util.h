@@ -4,12 +4,27 @@
 #include <vector>
 
 #include "base/export.h"
+#include "frame/kvcom/disp_point.h"
 #include "frame/kvcom/min_max_2dd.h"
+
+namespace kv::db {
+
+/// For as long as one lives, a look-up that the database fails throws its `CKvException`. It is for
+/// a dialog, which has to tell the person.
+class KVGUICTL_API LookUpsThrow {
+public:
+    LookUpsThrow();
+    ~LookUpsThrow();
+    LookUpsThrow(const LookUpsThrow&) = delete;
+    LookUpsThrow& operator=(const LookUpsThrow&) = delete;
+};
+
+}  // namespace kv::db
 
 /// Look-ups in the dataset's tables. Each opens a short connection of its own.
 ///
-/// None throws: a failure of the database goes to the log, and the look-up answers as for a place
-/// that is not there.
+/// None throws, unless a `kv::db::LookUpsThrow` lives: a failure of the database goes to the log,
+/// and the look-up answers as for a place that is not there.
 class KVGUICTL_API CKvDbUtil {
 public:
     /// Area code of an area name; with `abbreviated` its MMS code. Empty when the name is unknown.
@@ -41,6 +56,18 @@ public:
     /// untouched, also where a corner has no X/Y.
     static bool S_GetXYBounds(std::string area, std::string block, std::string ext,
                               CMinMax2Dd_t& out, int nProjection, std::string dataset, int nUnits);
+
+    /// A block as it is picked; its texts are those of the look-ups above.
+    struct Pick {
+        std::string area;
+        std::string block;
+        std::string ext;
+        auto operator<=>(const Pick&) const = default;
+    };
+    /// The corners of each of these, latitude in X and longitude in Y, none for one that is not
+    /// found. Many take hardly more statements than one.
+    static std::vector<std::vector<CKvDispPoint>> S_GetOutlines(const std::vector<Pick>& picks,
+                                                                const std::string& dataset);
 
     /// Bounds of a county, by its identifier. As above.
     static bool S_GetLLBoundsOnshore(std::string county, CMinMax2Dd_t& out);

@@ -1,13 +1,14 @@
 #include "frame/kvdbkvn/db_util.h"
 
-#include <algorithm>
-#include <cmath>
-#include <limits>
+#include <map>
+#include <optional>
+#include <set>
+#include <utility>
 
 #include "base/numbers.h"
 #include "base/text.h"
 #include "frame/catalogue.h"
-#include "frame/kvcom/util_lldrv.h"
+#include "frame/kvcom/projected_bounds.h"
 #include "frame/kvdbkvn/db_abs_data_mgr.h"
 #include "frame/kvdbkvn/db_dataset_set.h"
 #include "frame/kvdbkvn/table_owner.h"
@@ -27,19 +28,25 @@ constexpr int kMeters = 1;
 constexpr const char* kProjectionTable = "_area_projection";
 constexpr const char* kCountyTable = ".nvd2000_county";
 
+/// How many `LookUpsThrow` live.
+int s_nThrowing = 0;
+
 /// Runs `work` with a connected manager. Its answer, or, when the database fails, which goes to the
-/// log, `otherwise`.
+/// log unless somebody wants to hear of it, `otherwise`.
 template <class Answer, class Work>
 Answer LookUp(Answer otherwise, const Work& work) {
     CKvDbAbsDataMgr manager(KV_CONNECT_DEFAULT);
+    std::optional<CKvException> failed;
     try {
         manager.Connect();
         otherwise = work(manager);
     } catch (const CKvException& failure) {
-        CKvLog::Output(failure.GetErrorMessage(true, true), kLogLevel, false);
+        failed = failure;
     }
     manager.FreeData();
     manager.Disconnect();
+    if (failed && s_nThrowing > 0) throw *failed;
+    if (failed) CKvLog::Output(failed->GetErrorMessage(true, true), kLogLevel, false);
     return otherwise;
 }
 
@@ -103,14 +110,17 @@ struct Found {
     std::string refnum;
 };
 
-/// The blocks of that number and extension in these areas, whatever their water.
+/// The blocks of those numbers and extensions in these areas, whatever their water.
 std::vector<Found> BlocksIn(CKvDbAbsDataMgr& manager, const std::string& dataset,
-                            const std::vector<std::string>& areaCodes, const std::string& label) {
-    if (areaCodes.empty()) return {};
+                            const std::vector<std::string>& areaCodes,
+                            const std::vector<std::string>& labels) {
+    if (areaCodes.empty() || labels.empty()) return {};
+    std::vector<std::string> bare;
+    for (const std::string& label : labels)
+        bare.push_back(kv::catalogue::StripWaterSuffix(label));
     manager.Select(kv::catalogue::BlockLabelExpression() + "lbnum||lbext), areacode, refnum from " +
                    TableOf(dataset, kBlockTable) + " where areacode in " + QuotedList(areaCodes) +
-                   " and lbnum||lbext = " + Quoted(kv::catalogue::StripWaterSuffix(label)) +
-                   " order by areacode, refnum");
+                   " and lbnum||lbext in " + QuotedList(bare) + " order by areacode, refnum");
     std::vector<Found> blocks;
     for (int row = 0; row < manager.NumberOfRows(); ++row) {
         blocks.push_back(
@@ -143,17 +153,24 @@ bool ReadBounds(CKvDbAbsDataMgr& manager, const std::string& sql, CMinMax2Dd_t& 
     return true;
 }
 
+std::string LabelOf(const std::string& block, const std::string& ext) {
+    return kv::Trim(block) + kv::Trim(ext);
+}
+
+/// What picks the corners of all blocks of these areas out of the vertex table.
+std::string OfAreas(const std::string& dataset, const std::vector<std::string>& areaCodes) {
+    return "refnum in (select refnum from " + TableOf(dataset, kBlockTable) +
+           " where areacode in " + QuotedList(areaCodes) + ")";
+}
+
 /// What picks the corners of a place out of the vertex table; empty where there is no such place.
 std::string CornersOf(CKvDbAbsDataMgr& manager, const std::string& dataset, const std::string& area,
                       const std::string& block, const std::string& ext) {
     const std::vector<std::string> areaCodes = AreaCodesOf(manager, dataset, area);
     if (areaCodes.empty()) return "";
-    if (block == kAllBlocks) {
-        return "refnum in (select refnum from " + TableOf(dataset, kBlockTable) +
-               " where areacode in " + QuotedList(areaCodes) + ")";
-    }
-    const std::string label = kv::Trim(block) + kv::Trim(ext);
-    const std::vector<Found> blocks = BlocksIn(manager, dataset, areaCodes, label);
+    if (block == kAllBlocks) return OfAreas(dataset, areaCodes);
+    const std::string label = LabelOf(block, ext);
+    const std::vector<Found> blocks = BlocksIn(manager, dataset, areaCodes, {label});
     const Found* found = Meant(blocks, label);
     return found ? "refnum = " + found->refnum : "";
 }
@@ -164,50 +181,111 @@ std::string FromCorners(const char* columns, const std::string& dataset,
            " where " + condition;
 }
 
-/// Bounds in X/Y around positions.
-class ProjectedBounds {
+using Outline = std::vector<CKvDispPoint>;
+
+/// The outlines of picks, read in a few statements, however many there are.
+class OutlineReader {
 public:
-    ProjectedBounds(int projection, int units) : projection_(projection), units_(units) {}
+    OutlineReader(CKvDbAbsDataMgr& manager, std::string dataset)
+        : manager_(manager), dataset_(std::move(dataset)) {}
 
-    void Add(double lat, double lon) {
-        double x = 0.0;
-        double y = 0.0;
-        CKvUtilLLdrv::LLdrv(lat, lon, &x, &y, projection_, units_, 1, 100.0, 0.0, 0.0);
-        if (x == CKvUtilLLdrv::kNoXY) missed_ = true;
-        bounds_ = {std::min(bounds_.minX, x), std::max(bounds_.maxX, x), std::min(bounds_.minY, y),
-                   std::max(bounds_.maxY, y)};
-    }
-
-    /// The sides of a box of latitude and longitude.
-    void AddBox(const CMinMax2Dd_t& angles) {
-        // Between two of so many points a side strays from the straight by less than the width of a
-        // line on the map.
-        constexpr int kPartsOfSide = 64;
-        for (int part = 0; part <= kPartsOfSide; ++part) {
-            const double share = static_cast<double>(part) / kPartsOfSide;
-            const double lat = std::lerp(angles.minX, angles.maxX, share);
-            const double lon = std::lerp(angles.minY, angles.maxY, share);
-            Add(lat, angles.minY);
-            Add(lat, angles.maxY);
-            Add(angles.minX, lon);
-            Add(angles.maxX, lon);
-        }
-    }
-
-    /// False, with `out` untouched, if there was no position, or one without X/Y.
-    bool Take(CMinMax2Dd_t& out) const {
-        if (missed_ || bounds_.minX > bounds_.maxX) return false;
-        out = bounds_;
-        return true;
+    std::vector<Outline> Read(const std::vector<CKvDbUtil::Pick>& picks) {
+        outlines_.assign(picks.size(), {});
+        std::map<std::string, std::vector<std::size_t>> byArea;
+        for (std::size_t i = 0; i < picks.size(); ++i)
+            byArea[picks[i].area].push_back(i);
+        for (const auto& [area, members] : byArea)
+            ReadArea(picks, members, AreaCodesOf(manager_, dataset_, area));
+        ReadCorners();
+        return std::move(outlines_);
     }
 
 private:
-    static constexpr double kFar = std::numeric_limits<double>::infinity();
+    /// A statement names no more than this, since servers have a limit.
+    static constexpr std::size_t kMostNames = 500;
 
-    int projection_;
-    int units_;
-    bool missed_ = false;
-    CMinMax2Dd_t bounds_{kFar, -kFar, kFar, -kFar};
+    static std::vector<std::vector<std::string>> InParts(const std::set<std::string>& names) {
+        std::vector<std::vector<std::string>> parts;
+        for (const std::string& name : names) {
+            if (parts.empty() || parts.back().size() == kMostNames) parts.emplace_back();
+            parts.back().push_back(name);
+        }
+        return parts;
+    }
+
+    void ReadArea(const std::vector<CKvDbUtil::Pick>& picks,
+                  const std::vector<std::size_t>& members,
+                  const std::vector<std::string>& areaCodes) {
+        if (areaCodes.empty()) return;
+        std::map<std::string, std::vector<std::size_t>> byLabel;
+        std::set<std::string> bare;
+        std::vector<std::size_t> whole;
+        for (const std::size_t i : members) {
+            if (picks[i].block == kAllBlocks) {
+                whole.push_back(i);
+                continue;
+            }
+            const std::string label = LabelOf(picks[i].block, picks[i].ext);
+            byLabel[label].push_back(i);
+            bare.insert(kv::catalogue::StripWaterSuffix(label));
+        }
+        if (!whole.empty()) ReadWholeAreas(whole, areaCodes);
+        std::map<std::string, std::vector<Found>> found;
+        for (const std::vector<std::string>& part : InParts(bare)) {
+            for (Found& each : BlocksIn(manager_, dataset_, areaCodes, part))
+                found[kv::catalogue::StripWaterSuffix(each.label)].push_back(std::move(each));
+        }
+        for (const auto& [label, ofLabel] : byLabel) {
+            const Found* meant = Meant(found[kv::catalogue::StripWaterSuffix(label)], label);
+            if (!meant) continue;
+            std::vector<std::size_t>& wanted = wanted_[meant->refnum];
+            wanted.insert(wanted.end(), ofLabel.begin(), ofLabel.end());
+        }
+    }
+
+    CKvDispPoint Corner(int row, int column) const {
+        return {kv::Atof(manager_.GetItem(row, column)),
+                kv::Atof(manager_.GetItem(row, column + 1))};
+    }
+
+    void ReadWholeAreas(const std::vector<std::size_t>& members,
+                        const std::vector<std::string>& areaCodes) {
+        manager_.Select(FromCorners("lat, lon", dataset_, OfAreas(dataset_, areaCodes)));
+        Outline corners;
+        for (int row = 0; row < manager_.NumberOfRows(); ++row)
+            corners.push_back(Corner(row, 0));
+        for (const std::size_t i : members)
+            outlines_[i] = corners;
+    }
+
+    void ReadCorners() {
+        std::set<std::string> refnums;
+        for (const auto& [refnum, members] : wanted_)
+            refnums.insert(refnum);
+        for (const std::vector<std::string>& part : InParts(refnums)) {
+            std::string list;
+            for (const std::string& refnum : part)
+                list += (list.empty() ? "(" : ",") + refnum;
+            manager_.Select(FromCorners("refnum, lat, lon", dataset_, "refnum in " + list + ")") +
+                            " order by refnum, ptnum");
+            const std::vector<std::size_t>* members = nullptr;
+            std::string last;
+            for (int row = 0; row < manager_.NumberOfRows(); ++row) {
+                if (const char* refnum = manager_.GetItem(row, 0); !members || last != refnum) {
+                    last = refnum;
+                    members = &wanted_[last];
+                }
+                for (const std::size_t i : *members)
+                    outlines_[i].push_back(Corner(row, 1));
+            }
+        }
+    }
+
+    CKvDbAbsDataMgr& manager_;
+    std::string dataset_;
+    std::vector<Outline> outlines_;
+    /// The picks that each block of the tables is the outline of.
+    std::map<std::string, std::vector<std::size_t>> wanted_;
 };
 
 /// A county's row: the columns, and the condition that finds it.
@@ -218,6 +296,14 @@ std::string CountyQuery(const char* columns, const std::string& county) {
 }
 
 }  // namespace
+
+kv::db::LookUpsThrow::LookUpsThrow() {
+    ++s_nThrowing;
+}
+
+kv::db::LookUpsThrow::~LookUpsThrow() {
+    --s_nThrowing;
+}
 
 std::string CKvDbUtil::S_GetArea(const std::string& areaName, bool abbreviated) {
     using namespace kv::catalogue;
@@ -247,7 +333,7 @@ std::string CKvDbUtil::S_GetAreacodeFromMMSandBlk(const std::string& mmsCode,
     using namespace kv::catalogue;
     return LookUp(std::string(), [&](CKvDbAbsDataMgr& manager) {
         const std::vector<Found> blocks = BlocksIn(
-            manager, "", AreaCells(manager, "", kColumnAreaCode, kColumnMmsCode, mmsCode), block);
+            manager, "", AreaCells(manager, "", kColumnAreaCode, kColumnMmsCode, mmsCode), {block});
         const Found* found = WithLabel(blocks, block);
         return found ? found->areaCode : std::string();
     });
@@ -268,7 +354,7 @@ bool CKvDbUtil::S_GetXYBounds(std::string area, std::string block, std::string e
         const std::string corners = CornersOf(manager, dataset, area, block, ext);
         if (corners.empty()) return false;
         manager.Select(FromCorners("lat, lon", dataset, corners));
-        ProjectedBounds bounds(nProjection, nUnits);
+        kv::ProjectedBounds bounds(nProjection, nUnits);
         for (int row = 0; row < manager.NumberOfRows(); ++row)
             bounds.Add(kv::Atof(manager.GetItem(row, 0)), kv::Atof(manager.GetItem(row, 1)));
         return bounds.Take(out);
@@ -285,9 +371,16 @@ bool CKvDbUtil::S_GetXYBoundsOnshore(std::string county, CMinMax2Dd_t& out, int 
                                      bool bFeet) {
     CMinMax2Dd_t angles;
     if (!S_GetLLBoundsOnshore(county, angles)) return false;
-    ProjectedBounds bounds(nProjection, bFeet ? kFeet : kMeters);
+    kv::ProjectedBounds bounds(nProjection, bFeet ? kFeet : kMeters);
     bounds.AddBox(angles);
     return bounds.Take(out);
+}
+
+std::vector<Outline> CKvDbUtil::S_GetOutlines(const std::vector<Pick>& picks,
+                                              const std::string& dataset) {
+    return LookUp(std::vector<Outline>(picks.size()), [&](CKvDbAbsDataMgr& manager) {
+        return OutlineReader(manager, dataset).Read(picks);
+    });
 }
 
 int CKvDbUtil::S_GetProjectionByArea(std::string area, std::string dataset) {
