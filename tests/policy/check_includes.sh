@@ -26,6 +26,7 @@ BEGIN {
     order("window", "rows drawing . templates frames controls list_view dialogs acting")
     order("frame", "kvcom kvdbkvn kvlogs .")
     order("services", "kvlogs kvdbkvn/dialect kvdbkvn/engines kvdbkvn kvcom")
+    order("drawing", "swatches .")
     order("qt", "drawing peers access map .")
 
     # A window is its node, its handle, its keys, and what is common to all windows: one unit of
