@@ -53,14 +53,14 @@ void Run::DoCall(const std::string& method, const Json& arguments) const {
     call_(method, arguments);
 }
 
-const char* Run::ResultName() const {
+std::string Run::ResultName() const {
     switch (result) {
         case 1:
             return "IDOK";
         case 2:
             return "IDCANCEL";
         default:
-            return "failed";
+            return result > 0 ? std::to_string(result) : "failed";
     }
 }
 

@@ -75,12 +75,13 @@ public:
     void SetCall(Call call) { call_ = std::move(call); }
     void DoCall(const std::string& method, const Json& arguments) const;
 
-    /// "IDOK" or "IDCANCEL"; "failed" when nothing could be opened.
-    const char* ResultName() const;
+    /// "IDOK" or "IDCANCEL"; the number of another control that ended the dialog; "failed" when
+    /// nothing could be opened.
+    std::string ResultName() const;
 
     /// What getters and the caller's vectors hold in the end.
     Json outcome = Json::object();
-    /// 1 for OK, 2 for Cancel, -1 when nothing could be opened.
+    /// 1 for OK, 2 for Cancel, or another control's id; -1 when nothing could be opened.
     int result = 1;
 
 private:

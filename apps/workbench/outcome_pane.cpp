@@ -63,7 +63,7 @@ OutcomePane::OutcomePane(QWidget* parent) : QPlainTextEdit(parent) {
 
 void OutcomePane::Add(const adaptors::Adaptor& adaptor, const adaptors::Run& run) {
     const QString heading = QStringLiteral("%1 (%2)").arg(QString::fromStdString(adaptor.className),
-                                                          QString::fromLatin1(run.ResultName()));
+                                                          QString::fromStdString(run.ResultName()));
     const bool first = toPlainText().isEmpty();
     appendPlainText((first ? QString() : QStringLiteral("\n")) + heading + u'\n' +
                     QString(heading.size(), u'-') + u'\n' + Readable(run.outcome).chopped(1));

@@ -30,6 +30,8 @@ bool IsField(const Node& node) {
         case NodeClass::kListBox:
         case NodeClass::kListView:
             return true;
+        case NodeClass::kButton:
+            return (node.Style() & BS_TYPEMASK) == BS_OWNERDRAW && node.Text().empty();
         default:
             return false;
     }

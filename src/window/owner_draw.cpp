@@ -59,7 +59,8 @@ bool IsOwnerDrawnLabel(const Node& node) {
 
 UINT DrawStateOf(Node& button) {
     UINT state = 0;
-    if (!button.ReallyEnabled()) state |= ODS_DISABLED;
+    // Its own state: under a modal window it goes on showing what it holds.
+    if (!button.Enabled()) state |= ODS_DISABLED;
     if (WindowSystem::Get().Focus() == &button) state |= ODS_FOCUS;
     if (Send(button, BM_GETSTATE) & kPushedState) state |= ODS_SELECTED;
     return state;

@@ -183,6 +183,8 @@ BOOL CWnd::ShowWindow(int show) {
     if (visible && window->Host() == window.get()) window->SetShown(true);
     if (changed) kv::Send(*window, WM_SHOWWINDOW, visible ? 1 : 0);
     if (changed && visible && !window->Parent() && !window->Destroyed()) {
+        // One that was made hidden is seen for the first time.
+        if (!window->GetView()) WindowSystem::Get().GetDesktop().Created(*window);
         WindowSystem::Get().Activate(*window);
     }
     return wasVisible;

@@ -27,6 +27,7 @@ BEGIN {
     order("frame", "kvcom kvdbkvn kvlogs .")
     order("services", "kvlogs kvdbkvn/dialect kvdbkvn/engines kvdbkvn kvcom")
     order("mapbuild", ". builders")
+    order("drawing", "swatches .")
     order("qt", "drawing peers access map .")
 
     # A window is its node, its handle, its keys, and what is common to all windows: one unit of

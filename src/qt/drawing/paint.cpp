@@ -71,11 +71,14 @@ bool MayPaint(const Node& node) {
 
 }  // namespace
 
-bool PaintByLayer(QWidget& widget, Node& node) {
+bool PaintByLayer(QWidget& widget, Node& node, int beyond) {
     if (node.Destroyed() || !MayPaint(node)) return false;
     QPainter painter(&widget);
-    PainterSurface surface(painter, node.Rect().Size(), CurrentScale());
+    CSize extent = node.Rect().Size();
+    extent.cx += 2 * beyond;
+    PainterSurface surface(painter, extent, CurrentScale());
     CDC context(surface);
+    context.SetViewportOrg(beyond, 0);
     return PaintControl(node, context);
 }
 

@@ -9,8 +9,9 @@
 
 namespace kv::qt {
 
-/// Lets a control that paints itself do so; false when it leaves its picture to the widget.
-bool PaintByLayer(QWidget& widget, Node& node);
+/// Lets a control that paints itself do so; false when it leaves its picture to the widget. The
+/// widget reaches `beyond` the control by so many logical pixels on the left and on the right.
+bool PaintByLayer(QWidget& widget, Node& node, int beyond = 0);
 
 /// On a dark ground, outlines a check box or radio button that the style would leave hardly to be
 /// seen.

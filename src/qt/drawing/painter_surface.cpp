@@ -120,4 +120,8 @@ COLORREF PainterSurface::Pixel(CPoint at) const {
     return image && image->valid(place) ? ToColorRef(image->pixelColor(place)) : 0;
 }
 
+double PainterSurface::PixelsAcross() const {
+    return scale_.x * painter_.device()->devicePixelRatioF();
+}
+
 }  // namespace kv::qt

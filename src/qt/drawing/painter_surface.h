@@ -5,6 +5,7 @@
 
 #include "base/export.h"
 #include "qt/drawing/scale.h"
+#include "window/drawing/fine_image.h"
 #include "window/drawing/surface.h"
 
 namespace kv::qt {
@@ -14,7 +15,7 @@ KVGUICTL_API QImage ToImage(const Raster& raster);
 
 /// Lets the layer draw through a painter: logical pixels are scaled, texts are in the platform's
 /// fonts. At a scale of 1 fills, lines and images come out pixel by pixel as on a raster.
-class KVGUICTL_API PainterSurface : public Surface {
+class KVGUICTL_API PainterSurface : public Surface, public ScaledSurface {
 public:
     /// `extent` in logical pixels. The painter outlives the surface.
     PainterSurface(QPainter& painter, CSize extent, Scale scale);
@@ -31,6 +32,7 @@ public:
     void Image(const CRect& target, const Raster& image, const CRect& source) override;
     /// Can be read only where the painter paints on an image.
     COLORREF Pixel(CPoint at) const override;
+    double PixelsAcross() const override;
 
 private:
     int Width(const Stroke& stroke) const;

@@ -70,7 +70,7 @@ void Peer::ShowAll() {
     ShowRect();
     ShowEnabled();
     ShowColors();
-    ShowName();
+    ShowOwnName();
     if (node_.OwnFont()) ShowFont();
     if (!node_.ToolTip().empty()) ShowToolTip();
     if (ChildHost()) MakeChildren();
@@ -144,6 +144,9 @@ void Peer::ShowRect() {
 
 void Peer::ShowEnabled() {
     widget_->setEnabled(node_.Enabled());
+    // Qt takes the keyboard from what is disabled, and does not give it back.
+    const bool holder = WindowSystem::Get().Focus() == &node_;
+    if (holder && node_.Enabled() && !widget_->hasFocus()) widget_->setFocus(Qt::OtherFocusReason);
 }
 
 /// The label of a disabled field is grey.
@@ -186,8 +189,17 @@ void Peer::ShowOrder() {
 
 void Peer::MakeChildren() {
     const auto children = node_.Children();
+    bool joined = false;
+    bool others = false;
     for (const auto& child : children) {
-        if (!child->GetView() && !child->Destroyed()) MakePeer(*child, ChildHost());
+        const bool fresh = !child->GetView() && !child->Destroyed();
+        if (fresh) MakePeer(*child, ChildHost());
+        (fresh ? joined : others) = true;
+    }
+    // Those that were there may go by a label that joined them.
+    for (const auto& child : children) {
+        Peer* peer = joined && others ? PeerOf(*child) : nullptr;
+        if (peer && peer->Widget()) peer->ShowOwnName();
     }
     for (const auto& child : children) {
         Peer* peer = IsGroupBox(*child) ? PeerOf(*child) : nullptr;
@@ -231,8 +243,12 @@ void Peer::ShowNameWithParts() {
     }
 }
 
-void Peer::ShowName() {
+void Peer::ShowOwnName() {
     widget_->setAccessibleName(AccessibleName(node_));
+}
+
+void Peer::ShowName() {
+    ShowOwnName();
     if (!ShowsOwnText(node_) || !node_.Parent()) return;
     // Controls without a text of their own may go by this one's.
     for (const auto& sibling : node_.Parent()->Children()) {

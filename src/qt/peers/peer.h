@@ -31,6 +31,7 @@ public:
 
     virtual void ShowRect();
     void ShowColors();
+    void ShowOwnName();
     void ShowName();
     /// Where a picture of all of it is taken.
     virtual QWidget* Picture() { return widget_; }

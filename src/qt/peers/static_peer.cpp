@@ -37,6 +37,12 @@ int FreeWidth(const Node& label) {
     return CurrentScale().ToScreen(CSize{right - own.left, 0}).width() - kGap;
 }
 
+/// It may draw beyond its edges, as about the left one: its widget is wider by its own width on
+/// either side.
+bool IsOwnerDrawn(const Node& node) {
+    return (node.Style() & SS_TYPEMASK) == SS_OWNERDRAW;
+}
+
 bool IsPicture(const Node& node) {
     const DWORD kind = node.Style() & SS_TYPEMASK;
     return kind == SS_ICON || kind == SS_BITMAP;
@@ -52,7 +58,8 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override {
         const auto node = node_.lock();
-        if (!node || PaintByLayer(*this, *node)) return;
+        if (!node) return;
+        if (PaintByLayer(*this, *node, IsOwnerDrawn(*node) ? node->Rect().Width() : 0)) return;
         if (IsPicture(*node)) {
             QLabel::paintEvent(event);
             return;
@@ -119,6 +126,10 @@ void StaticPeer::ShowRect() {
     Peer::ShowRect();
     const Node& node = GetNode();
     const QRect place = Widget()->geometry();
+    if (IsOwnerDrawn(node)) {
+        Widget()->setGeometry(place.adjusted(-place.width(), 0, place.width(), 0));
+        return;
+    }
     const int wanted =
         Widget()->fontMetrics().size(Qt::TextShowMnemonic, ToQString(node.Text())).width() + 1;
     const bool growable = !IsPicture(node) && (node.Style() & SS_TYPEMASK) == SS_LEFT &&
@@ -137,6 +148,8 @@ void StaticPeer::ShowText() {
 void StaticPeer::ShowStyle() {
     auto* label = static_cast<QLabel*>(Widget());
     label->setTextFormat(Qt::PlainText);
+    // What it reaches over is another control's, and so are the clicks there.
+    label->setAttribute(Qt::WA_TransparentForMouseEvents, IsOwnerDrawn(GetNode()));
     if (!IsPicture(GetNode())) return;
     const auto image = static_cast<int>(static_cast<StaticNode&>(GetNode()).Image());
     label->setPixmap(PixmapOf(image));

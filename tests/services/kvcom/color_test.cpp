@@ -22,17 +22,33 @@ TEST(Color, KnowsTheNamedColors) {
     EXPECT_EQ(ColorAt(15), (Rgb{255, 255, 255}));
 }
 
-TEST(Color, TheCubeRunsFromBlackToWhiteWithBlueFastest) {
-    EXPECT_EQ(ColorAt(16), (Rgb{0, 0, 0}));
-    EXPECT_EQ(ColorAt(17), (Rgb{0, 0, 51}));
-    EXPECT_EQ(ColorAt(22), (Rgb{0, 51, 0}));
-    EXPECT_EQ(ColorAt(52), (Rgb{51, 0, 0}));
-    EXPECT_EQ(ColorAt(231), (Rgb{255, 255, 255}));
+TEST(Color, EachHueHasTenBrightShadesAndSixSoftOnesFromDarkToLight) {
+    for (int first = 16; first < 240; first += 16) {
+        for (int shade = 1; shade < 16; ++shade) {
+            if (shade == 10) continue;
+            const Rgb darker = ColorAt(first + shade - 1);
+            const Rgb lighter = ColorAt(first + shade);
+            const auto sum = [](const Rgb& color) { return color[0] + color[1] + color[2]; };
+            EXPECT_GT(sum(lighter), sum(darker)) << first + shade;
+        }
+    }
+    EXPECT_EQ(ColorAt(16), (Rgb{82, 0, 0}));
+    EXPECT_EQ(ColorAt(23), (Rgb{255, 128, 128}));
+    EXPECT_EQ(ColorAt(28), (Rgb{177, 72, 72}));
+    EXPECT_EQ(ColorAt(16 + 6 * 16), (Rgb{0, 82, 14}));
+    EXPECT_EQ(ColorAt(16 + 10 * 16 + 9), (Rgb{214, 224, 255}));
 }
 
-TEST(Color, GreysFollowTheCube) {
-    EXPECT_EQ(ColorAt(232), (Rgb{8, 8, 8}));
-    EXPECT_EQ(ColorAt(255), (Rgb{238, 238, 238}));
+TEST(Color, GraysAreTheLast) {
+    EXPECT_EQ(ColorAt(240), (Rgb{15, 15, 15}));
+    EXPECT_EQ(ColorAt(255), (Rgb{240, 240, 240}));
+}
+
+TEST(Color, NoColorIsTwiceInTheTable) {
+    std::set<Rgb> colors;
+    for (int index = 0; index < 256; ++index)
+        colors.insert(ColorAt(index));
+    EXPECT_EQ(colors.size(), 256u);
 }
 
 TEST(Color, EveryColorIsWithinItsLimits) {
