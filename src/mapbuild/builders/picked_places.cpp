@@ -42,18 +42,18 @@ private:
 
 }  // namespace
 
-void PickedPlaces::LearnBlocks(const Picks& picks, const std::string& dataset) {
+void PickedPlaces::LearnBlocks(const Picks& picks, const std::string& dataset, Blocks& blocks) {
     Picks missing;
     for (const CKvDbUtil::Pick& pick : picks) {
-        if (!blocks_.contains({dataset, pick})) missing.push_back(pick);
+        if (!blocks.contains(pick)) missing.push_back(pick);
     }
     if (missing.empty()) return;
     const kv::db::LookUpsThrow failures;
     std::vector<Outline> outlines = CKvDbUtil::S_GetOutlines(missing, dataset);
     for (std::size_t i = 0; i < missing.size(); ++i) {
-        const CKvDbUtil::Pick& pick = missing[i];
+        CKvDbUtil::Pick& pick = missing[i];
         if (outlines[i].empty()) LogUnknown("the block " + pick.area + " " + pick.block + pick.ext);
-        blocks_.insert_or_assign({dataset, pick}, std::move(outlines[i]));
+        blocks.insert_or_assign(std::move(pick), std::move(outlines[i]));
     }
 }
 
@@ -68,39 +68,40 @@ void PickedPlaces::LearnCounties(const Picks& picks) {
     }
 }
 
-std::optional<PickedBounds> PickedPlaces::OfBlocks(const Picks& picks, const std::string& dataset,
+std::optional<PickedBounds> PickedPlaces::OfBlocks(Picks picks, const std::string& dataset,
                                                    const Plane& plane,
                                                    const RectifyingPoint& point) {
-    const Asked asking{true, picks, dataset, plane, point};
+    Asked asking{true, std::move(picks), dataset, plane, point};
     if (answered_ && asking == asked_) return answered_;
-    LearnBlocks(picks, dataset);
+    Blocks& blocks = blocks_[dataset];
+    LearnBlocks(asking.picks, dataset, blocks);
     Around around;
-    for (const CKvDbUtil::Pick& pick : picks) {
-        const Outline& outline = blocks_.at({dataset, pick});
+    for (const CKvDbUtil::Pick& pick : asking.picks) {
+        const Outline& outline = blocks.at(pick);
         if (outline.empty()) continue;
         ProjectedBounds projected(plane.projection, plane.units);
         for (const CKvDispPoint& corner : outline)
             projected.Add(corner.GetX(), corner.GetY());
         around.Add(CKvUtilGeo::PolyLineGetMinMax(outline), projected);
     }
-    asked_ = asking;
+    asked_ = std::move(asking);
     return answered_ = around.Bounds();
 }
 
-std::optional<PickedBounds> PickedPlaces::OfCounties(const Picks& picks, const Plane& plane,
+std::optional<PickedBounds> PickedPlaces::OfCounties(Picks picks, const Plane& plane,
                                                      const RectifyingPoint& point) {
-    const Asked asking{false, picks, "", plane, point};
+    Asked asking{false, std::move(picks), "", plane, point};
     if (answered_ && asking == asked_) return answered_;
-    LearnCounties(picks);
+    LearnCounties(asking.picks);
     Around around;
-    for (const CKvDbUtil::Pick& pick : picks) {
+    for (const CKvDbUtil::Pick& pick : asking.picks) {
         const std::optional<CMinMax2Dd_t>& angles = counties_.at(pick.block);
         if (!angles) continue;
         ProjectedBounds projected(plane.projection, plane.units);
         projected.AddBox(*angles);
         around.Add(*angles, projected);
     }
-    asked_ = asking;
+    asked_ = std::move(asking);
     return answered_ = around.Bounds();
 }
 

@@ -3,7 +3,6 @@
 #include <map>
 #include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "frame/kvdbkvn/db_util.h"
@@ -35,10 +34,10 @@ public:
     using Picks = std::vector<CKvDbUtil::Pick>;
 
     /// Around blocks of a dataset. `point` is that which the driver uses now.
-    std::optional<PickedBounds> OfBlocks(const Picks& picks, const std::string& dataset,
+    std::optional<PickedBounds> OfBlocks(Picks picks, const std::string& dataset,
                                          const Plane& plane, const RectifyingPoint& point);
     /// Around counties, which are named by the blocks of the picks.
-    std::optional<PickedBounds> OfCounties(const Picks& picks, const Plane& plane,
+    std::optional<PickedBounds> OfCounties(Picks picks, const Plane& plane,
                                            const RectifyingPoint& point);
 
 private:
@@ -52,11 +51,14 @@ private:
         bool operator==(const Asked&) const = default;
     };
 
-    void LearnBlocks(const Picks& picks, const std::string& dataset);
+    /// Empty for a block that is not known.
+    using Blocks = std::map<CKvDbUtil::Pick, Outline>;
+
+    static void LearnBlocks(const Picks& picks, const std::string& dataset, Blocks& blocks);
     void LearnCounties(const Picks& picks);
 
-    /// By dataset and pick; empty for one that is not known.
-    std::map<std::pair<std::string, CKvDbUtil::Pick>, Outline> blocks_;
+    /// By dataset.
+    std::map<std::string, Blocks> blocks_;
     std::map<std::string, std::optional<CMinMax2Dd_t>> counties_;
     Asked asked_;
     std::optional<PickedBounds> answered_;
