@@ -7,8 +7,6 @@
 #include "window/dialogs/dialog.h"
 #include "window/templates/resources.h"
 
-namespace adaptors {
-
 namespace {
 
 using enum kv::ControlKind;
@@ -43,9 +41,12 @@ constexpr kv::ControlRow kRows[] = {
 constexpr kv::DialogTemplate kDialog{kTemplate, "Swatches", 134, 158, kRows};
 const kv::RegisterTemplate kTemplateRegistered(kDialog);
 
+}  // namespace
+
+/// By its own name, since scripts name windows by their classes.
 class SwatchesDlg : public CDialog {
 public:
-    explicit SwatchesDlg(Run& run) : CDialog(kTemplate), run_(run) {}
+    explicit SwatchesDlg(adaptors::Run& run) : CDialog(kTemplate), run_(run) {}
 
     BOOL OnInitDialog() override {
         CDialog::OnInitDialog();
@@ -63,7 +64,7 @@ public:
         return CDialog::OnCmdMsg(id, code, extra, info);
     }
 
-    Json State() const {
+    adaptors::Json State() const {
         return {{"width", width_.GetLineWidth()},      {"type", type_.GetLineType()},
                 {"color", color_.GetCWTValue()},       {"style", style_.GetLineWidth()},
                 {"anyColor", anyColor_.GetCWTValue()}, {"number", number_.m_nSymbolId},
@@ -78,7 +79,7 @@ private:
         int standard;
     };
 
-    Run& run_;
+    adaptors::Run& run_;
     CKvGuiLineWidthButton width_;
     CKvGuiLineTypeButton type_;
     CKvGuiBasicColorButton color_;
@@ -98,6 +99,10 @@ private:
     std::vector<UINT> picked_;
 };
 
+namespace adaptors {
+
+namespace {
+
 void RunSwatches(Run& run) {
     SwatchesDlg dialog(run);
     run.result = dialog.DoModal();
@@ -105,7 +110,7 @@ void RunSwatches(Run& run) {
 }
 
 const Register kRegistered({
-    "CColorButton",
+    "SwatchesDlg",
     "Drawing tools",
     "Swatches",
     "Swatches and their palettes",

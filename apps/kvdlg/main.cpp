@@ -164,7 +164,7 @@ int RunDialog(const Options& options) {
     }
     kv::db::SetStatementTrace(nullptr);
     PrintOut(WhatIsAskedFor(Outcome(run, records, options.trace), options));
-    return run.result == IDCANCEL ? kCancelled : run.result == IDOK ? kDone : kDataFailure;
+    return run.result == IDCANCEL ? kCancelled : run.result > 0 ? kDone : kDataFailure;
 }
 
 /// Does the work of a command; what went wrong is told in one line.

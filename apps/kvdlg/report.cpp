@@ -194,15 +194,17 @@ Json DescribeCalls(const std::vector<adaptors::Method>& calls) {
 /// Opens the dialog, looks at it, and leaves it where it can be left.
 Json FirstScript(const adaptors::Adaptor& adaptor, const Json& controls) {
     Json actions = Json::array({{{"snapshot", "start"}}});
-    const auto shows = [&controls](int id) {
-        return std::any_of(controls.begin(), controls.end(), [id](const Json& control) {
-            return control["id"] == id && !control.contains("hidden");
+    const auto has = [&](int id, bool alsoHidden) {
+        return std::any_of(controls.begin(), controls.end(), [&](const Json& control) {
+            return control["id"] == id && (alsoHidden || !control.contains("hidden"));
         });
     };
-    if (shows(IDCANCEL)) {
+    if (has(IDCANCEL, false)) {
         actions.push_back({{"click", IDCANCEL}});
-    } else if (!adaptor.makeTool && shows(IDOK)) {
+    } else if (!adaptor.makeTool && has(IDOK, false)) {
         actions.push_back({{"click", IDOK}});
+    } else if (!has(IDOK, true) && !has(IDCANCEL, true)) {
+        actions.push_back({{"key", {0, "Escape"}}});
     }
     return {{"inputs", adaptor.SampleInputs()},
             {"user", Json::array({{{"window", adaptor.className}, {"do", actions}}})}};

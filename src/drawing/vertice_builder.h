@@ -169,7 +169,7 @@ private:
     void LeaveLonDegree();
     void MoveRow(int by);
     bool WriteRows(const CString& path);
-    void ReadRows(CFile& file);
+    bool ReadRows(CFile& file);
 
     bool TakePaste(const std::string& text);
     bool AskForRows(const std::vector<std::string>& lines);

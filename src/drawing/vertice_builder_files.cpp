@@ -22,17 +22,30 @@ bool CKvGuiVerticeBuilder::ReadLine(CFile* pFile, std::string& strLine) {
     return kv::vertices::ReadRow(next, strLine);
 }
 
-void CKvGuiVerticeBuilder::ReadRows(CFile& file) {
-    m_listXY.ResetContent();
+/// False, and the rows stay, where the file ends ahead of its length.
+bool CKvGuiVerticeBuilder::ReadRows(CFile& file) {
+    std::vector<std::string> rows;
+    std::uint64_t bytes = 0;
+    const auto next = [&] {
+        unsigned char byte = 0;
+        if (file.Read(&byte, 1) != 1) return -1;
+        ++bytes;
+        return int{byte};
+    };
     std::string line;
     bool last = false;
     while (!last) {
-        last = ReadLine(&file, line);
-        if (line.empty()) continue;
-        AddIfNew(line);
+        last = kv::vertices::ReadRow(next, line);
+        if (!line.empty()) rows.push_back(line);
+    }
+    if (bytes != file.GetLength()) return false;
+    m_listXY.ResetContent();
+    for (const std::string& row : rows) {
+        AddIfNew(row);
         EnableButton(kAccept, TRUE);
         Changed();
     }
+    return true;
 }
 
 void CKvGuiVerticeBuilder::OnButtonLoadFile() {
@@ -46,7 +59,10 @@ void CKvGuiVerticeBuilder::OnButtonLoadFile() {
     picker.GetSelectedItem(path.data());
     CFile file;
     if (!file.Open(path.data(), CFile::modeRead)) return;
-    ReadRows(file);
+    if (!ReadRows(file)) {
+        AfxMessageBox(CString(path.data()) + "\nThis file cannot be read.");
+        return;
+    }
     file.Close();
     EnableButton(kSave, HasRows());
     if (HasRows()) OverWriteFormat();

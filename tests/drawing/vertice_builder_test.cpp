@@ -2,6 +2,7 @@
 #include <set>
 
 #include "controls/file_pick_ids.h"
+#include "support/file_faults.h"
 #include "support/temp_folder.h"
 #include "vertice_builder_fixture.h"
 
@@ -609,6 +610,24 @@ TEST_F(VerticeFiles, AFileThatIsNotThereIsPassedOver) {
         ExpectPick("none.txt");
         user.Click(kLoad);
         EXPECT_EQ(user.Rows(kRows).size(), 1u);
+    });
+}
+
+TEST_F(VerticeFiles, AFileThatCannotBeReadToItsEndIsToldAndTheRowsStay) {
+    folder.Write("points.txt", "1,2\r\n3,4\r\n");
+    Run(dialog, [&](kv::User& user) {
+        TypeXy(user, "9", "9");
+        user.Click(kAdd);
+        std::unique_ptr<test::FileFaults> faults;
+        desktop.ExpectWindow("Select Source Folder", [&](kv::User& picker) {
+            picker.Window().SetDlgItemText(kv::file_pick::kPath,
+                                           folder.Dialog("points.txt").c_str());
+            faults = std::make_unique<test::FileFaults>(3);
+            picker.Click(IDOK);
+        });
+        desktop.ExpectMessage(folder.Dialog("points.txt") + "\nThis file cannot be read.");
+        user.Click(kLoad);
+        EXPECT_THAT(user.Rows(kRows), ElementsAre("9.00   ,   9.00"));
     });
 }
 

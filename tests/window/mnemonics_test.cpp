@@ -34,6 +34,16 @@ protected:
     test::RecordingDialog dialog_;
 };
 
+TEST_F(Mnemonics, ALabelGetsALetterForAButtonThatIsDrawnAndHasNoText) {
+    EXPECT_THAT(LettersOf({Row(10, kLabel, "Color:"), Row(11, kOwnerDrawButton)}),
+                ElementsAre(Pair(10, 'C')));
+    Open({Row(12, kEdit), Row(10, kLabel, "Color:"), Row(11, kOwnerDrawButton)},
+         [&](kv::User& user) {
+             user.Key(0, "Alt+C");
+             EXPECT_TRUE(dialog_.WasTold("11 clicked"));
+         });
+}
+
 TEST_F(Mnemonics, APushButtonWithoutOneGetsALetterAndKeepsItsText) {
     Open({Row(11, kEdit), Row(20, kPushButton, "Search...")}, [&](kv::User& user) {
         EXPECT_EQ(user.Text(20), "Search...");

@@ -54,6 +54,28 @@ TEST_F(Modeless, StaysHiddenWhereOnInitDialogHidIt) {
     EXPECT_THAT(tool_.ToldOfFocus(), ElementsAre("12 lost", "11 gained"));
 }
 
+/// Counts what comes to be on the screen.
+class CountingDesktop : public kv::HeadlessDesktop {
+public:
+    void Created(kv::Node&) override { ++created; }
+    int created = 0;
+};
+
+TEST_F(Modeless, MadeHiddenItComesToTheScreenWhenItIsFirstShown) {
+    CountingDesktop counting;
+    kv::WindowSystem::Get().SetDesktop(&counting);
+    tool_.onInit = [&] {
+        tool_.ShowWindow(SW_HIDE);
+        return TRUE;
+    };
+    ASSERT_TRUE(tool_.Create(test::kTestTemplate));
+    EXPECT_EQ(counting.created, 0);
+    tool_.ShowWindow(SW_SHOW);
+    EXPECT_EQ(counting.created, 1);
+    tool_.DestroyWindow();
+    kv::WindowSystem::Get().SetDesktop(&desktop);
+}
+
 TEST_F(Modeless, WithoutATemplateIsNotMade) {
     EXPECT_FALSE(tool_.Create(999));
     EXPECT_EQ(tool_.m_hWnd, nullptr);

@@ -113,6 +113,18 @@ TEST_F(OwnerDraw, AnOwnerDrawnButtonDrawsItselfWithinItsOwnBounds) {
     EXPECT_EQ(At(4, 5), kWhite);
 }
 
+TEST_F(OwnerDraw, OnlyItsOwnStateDisablesAButtonNotThatOfItsWindow) {
+    RedButton button;
+    Put(button, NodeClass::kButton, BS_OWNERDRAW);
+    host_.EnableWindow(FALSE);
+    kv::PaintControl(*button.m_hWnd, dc_);
+    button.EnableWindow(FALSE);
+    kv::PaintControl(*button.m_hWnd, dc_);
+    ASSERT_EQ(button.items.size(), 2u);
+    EXPECT_EQ(button.items[0].itemState & ODS_DISABLED, 0u);
+    EXPECT_NE(button.items[1].itemState & ODS_DISABLED, 0u);
+}
+
 TEST_F(OwnerDraw, TheButtonIsToldWhatToDraw) {
     RedButton button;
     Put(button, NodeClass::kButton, BS_OWNERDRAW);

@@ -150,6 +150,7 @@ void StaticPeer::ShowStyle() {
     label->setTextFormat(Qt::PlainText);
     // What it reaches over is another control's, and so are the clicks there.
     label->setAttribute(Qt::WA_TransparentForMouseEvents, IsOwnerDrawn(GetNode()));
+    if (IsOwnerDrawn(GetNode())) ShowRect();
     if (!IsPicture(GetNode())) return;
     const auto image = static_cast<int>(static_cast<StaticNode&>(GetNode()).Image());
     label->setPixmap(PixmapOf(image));
