@@ -180,16 +180,16 @@ TEST_F(WorkbenchTest, TheWindowOpensWithinTheScreen) {
     EXPECT_TRUE(screen.contains(host->Window().geometry()));
 }
 
-/// A screen of 960 by 540 at twice the size.
-constexpr QSize kSmallScreen{480, 270};
+/// Half as wide as the smallest screen.
+constexpr QSize kNarrow{480, 540};
 
-TEST_F(WorkbenchTest, NothingIsOutOfReachInASmallWindow) {
+TEST_F(WorkbenchTest, NothingIsOutOfReachInANarrowWindow) {
     Open();
     Pick("EI", "391");
     user->Click(kReport);
-    host->Window().resize(kSmallScreen);
+    host->Window().resize(kNarrow);
     QApplication::processEvents();
-    ASSERT_EQ(host->Window().size(), kSmallScreen);
+    ASSERT_EQ(host->Window().size(), kNarrow);
     for (const int id : {kArea, kBlock, kLayer, kReport, kRun}) {
         const CWnd& control = *host->Frame().m_bar.GetDlgItem(id);
         kv::input::MoveFocus(*control.m_hWnd);
@@ -204,7 +204,7 @@ TEST_F(WorkbenchTest, NothingIsOutOfReachInASmallWindow) {
 TEST_F(WorkbenchTest, WhatTheLinesSayMakesTheWindowNoWider) {
     Open();
     const int least = host->Window().minimumSizeHint().width();
-    EXPECT_LE(least, kSmallScreen.width());
+    EXPECT_LE(least, kNarrow.width());
     const auto pick = host->Model().FindPick({"43113"}, "391");
     host->Status().ShowPlace(ToPlace(pick.Bounds().Middle()), pick.block);
     Pick("EI", "391");

@@ -252,6 +252,7 @@ public:
     void Fit(const QSize& contents) {
         widget()->setFixedSize(contents);
         updateGeometry();
+        if (isVisible()) FindWhetherItScrolls();
     }
     QSize sizeHint() const override { return {widget()->width(), Height()}; }
     QSize minimumSizeHint() const override {
@@ -261,17 +262,26 @@ public:
 protected:
     void resizeEvent(QResizeEvent* event) override {
         QScrollArea::resizeEvent(event);
-        if (height() != Height()) updateGeometry();
         BringIntoView(*this, QApplication::focusWidget());
+        FindWhetherItScrolls();
     }
 
 private:
+    void FindWhetherItScrolls() {
+        const bool scrolls = width() < widget()->width();
+        if (scrolls == scrolls_) return;
+        scrolls_ = scrolls;
+        // Behind the layout that goes on.
+        QMetaObject::invokeMethod(
+            this, [this] { updateGeometry(); }, Qt::QueuedConnection);
+    }
     /// With room for the scroll bar where there is one.
     int Height() const {
-        const bool scrolls = width() < widget()->width();
         const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
-        return widget()->height() + (scrolls ? bar : 0);
+        return widget()->height() + (scrolls_ ? bar : 0);
     }
+
+    bool scrolls_ = false;
 };
 
 QWidget* MakeBar(Node& node, QWidget* host) {

@@ -122,7 +122,9 @@ TEST_P(TemplateAccess, LabelsAndWhatGoesByThemKnowEachOther) {
     using testing::Contains;
     ForEach([](const kv::ControlRow&, kv::Node& node, QAccessibleInterface& shown) {
         const auto labels = Related(shown, QAccessible::Label);
-        if (!labels.empty()) EXPECT_EQ(test::NameOf(&shown), NameFrom(labels));
+        if (!labels.empty()) {
+            EXPECT_EQ(test::NameOf(&shown), NameFrom(labels));
+        }
         for (const QAccessibleInterface* label : labels)
             EXPECT_THAT(Related(*label, QAccessible::Labelled), Contains(&shown));
         for (const QAccessibleInterface* labelled : Related(shown, QAccessible::Labelled))
