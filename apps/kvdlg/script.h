@@ -34,9 +34,9 @@ struct Hooks {
 /// Reads the text as JSON. Throws BadScript with the line and column of what is wrong.
 Json ParseJson(const std::string& text, const std::string& nameOfText);
 
-/// Sets what lies outside the windows as the head of the script says: which printer there is,
-/// which drives, what time it is, and how large the screen. Throws BadScript naming the line, also
-/// for a name that no script has.
+/// Sets what lies outside the windows as the head of the script says: which printer there is, which
+/// drives, what time it is, and how large the screen. Throws BadScript naming the line, also for a
+/// name that no script has.
 void SetOutside(const Json& script, const std::map<std::string, int>& lines,
                 kv::HeadlessDesktop& desktop);
 

@@ -254,6 +254,19 @@ TEST_F(PageTest, ATickInTheMiddleOfAnEdgeHasItsDegrees) {
     EXPECT_EQ(svg.texts.count(QStringLiteral("91\u00b020'W")), 2);
 }
 
+TEST_F(PageTest, TheLegendTellsWhatIsDrawnAndNothingElse) {
+    const auto tells = [&](int scale, const char* text) {
+        const SvgFileRead svg = ReadSvg(Svg(PlanOf(WholeArea(), scale, SheetOf(8.5, 11))));
+        return svg.texts.contains(QString::fromLatin1(text));
+    };
+    EXPECT_TRUE(tells(30'000, "Oil pipeline"));
+    EXPECT_TRUE(tells(30'000, "Completed well"));
+    EXPECT_FALSE(tells(200'000, "Oil pipeline"));
+    EXPECT_TRUE(tells(200'000, "Completed well"));
+    EXPECT_FALSE(tells(1'000'000, "Completed well"));
+    EXPECT_TRUE(tells(1'000'000, "Federal shelf"));
+}
+
 bool IsGray(const QString& color) {
     const QColor each(color);
     return !each.isValid() || (each.red() == each.green() && each.green() == each.blue());

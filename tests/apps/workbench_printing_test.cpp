@@ -230,13 +230,15 @@ TEST_F(WorkbenchPrinting, ThePreviewLeafsThroughThePages) {
     Trigger("Print Preview...",
             {AtScale("300"), [this] {
                  auto* preview = qobject_cast<PrintPreview*>(QApplication::activeModalWidget());
-                 if (!preview) return false;
+                 if (!preview || !preview->isActiveWindow()) return false;
                  const auto button = [&](const char* text) {
                      for (auto* each : preview->findChildren<QPushButton*>()) {
                          if (each->text().remove(u'&') == QLatin1String(text)) return each;
                      }
                      return static_cast<QPushButton*>(nullptr);
                  };
+                 for (const char* each : {"Previous", "Next", "Actual size", "Print...", "Close"})
+                     EXPECT_TRUE(button(each)->isVisible()) << each;
                  const std::int64_t count = preview->Plan().grid.Count();
                  EXPECT_GT(count, 1);
                  EXPECT_FALSE(button("Previous")->isEnabled());

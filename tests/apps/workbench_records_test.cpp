@@ -10,10 +10,11 @@
 #include <QTimer>
 #include <filesystem>
 
-#include "pickers/custom_order_dlg_ids.h"
+#include "frame/kvcom/misc.h"
 #include "pickers/order_dlg_ids.h"
 #include "records/create_user_table_ids.h"
 #include "records/well_search_ids.h"
+#include "window/window_system.h"
 #include "workbench/records/area_order.h"
 #include "workbench/records/well_comments.h"
 #include "workbench/records/well_finder.h"
@@ -42,15 +43,15 @@ protected:
     /// What a person does in the next modal dialog, while `open` runs it.
     template <typename Open>
     void InDialog(Open open, const std::function<void(kv::User&)>& act) {
-        QTimer person;
-        QObject::connect(&person, &QTimer::timeout, [&] {
+        QTimer timer;
+        QObject::connect(&timer, &QTimer::timeout, [&] {
             auto& modals = kv::WindowSystem::Get().Modals();
             if (modals.empty()) return;
-            person.stop();
-            kv::User user(*modals.back(), [](const std::string& words) { FAIL() << words; });
-            act(user);
+            timer.stop();
+            kv::User person(*modals.back(), [](const std::string& words) { FAIL() << words; });
+            act(person);
         });
-        person.start(0);
+        timer.start(0);
         open();
     }
     void FindWell(const std::function<void(kv::User&)>& act) {
@@ -58,10 +59,10 @@ protected:
         host->Runner().Finish();
     }
     void FindByApi(const std::string& number) {
-        FindWell([&](kv::User& user) {
-            if (!user.Checked(kv::well_search::kByApi)) user.Click(kv::well_search::kByApi);
-            user.Type(kv::well_search::kApi, number);
-            user.Click(IDOK);
+        FindWell([&](kv::User& person) {
+            if (!person.Checked(kv::well_search::kByApi)) person.Click(kv::well_search::kByApi);
+            person.Type(kv::well_search::kApi, number);
+            person.Click(IDOK);
         });
     }
     static void MakeCommentTable() {
@@ -140,9 +141,9 @@ TEST_F(WorkbenchRecords, AReportFollowsTheOrderThatWasAskedFor) {
     const std::vector<std::string> byCode = areas();
     ASSERT_GE(byCode.size(), 2U);
     InDialog([this] { host->Records().AskAreaOrder(); },
-             [](kv::User& user) {
-                 user.Click(kv::order_dlg::kAreaName);
-                 user.Click(IDOK);
+             [](kv::User& person) {
+                 person.Click(kv::order_dlg::kAreaName);
+                 person.Click(IDOK);
              });
     Report("Wells");
     std::vector<std::string> byName = byCode;
@@ -155,9 +156,9 @@ TEST_F(WorkbenchRecords, AReportFollowsTheOrderThatWasAskedFor) {
                        Quoted(byName.back()));
     manager.Disconnect();
     InDialog([this] { host->Records().AskAreaOrder(); },
-             [](kv::User& user) {
-                 user.Click(kv::order_dlg::kCustom);
-                 user.Click(IDOK);
+             [](kv::User& person) {
+                 person.Click(kv::order_dlg::kCustom);
+                 person.Click(IDOK);
              });
     Report("Wells");
     EXPECT_EQ(areas().front(), byName.back());
@@ -200,12 +201,12 @@ TEST_F(WorkbenchRecords, TheWellsOfTheReportAreOffered) {
     Pick("GC", well.block.c_str());
     Report("Wells");
     std::vector<std::string> offered;
-    FindWell([&](kv::User& user) {
-        EXPECT_TRUE(user.Checked(kv::well_search::kByApi));
-        offered = user.Rows(kv::well_search::kApi);
-        EXPECT_EQ(user.Text(kv::well_search::kArea), "GC");
-        EXPECT_EQ(user.Text(kv::well_search::kBlock), well.block);
-        user.Click(IDCANCEL);
+    FindWell([&](kv::User& person) {
+        EXPECT_TRUE(person.Checked(kv::well_search::kByApi));
+        offered = person.Rows(kv::well_search::kApi);
+        EXPECT_EQ(person.Text(kv::well_search::kArea), "GC");
+        EXPECT_EQ(person.Text(kv::well_search::kBlock), well.block);
+        person.Click(IDCANCEL);
     });
     EXPECT_EQ(offered.size(), static_cast<std::size_t>(host->Results().Model().rowCount()));
     EXPECT_THAT(offered, testing::Contains(well.api));
@@ -214,12 +215,12 @@ TEST_F(WorkbenchRecords, TheWellsOfTheReportAreOffered) {
 TEST_F(WorkbenchRecords, AWellIsFoundByAreaBlockAndNumberInsideTheView) {
     OpenCopy();
     const Well well = SomeWell();
-    FindWell([&](kv::User& user) {
-        EXPECT_TRUE(user.Checked(kv::well_search::kByArea)) << "there is no report yet";
-        user.Select(kv::well_search::kArea, "GC");
-        user.Select(kv::well_search::kBlock, well.block);
-        user.Type(kv::well_search::kWell, well.name);
-        user.Click(IDOK);
+    FindWell([&](kv::User& person) {
+        EXPECT_TRUE(person.Checked(kv::well_search::kByArea)) << "there is no report yet";
+        person.Select(kv::well_search::kArea, "GC");
+        person.Select(kv::well_search::kBlock, well.block);
+        person.Type(kv::well_search::kWell, well.name);
+        person.Click(IDOK);
     });
     EXPECT_EQ(host->Well().Well(), well.api);
     EXPECT_THAT(failures, IsEmpty());
@@ -246,15 +247,15 @@ TEST_F(WorkbenchRecords, ATableOfCommentsIsMadeAndTheConnectionPutBack) {
     OpenCopy();
     FindByApi(SomeWell().api);
     InDialog([this] { host->Records().CreateCommentTable(); },
-             [](kv::User& user) {
-                 user.Type(kv::create_user_table::kUser, "somebody");
-                 user.Click(IDOK);
+             [](kv::User& person) {
+                 person.Type(kv::create_user_table::kUser, "somebody");
+                 person.Click(IDOK);
              });
     EXPECT_THAT(notes, ElementsAre("The table GULF_MEXICO_WELL_COMMENT is made."));
     EXPECT_THAT(failures, IsEmpty());
-    std::string user, password, server;
-    CKvMisc::GetParsedConnectString(user, password, server, true);
-    EXPECT_EQ(user, "");
+    std::string login, password, server;
+    CKvMisc::GetParsedConnectString(login, password, server, true);
+    EXPECT_EQ(login, "");
     EXPECT_FALSE(host->Well().Note().isVisible());
     EXPECT_TRUE(host->Well().CommentField().isEnabled());
 }

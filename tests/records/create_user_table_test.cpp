@@ -154,8 +154,7 @@ TEST_F(CreateUserTable, TheAliasHidesASecretThatTheServersTextKeeps) {
         EXPECT_EQ(user.Text(kAlias), "postgresql://%2Fnowhere/db?sslpassword=***");
         user.Click(IDCANCEL);
     });
-    EXPECT_EQ(InForce(),
-              (Login{"scott", "t1ger", "postgresql://%2Fnowhere/db?sslpassword=l10n"}));
+    EXPECT_EQ(InForce(), (Login{"scott", "t1ger", "postgresql://%2Fnowhere/db?sslpassword=l10n"}));
     for (const std::string& said : {desktop.Messages().back(), folder.Read("log.txt")}) {
         EXPECT_THAT(said, Not(HasSubstr("t1ger")));
         EXPECT_THAT(said, Not(HasSubstr("l10n")));

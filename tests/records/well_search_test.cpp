@@ -252,6 +252,8 @@ TEST_F(WellSearch, WhicheverCallFailsAtTheStartItIsToldAndTheDialogCanBeUsed) {
         kv::WindowSystem::Get().SetDesktop(&listening);
         listening.ActInNextDialog([&](kv::User& user) {
             EXPECT_EQ(test::FocusedId(), kArea);
+            // Whoever leaves the area box while the blocks are not listed is led to the block box.
+            user.Focus(kBlock);
             user.Type(kWell, "1");
             user.Click(IDOK);
         });

@@ -2,9 +2,9 @@
 
 namespace test {
 
-/// Statements that every engine takes: areas with blocks whose corners lie in two maps. In the map from
-/// 28 to 29 degrees north and 90 to 91 west there are GRAND ISLE (two codes under one MMS code),
-/// O'HARA BAY, which has no MMS code, and LAKE.
+/// Statements that every engine takes: areas with blocks whose corners lie in two maps. In the map
+/// from 28 to 29 degrees north and 90 to 91 west there are GRAND ISLE (two codes under one MMS
+/// code), O'HARA BAY, which has no MMS code, and LAKE.
 inline constexpr const char* kBuiltMapTables = R"(
 create table gulf_mexico_connam2 (areaname text, stcode text, area_abbr text);
 create table gulf_mexico_lbi (areacode text, lbnum text, lbext text, refnum integer);

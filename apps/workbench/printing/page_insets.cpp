@@ -23,10 +23,11 @@ constexpr QSizeF kSample(18, 11);
 constexpr double kLongestBar = 2.2 * kPointsPerInch;
 constexpr double kLongestKey = 1.1 * kPointsPerInch;
 
-/// The kinds of a layer that lie in a box.
-std::set<std::uint8_t> KindsIn(const PrintPlan& plan, FeatureLayer AreaMap::*layer) {
+/// The kinds of a layer that are drawn, where it is drawn from so many points for a block on.
+std::set<std::uint8_t> KindsOf(const PrintPlan& plan, FeatureLayer AreaMap::*layer, double from) {
     std::set<std::uint8_t> kinds;
     for (const AreaMap& area : plan.map.areas) {
+        if (area.blockSize * kPointsPerInch / plan.scale < from) continue;
         (area.*layer).ForEachIn(plan.grid.Covered(), [&](std::size_t number) {
             kinds.insert((area.*layer).Kind(number));
         });
@@ -187,7 +188,8 @@ void PageInsets::AddWaters(std::vector<Row>& rows) {
 }
 
 void PageInsets::AddSpots(std::vector<Row>& rows, bool platforms) {
-    const auto kinds = KindsIn(plan_, platforms ? &AreaMap::platforms : &AreaMap::wells);
+    const auto kinds =
+        KindsOf(plan_, platforms ? &AreaMap::platforms : &AreaMap::wells, kDotsOnPaperFrom);
     const std::span<const LegendRow> known = platforms ? std::span<const LegendRow>(kPlatformRows)
                                                        : std::span<const LegendRow>(kWellRows);
     for (const LegendRow& row : known) {
@@ -202,7 +204,7 @@ void PageInsets::AddSpots(std::vector<Row>& rows, bool platforms) {
 }
 
 void PageInsets::AddPipelines(std::vector<Row>& rows) {
-    const auto kinds = KindsIn(plan_, &AreaMap::pipelines);
+    const auto kinds = KindsOf(plan_, &AreaMap::pipelines, kPipelinesOnPaperFrom);
     for (const LegendRow& row : kPipelineRows) {
         if (!kinds.contains(row.kind)) continue;
         rows.push_back({QString::fromLatin1(row.text), plan_.TextSize(kText), false, kSample,
@@ -248,7 +250,7 @@ void PageInsets::DrawKeyCells(const QRectF& place, std::int64_t page) {
         const auto row = static_cast<double>(number / plan_.grid.Columns());
         return QRectF(all.topLeft() + QPointF(column * cell.width(), row * cell.height()), cell);
     };
-    paper_.Draw(Rectangle(placeOf(page)), {look_.panelLine, {}});
+    paper_.Draw(Rectangle(placeOf(page)), {look_.edgeText, {}});
     paper_.Draw(Rectangle(all), {{}, look_.panelText, kLineWidth});
     if (std::min(cell.width(), cell.height()) < kLeastCell) return;
     QPainterPath lines;

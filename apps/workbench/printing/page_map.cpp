@@ -11,8 +11,6 @@ namespace {
 
 // From how many points for a usual block on.
 constexpr double kBlockLinesFrom = 4;
-constexpr double kDotsFrom = 4;
-constexpr double kPipelinesFrom = 10;
 constexpr double kBlockLabelsFrom = 16;
 constexpr double kCornerLabelsFrom = 60;
 constexpr double kSpotLabelsFrom = 100;
@@ -131,7 +129,7 @@ void PageMap::DrawPipelines() {
     for (const std::uint8_t kind : {kPipeOther, kPipeOil, kPipeGas}) {
         QPainterPath path;
         for (const AreaMap& area : plan_.map.areas) {
-            if (BlockSize(area) < kPipelinesFrom) continue;
+            if (BlockSize(area) < kPipelinesOnPaperFrom) continue;
             area.pipelines.ForEachIn(view_.Shown(), [&](std::size_t number) {
                 if (area.pipelines.Kind(number) == kind)
                     AddLine(path, OnPage(area.pipelines.Points(number)));
@@ -144,7 +142,7 @@ void PageMap::DrawPipelines() {
 void PageMap::DrawSpots(bool platforms, PageLabels& labels) {
     for (const AreaMap& area : plan_.map.areas) {
         const double size = BlockSize(area);
-        if (size < kDotsFrom) continue;
+        if (size < kDotsOnPaperFrom) continue;
         const FeatureLayer& layer = platforms ? area.platforms : area.wells;
         layer.ForEachIn(view_.Shown(), [&](std::size_t number) {
             const QPointF at = view_.At(layer.Points(number).front());

@@ -5,8 +5,11 @@
 
 namespace workbench {
 
-/// From how many points for a usual block on its wells are told by their symbols.
+// From how many points for a usual block on its area's wells and platforms are dots, and then
+// symbols, and its pipelines are drawn.
+inline constexpr double kDotsOnPaperFrom = 4;
 inline constexpr double kSymbolsOnPaperFrom = 25;
+inline constexpr double kPipelinesOnPaperFrom = 10;
 /// Points of a symbol for a pixel of it on the screen.
 inline constexpr double kSymbolSize = 0.75;
 

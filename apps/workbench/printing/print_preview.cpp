@@ -58,12 +58,12 @@ PrintPreview::PrintPreview(PrintPlan plan, QWidget* parent)
     area_->setBackgroundRole(QPalette::Mid);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(area_, 1);
-    MakeButtons();
+    layout->addLayout(MakeButtons());
     GoTo(0);
     resize(kFirstSize);
 }
 
-void PrintPreview::MakeButtons() {
+QLayout* PrintPreview::MakeButtons() {
     auto* row = new QHBoxLayout;
     const auto add = [&](const QString& text) {
         auto* button = new QPushButton(text);
@@ -87,7 +87,7 @@ void PrintPreview::MakeButtons() {
     connect(actual_, &QPushButton::toggled, this, &PrintPreview::Zoom);
     connect(print, &QPushButton::clicked, this, &QDialog::accept);
     connect(close, &QPushButton::clicked, this, &QDialog::reject);
-    layout()->addItem(row);
+    return row;
 }
 
 void PrintPreview::GoTo(std::int64_t page) {

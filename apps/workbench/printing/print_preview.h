@@ -44,7 +44,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    void MakeButtons();
+    QLayout* MakeButtons();
     void GoTo(std::int64_t page);
     void Zoom();
 

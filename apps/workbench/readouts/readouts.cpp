@@ -98,9 +98,16 @@ void Readouts::Toggle(const char* className) {
         kv::WindowSystem::Get().Settle();
     } else {
         tools_.Show(*adaptors::Find(className));
+        GiveKeysToMap();
     }
     // A row that can be checked has changed of itself.
     Show(shown_);
+}
+
+/// It is on the map that the readout is worked with.
+void Readouts::GiveKeysToMap() {
+    canvas_->window()->activateWindow();
+    canvas_->setFocus();
 }
 
 void Readouts::MapGoes() {

@@ -53,6 +53,7 @@ private:
     std::unique_ptr<adaptors::Tool> MakeDistance(CWnd* owner);
     void Watch(adaptors::Tool& tool);
     void Toggle(const char* className);
+    void GiveKeysToMap();
     void MouseAt(const Place& place);
     bool Escape();
     void Refresh();
