@@ -1,6 +1,5 @@
 #include "mapbuild/builders/quick_off_bld_dlg.h"
 
-
 #include "frame/kvdbkvn/database_fault.h"
 #include "mapbuild/builders/map_fixture.h"
 #include "print/sizing_ids.h"
