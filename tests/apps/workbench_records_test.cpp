@@ -310,6 +310,29 @@ TEST_F(WorkbenchRecords, WhoComesSecondIsToldAndKeepsWhatTheyTyped) {
     EXPECT_EQ(pane.CommentField().text().toStdString(), "mine");
 }
 
+TEST_F(WorkbenchRecords, WhatIsTypedOutlivesTheChoiceOfAnotherCommentAndOfAnotherWell) {
+    OpenCopy();
+    MakeCommentTable();
+    const Well well = SomeWell();
+    comments::Add(well.api, "theirs", "you");
+    FindByApi(well.api);
+    WellPane& pane = host->Well();
+    TypeComment("mine");
+    pane.CommentList().selectRow(0);
+    EXPECT_EQ(pane.CommentField().text().toStdString(), "mine");
+
+    const ResultTable found = host->Results().Model().Table();
+    ResultTable another = found;
+    another.cells.front() = "another";
+    pane.ShowWell(another, 0);
+    EXPECT_EQ(pane.CommentField().text(), "");
+    pane.ShowWell(found, 0);
+    EXPECT_EQ(pane.CommentField().text().toStdString(), "mine");
+    pane.Clear();
+    pane.ShowWell(found, 0);
+    EXPECT_EQ(pane.CommentField().text().toStdString(), "mine") << "the second time, too";
+}
+
 TEST_F(WorkbenchRecords, ARefreshShowsWhatOthersAdded) {
     OpenCopy();
     MakeCommentTable();

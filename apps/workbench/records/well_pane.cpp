@@ -109,9 +109,7 @@ WellPane::WellPane(QWidget* parent)
 }
 
 void WellPane::ShowWell(const ResultTable& table, int row) {
-    const std::string well = table.Cell(row, 0);
-    if (well != well_) field_->clear();
-    well_ = well;
+    TakeWell(table.Cell(row, 0));
     record_->setRowCount(table.ColumnCount());
     for (int column = 0; column < table.ColumnCount(); ++column) {
         SetRow(*record_, column,
@@ -122,10 +120,24 @@ void WellPane::ShowWell(const ResultTable& table, int row) {
 }
 
 void WellPane::Clear() {
-    well_.clear();
+    TakeWell({});
     record_->setRowCount(0);
-    field_->clear();
     Refresh();
+}
+
+void WellPane::TakeWell(const std::string& well) {
+    if (well == well_) return;
+    if (field_->isModified()) drafts_[well_] = field_->text();
+    well_ = well;
+    // As typed by the user, so that it is kept the next time, too.
+    const auto draft = drafts_.extract(well);
+    field_->setText(draft.empty() ? QString() : draft.mapped());
+    field_->setModified(!draft.empty());
+}
+
+/// What stood there was written.
+void WellPane::EmptyField() {
+    field_->setText({});
 }
 
 void WellPane::Refresh() {
@@ -172,7 +184,9 @@ const WellComment* WellPane::Chosen() const {
 }
 
 void WellPane::ShowField() {
-    if (const WellComment* chosen = Chosen()) field_->setText(Text(chosen->text));
+    const WellComment* chosen = Chosen();
+    const bool typed = field_->isModified() && !field_->text().isEmpty();
+    if (chosen && !typed) field_->setText(Text(chosen->text));
     Enable();
 }
 
@@ -208,7 +222,7 @@ void WellPane::Do(const Write& write) {
 void WellPane::Add() {
     Do([this] {
         well_comments::Add(well_, field_->text().toStdString(), UserName());
-        field_->clear();
+        EmptyField();
         return true;
     });
 }
@@ -217,7 +231,7 @@ void WellPane::Change() {
     Do([this] {
         const bool changed =
             well_comments::Change(well_, *Chosen(), field_->text().toStdString(), UserName());
-        if (changed) field_->clear();
+        if (changed) EmptyField();
         return changed;
     });
 }

@@ -2,6 +2,7 @@
 
 #include <QPointer>
 #include <QWidget>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -16,7 +17,8 @@ class QTableWidget;
 namespace workbench {
 
 /// The record of one well, with the comments of all users on it. One that is chosen in their list
-/// can be changed and removed; all that is typed stays in the field until it was written.
+/// can be changed and removed. What is typed stays in the field until it was written, and is there
+/// again when its well is.
 class WellPane : public QWidget {
     Q_OBJECT
 public:
@@ -45,6 +47,8 @@ signals:
     void Failed(const QString& words);
 
 private:
+    void TakeWell(const std::string& well);
+    void EmptyField();
     void ReadComments();
     void ShowComments();
     void ShowField();
@@ -58,6 +62,8 @@ private:
     void Do(const Write& write);
 
     std::string well_;
+    /// What was typed on other wells and not written, by their API numbers.
+    std::map<std::string, QString> drafts_;
     bool hasTable_ = false;
     std::vector<WellComment> comments_;
 
