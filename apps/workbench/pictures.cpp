@@ -1,8 +1,8 @@
 #include "workbench/pictures.h"
 
 #include <QApplication>
-#include <QDialog>
 #include <QDir>
+#include <QMessageBox>
 #include <QTimer>
 #include <cstdio>
 #include <optional>
@@ -67,6 +67,11 @@ public:
 
 private:
     void Look() {
+        // What a dialog tells while it opens stands in front of it.
+        if (auto* message = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            message->reject();
+            return;
+        }
         kv::Node* window = Opened(mainWindow_);
         if (!taken_ && window) {
             kv::WindowSystem::Get().Settle();
@@ -90,17 +95,15 @@ private:
     int turns_ = 0;
 };
 
-bool SaveDialog(Workbench& host, const adaptors::Adaptor& adaptor, const QDir& folder) {
-    const QString path =
-        folder.filePath(QString::fromStdString(adaptor.className) + QStringLiteral(".png"));
-    Photographer photographer(*host.Frame().m_hWnd, path.toStdString());
+}  // namespace
+
+bool SaveDialog(Workbench& host, const adaptors::Adaptor& adaptor, const std::string& folder) {
+    Photographer photographer(*host.Frame().m_hWnd, folder + "/" + adaptor.className + ".png");
     host.RunDialog(adaptor);
     if (photographer.Taken()) return true;
     std::fprintf(stderr, "workbench: no picture of %s\n", adaptor.className.c_str());
     return false;
 }
-
-}  // namespace
 
 void PlaySample(Workbench& host) {
     host.Runner().Finish();
@@ -130,7 +133,7 @@ bool SavePictures(Workbench& host, const std::string& folder) {
     }
     bool all = true;
     for (const adaptors::Adaptor* adaptor : adaptors::All()) {
-        all = SaveDialog(host, *adaptor, place) && all;
+        all = SaveDialog(host, *adaptor, folder) && all;
     }
     host.Outcome().clear();
     PlaySample(host);

@@ -14,6 +14,10 @@ void PlaySample(Workbench& host);
 /// standard error output, when one could not be made.
 bool SavePictures(Workbench& host, const std::string& folder);
 
+/// Writes a PNG file of one dialog with its sample inputs into a folder that is there. False, with
+/// the reason on the standard error output, when it could not be made.
+bool SaveDialog(Workbench& host, const adaptors::Adaptor& adaptor, const std::string& folder);
+
 /// Writes a PNG file of the main window.
 bool SaveWindow(Workbench& host, const std::string& path);
 

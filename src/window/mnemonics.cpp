@@ -54,13 +54,15 @@ bool IsUnit(const Node& label, const Node& ahead) {
            text.top < spin.bottom && text.bottom > spin.top;
 }
 
-/// Null where the label is no name of a field: a unit, say.
+/// Of what is seen, or hidden, together with a label. Null where the label is no name of a field: a
+/// unit, say.
 Node* FieldBehind(const Node& label) {
     const auto& siblings = label.Parent()->Children();
     const std::size_t own = PlaceAmongSiblings(label);
     if (own > 0 && IsUnit(label, *siblings[own - 1])) return nullptr;
     for (std::size_t at = own + 1; at < siblings.size(); ++at) {
-        if (siblings[at]->Visible()) return IsField(*siblings[at]) ? siblings[at].get() : nullptr;
+        if (siblings[at]->Visible() != label.Visible()) continue;
+        return IsField(*siblings[at]) ? siblings[at].get() : nullptr;
     }
     return nullptr;
 }

@@ -6,6 +6,7 @@
 
 #include "qt/drawing/text.h"
 #include "window/list_view/list_view_node.h"
+#include "window/mnemonics.h"
 #include "window/named.h"
 
 namespace kv::qt {
@@ -80,6 +81,25 @@ const Node* UnitOf(const Node& node) {
     return unit && IsLabel(*unit) ? unit : nullptr;
 }
 
+bool IsHeading(const Node& node) {
+    return IsLabel(node) && !FieldOf(node);
+}
+
+/// Of a row of headings, which are labels of no field, the one over a control; null for none.
+const Node* HeadingOf(const Node& node) {
+    const auto& siblings = node.Parent()->Children();
+    for (const auto& sibling : siblings) {
+        const CRect& other = sibling->Rect();
+        const bool over = other.left == node.Rect().left && other.bottom <= node.Rect().top;
+        if (!over || sibling->Visible() != node.Visible() || !IsHeading(*sibling)) continue;
+        const bool inRow = std::any_of(siblings.begin(), siblings.end(), [&](const auto& each) {
+            return each != sibling && each->Rect().top == other.top && IsHeading(*each);
+        });
+        if (inRow) return sibling.get();
+    }
+    return nullptr;
+}
+
 /// The nearest label or group box ahead of a control that is no unit, null for none.
 const Node* LabelAhead(const Node& node) {
     const auto first = node.Parent()->Children().begin();
@@ -109,7 +129,8 @@ bool GoesByHeadings(const Node& node) {
 
 struct Labels {
     const Node* label = nullptr;
-    const Node* unit = nullptr;
+    /// A unit, or what heads the column.
+    const Node* more = nullptr;
 };
 
 Labels FindLabels(const Node& node) {
@@ -120,7 +141,8 @@ Labels FindLabels(const Node& node) {
         if (const Node* beside = TextBeside(node)) return {beside, nullptr};
     }
     if (GoesByHeadings(node)) return {};
-    return {LabelAhead(node), UnitOf(node)};
+    const Node* unit = UnitOf(node);
+    return {LabelAhead(node), unit ? unit : HeadingOf(node)};
 }
 
 }  // namespace
@@ -148,16 +170,16 @@ QString AccessibleName(const Node& node) {
     if (IsPartOfCombo(node)) return AccessibleName(*node.Parent());
     if (!node.Parent() || node.Class() == NodeClass::kStatic) return {};
     if (GoesByHeadings(node)) return Headings(node);
-    const auto [label, unit] = FindLabels(node);
+    const auto [label, more] = FindLabels(node);
     if (!label && !node.ToolTip().empty()) return ToQString(node.ToolTip());
     const QString name = label ? NameFrom(*label) : PlainText(node.Parent()->Text());
-    return unit ? name + u' ' + NameFrom(*unit) : name;
+    return more ? name + u' ' + NameFrom(*more) : name;
 }
 
 std::vector<const Node*> LabelsOf(const Node& node) {
-    const auto [label, unit] = FindLabels(node);
+    const auto [label, more] = FindLabels(node);
     std::vector<const Node*> labels;
-    for (const Node* each : {label, unit}) {
+    for (const Node* each : {label, more}) {
         if (each) labels.push_back(each);
     }
     return labels;

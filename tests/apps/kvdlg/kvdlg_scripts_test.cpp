@@ -6,7 +6,8 @@
 // - "out": what has to stand in the outcome. Objects may hold more than is told; of "controls",
 //   those with the told ids are looked at;
 // - "error": parts of what is said, in their order, where there is no outcome.
-// In both, "${folder}" stands for a folder of the test's own.
+// In both, "${folder}" stands for a folder of the test's own as dialogs write it, "${native}" for
+// it as the machine writes it.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -58,7 +59,8 @@ protected:
     /// The text of a file of the folder, with this test's own folder in it.
     std::string Text(const std::string& name) const {
         const std::string inJson = kv::ReplaceAll(kvdlg_.folder.Dialog(), "\\", "\\\\");
-        return kv::ReplaceAll(test::ScriptFile(name), "${folder}", inJson);
+        const std::string text = kv::ReplaceAll(test::ScriptFile(name), "${folder}", inJson);
+        return kv::ReplaceAll(text, "${native}", kvdlg_.folder.Native(""));
     }
 
     test::Kvdlg kvdlg_;
