@@ -8,7 +8,7 @@ namespace adaptors {
 
 namespace {
 
-/// The areas as the table has them; null where it cannot be read, which the dialog tells.
+/// The areas as the table has them; null where it cannot be read, which is told.
 Json StoredOrder() {
     Json areas = Json::array();
     CKvDbAbsDataMgr manager(KV_CONNECT_DEFAULT);
@@ -18,7 +18,8 @@ Json StoredOrder() {
                        ".nvd2000_area_order order by seq");
         for (int row = 0; row < manager.NumberOfRows(); ++row)
             areas.push_back(manager.GetItem(row, 0));
-    } catch (const CKvException&) {
+    } catch (const CKvException& e) {
+        AfxMessageBox(e.GetErrorMessage(true, true).c_str(), 0, 0);
         areas = nullptr;
     }
     manager.FreeData();
