@@ -1,16 +1,17 @@
 #include "ratio.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdio>
-#include <limits>
 #include <utility>
 #include <vector>
 
 namespace bench {
 namespace {
 
-constexpr double kNotRun = std::numeric_limits<double>::infinity();
-constexpr int kRepetitions = 5;
+/// Ours and the peer's take turns so often, so that what slows the machine for a while slows both.
+constexpr int kTurns = 7;
+constexpr double kSecondsPerTurn = 0.3;
 
 const std::string kOurs = "/ours";
 const std::string kPeer = "/peer";
@@ -19,8 +20,8 @@ struct Pair {
     std::string name;
     double bound;
     Clock clock;
-    double ours = kNotRun;  ///< nanoseconds, of the fastest repetition
-    double peer = kNotRun;
+    std::vector<double> ours{};  ///< nanoseconds, by turn
+    std::vector<double> peer{};
 };
 
 /// In the order of their registration.
@@ -29,42 +30,19 @@ std::vector<Pair>& Pairs() {
     return pairs;
 }
 
-/// Prints the median of each run, and keeps the fastest of each half of a pair: what disturbs a run
-/// only makes it slower.
-class Reporter final : public benchmark::ConsoleReporter {
-public:
-    Reporter() : ConsoleReporter(OO_None) {}
+double Median(std::vector<double> values) {
+    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+    std::nth_element(values.begin(), middle, values.end());
+    return *middle;
+}
 
-    void ReportRuns(const std::vector<Run>& runs) override {
-        std::vector<Run> shown;
-        for (const Run& run : runs) {
-            Keep(run);
-            if (run.error_occurred || run.aggregate_name == "median") shown.push_back(run);
-        }
-        if (!shown.empty()) ConsoleReporter::ReportRuns(shown);
-    }
-    bool AnyFailed() const { return failed_; }
-
-private:
-    void Keep(const Run& run) {
-        failed_ |= run.error_occurred;
-        if (run.error_occurred || run.run_type != Run::RT_Iteration) return;
-        for (Pair& pair : Pairs()) {
-            if (run.run_name.function_name == pair.name + kOurs)
-                pair.ours = std::min(pair.ours, Nanoseconds(run, pair.clock));
-            if (run.run_name.function_name == pair.name + kPeer)
-                pair.peer = std::min(pair.peer, Nanoseconds(run, pair.clock));
-        }
-    }
-
-    static double Nanoseconds(const Run& run, Clock clock) {
-        const double time =
-            clock == Clock::kWall ? run.GetAdjustedRealTime() : run.GetAdjustedCPUTime();
-        return time / benchmark::GetTimeUnitMultiplier(run.time_unit) * 1e9;
-    }
-
-    bool failed_ = false;
-};
+/// The median of the turns' ratios: the two halves of a turn stand side by side in time.
+double RatioOf(const Pair& pair) {
+    std::vector<double> ratios;
+    for (std::size_t turn = 0; turn < pair.peer.size(); ++turn)
+        ratios.push_back(pair.ours[turn] / pair.peer[turn]);
+    return Median(std::move(ratios));
+}
 
 std::string Duration(double nanoseconds) {
     struct Unit {
@@ -79,30 +57,80 @@ std::string Duration(double nanoseconds) {
     return text;
 }
 
-/// Prints the table. Whether all ratios are within their bounds.
-bool PrintRatios() {
-    bool within = true;
-    std::printf("\n%-44s %10s %10s %8s %8s\n", "subject", "ours", "peer", "ratio", "bound");
-    for (const Pair& pair : Pairs()) {
-        if (pair.ours == kNotRun || pair.peer == kNotRun) continue;
-        const double ratio = pair.ours / pair.peer;
-        const bool above = ratio > pair.bound;
-        std::printf("%-44s %10s %10s %8.3g %8.3g%s\n", pair.name.c_str(),
-                    Duration(pair.ours).c_str(), Duration(pair.peer).c_str(), ratio, pair.bound,
-                    above ? "  ABOVE" : "");
-        within = within && !above;
+bool IsAbove(const Pair& pair) {
+    return RatioOf(pair) > pair.bound;
+}
+
+void PrintHead() {
+    std::printf("%-44s %10s %10s %8s %8s\n", "subject", "ours", "peer", "ratio", "bound");
+}
+
+void Print(const Pair& pair) {
+    std::printf("%-44s %10s %10s %8.3g %8.3g%s\n", pair.name.c_str(),
+                Duration(Median(pair.ours)).c_str(), Duration(Median(pair.peer)).c_str(),
+                RatioOf(pair), pair.bound, IsAbove(pair) ? "  ABOVE" : "");
+    std::fflush(stdout);
+}
+
+/// Prints each pair once its last turn is over, and what failed.
+class Reporter final : public benchmark::BenchmarkReporter {
+public:
+    bool ReportContext(const Context&) override {
+        PrintHead();
+        return true;
     }
-    return within;
+    void ReportRuns(const std::vector<Run>& runs) override {
+        for (const Run& run : runs) {
+            if (run.error_occurred)
+                Fail(run);
+            else
+                Keep(run);
+        }
+    }
+    bool AnyFailed() const { return failed_; }
+
+private:
+    void Fail(const Run& run) {
+        failed_ = true;
+        std::printf("%-44s failed: %s\n", run.benchmark_name().c_str(), run.error_message.c_str());
+    }
+
+    static void Keep(const Run& run) {
+        for (Pair& pair : Pairs()) {
+            const double time = Nanoseconds(run, pair.clock);
+            if (run.run_name.function_name == pair.name + kOurs) pair.ours.push_back(time);
+            if (run.run_name.function_name != pair.name + kPeer) continue;
+            pair.peer.push_back(time);
+            if (pair.peer.size() == kTurns && pair.ours.size() == kTurns) Print(pair);
+        }
+    }
+
+    static double Nanoseconds(const Run& run, Clock clock) {
+        const double time =
+            clock == Clock::kWall ? run.GetAdjustedRealTime() : run.GetAdjustedCPUTime();
+        return time / benchmark::GetTimeUnitMultiplier(run.time_unit) * 1e9;
+    }
+
+    bool failed_ = false;
+};
+
+/// Whether each pair that was run is within its bound.
+bool AllWithin() {
+    return std::ranges::none_of(Pairs(), [](const Pair& pair) {
+        return pair.ours.size() == kTurns && pair.peer.size() == kTurns && IsAbove(pair);
+    });
 }
 
 }  // namespace
 
 Subject::Subject(const std::string& name, double bound, Body ours, Body peer, Clock clock) {
     Pairs().push_back({name, bound, clock});
-    for (const auto& [half, body] : {std::pair{kOurs, ours}, {kPeer, peer}}) {
-        auto* run = benchmark::RegisterBenchmark((name + half).c_str(), body);
-        run->Repetitions(kRepetitions);
-        if (clock == Clock::kWall) run->UseRealTime();
+    for (int turn = 0; turn < kTurns; ++turn) {
+        for (const auto& [half, body] : {std::pair{kOurs, ours}, {kPeer, peer}}) {
+            auto* run = benchmark::RegisterBenchmark((name + half).c_str(), body);
+            run->MinTime(kSecondsPerTurn);
+            if (clock == Clock::kWall) run->UseRealTime();
+        }
     }
 }
 
@@ -111,8 +139,7 @@ int Run(int argc, char** argv) {
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 2;
     Reporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
-    const bool within = PrintRatios();
-    return within && !reporter.AnyFailed() ? 0 : 1;
+    return AllWithin() && !reporter.AnyFailed() ? 0 : 1;
 }
 
 }  // namespace bench

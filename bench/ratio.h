@@ -22,8 +22,8 @@ public:
     Subject(const std::string& name, double bound, Body ours, Body peer, Clock clock = Clock::kCpu);
 };
 
-/// Runs what the command line of Google Benchmark selects, then prints, for each pair that was
-/// run, our time, the peer's, their ratio and its bound. Returns the program's exit code: 1 when a
+/// Runs what the command line of Google Benchmark selects, and prints, for each pair that was run,
+/// our time, the peer's, their ratio and its bound. Returns the program's exit code: 1 when a
 /// run failed or a ratio is above its bound.
 int Run(int argc, char** argv);
 

@@ -326,6 +326,17 @@ TEST_P(DatabaseContract, CreateTableCommitsWhatCameBeforeItAndItself) {
     EXPECT_EQ(manager_.Select("select a from kvu"), 0);
 }
 
+TEST_P(DatabaseContract, AStatementIsReadAnewOnceItsTableHasOtherColumns) {
+    manager_.Connect();
+    for (const char* type : {"NUMBER", "VARCHAR2(5)"}) {
+        SCOPED_TRACE(type);
+        manager_.ExecuteDDL(std::string("create table kvu (a ") + type + ")");
+        manager_.Insert("insert into kvu values ('10')");
+        EXPECT_EQ(manager_.Select("select a from kvu where a > 9"), 1);
+        manager_.ExecuteDDL("drop table kvu");
+    }
+}
+
 TEST_P(DatabaseContract, CommitWithBlanksAndSemicolonCommits) {
     {
         CKvDbAbsDataMgr manager(1);

@@ -1,5 +1,6 @@
 #include "frame/kvdbkvn/db_abs_data_mgr.h"
 
+#include <memory>
 #include <new>
 #include <utility>
 
@@ -8,6 +9,7 @@
 #include "services/kvdbkvn/connection.h"
 #include "services/kvdbkvn/dialect/translate.h"
 #include "services/kvdbkvn/engines/engine.h"
+#include "services/kvdbkvn/known_translations.h"
 #include "services/kvdbkvn/session_pool.h"
 #include "window/dialogs/message_box.h"
 
@@ -31,23 +33,17 @@ void Log(const std::string& line) {
     CKvLog::Output(line, kLogLevel, false);
 }
 
-Translation Translate(const std::string& sql, Session& session) {
+std::shared_ptr<const Translation> Translate(const std::string& sql, Session& session) {
     // The engines' client libraries take texts that end at a zero.
     if (sql.find('\0') != std::string::npos)
         throw CKvException("Refused: the statement holds a zero byte");
-    kv::dialect::Context context;
-    context.target = session.Target();
-    context.hasOwnFunctions = session.HasOwnFunctions();
-    context.hasSchema = [&](const std::string& name) { return session.HasSchema(name); };
-    context.columnsOf = [&](const std::string& schema, const std::string& table) {
-        return session.ColumnsOf(schema, table);
-    };
-    Translation translation = kv::dialect::Translate(sql, context);
-    for (const std::string& note : translation.notes)
+    static kv::db::KnownTranslations known;
+    auto translation = known.Of(sql, session);
+    for (const std::string& note : translation->notes)
         Log(note);
-    if (translation.refusal.empty()) return translation;
-    if (!translation.text.empty()) session.Check(translation.text);
-    throw CKvException(translation.refusal);
+    if (translation->refusal.empty()) return translation;
+    if (!translation->text.empty()) session.Check(translation->text);
+    throw CKvException(translation->refusal);
 }
 
 /// As on Oracle, a definition and a grant commit what came before them, and themselves.
@@ -150,20 +146,20 @@ struct CKvDbAbsDataMgr::State {
     int Select(const std::string& sql) {
         rows.reset();
         rows = Run(sql, [&](Session& s) -> std::unique_ptr<Rows> {
-            const Translation translation = Translate(sql, s);
-            if (!MayRead(translation.kind)) throw CKvException(kv::db::kOnlyReads);
-            return s.Query(translation.text);
+            const auto translation = Translate(sql, s);
+            if (!MayRead(translation->kind)) throw CKvException(kv::db::kOnlyReads);
+            return s.Query(translation->text);
         });
         return rows->Count();
     }
 
     int Change(const std::string& sql) {
         return Run(sql, [&](Session& s) {
-            const Translation translation = Translate(sql, s);
-            const bool commits = Commits(translation.kind);
+            const auto translation = Translate(sql, s);
+            const bool commits = Commits(translation->kind);
             if (commits) Commit();
-            if (translation.text.empty() || translation.kind == Kind::kCommit) return 0;
-            const int count = s.Execute(translation.text);
+            if (translation->text.empty() || translation->kind == Kind::kCommit) return 0;
+            const int count = s.Execute(translation->text);
             changed = true;
             if (commits) Commit();
             return count;

@@ -19,6 +19,7 @@ enum class Type : std::uint8_t {
 struct Column {
     std::string name;
     Type type = Type::kUnknown;
+    bool operator==(const Column&) const = default;
 };
 
 using Columns = std::vector<Column>;
