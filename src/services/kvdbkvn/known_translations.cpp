@@ -46,6 +46,7 @@ KnownTranslations::Known KnownTranslations::Translate(const std::string& sql, Se
 
 std::shared_ptr<const dialect::Translation> KnownTranslations::Of(const std::string& sql,
                                                                   Session& session) {
+    session.StatementBegins();
     const std::string key = KeyOf(sql, session);
     if (const auto found = known_.find(key); found != known_.end()) {
         if (Holds(found->second, session)) return found->second.translation;

@@ -48,6 +48,8 @@ public:
     /// Whether there is a schema of that name, whatever the case of its letters.
     virtual bool HasSchema(const std::string& name) = 0;
 
+    /// Ahead of what `ColumnsOf` is asked about one statement.
+    virtual void StatementBegins() {}
     /// The columns of a table, in their order; the schema may be empty. None where there is no such
     /// table.
     virtual const dialect::Columns& ColumnsOf(const std::string& schema,

@@ -72,14 +72,13 @@ public:
         return sqlite3_db_filename(database_.get(), name.c_str()) != nullptr;
     }
 
+    void StatementBegins() override { columnsAreFresh_ = false; }
+
     /// Kept as long as the file's definitions are the same, whoever changes them.
     const dialect::Columns& ColumnsOf(const std::string& schema,
                                       const std::string& table) override {
-        if (!versionQuery_) versionQuery_ = Prepare("pragma schema_version");
-        const std::string version = Fetch(versionQuery_.get(), {})->Cell(0, 0);
-        sqlite3_reset(versionQuery_.get());
-        if (version != columnsVersion_) columns_.clear();
-        columnsVersion_ = version;
+        if (!columnsAreFresh_) ForgetOldColumns();
+        columnsAreFresh_ = true;
         const std::string name = schema + "." + table;
         if (const auto known = columns_.find(name); known != columns_.end()) return known->second;
         const std::string sql = ColumnsQuery(Target(), schema, table);
@@ -153,6 +152,14 @@ private:
     private:
         SqliteSession& session_;
     };
+
+    void ForgetOldColumns() {
+        if (!versionQuery_) versionQuery_ = Prepare("pragma schema_version");
+        const std::string version = Fetch(versionQuery_.get(), {})->Cell(0, 0);
+        sqlite3_reset(versionQuery_.get());
+        if (version != columnsVersion_) columns_.clear();
+        columnsVersion_ = version;
+    }
 
     /// The file is first read here, so this is where one that is no database is found out. Who
     /// only connects does not wait for those who lock it.
@@ -287,6 +294,7 @@ private:
     Database database_;
     Statement versionQuery_;
     std::string columnsVersion_;
+    bool columnsAreFresh_ = false;
     std::map<std::string, dialect::Columns> columns_;
     std::string path_;
     FileIdentity identity_;
