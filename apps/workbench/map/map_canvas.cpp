@@ -123,8 +123,19 @@ void MapCanvas::SetTaken(Taken taken, const QCursor& cursor) {
     if (!dragging_) setCursor(cursor_);
 }
 
-void MapCanvas::SetDrawnOver(std::function<void(QPainter&, const MapView&)> draw) {
-    drawnOver_ = std::move(draw);
+void MapCanvas::AddDrawnOver(std::function<void(QPainter&, const MapView&)> draw) {
+    drawnOver_.push_back(std::move(draw));
+}
+
+std::optional<QPointF> MapCanvas::ScreenAt(const Place& place) const {
+    const auto point = projection_.ToMap(place);
+    if (!point) return {};
+    const ScreenPoint at = View().ToScreen(*point);
+    return QPointF(at.x, at.y);
+}
+
+std::optional<Place> MapCanvas::PlaceAt(const QPointF& at) const {
+    return projection_.ToPlace(View().ToMap({at.x(), at.y()}));
 }
 
 void MapCanvas::SetLayers(const MapLayers& layers) {
@@ -135,7 +146,8 @@ void MapCanvas::SetLayers(const MapLayers& layers) {
 void MapCanvas::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter_.Draw(painter, model_, View(), layers_, marks_);
-    if (drawnOver_) drawnOver_(painter, View());
+    for (const auto& draw : drawnOver_)
+        draw(painter, View());
     if (ByKeys()) DrawKeyFrame(painter);
 }
 
@@ -157,7 +169,11 @@ void MapCanvas::mouseMoveEvent(QMouseEvent* event) {
         held_ = Qt::NoButton;
         Hover(at);
     }
-    emit Pointed(PlaceAt(at));
+    if (const auto place = PlaceAt(at)) {
+        emit Pointed(*place);
+    } else {
+        emit PointedNowhere();
+    }
 }
 
 void MapCanvas::Drag(const QPointF& at) {
@@ -165,7 +181,7 @@ void MapCanvas::Drag(const QPointF& at) {
     if (!dragging_ && far < QApplication::startDragDistance()) return;
     dragging_ = true;
     if (DragsLine()) {
-        emit PlaceDragged(pressedPlace_, PlaceAt(at), false);
+        DragPlace(at, false);
         return;
     }
     setCursor(Qt::ClosedHandCursor);
@@ -191,7 +207,12 @@ void MapCanvas::mouseReleaseEvent(QMouseEvent* event) {
         return;
     }
     dragging_ = false;
-    if (line) emit PlaceDragged(pressedPlace_, PlaceAt(event->position()), true);
+    if (line) DragPlace(event->position(), true);
+}
+
+void MapCanvas::DragPlace(const QPointF& at, bool done) {
+    const auto place = PlaceAt(at);
+    if (pressedPlace_ && place) emit PlaceDragged(*pressedPlace_, *place, done);
 }
 
 void MapCanvas::Click(const QPointF& at) {
@@ -202,7 +223,7 @@ void MapCanvas::Click(const QPointF& at) {
     }
     const auto block = model_.BlockAt(View().ToMap({at.x(), at.y()}));
     if (ours && block) emit BlockClicked(*block);
-    emit PlaceClicked(PlaceAt(at));
+    if (const auto place = PlaceAt(at)) emit PlaceClicked(*place);
 }
 
 void MapCanvas::mouseDoubleClickEvent(QMouseEvent* event) {

@@ -6,6 +6,7 @@
 #include "qt/map/map_widget.h"
 #include "workbench/map/map_model.h"
 #include "workbench/map/map_painter.h"
+#include "workbench/map/map_projection.h"
 #include "workbench/map/map_view.h"
 
 namespace workbench {
@@ -54,8 +55,15 @@ public:
 
     /// `cursor` is the one that the canvas has where nothing is dragged.
     void SetTaken(Taken taken, const QCursor& cursor);
-    /// What is drawn over the map.
-    void SetDrawnOver(std::function<void(QPainter&, const MapView&)> draw);
+    /// Draws over the map, and over what was added before.
+    void AddDrawnOver(std::function<void(QPainter&, const MapView&)> draw);
+
+    /// The projection that the map is drawn in.
+    const MapProjection& Projection() const { return projection_; }
+    /// Where a place is in the widget, and the place that is there; none where the projection has
+    /// no answer.
+    std::optional<QPointF> ScreenAt(const Place& place) const;
+    std::optional<Place> PlaceAt(const QPointF& at) const;
 
     const MapLayers& Layers() const { return layers_; }
     void SetLayers(const MapLayers& layers);
@@ -89,9 +97,9 @@ protected:
 
 private:
     void ChooseLook();
-    Place PlaceAt(const QPointF& at) const { return ToPlace(View().ToMap({at.x(), at.y()})); }
     bool DragsLine() const { return held_ == Qt::LeftButton && taken_ == Taken::kDrags; }
     void Drag(const QPointF& at);
+    void DragPlace(const QPointF& at, bool done);
     void Click(const QPointF& at);
     void Hover(const QPointF& at);
     void ShowMarked();
@@ -102,12 +110,13 @@ private:
     MapPainter painter_;
     MapLayers layers_;
     MapMarks marks_;
-    std::function<void(QPainter&, const MapView&)> drawnOver_;
+    MapProjection projection_;
+    std::vector<std::function<void(QPainter&, const MapView&)>> drawnOver_;
     Taken taken_ = Taken::kNothing;
     QCursor cursor_ = Qt::CrossCursor;
     Qt::MouseButton held_ = Qt::NoButton;
     bool dragging_ = false;
-    Place pressedPlace_;
+    std::optional<Place> pressedPlace_;
     QPointF pressedAt_;
     QPointF lastAt_;
 };

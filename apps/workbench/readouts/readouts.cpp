@@ -28,9 +28,9 @@ Readouts::Readouts(const MapModel& model, MapTools& tools, MapCanvas& canvas, St
                 Refresh();
             });
     canvas.installEventFilter(this);
-    canvas.SetDrawnOver([this](QPainter& painter, const MapView& view) {
+    canvas.AddDrawnOver([this](QPainter& painter, const MapView& view) {
         const auto line = distance_ ? distance_->Line() : std::nullopt;
-        if (line) DrawRubberLine(painter, view, *line, canvas_->palette());
+        if (line) DrawRubberLine(painter, view, canvas_->Projection(), *line, canvas_->palette());
     });
 }
 

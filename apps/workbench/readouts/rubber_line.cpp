@@ -55,15 +55,18 @@ void DrawLength(QPainter& painter, const QString& text, const QPointF& from, con
 
 }  // namespace
 
-void DrawRubberLine(QPainter& painter, const MapView& view, const RubberLine& line,
-                    const QPalette& palette) {
-    const auto onScreen = [&](const Place& place) {
-        const ScreenPoint at = view.ToScreen(ToMap(place));
+void DrawRubberLine(QPainter& painter, const MapView& view, const MapProjection& projection,
+                    const RubberLine& line, const QPalette& palette) {
+    const auto begin = projection.ToMap(line.from);
+    const auto end = projection.ToMap(line.to.value_or(line.from));
+    if (!begin || !end) return;
+    const auto onScreen = [&](const Point& point) {
+        const ScreenPoint at = view.ToScreen(point);
         return QPointF(at.x, at.y);
     };
     const Colors colors = ColorsOf(palette);
-    const QPointF from = onScreen(line.from);
-    const QPointF to = onScreen(line.to.value_or(line.from));
+    const QPointF from = onScreen(*begin);
+    const QPointF to = onScreen(*end);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     for (const auto& [color, width] :
@@ -71,8 +74,8 @@ void DrawRubberLine(QPainter& painter, const MapView& view, const RubberLine& li
         painter.setPen(QPen(color, width, Qt::SolidLine, Qt::RoundCap));
         painter.setBrush(color);
         painter.drawLine(from, to);
-        for (const QPointF& end : {from, to})
-            painter.drawEllipse(end, kDot, kDot);
+        for (const QPointF& tip : {from, to})
+            painter.drawEllipse(tip, kDot, kDot);
     }
     if (!line.length.empty()) {
         DrawLength(painter, QString::fromStdString(line.length), from, to, view, palette);

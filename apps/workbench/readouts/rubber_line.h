@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "workbench/map/geometry.h"
+#include "workbench/map/map_projection.h"
 #include "workbench/map/map_view.h"
 
 namespace workbench {
@@ -18,7 +18,7 @@ struct RubberLine {
 };
 
 /// Draws it over the map, with its length beside its end.
-void DrawRubberLine(QPainter& painter, const MapView& view, const RubberLine& line,
-                    const QPalette& palette);
+void DrawRubberLine(QPainter& painter, const MapView& view, const MapProjection& projection,
+                    const RubberLine& line, const QPalette& palette);
 
 }  // namespace workbench
