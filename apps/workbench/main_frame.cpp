@@ -49,7 +49,7 @@ LRESULT MainFrame::OnRun(WPARAM, LPARAM) {
 }
 
 void MainFrame::OnClose() {
-    if (m_onClosing) m_onClosing();
+    if (m_onClosing && !m_onClosing()) return;
     Default();
 }
 

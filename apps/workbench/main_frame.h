@@ -19,7 +19,7 @@ class MainFrame : public CFrameWnd {
 public:
     WorkbenchBar m_bar;
     std::function<void()> m_onRun;      ///< Run was pressed in the bar
-    std::function<void()> m_onClosing;  ///< the window is about to go
+    std::function<bool()> m_onClosing;  ///< the window is about to go; false keeps it
     std::function<void()> m_onClosed;
 
     /// No larger than the screen. False when the bar's template is missing: the library was not

@@ -87,6 +87,7 @@ Workbench::Workbench(CKvDbInfo database) : database_(std::move(database)) {
                              [this](const QString& message) { Fail(message); });
     printing_->setParent(window_);
     readouts_ = std::make_unique<Readouts>(model_, tools_, *canvas_, *status_, *commands_);
+    MakeDocumentTools();
     MakeMenus();
     new FocusRound([this] { return FocusParts(); }, window_);
     ConnectAll();
@@ -128,6 +129,14 @@ void Workbench::MakeRecordTools() {
                                window_);
 }
 
+void Workbench::MakeDocumentTools() {
+    documents_ =
+        new DocumentTools({frame_, model_, *canvas_, *status_, *commands_, history_, *readouts_,
+                           *printing_, [this](const QString& words) { Fail(words); },
+                           [this](const QString& note) { Tell(note); }, [this] { ShowTitle(); }},
+                          window_);
+}
+
 QDockWidget* Workbench::MakePane(const QString& title, const char* name, QWidget* widget) {
     auto* dock = new QDockWidget(title, window_);
     dock->setObjectName(QString::fromLatin1(name));
@@ -141,7 +150,11 @@ void Workbench::ConnectAll() {
     frame_.m_bar.m_onIdle = [this] {
         if (results_) results_->SetCurrent(PickOfBar() == reported_);
     };
-    frame_.m_onClosing = [this] { Save(); };
+    frame_.m_onClosing = [this] {
+        if (!documents_->MayLeave()) return false;
+        Save();
+        return true;
+    };
     frame_.m_onClosed = [] { QCoreApplication::quit(); };
 
     connect(canvas_, &MapCanvas::Pointed, status_, [this](const Place& place) {
@@ -154,6 +167,7 @@ void Workbench::ConnectAll() {
     });
     connect(canvas_, &MapCanvas::PickChanged, this, [this] {
         ShowTitle();
+        documents_->TakePicks(PicksOf(canvas_->GetPick()));
         commands_->Refresh();
     });
     connect(canvas_, &MapCanvas::PlaceClicked, this,
@@ -251,6 +265,7 @@ bool Workbench::UseDatabase(const CKvDbInfo& info, QString& failure) {
     frame_.m_bar.GetAreaCombo()->V_InitializeCombo();
     results_->SetTable({});
     selected_.reset();
+    documents_->Reset();
     LoadMap();
     return true;
 }
@@ -360,12 +375,13 @@ std::string Workbench::WordsOfPick() const {
     return block == kv::catalogue::kAllBlocks ? words : words + " " + block;
 }
 
-/// The database, and what of the map is picked.
+/// The document, what of the map is picked, and the database.
 void Workbench::ShowTitle() {
     std::string user, password, server;
     CKvMisc::GetParsedConnectString(user, password, server, false);
     server = server.substr(0, server.find('?'));
     QStringList parts;
+    if (const QString title = documents_->Title(); !title.isEmpty()) parts << title;
     if (!canvas_->GetPick().Empty()) parts << Described(canvas_->GetPick());
     parts << Text(std::string_view(server).substr(server.rfind('/') + 1)) << tr("Workbench");
     frame_.SetWindowText(parts.join(QStringLiteral(" - ")).toUtf8().constData());
@@ -389,6 +405,7 @@ void Workbench::ShowChosenRow(int row) {
 
 void Workbench::ShowTable(ResultTable table) {
     if (!results_) return;
+    documents_->AddCoordinates(table);
     status_->Say(Text(table.Heading(table.RowCount())));
     results_->SetTable(std::move(table));
     resultsDock_->show();
@@ -460,6 +477,7 @@ void Workbench::ShowSelected(const adaptors::Adaptor& adaptor, const adaptors::R
     if (!selected) return;
     selected_ = std::move(selected);
     canvas_->ShowSelected(OnTheMap(model_, *selected_));
+    documents_->TakePicks(PicksOf(*selected_));
     commands_->Refresh();
 }
 

@@ -10,6 +10,7 @@
 #include "adaptors/adaptor.h"
 #include "frame/kvdbkvn/db_info.h"
 #include "workbench/commands.h"
+#include "workbench/document/document_tools.h"
 #include "workbench/focus_round.h"
 #include "workbench/main_frame.h"
 #include "workbench/map/map_canvas.h"
@@ -84,6 +85,8 @@ public:
     MapTools& Tools() { return tools_; }
     const Readouts& ReadoutTools() const { return *readouts_; }
     RecordTools& Records() { return *records_; }
+    DocumentTools& Documents() { return *documents_; }
+    DocumentHistory& History() { return history_; }
     WellPane& Well() { return *well_; }
     WorkRunner& Runner() { return runner_; }
     StatusLine& Status() { return *status_; }
@@ -132,6 +135,7 @@ private:
     void Fail(const QString& message);
     void Tell(const QString& note);
     void MakeRecordTools();
+    void MakeDocumentTools();
 
     void OpenDatabase();
     void Run();
@@ -171,7 +175,9 @@ private:
     QPointer<StatusLine> status_;
     QPointer<Commands> commands_;
     QPointer<Printing> printing_;
+    QPointer<DocumentTools> documents_;
 
+    DocumentHistory history_;
     std::unique_ptr<Readouts> readouts_;
 };
 

@@ -61,6 +61,7 @@ void Workbench::MakeMenus() {
     MakeFileMenu();
     MakeEditMenu();
     MakeViewMenu();
+    documents_->MakeMenu(*window_->menuBar()->addMenu(tr("&Map")));
     readouts_->MakeMenu(*window_->menuBar()->addMenu(tr("&Tools")));
     records_->MakeMenus(*window_->menuBar(), *commands_);
     MakeDialogsMenu();
@@ -85,6 +86,8 @@ void Workbench::MakeFileMenu() {
 
 void Workbench::MakeEditMenu() {
     QMenu& menu = *window_->menuBar()->addMenu(tr("&Edit"));
+    documents_->AddUndo(menu);
+    menu.addSeparator();
     // Ctrl+C and Ctrl+A belong to whatever has the focus.
     commands_->Add(
         menu, tr("&Copy rows"), {}, [this] { results_->Copy(); },
@@ -305,7 +308,12 @@ void Workbench::ExplainKeys() {
         {tr("Ctrl+G"), tr("go to an area, a block or a place, in the bar as well")},
         {tr("Ctrl+Shift+F"), tr("find a well; Ctrl+I shows its record and the comments on it")},
         {tr("Ctrl+L"), tr("go to the bar")},
-        {tr("Ctrl+P"), tr("print the pick, or what is seen where nothing is picked")},
+        {tr("Ctrl+P"), tr("print the map that was built, the pick, or what is seen")},
+        {tr("Ctrl+Shift+N, Ctrl+Shift+Y, Ctrl+Shift+M"),
+         tr("build a map of the picked blocks, of a county, of bounds of your own")},
+        {tr("Alt+Enter, Ctrl+2"), tr("change the map that was built; show all of it")},
+        {tr("Ctrl+Shift+S, Ctrl+Shift+O"), tr("save the map that was built; open another")},
+        {tr("Ctrl+Z, Ctrl+Shift+Z"), tr("undo a change of it; do it again")},
         {tr("Click on a heading"), tr("sort the results")},
         {tr("Click, arrow keys on a row"), tr("mark it on the map")},
         {tr("Enter, double click on a row"), tr("show its block on the map")},
@@ -325,6 +333,7 @@ void Workbench::ExplainKeys() {
 }
 
 void Workbench::OpenDatabase() {
+    if (!documents_->MayLeave()) return;
     OpenDatabaseDialog dialog(database_, window_);
     while (dialog.exec() == QDialog::Accepted) {
         QString failure;

@@ -1,23 +1,17 @@
 #include <gmock/gmock.h>
 
-#include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QLabel>
-#include <QLineEdit>
-#include <QMessageBox>
 #include <QPushButton>
-#include <QTimer>
 #include <cmath>
-#include <deque>
 #include <filesystem>
 
 #include "pdf_pages.h"
 #include "print/print_control.h"
 #include "print/print_control_ids.h"
 #include "sample_block.h"
-#include "window/window_system.h"
 #include "workbench/printing/print_preview.h"
-#include "workbench_window_fixture.h"
+#include "workbench_person.h"
 
 namespace workbench {
 namespace {
@@ -28,70 +22,20 @@ using testing::HasSubstr;
 using testing::SizeIs;
 
 /// A person who prints from the File menu. The sample machine has no printer, or has one.
-class WorkbenchPrinting : public WorkbenchTest {
+class WorkbenchPrinting : public WorkbenchPerson {
 protected:
     WorkbenchPrinting() {
         kv::ResetPrinter();
         CKvGuiPrintControl::m_nMapScale = 0;
         CKvGuiPrintControl::m_bPrintLandscape = false;
         CKvGuiPrintControl::m_fPrintBoundWidth = CKvGuiPrintControl::m_fPrintBoundHeight = 36.0F;
-        QObject::connect(&person, &QTimer::timeout, [this] { Act(); });
-    }
-    ~WorkbenchPrinting() override { person.stop(); }
-
-    using Deeds = std::deque<std::function<bool()>>;
-
-    /// Triggers a row of the menu. Each deed waits until what it acts on has opened.
-    void Trigger(const char* row, Deeds todo) {
-        QAction* action = MenuAction(QString::fromLatin1(row));
-        ASSERT_TRUE(action) << row;
-        deeds = std::move(todo);
-        person.start(0);
-        action->trigger();
-        host->Runner().Finish();
-        person.stop();
-        EXPECT_THAT(deeds, SizeIs(0)) << "it did not open";
-    }
-    void Act() {
-        // A machine without a printer says so.
-        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-            boxes.push_back(box->text().toStdString());
-            (box->button(QMessageBox::No) ? box->button(QMessageBox::No)
-                                          : box->button(QMessageBox::Ok))
-                ->click();
-            return;
-        }
-        if (!deeds.empty() && deeds.front()()) {
-            deeds.pop_front();
-        }
     }
 
-    /// In the dialog ahead of printing.
-    static std::function<bool()> InDialog(std::function<void(kv::User&)> act) {
-        return [act = std::move(act), done = false]() mutable {
-            auto& modals = kv::WindowSystem::Get().Modals();
-            if (modals.empty() || done) return false;
-            done = true;
-            kv::User at(*modals.back(), [](const std::string& words) { FAIL() << words; });
-            act(at);
-            return true;
-        };
-    }
     static std::function<bool()> AtScale(const char* scale) {
         return InDialog([scale](kv::User& at) {
             at.Type(kPrintScale, scale);
             at.Click(IDOK);
         });
-    }
-    static std::function<bool()> NameFile(const std::string& path) {
-        return [path] {
-            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-            if (!dialog) return false;
-            dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))
-                ->setText(QString::fromStdString(path));
-            dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save)->click();
-            return true;
-        };
     }
     std::vector<test::PdfPage> Pages(const char* name) const {
         return test::PdfReader(QByteArray::fromStdString(folder.Read(name))).Pages();
@@ -100,10 +44,6 @@ protected:
         host->ShowOnMap({"43113"}, "391");
         ASSERT_TRUE(host->Canvas().GetPick().block);
     }
-
-    QTimer person;
-    Deeds deeds;
-    std::vector<std::string> boxes;
 };
 
 TEST_F(WorkbenchPrinting, ExportsThePickAsAPdfAtTheScaleThatWasChosen) {
@@ -147,10 +87,10 @@ TEST_F(WorkbenchPrinting, ExportsWhatIsSeenWhereNothingIsPickedOrThatIsAskedFor)
     Trigger("Export SVG...", {AtScale("100000"), NameFile(folder.Native("seen.svg"))});
     EXPECT_THAT(folder.Read("seen.svg"), HasSubstr("1 Inch = 100000 Feet"));
     PickBlock();
-    MenuAction("Print what is seen, not the pick")->setChecked(true);
+    MenuAction("What is seen")->trigger();
     Trigger("Export SVG...", {AtScale("100000"), NameFile(folder.Native("again.svg"))});
     EXPECT_THAT(folder.Read("again.svg"), testing::Not(HasSubstr(", block 391")));
-    MenuAction("Print what is seen, not the pick")->setChecked(false);
+    MenuAction("The pick, or else what is seen")->trigger();
     Trigger("Export SVG...", {AtScale("4000"), NameFile(folder.Native("pick.svg"))});
     EXPECT_THAT(folder.Read("pick.svg"), HasSubstr(", block 391"));
 }

@@ -19,6 +19,8 @@ struct BuiltMap {
     /// What it was built of, also where the record keeps none. A county is named by its identifier,
     /// as a block.
     std::vector<CKvDbUtil::Pick> picks;
+    /// Whether reports tell X and Y in the map's projection, and not in that of each area.
+    bool reportsInMapProjection = true;
 
     int Projection() const { return bounds.GetPrimeProj(); }
     bool Feet() const { return bounds.GetFeet(); }
@@ -29,7 +31,7 @@ struct BuiltMap {
 /// What the workbench keeps in a file: a built map, if there is one, and what was drawn on the map.
 /// A plain value.
 struct MapDocument {
-    /// The tables that it belongs to, with their owner ahead; empty as long as there is nothing.
+    /// The tables that it belongs to, with their owner ahead.
     std::string dataset;
     std::optional<BuiltMap> map;
     /// Null for none.

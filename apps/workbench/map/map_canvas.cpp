@@ -39,13 +39,85 @@ void MapCanvas::ChooseLook() {
 }
 
 void MapCanvas::ModelChanged() {
-    ChangeView().SetBounds(model_.Bounds());
+    projected_.Update();
+    FitBounds();
     if (!MovedByUser()) ChangeView().ShowAll();
     update();
 }
 
+/// How far the map can be moved: over all that is there, and the edge of the map that was built.
+void MapCanvas::FitBounds() {
+    Box bounds = projected_.Drawn().Bounds();
+    if (frame_) bounds.Include(frame_->Bounds());
+    ChangeView().SetBounds(bounds);
+}
+
+void MapCanvas::SetProjection(const MapProjection& projection) {
+    const auto middle = Projection().ToPlace(View().Middle());
+    const double scale = View().Scale();
+    projected_.SetProjection(projection);
+    painter_.SetProjection(projection);
+    FitBounds();
+    const auto point = middle ? projection.ToMap(*middle) : std::nullopt;
+    if (point && MovedByUser()) {
+        ChangeView().SetMiddle(*point, scale);
+    } else {
+        ChangeView().ShowAll();
+    }
+    update();
+}
+
+void MapCanvas::SetFrame(std::optional<MapFrame> frame) {
+    frame_ = std::move(frame);
+    painter_.SetFrame(frame_);
+    FitBounds();
+    update();
+}
+
+void MapCanvas::ShowFrame() {
+    constexpr double kRoomAroundFrame = 0.06;
+    if (!frame_) return;
+    ChangeView().Show(frame_->Bounds(), kRoomAroundFrame);
+    Moved();
+}
+
+Box MapCanvas::Seen() const {
+    Box box;
+    if (const auto places = SeenPlaces(View(), Projection())) {
+        box.Include(ToMap(places->least));
+        box.Include(ToMap(places->most));
+    }
+    return box;
+}
+
+std::optional<BlockRef> MapCanvas::BlockAt(const QPointF& at) const {
+    return projected_.ToSource(projected_.Drawn().BlockAt(View().ToMap({at.x(), at.y()})));
+}
+
+Pick MapCanvas::Drawn(const Pick& pick) const {
+    Pick drawn{{}, projected_.ToDrawn(pick.block)};
+    for (const AreaMap* area : pick.areas) {
+        if (const AreaMap* there = projected_.ToDrawn(area)) drawn.areas.push_back(there);
+    }
+    return drawn;
+}
+
+std::vector<BlockRef> MapCanvas::Drawn(const std::vector<BlockRef>& blocks) const {
+    std::vector<BlockRef> drawn;
+    for (const BlockRef& block : blocks) {
+        if (const auto there = projected_.ToDrawn(std::optional(block))) drawn.push_back(*there);
+    }
+    return drawn;
+}
+
+MapMarks MapCanvas::DrawnMarks() const {
+    return {Drawn(marks_.pick),      projected_.ToDrawn(marks_.hovered),  Drawn(marks_.selected),
+            Drawn(marks_.neighbors), projected_.ToDrawn(marks_.rowBlock), marks_.rowPlace};
+}
+
 void MapCanvas::ModelGoes() {
     marks_ = {};
+    projected_.Clear();
     ForgetMoves();
     update();
     emit PickChanged();
@@ -53,7 +125,7 @@ void MapCanvas::ModelGoes() {
 
 void MapCanvas::ShowPick(const Pick& pick) {
     marks_.pick = pick;
-    ChangeView().Show(pick.Bounds(), pick.block ? kRoomAroundBlock : kRoomAroundAreas);
+    ChangeView().Show(Drawn(pick).Bounds(), pick.block ? kRoomAroundBlock : kRoomAroundAreas);
     Moved();
     emit PickChanged();
 }
@@ -73,9 +145,9 @@ void MapCanvas::MarkRow(std::optional<BlockRef> block, std::optional<Place> plac
 void MapCanvas::BringRowUp() {
     Box bounds;
     if (marks_.rowPlace) {
-        bounds.Include(ToMap(*marks_.rowPlace));
-    } else if (marks_.rowBlock) {
-        bounds = marks_.rowBlock->Bounds();
+        if (const auto point = Projection().ToMap(*marks_.rowPlace)) bounds.Include(*point);
+    } else if (const auto block = projected_.ToDrawn(marks_.rowBlock)) {
+        bounds = block->Bounds();
     }
     const Box seen = View().Visible();
     if (bounds.Empty() ||
@@ -105,7 +177,7 @@ void MapCanvas::ShowNeighbors(std::vector<BlockRef> blocks) {
 void MapCanvas::ShowMarked() {
     Box bounds;
     for (const auto* blocks : {&marks_.selected, &marks_.neighbors}) {
-        for (const BlockRef& block : *blocks)
+        for (const BlockRef& block : Drawn(*blocks))
             bounds.Include(block.Bounds());
     }
     if (!bounds.Empty()) ChangeView().Show(bounds, kRoomAroundMarked);
@@ -113,7 +185,8 @@ void MapCanvas::ShowMarked() {
 }
 
 void MapCanvas::ShowPlace(const Place& place) {
-    ChangeView().SetMiddle(ToMap(place), std::max(View().Scale(), kPlaceScale));
+    if (const auto point = Projection().ToMap(place))
+        ChangeView().SetMiddle(*point, std::max(View().Scale(), kPlaceScale));
     Moved();
 }
 
@@ -128,14 +201,14 @@ void MapCanvas::AddDrawnOver(std::function<void(QPainter&, const MapView&)> draw
 }
 
 std::optional<QPointF> MapCanvas::ScreenAt(const Place& place) const {
-    const auto point = projection_.ToMap(place);
+    const auto point = Projection().ToMap(place);
     if (!point) return {};
     const ScreenPoint at = View().ToScreen(*point);
     return QPointF(at.x, at.y);
 }
 
 std::optional<Place> MapCanvas::PlaceAt(const QPointF& at) const {
-    return projection_.ToPlace(View().ToMap({at.x(), at.y()}));
+    return Projection().ToPlace(View().ToMap({at.x(), at.y()}));
 }
 
 void MapCanvas::SetLayers(const MapLayers& layers) {
@@ -145,7 +218,7 @@ void MapCanvas::SetLayers(const MapLayers& layers) {
 
 void MapCanvas::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter_.Draw(painter, model_, View(), layers_, marks_);
+    painter_.Draw(painter, projected_.Drawn(), View(), layers_, DrawnMarks());
     for (const auto& draw : drawnOver_)
         draw(painter, View());
     if (ByKeys()) DrawKeyFrame(painter);
@@ -191,7 +264,7 @@ void MapCanvas::Drag(const QPointF& at) {
 }
 
 void MapCanvas::Hover(const QPointF& at) {
-    const auto block = model_.BlockAt(View().ToMap({at.x(), at.y()}));
+    const auto block = BlockAt(at);
     if (block == marks_.hovered) return;
     marks_.hovered = block;
     update();
@@ -221,7 +294,7 @@ void MapCanvas::Click(const QPointF& at) {
         FoldLegend();
         return;
     }
-    const auto block = model_.BlockAt(View().ToMap({at.x(), at.y()}));
+    const auto block = BlockAt(at);
     if (ours && block) emit BlockClicked(*block);
     if (const auto place = PlaceAt(at)) emit PlaceClicked(*place);
 }
@@ -274,11 +347,12 @@ bool MapCanvas::event(QEvent* event) {
 QString MapCanvas::TipAt(const QPointF& at) const {
     const Point place = View().ToMap({at.x(), at.y()});
     QStringList lines;
-    if (const auto block = model_.BlockAt(place)) {
+    if (const auto block = projected_.Drawn().BlockAt(place)) {
         lines << tr("%1, block %2").arg(Text(block->area->name), Text(block->Label()));
     }
     const bool spots = MapPainter::ShowsSpots(View());
-    const auto spot = spots ? model_.SpotAt(place, kReach / View().Scale()) : std::nullopt;
+    const auto spot =
+        spots ? projected_.Drawn().SpotAt(place, kReach / View().Scale()) : std::nullopt;
     if (spot) {
         const QString label = Text(spot->Layer().Label(spot->number));
         lines << (spot->platform ? tr("Platform %1") : tr("Well %1")).arg(label);

@@ -8,6 +8,7 @@
 #include "workbench/map/map_painter.h"
 #include "workbench/map/map_projection.h"
 #include "workbench/map/map_view.h"
+#include "workbench/map/projected_map.h"
 
 namespace workbench {
 
@@ -58,8 +59,17 @@ public:
     /// Draws over the map, and over what was added before.
     void AddDrawnOver(std::function<void(QPainter&, const MapView&)> draw);
 
-    /// The projection that the map is drawn in.
-    const MapProjection& Projection() const { return projection_; }
+    /// The projection that the map is drawn in. What was in the middle stays there.
+    const MapProjection& Projection() const { return projected_.Projection(); }
+    void SetProjection(const MapProjection& projection);
+    /// How many things of the map the projection cannot show.
+    std::int64_t LeftOut() const { return projected_.LeftOut(); }
+    /// The edge of the map that was built, in that projection.
+    void SetFrame(std::optional<MapFrame> frame);
+    /// Brings all within the edge into sight.
+    void ShowFrame();
+    /// A box around what is seen, in Mercator's projection as the model is.
+    Box Seen() const;
     /// Where a place is in the widget, and the place that is there; none where the projection has
     /// no answer.
     std::optional<QPointF> ScreenAt(const Place& place) const;
@@ -103,14 +113,20 @@ private:
     void Click(const QPointF& at);
     void Hover(const QPointF& at);
     void ShowMarked();
+    void FitBounds();
+    std::optional<BlockRef> BlockAt(const QPointF& at) const;
+    Pick Drawn(const Pick& pick) const;
+    std::vector<BlockRef> Drawn(const std::vector<BlockRef>& blocks) const;
+    MapMarks DrawnMarks() const;
     void FoldLegend();
     QString TipAt(const QPointF& at) const;
 
     const MapModel& model_;
+    ProjectedMap projected_{model_};
+    std::optional<MapFrame> frame_;
     MapPainter painter_;
     MapLayers layers_;
     MapMarks marks_;
-    MapProjection projection_;
     std::vector<std::function<void(QPainter&, const MapView&)>> drawnOver_;
     Taken taken_ = Taken::kNothing;
     QCursor cursor_ = Qt::CrossCursor;

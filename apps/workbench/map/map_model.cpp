@@ -116,10 +116,14 @@ std::string_view WaterSuffix(std::string_view areaCode) {
 }
 
 void AreaMap::Finish() {
+    Finish(Unite(blocks));
+}
+
+void AreaMap::Finish(Outline known) {
     for (FeatureLayer* layer : {&blocks, &wells, &platforms, &pipelines})
         layer->Finish();
     water = WaterOf(code);
-    outline = Unite(blocks);
+    outline = std::move(known);
     labelAt = Middle(blocks);
     labelRoom = RoomAt(outline, labelAt);
     blockSize = UsualSize(blocks);

@@ -55,6 +55,8 @@ struct AreaMap {
     double blockSize = 0;  ///< side of a usual block, map units
 
     void Finish();
+    /// The same where it is known what the blocks look like together.
+    void Finish(Outline known);
 };
 
 /// One block of the map.

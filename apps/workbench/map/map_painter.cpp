@@ -68,6 +68,10 @@ std::string Wrapped(const std::string& name) {
     return wrapped;
 }
 
+QPointF CornerOf(const QSizeF& size, const QPointF& middle) {
+    return {std::round(middle.x() - size.width() / 2), std::round(middle.y() - size.height() / 2)};
+}
+
 }  // namespace
 
 QPointF MapPainter::At(const Point& point) const {
@@ -104,6 +108,9 @@ void MapPainter::Draw(QPainter& painter, const MapModel& model, const MapView& v
     PrepareArt();
     FindVisible(model);
     board_.Reset(view.Width(), view.Height());
+    panels_.clear();
+    edges_.clear();
+    if (layers.graticule) curves_ = CurvesOf(view, projection_);
 
     const QRectF all(0, 0, view.Width(), view.Height());
     painter.fillRect(all, look_.ground);
@@ -119,6 +126,7 @@ void MapPainter::Draw(QPainter& painter, const MapModel& model, const MapView& v
     DrawRowMark(marks);
 
     DrawScaleBar();
+    if (frame_) DrawTitle();
     legendHeading_ = {};
     if (layers.legend) DrawLegend();
     if (layers.graticule) DrawEdgeLabels();
@@ -129,6 +137,7 @@ void MapPainter::Draw(QPainter& painter, const MapModel& model, const MapView& v
         if (layers.platforms) DrawSpotLabels(true);
         if (layers.wells) DrawSpotLabels(false);
     }
+    if (frame_) DrawFrame();
 }
 
 void MapPainter::PrepareArt() {
@@ -302,7 +311,9 @@ void MapPainter::DrawRowMark(const MapMarks& marks) {
     };
     painter_->setBrush(Qt::NoBrush);
     if (marks.rowPlace) {
-        const QPointF at = At(workbench::ToMap(*marks.rowPlace));
+        const auto point = projection_.ToMap(*marks.rowPlace);
+        if (!point) return;
+        const QPointF at = At(*point);
         draw([&] { painter_->drawEllipse(at, kRadius, kRadius); });
     } else if (marks.rowBlock) {
         const BlockRef& block = *marks.rowBlock;
@@ -324,45 +335,70 @@ void MapPainter::DrawMarkedBlocks(const std::vector<BlockRef>& blocks, const QCo
     }
 }
 
-/// Whole lines from afar; among the lines of blocks only marks at the edges.
+/// Whole lines from afar, and on a map that was built; among the lines of blocks only marks at the
+/// edges.
 void MapPainter::DrawGraticule() {
-    const Graticule lines = GraticuleOf(*view_);
-    const double width = view_->Width();
-    const double height = view_->Height();
+    const int width = view_->Width();
+    const int height = view_->Height();
     const bool whole = view_->Scale() < kGraticuleUntil;
+    painter_->save();
+    if (whole || frame_) {
+        if (!whole) {
+            QPainterPath map;
+            map.addPolygon(FrameOnScreen());
+            painter_->setClipPath(map);
+        }
+        painter_->setPen(QPen(look_.graticule, 0));
+        DrawCurves(curves_.meridians);
+        DrawCurves(curves_.parallels);
+    }
+    if (!whole) {
+        const int tick = static_cast<int>(kTick);
+        painter_->setPen(QPen(look_.edgeText, 0));
+        painter_->setClipRegion(QRegion(0, 0, width, tick) |
+                                QRegion(0, height - tick, width, tick));
+        DrawCurves(curves_.meridians);
+        painter_->setClipRegion(QRegion(0, 0, tick, height) |
+                                QRegion(width - tick, 0, tick, height));
+        DrawCurves(curves_.parallels);
+    }
+    painter_->restore();
+}
+
+void MapPainter::DrawCurves(const std::vector<GraticuleCurve>& curves) {
     lines_.clear();
-    for (const double lon : lines.longitudes) {
-        const double x = At(workbench::ToMap({0, lon})).x();
-        lines_.emplace_back(x, 0, x, whole ? height : kTick);
-        if (!whole) lines_.emplace_back(x, height - kTick, x, height);
+    for (const GraticuleCurve& curve : curves) {
+        for (std::size_t i = 1; i < curve.points.size(); ++i) {
+            const ScreenPoint& from = curve.points[i - 1];
+            const ScreenPoint& to = curve.points[i];
+            lines_.emplace_back(from.x, from.y, to.x, to.y);
+        }
     }
-    for (const double lat : lines.latitudes) {
-        const double y = At(workbench::ToMap({lat, 0})).y();
-        lines_.emplace_back(0, y, whole ? width : kTick, y);
-        if (!whole) lines_.emplace_back(width - kTick, y, width, y);
-    }
-    painter_->setPen(QPen(whole ? look_.graticule : look_.edgeText, 0));
     painter_->drawLines(lines_.data(), static_cast<int>(lines_.size()));
 }
 
 void MapPainter::DrawEdgeLabels() {
-    const Graticule lines = GraticuleOf(*view_);
-    for (const double lon : lines.longitudes) {
-        const double x = At(workbench::ToMap({0, lon})).x();
-        PutLabel(edgeLabels_, ShortAngle(lon, 'E', 'W'), {x, view_->Height() - kEdge});
+    const double bottom = view_->Height();
+    for (const GraticuleCurve& curve : curves_.meridians) {
+        if (const auto x = curve.XAt(bottom))
+            PutEdgeLabel(ShortAngle(curve.angle, 'E', 'W'), {*x, bottom - kEdge});
     }
-    for (const double lat : lines.latitudes) {
-        const std::string label = ShortAngle(lat, 'N', 'S');
-        const double half = edgeLabels_.SizeOf(label).width() / 2;
-        PutLabel(edgeLabels_, label, {kTick + half, At(workbench::ToMap({lat, 0})).y()});
+    for (const GraticuleCurve& curve : curves_.parallels) {
+        const auto y = curve.YAt(0);
+        if (!y) continue;
+        const std::string label = ShortAngle(curve.angle, 'N', 'S');
+        PutEdgeLabel(label, {kTick + edgeLabels_.SizeOf(label).width() / 2, *y});
     }
+}
+
+void MapPainter::PutEdgeLabel(const std::string& label, QPointF middle) {
+    if (PutLabel(edgeLabels_, label, middle)) edges_.emplace_back(label, middle);
 }
 
 bool MapPainter::PutLabel(LabelArt& art, std::string_view label, QPointF middle) {
     const QPixmap& pixmap = art.Of(label);
     const QSizeF size = pixmap.deviceIndependentSize();
-    const QPointF corner(std::round(middle.x() - size.width() / 2),
-                         std::round(middle.y() - size.height() / 2));
+    const QPointF corner = CornerOf(size, middle);
     if (!board_.Take(corner.x(), corner.y(), size.width(), size.height())) return false;
     painter_->drawPixmap(corner, pixmap);
     return true;
@@ -491,21 +527,27 @@ void MapPainter::DrawSpotLabels(bool platforms) {
     }
 }
 
+/// The ground of a panel, which keeps labels off.
+QRectF MapPainter::DrawPanel(const QRectF& panel) {
+    board_.Take(panel.x(), panel.y(), panel.width(), panel.height());
+    panels_.push_back(panel);
+    painter_->setPen(QPen(look_.panelLine, 1));
+    painter_->setBrush(look_.panel);
+    painter_->drawRoundedRect(panel.translated(0.5, 0.5), 4, 4);
+    return panel;
+}
+
 void MapPainter::DrawScaleBar() {
     const ScreenPoint at{view_->Width() / 2.0, view_->Height() - kMargin};
-    const ScaleBar bar = ScaleBarOf(*view_, at, 140);
+    const ScaleBar bar = ScaleBarOf(*view_, at, 140, projection_);
     if (bar.pixels <= 0) return;
     const QFont font = Sized(font_, 0.78, QFont::Normal);
     const QFontMetricsF metrics(font);
     const QString text = QString::fromStdString(bar.label);
     const double width = std::max(bar.pixels, metrics.horizontalAdvance(text)) + 2 * kMargin;
     const double height = metrics.height() + 14;
-    const QRectF panel(view_->Width() - kMargin - width, view_->Height() - 2 * kEdge - height,
-                       width, height);
-    board_.Take(panel.x(), panel.y(), panel.width(), panel.height());
-    painter_->setPen(QPen(look_.panelLine, 1));
-    painter_->setBrush(look_.panel);
-    painter_->drawRoundedRect(panel.translated(0.5, 0.5), 4, 4);
+    const QRectF panel = DrawPanel(
+        {view_->Width() - kMargin - width, view_->Height() - 2 * kEdge - height, width, height});
     painter_->setFont(font);
     painter_->setPen(look_.panelText);
     painter_->drawText(panel.adjusted(0, 3, 0, 0), Qt::AlignHCenter | Qt::AlignTop, text);
@@ -516,6 +558,60 @@ void MapPainter::DrawScaleBar() {
     painter_->setBrush(Qt::NoBrush);
     painter_->setPen(QPen(look_.panelText, 1.4));
     painter_->drawPolyline(corners, 4);
+}
+
+/// What the built map is called, how it is projected and at what scale.
+void MapPainter::DrawTitle() {
+    const QFont bold = Sized(font_, 0.95, QFont::DemiBold);
+    const QFont font = Sized(font_, 0.78, QFont::Normal);
+    const QFontMetricsF large(bold);
+    const QFontMetricsF small(font);
+    const double most = view_->Width() / 2.0;
+    const QString name = large.elidedText(frame_->name, Qt::ElideRight, most);
+    const QString details = small.elidedText(frame_->details, Qt::ElideRight, most);
+    const double width =
+        std::max(large.horizontalAdvance(name), small.horizontalAdvance(details)) + 2 * kMargin;
+    const QRectF panel =
+        DrawPanel({kMargin, kMargin, std::ceil(width), large.height() + small.height() + 8});
+    const QRectF text = panel.adjusted(kMargin, 4, 0, -4);
+    painter_->setPen(look_.panelText);
+    painter_->setFont(bold);
+    painter_->drawText(text, Qt::AlignLeft | Qt::AlignTop, name);
+    painter_->setFont(font);
+    painter_->drawText(text, Qt::AlignLeft | Qt::AlignBottom, details);
+}
+
+QPolygonF MapPainter::FrameOnScreen() const {
+    return Ring(frame_->outline);
+}
+
+/// Over all that is on the map, labels as well; panels and the graticule's labels stay as they are.
+void MapPainter::DrawFrame() {
+    constexpr double kDimmed = 0.62;
+    const QRect all(0, 0, view_->Width(), view_->Height());
+    const QPolygonF frame = FrameOnScreen();
+    QRegion open(all);
+    for (const QRectF& panel : panels_)
+        open -= panel.toAlignedRect();
+    QPainterPath outside;
+    outside.addRect(all);
+    outside.addPolygon(frame);
+    outside.closeSubpath();
+    painter_->save();
+    painter_->setClipRegion(open);
+    painter_->fillPath(outside, WithAlpha(look_.ground, kDimmed));
+    painter_->setBrush(Qt::NoBrush);
+    const auto line = [&](const QColor& color, double width) {
+        painter_->setPen(QPen(color, width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+        painter_->drawPolygon(frame);
+    };
+    line(look_.halo, 4.5);
+    line(look_.panelText, 2);
+    for (const auto& [label, middle] : edges_) {
+        const QPixmap& pixmap = edgeLabels_.Of(label);
+        painter_->drawPixmap(CornerOf(pixmap.deviceIndependentSize(), middle), pixmap);
+    }
+    painter_->restore();
 }
 
 std::vector<MapPainter::LegendLine> MapPainter::LegendLines() {
@@ -583,13 +679,9 @@ void MapPainter::DrawLegend() {
     for (const LegendLine& line : lines)
         width = std::max(width, metrics.horizontalAdvance(line.text));
     const double height = std::max(metrics.height() + 2, MapSymbols::kSize + 2);
-    const QRectF panel(view_->Width() - kMargin - (width + 44), kMargin, width + 44,
-                       height * static_cast<double>(lines.size() + 1) + 12);
-    board_.Take(panel.x(), panel.y(), panel.width(), panel.height());
+    const QRectF panel = DrawPanel({view_->Width() - kMargin - (width + 44), kMargin, width + 44,
+                                    height * static_cast<double>(lines.size() + 1) + 12});
     legendHeading_ = QRectF(panel.topLeft(), QSizeF(panel.width(), height + 8));
-    painter_->setPen(QPen(look_.panelLine, 1));
-    painter_->setBrush(look_.panel);
-    painter_->drawRoundedRect(panel.translated(0.5, 0.5), 4, 4);
 
     double y = panel.top() + 6 + height / 2;
     const QPointF mark(std::round(panel.left() + 19), std::round(y));

@@ -11,10 +11,13 @@
 #include <string_view>
 #include <vector>
 
+#include "workbench/map/graticule.h"
 #include "workbench/map/label_art.h"
 #include "workbench/map/label_board.h"
+#include "workbench/map/map_frame.h"
 #include "workbench/map/map_look.h"
 #include "workbench/map/map_model.h"
+#include "workbench/map/map_projection.h"
 #include "workbench/map/map_symbols.h"
 #include "workbench/map/map_view.h"
 
@@ -49,6 +52,10 @@ public:
     void SetLook(const MapLook& look) { look_ = look; }
     const MapLook& Look() const { return look_; }
     void SetFont(const QFont& font) { font_ = font; }
+    /// That of the model that is drawn.
+    void SetProjection(const MapProjection& projection) { projection_ = projection; }
+    /// A map that was built: its edge is drawn, and what lies outside is dimmed.
+    void SetFrame(std::optional<MapFrame> frame) { frame_ = std::move(frame); }
     /// Whether wells and platforms can be told apart in this view.
     static bool ShowsSpots(const MapView& view);
 
@@ -89,7 +96,9 @@ private:
     void DrawMarkedBlocks(const std::vector<BlockRef>& blocks, const QColor& color);
 
     void DrawGraticule();
+    void DrawCurves(const std::vector<GraticuleCurve>& curves);
     void DrawEdgeLabels();
+    void PutEdgeLabel(const std::string& label, QPointF middle);
     void DrawAreaLabels();
     /// Those that are not picked.
     void DrawBlockLabels(const Pick& pick);
@@ -107,7 +116,13 @@ private:
     void DrawSpotSample(QPointF middle, bool platform, std::uint8_t kind, bool symbol);
     void AddWaters(std::vector<LegendLine>& lines);
     void DrawScaleBar();
+    QRectF DrawPanel(const QRectF& panel);
+    void DrawTitle();
+    QPolygonF FrameOnScreen() const;
+    void DrawFrame();
 
+    MapProjection projection_;
+    std::optional<MapFrame> frame_;
     MapLook look_ = LightLook();
     QFont font_;
     LabelArt areaLabels_;
@@ -124,6 +139,10 @@ private:
     std::vector<const AreaMap*> visible_;
     std::vector<QLineF> lines_;
     std::vector<QRectF> dots_;
+    GraticuleCurves curves_;
+    std::vector<QRectF> panels_;
+    /// The labels of the graticule, and where they stand.
+    std::vector<std::pair<std::string, QPointF>> edges_;
     QRectF legendHeading_;
 };
 

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "frame/kvcom/projection_code.h"
 #include "frame/kvcom/util_lldrv.h"
 
 namespace workbench {
@@ -12,9 +13,21 @@ int DriverUnits(bool feet) {
     return feet ? 0 : 1;
 }
 
+bool IsStraightMercator(int code) {
+    return kv::projection::IsOnSpheroid(code) &&
+           kv::projection::ZoneOf(code) == kv::projection::kStraightMercator;
+}
+
 }  // namespace
 
+bool DriverPlane::operator==(const DriverPlane& other) const {
+    if (code != other.code || feet != other.feet) return false;
+    return !IsStraightMercator(code) || (rectifyingPoint.lat == other.rectifyingPoint.lat &&
+                                         rectifyingPoint.lon == other.rectifyingPoint.lon);
+}
+
 void DriverPlane::UseRectifyingPoint() const {
+    if (!IsStraightMercator(code)) return;
     CKvUtilLLdrv::SetRectLat(rectifyingPoint.lat);
     CKvUtilLLdrv::SetRectLon(rectifyingPoint.lon);
 }

@@ -6,8 +6,8 @@
 
 namespace workbench {
 
-/// A projection of the coordinate driver, and the unit of X and Y in it. Straight Mercator is about
-/// the point, which is the process's: each conversion sets it first.
+/// A projection of the coordinate driver, and the unit of X and Y in it. The point that Straight
+/// Mercator is about is the process's: each conversion sets it first.
 struct DriverPlane {
     int code = -1;
     bool feet = true;
@@ -17,8 +17,10 @@ struct DriverPlane {
     std::optional<Point> ToXY(const Place& place) const;
     /// None where no place has that X and Y.
     std::optional<Place> ToPlace(const Point& xy) const;
-    /// Makes the point the process's.
+    /// Makes the point the process's, where it counts.
     void UseRectifyingPoint() const;
+    /// Of codes that have no use for it the point is not looked at.
+    bool operator==(const DriverPlane& other) const;
 };
 
 /// How places become points of the map that is drawn, and back: Mercator's projection of the
@@ -32,6 +34,9 @@ public:
     static std::optional<MapProjection> Of(const DriverPlane& plane, const Place& middle);
 
     bool IsMercator() const { return !driver_; }
+    /// What a map unit of a driver's projection is in the unit of its X and Y.
+    double UnitsOfMap() const { return driver_ ? driver_->units : 1; }
+    bool InFeet() const { return driver_ && driver_->plane.feet; }
 
     std::optional<Point> ToMap(const Place& place) const;
     std::optional<Place> ToPlace(const Point& point) const;

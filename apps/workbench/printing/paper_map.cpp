@@ -11,8 +11,6 @@ namespace workbench {
 
 namespace {
 
-constexpr int kFeet = 0;
-
 /// A side of a box is followed in so many steps: it is a curve in another projection.
 constexpr int kSteps = 16;
 /// What a box reaches beyond what was found by steps, in parts of its own size.
@@ -99,17 +97,11 @@ bool MayMeet(const AreaMap& area, const PaperProjection& projection, const Box& 
 }  // namespace
 
 std::optional<Point> PaperProjection::FromMap(const Point& onMap) const {
-    const Place place = ToPlace(onMap);
-    Point xy;
-    CKvUtilLLdrv::LLdrv(place.lat, place.lon, &xy.x, &xy.y, code, kFeet, 1, 100.0F, 0.0F, 0.0F);
-    if (xy.x == CKvUtilLLdrv::kNoXY || xy.y == CKvUtilLLdrv::kNoXY) return {};
-    return xy;
+    return Plane().ToXY(ToPlace(onMap));
 }
 
 Place PaperProjection::PlaceOf(const Point& xy) const {
-    Place place;
-    CKvUtilLLdrv::XYdrv(xy.x, xy.y, &place.lat, &place.lon, code, kFeet, 1, 100.0F, 0.0F, 0.0F);
-    return place;
+    return Plane().ToPlace(xy).value_or(Place{HUGE_VAL, HUGE_VAL});
 }
 
 std::optional<PaperProjection> ProjectionOf(const AreaMap& area) {

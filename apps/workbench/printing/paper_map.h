@@ -7,19 +7,23 @@
 #include <vector>
 
 #include "workbench/map/map_model.h"
+#include "workbench/map/map_projection.h"
 
 /// The map in a projection of its own, in which X and Y are feet.
 namespace workbench {
 
-/// A projection by its code, and what it is called.
+/// A projection by its code, and what it is called. Straight Mercator is about the point.
 struct PaperProjection {
     int code = -1;
     std::string name;
+    Place rectifyingPoint = {};
 
     /// None where the projection cannot show the place.
     std::optional<Point> FromMap(const Point& onMap) const;
     /// Angles that are not finite where no place has that X and Y.
     Place PlaceOf(const Point& xy) const;
+    /// The projection, in feet.
+    DriverPlane Plane() const { return {code, true, rectifyingPoint}; }
 };
 
 /// The usual projection of an area; none where the database has none for it.

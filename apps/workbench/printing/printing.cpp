@@ -1,6 +1,7 @@
 #include "workbench/printing/printing.h"
 
 #include <QAction>
+#include <QActionGroup>
 #include <QDateTime>
 #include <QMainWindow>
 #include <QMenu>
@@ -12,6 +13,7 @@
 #include "qt/qt_desktop.h"
 #include "window/dialogs/file_dialog.h"
 #include "window/window_system.h"
+#include "workbench/document/map_shape.h"
 #include "workbench/printing/print_job.h"
 #include "workbench/printing/print_preview.h"
 
@@ -71,6 +73,12 @@ Sheet SheetOf(const std::optional<kv::PrinterSettings>& printer, bool landscape)
     return sheet;
 }
 
+/// The scale that the map was built at: in meters that is a ratio.
+int ScaleInFeet(const BuiltMap& map) {
+    constexpr int kInchesPerFoot = 12;
+    return map.Feet() ? map.bounds.GetScale() : map.bounds.GetScale() / kInchesPerFoot;
+}
+
 InkMode InkOf(const CKvGuiPrintControl& dialog) {
     if (!dialog.GetColorMode()) return InkMode::kBlackAndWhite;
     return dialog.GetGrayMode() ? InkMode::kGray : InkMode::kColor;
@@ -97,17 +105,44 @@ void Printing::AddTo(QMenu& menu, Commands& commands, Commands::WhyNot noMap) {
         menu, tr("&Export PDF..."), {}, [this] { ExportPdf(); }, noMap);
     commands.Add(
         menu, tr("Export SV&G..."), {}, [this] { ExportSvg(); }, noMap);
-    QAction* viewOnly = menu.addAction(tr("Print what is seen, &not the pick"));
-    viewOnly->setCheckable(true);
-    connect(viewOnly, &QAction::toggled, this, &Printing::SetViewOnly);
+    AddChoice(*menu.addMenu(tr("&What is printed")));
+}
+
+void Printing::AddChoice(QMenu& menu) {
+    const std::pair<QString, What> rows[] = {
+        {tr("The &built map, or else the pick"), What::kMap},
+        {tr("The &pick, or else what is seen"), What::kPick},
+        {tr("What is &seen"), What::kView},
+    };
+    auto* group = new QActionGroup(&menu);
+    for (const auto& [text, what] : rows) {
+        QAction* row = menu.addAction(text);
+        row->setCheckable(true);
+        row->setChecked(what == what_);
+        group->addAction(row);
+        connect(row, &QAction::triggered, this, [this, what = what] { SetWhat(what); });
+    }
 }
 
 // What is printed.
 
+std::optional<Printing::Subject> Printing::BuiltSubject() {
+    const PaperProjection projection{map_->Projection(), ProjectionName(map_->Projection()),
+                                     PlaneOf(*map_).rectifyingPoint};
+    const Box bounds = XyBoundsOf(*map_, projection.Plane());
+    if (!(bounds.Width() > 0) || !(bounds.Height() > 0)) {
+        fail_(tr("%1 has no X and Y in its projection, %2.")
+                  .arg(Text(map_->name), Text(projection.name)));
+        return {};
+    }
+    return Subject{projection, bounds, Text(map_->name), ScaleInFeet(*map_)};
+}
+
 std::optional<Printing::Subject> Printing::FindSubject() {
+    if (map_ && what_ == What::kMap) return BuiltSubject();
     const Pick& pick = canvas_.GetPick();
-    const bool picked = !pick.Empty() && !viewOnly_;
-    const Box seen = canvas_.View().Visible();
+    const bool picked = !pick.Empty() && what_ != What::kView;
+    const Box seen = canvas_.Seen();
     std::vector<const AreaMap*> areas = AreasIn(model_, seen);
     if (picked) areas = pick.block ? std::vector{pick.block->area} : pick.areas;
     if (areas.empty()) {
@@ -137,6 +172,7 @@ std::optional<PrintPlan> Printing::Ask(DEVMODE* paper) {
     if (!subject) return {};
     CKvGuiPrintControl dialog(paper, &frame_);
     dialog.SetUnit(0);
+    if (subject->scale > 0) dialog.SetScale(subject->scale);
     dialog.SetBounds(
         {subject->bounds.minX, subject->bounds.maxX, subject->bounds.minY, subject->bounds.maxY});
     dialog.IsCGM(true);

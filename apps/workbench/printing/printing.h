@@ -6,6 +6,7 @@
 
 #include "window/dialogs/print_dialog.h"
 #include "workbench/commands.h"
+#include "workbench/document/map_document.h"
 #include "workbench/main_frame.h"
 #include "workbench/map/map_canvas.h"
 #include "workbench/printing/page_sink.h"
@@ -15,8 +16,8 @@
 
 namespace workbench {
 
-/// Prints, shows and exports the map: what is picked on it, or what is seen. Scale and paper are
-/// asked for first.
+/// Prints, shows and exports the map: that which was built, what is picked, or what is seen. Scale
+/// and paper are asked for first.
 class Printing : public QObject {
     Q_OBJECT
 public:
@@ -33,8 +34,11 @@ public:
     void Preview();
     void ExportPdf();
     void ExportSvg();
-    /// What is seen is printed, also where something is picked.
-    void SetViewOnly(bool viewOnly) { viewOnly_ = viewOnly; }
+    /// What is printed. Where there is no such thing it is the next one.
+    enum class What { kMap, kPick, kView };
+    void SetWhat(What what) { what_ = what; }
+    /// The map that was built, if there is one.
+    void SetMap(std::optional<BuiltMap> map) { map_ = std::move(map); }
 
 private:
     /// What is to come out, in the projection that is usual there.
@@ -42,6 +46,7 @@ private:
         PaperProjection projection;
         Box bounds;
         QString title;
+        int scale = 0;  ///< feet per inch of a map that was built
     };
     /// A kind of file that the map is exported to.
     struct Format {
@@ -52,7 +57,9 @@ private:
     using MakeSink =
         std::function<std::unique_ptr<PageSink>(const std::string& path, const PrintPlan& plan)>;
 
+    void AddChoice(QMenu& menu);
     std::optional<Subject> FindSubject();
+    std::optional<Subject> BuiltSubject();
     /// The plan as the dialog ahead of printing left it; none where it was cancelled, or what was
     /// chosen cannot be printed, which is told. `paper` is one of the caller's own, or null for the
     /// printer's.
@@ -70,7 +77,8 @@ private:
     StatusLine& status_;
     Fail fail_;
     DEVMODE exportPaper_;
-    bool viewOnly_ = false;
+    What what_ = What::kMap;
+    std::optional<BuiltMap> map_;
 };
 
 }  // namespace workbench

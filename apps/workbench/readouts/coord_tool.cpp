@@ -28,11 +28,11 @@ void CoordTool::MouseAt(const Place& place) {
 void CoordTool::Show(const Place& place) {
     at_ = place;
     const int projection = positions_.ProjectionAt(place);
-    const Point at = MapPositions::InProjection(place, projection);
-    if (otherMap_) dialog_.ResetToDefault(projection, std::string(MapPositions::kUnit));
+    const Point at = positions_.InProjection(place, projection);
+    if (otherMap_) dialog_.ResetToDefault(projection, std::string(positions_.Unit()));
     otherMap_ = false;
     positions_.SetRectifyingPoint();
-    dialog_.DialogUpdateText(at.x, at.y, projection, MapPositions::kUnit);
+    dialog_.DialogUpdateText(at.x, at.y, projection, positions_.Unit());
 }
 
 void CoordTool::MapGoes() {

@@ -43,7 +43,7 @@ void DistanceTool::Begin(Place start) {
     end_.reset();
     drawing_ = true;
     projection_ = positions_.ProjectionAt(start);
-    startAt_ = MapPositions::InProjection(start, projection_);
+    startAt_ = positions_.InProjection(start, projection_);
     Feed({});
 }
 
@@ -56,16 +56,15 @@ bool DistanceTool::GoOn() {
 
 void DistanceTool::Lead(const Place& end) {
     end_ = end;
-    Feed(MapPositions::InProjection(end, projection_));
+    Feed(positions_.InProjection(end, projection_));
 }
 
 /// An end of 0 and 0 says that there is none.
 void DistanceTool::Feed(const Point& end) {
-    if (otherMap_) dialog_.ResetToDefault(projection_, std::string(MapPositions::kUnit));
+    if (otherMap_) dialog_.ResetToDefault(projection_, std::string(positions_.Unit()));
     otherMap_ = false;
     positions_.SetRectifyingPoint();
-    dialog_.DialogUpdateText(startAt_.x, startAt_.y, end.x, end.y, projection_,
-                             MapPositions::kUnit);
+    dialog_.DialogUpdateText(startAt_.x, startAt_.y, end.x, end.y, projection_, positions_.Unit());
 }
 
 bool DistanceTool::Drop() {

@@ -11,7 +11,6 @@ namespace workbench {
 
 namespace {
 
-constexpr int kFeet = 0;
 constexpr int kClarke1866 = 100;
 constexpr int kZones = 60;
 constexpr double kZoneWidth = 6;
@@ -23,6 +22,7 @@ int UtmZoneAt(double lon) {
 }  // namespace
 
 int MapPositions::ProjectionAt(const Place& place) {
+    if (plane_) return plane_->code;
     const auto block = model_.BlockAt(ToMap(place));
     const int usual = block ? ProjectionOf(block->area->code) : kv::projection::kNone;
     return usual == kv::projection::kNone ? kClarke1866 + UtmZoneAt(place.lon) : usual;
@@ -34,14 +34,20 @@ int MapPositions::ProjectionOf(const std::string& areaCode) {
     return projections_[areaCode] = CKvDbUtil::S_GetProjectionByArea(areaCode, "");
 }
 
-Point MapPositions::InProjection(const Place& place, int projection) {
+Point MapPositions::InProjection(const Place& place, int projection) const {
+    SetRectifyingPoint();
     Point at;
-    CKvUtilLLdrv::LLdrv(place.lat, place.lon, &at.x, &at.y, projection, kFeet, 1, 100.0F, 0.0F,
-                        0.0F);
+    CKvUtilLLdrv::LLdrv(place.lat, place.lon, &at.x, &at.y, projection, InFeet() ? 0 : 1, 1, 100.0F,
+                        0.0F, 0.0F);
     return at;
 }
 
 void MapPositions::SetRectifyingPoint() const {
+    if (plane_) {
+        CKvUtilLLdrv::SetRectLat(plane_->rectifyingPoint.lat);
+        CKvUtilLLdrv::SetRectLon(plane_->rectifyingPoint.lon);
+        return;
+    }
     if (model_.Bounds().Empty()) return;
     const Place middle = ToPlace(model_.Bounds().Middle());
     CKvUtilLLdrv::SetRectLat(middle.lat);

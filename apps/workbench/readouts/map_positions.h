@@ -1,35 +1,45 @@
 #pragma once
 
 #include <map>
+#include <optional>
 #include <string>
 
 #include "workbench/map/map_model.h"
+#include "workbench/map/map_projection.h"
 
 namespace workbench {
 
-/// Places of the map as the readouts take them: X and Y in feet, in the usual projection of the
-/// area that they lie in. Where there is no area, or the dataset tells none, it is the UTM zone on
-/// the spheroid of Clarke 1866.
+/// Places of the map as the readouts take them: X and Y in the projection and the unit of the map
+/// that was built; where none was, in feet in the usual projection of the area that they lie in.
+/// Where there is no area, or the dataset tells none, it is the UTM zone on the spheroid of Clarke
+/// 1866.
 class MapPositions {
 public:
-    static constexpr const char* kUnit = "feet";
-
     /// `model` outlives it.
     explicit MapPositions(const MapModel& model) : model_(model) {}
 
+    /// That of the map that was built; none where there is no such map.
+    void SetPlane(const std::optional<DriverPlane>& plane) { plane_ = plane; }
+    const std::optional<DriverPlane>& Plane() const { return plane_; }
+
+    /// The name of the unit of X and Y.
+    const char* Unit() const { return InFeet() ? "feet" : "meter"; }
     /// The code of the projection there.
     int ProjectionAt(const Place& place);
     /// X and Y, with the driver's mark where it has no answer.
-    static Point InProjection(const Place& place, int projection);
-    /// Straight Mercator is about the middle of the map from now on.
+    Point InProjection(const Place& place, int projection) const;
+    /// Straight Mercator is from now on about the point of the map that was built, and else about
+    /// the middle of the map.
     void SetRectifyingPoint() const;
     /// The dataset is another one.
     void Forget() { projections_.clear(); }
 
 private:
+    bool InFeet() const { return !plane_ || plane_->feet; }
     int ProjectionOf(const std::string& areaCode);
 
     const MapModel& model_;
+    std::optional<DriverPlane> plane_;
     std::map<std::string, int> projections_;  ///< of areas, by their codes; -1 for none
 };
 

@@ -117,6 +117,12 @@ void Readouts::MapGoes() {
     Refresh();
 }
 
+void Readouts::SetPlane(const std::optional<DriverPlane>& plane) {
+    const bool another = plane != positions_.Plane();
+    positions_.SetPlane(plane);
+    if (another) MapGoes();
+}
+
 void Readouts::MouseAt(const Place& place) {
     if (coord_) coord_->MouseAt(place);
     if (distance_ && distance_->Drawing()) {

@@ -31,6 +31,8 @@ public:
     void MakeMenu(QMenu& menu);
     /// The map is about to be another one.
     void MapGoes();
+    /// A map was built, or is one no more: positions are in its projection and its unit.
+    void SetPlane(const std::optional<DriverPlane>& plane);
 
     /// Null as long as it was never opened.
     const CoordTool* Coordinates() const { return coord_; }

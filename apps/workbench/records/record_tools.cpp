@@ -28,7 +28,7 @@ bool IsOfWells(const ResultTable& table) {
 
 /// The corners of what is seen of the map.
 std::pair<Place, Place> CornersOf(const MapCanvas& canvas) {
-    const Box box = canvas.View().Visible();
+    const Box box = canvas.Seen();
     return {ToPlace({box.minX, box.minY}), ToPlace({box.maxX, box.maxY})};
 }
 
