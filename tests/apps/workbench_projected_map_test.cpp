@@ -6,7 +6,6 @@
 
 #include "frame/kvcom/driver_calls.h"
 #include "frame/kvcom/util_lldrv.h"
-#include "mapbuild/builders/map_arithmetic.h"
 #include "workbench/document/map_shape.h"
 #include "workbench/map/graticule.h"
 #include "workbench/map/projected_map.h"
@@ -216,8 +215,9 @@ TEST(Graticule, OfAProjectionGoesThroughTheViewFromEdgeToEdge) {
     }
     EXPECT_GT(met, 2);
     for (const GraticuleCurve& curve : curves.parallels) {
-        if (const auto left = curve.YAt(0); left && *left > 0 && *left < 600)
+        if (const auto left = curve.YAt(0); left && *left > 0 && *left < 600) {
             EXPECT_NEAR(projection.ToPlace(view.ToMap({0, *left}))->lat, curve.angle, 1e-3);
+        }
     }
 }
 
@@ -232,6 +232,8 @@ TEST(ScaleBar, OfAProjectionIsInItsOwnUnit) {
     }
 }
 
+class MapShape : public test::SampleTest {};
+
 BuiltMap MapOf(double south, double north, double west, double east, bool byXY) {
     BuiltMap map;
     CKvMapBounds& bounds = map.bounds;
@@ -239,11 +241,11 @@ BuiltMap MapOf(double south, double north, double west, double east, bool byXY) 
     bounds.SetXYBounded(byXY);
     bounds.SetLatMin(south), bounds.SetLatMax(north);
     bounds.SetLonMin(west), bounds.SetLonMax(east);
-    kv::mapbuild::ProjectToXY(bounds, {115, 0});
+    bounds.PopulateXY();
     return map;
 }
 
-TEST(MapShape, ABoxHoldsAllOfANarrowMapNearTheBorderOfAZone) {
+TEST_F(MapShape, ABoxHoldsAllOfANarrowMapNearTheBorderOfAZone) {
     const BuiltMap map = MapOf(20, 35, -87.5, -87.4, false);
     ASSERT_GT(map.bounds.GetXMin(), map.bounds.GetXMax()) << "X is the wrong way round here";
     const Box box = XyBoundsOf(map, kZone15);
@@ -257,7 +259,7 @@ TEST(MapShape, ABoxHoldsAllOfANarrowMapNearTheBorderOfAZone) {
     EXPECT_GT(frame->outline.size(), 4U) << "the sides are curves";
 }
 
-TEST(MapShape, ByXYTheEdgeIsARectangleInItsOwnProjection) {
+TEST_F(MapShape, ByXYTheEdgeIsARectangleInItsOwnProjection) {
     const BuiltMap map = MapOf(27.5, 28, -91.5, -91, true);
     const MapProjection projection = *MapProjection::Of(kZone15, *MiddleOf(map));
     const auto frame = FrameOf(map, projection);
@@ -271,7 +273,7 @@ TEST(MapShape, ByXYTheEdgeIsARectangleInItsOwnProjection) {
     EXPECT_NEAR(high.y, map.bounds.GetYMax(), 1e-3);
 }
 
-TEST(MapShape, OfBoundsWithoutValueIsNone) {
+TEST_F(MapShape, OfBoundsWithoutValueIsNone) {
     BuiltMap map = MapOf(27.5, 28, -91.5, -91, true);
     map.bounds.SetXMin(CKvUtilLLdrv::kNoXY);
     EXPECT_FALSE(FrameOf(map, InZone15()));

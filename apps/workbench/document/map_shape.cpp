@@ -1,6 +1,6 @@
 #include "workbench/document/map_shape.h"
 
-#include "mapbuild/builders/map_arithmetic.h"
+#include "frame/kvcom/util_lldrv.h"
 #include "mapbuild/proj_ctrl.h"
 
 namespace workbench {
@@ -10,8 +10,17 @@ namespace {
 /// A side of latitude or longitude is a curve in X and Y.
 constexpr int kSteps = 32;
 
+bool HasAngles(const CKvMapBounds& bounds) {
+    constexpr double kNoAngle = 1000.0;
+    return bounds.GetLatMin() != kNoAngle;
+}
+
+bool HasXY(const CKvMapBounds& bounds) {
+    return bounds.GetXMin() != CKvUtilLLdrv::kNoXY;
+}
+
 std::vector<Place> AnglesOf(const CKvMapBounds& bounds) {
-    if (!kv::mapbuild::HasAngles(bounds)) return {};
+    if (!HasAngles(bounds)) return {};
     const Place corners[] = {{bounds.GetLatMin(), bounds.GetLonMin()},
                              {bounds.GetLatMin(), bounds.GetLonMax()},
                              {bounds.GetLatMax(), bounds.GetLonMax()},
@@ -30,7 +39,7 @@ std::vector<Place> AnglesOf(const CKvMapBounds& bounds) {
 }
 
 std::vector<Point> CornersOf(const CKvMapBounds& bounds) {
-    if (!kv::mapbuild::HasXY(bounds)) return {};
+    if (!HasXY(bounds)) return {};
     return {{bounds.GetXMin(), bounds.GetYMin()},
             {bounds.GetXMax(), bounds.GetYMin()},
             {bounds.GetXMax(), bounds.GetYMax()},
@@ -47,7 +56,7 @@ DriverPlane PlaneOf(const BuiltMap& map) {
 
 std::optional<Place> MiddleOf(const BuiltMap& map) {
     const CKvMapBounds& bounds = map.bounds;
-    if (!kv::mapbuild::HasAngles(bounds)) return {};
+    if (!HasAngles(bounds)) return {};
     return Place{(bounds.GetLatMin() + bounds.GetLatMax()) / 2,
                  (bounds.GetLonMin() + bounds.GetLonMax()) / 2};
 }

@@ -572,7 +572,7 @@ void MapPainter::DrawTitle() {
     const double width =
         std::max(large.horizontalAdvance(name), small.horizontalAdvance(details)) + 2 * kMargin;
     const QRectF panel =
-        DrawPanel({kMargin, kMargin, std::ceil(width), large.height() + small.height() + 8});
+        DrawPanel({kMargin, kMargin, std::ceil(width), large.height() + small.height() + 12});
     const QRectF text = panel.adjusted(kMargin, 4, 0, -4);
     painter_->setPen(look_.panelText);
     painter_->setFont(bold);

@@ -36,7 +36,7 @@ void CoordTool::Show(const Place& place) {
 }
 
 void CoordTool::MapGoes() {
-    otherMap_ = at_.has_value();
+    otherMap_ = true;
     held_ = false;
 }
 

@@ -77,7 +77,7 @@ bool DistanceTool::Drop() {
 }
 
 void DistanceTool::MapGoes() {
-    otherMap_ = projection_ != -1;
+    otherMap_ = true;
     drawing_ = false;
     start_.reset();
     end_.reset();
