@@ -36,7 +36,7 @@ void CoordTool::Show(const Place& place) {
 }
 
 void CoordTool::MapGoes() {
-    otherMap_ = true;
+    otherMap_ = at_.has_value();
     held_ = false;
 }
 

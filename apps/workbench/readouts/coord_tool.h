@@ -48,7 +48,7 @@ private:
     KVEventMode mode_ = kReadCoordinates;
     bool takesClicks_ = true;
     bool held_ = false;
-    bool otherMap_ = true;
+    bool otherMap_ = false;
     std::optional<Place> at_;
     OnMap<CKvCoordDialog> dialog_;
 };

@@ -77,7 +77,7 @@ bool DistanceTool::Drop() {
 }
 
 void DistanceTool::MapGoes() {
-    otherMap_ = true;
+    otherMap_ = projection_ != -1;
     drawing_ = false;
     start_.reset();
     end_.reset();

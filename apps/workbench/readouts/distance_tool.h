@@ -50,7 +50,7 @@ private:
     int lineMode_ = kMeasureDistance;  ///< whether the line is to be seen
     KVEventMode mode_ = kMeasureDistance;
     bool drawing_ = false;
-    bool otherMap_ = true;
+    bool otherMap_ = false;
     std::optional<Place> start_;
     std::optional<Place> end_;
     int projection_ = -1;
