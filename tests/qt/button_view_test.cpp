@@ -49,6 +49,15 @@ TEST_F(ButtonView, IsDownAsLongAsItIsHeld) {
     EXPECT_THAT(Told(), IsEmpty());
 }
 
+TEST_F(ButtonView, TheFirstOneShowsTheFocusAsSoonAsTheWindowIsInFront) {
+    for (const kv::ControlKind kind : {kCheckBox, kRadio}) {
+        Show({At(20, kind, 7, "Go", kv::kFirstOfGroup), At(21, kind, 24, "Go")});
+        EXPECT_EQ(test::FocusedId(), 20);
+        EXPECT_NE(Button(20)->grab().toImage(), Button(21)->grab().toImage());
+        dialog.DestroyWindow();
+    }
+}
+
 TEST_F(ButtonView, AFocusedOneIsMarkedAlsoWhereAHostHasWrappedTheStyle) {
     Show({At(20, kPushButton, 7, "Go"), At(21, kPushButton, 24, "Go")});
     const QImage marked = Button(20)->grab().toImage();

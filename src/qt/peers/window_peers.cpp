@@ -92,6 +92,10 @@ protected:
     virtual QWidget* Body() { return this; }
 
     bool event(QEvent* event) override {
+        // Showing a window took this from it: what has the focus at the start is to be seen, too.
+        if (event->type() == QEvent::WindowActivate) {
+            this->setAttribute(Qt::WA_KeyboardFocusChange);
+        }
         const bool done = Base::event(event);
         if (event->type() == QEvent::WindowActivate && !HostHasFocus()) {
             Act(node_, [](Node& window) { input::Activate(window); });
