@@ -20,6 +20,7 @@ enum Column { kName, kWhere, kKey };
 
 constexpr QSize kSize{620, 420};
 constexpr int kColumnRoom = 24;
+constexpr int kRowRoom = 6;
 
 /// As it is read: "&&" stands for one "&", another "&" for none.
 QString Plain(QString text) {
@@ -68,6 +69,7 @@ CommandPalette::CommandPalette(const QMenuBar& menus, QWidget* parent)
     ForEachCommand(menus.actions(), {}, [this](QAction& action, const QString& where) {
         auto* row = new QTreeWidgetItem(list_);
         row->setText(kName, Plain(action.text()));
+        row->setSizeHint(kName, {0, fontMetrics().height() + kRowRoom});
         row->setText(kWhere, where);
         row->setText(kKey, action.shortcut().toString(QKeySequence::NativeText));
         row->setData(kName, Qt::UserRole, action.objectName());
@@ -78,7 +80,10 @@ CommandPalette::CommandPalette(const QMenuBar& menus, QWidget* parent)
         }
         actions_.push_back(&action);
     });
-    for (const int column : {kName, kWhere}) {
+    // All of them are in sight: the names have what the others leave.
+    list_->header()->setStretchLastSection(false);
+    list_->header()->setSectionResizeMode(kName, QHeaderView::Stretch);
+    for (const int column : {kWhere, kKey}) {
         list_->resizeColumnToContents(column);
         list_->setColumnWidth(column, list_->columnWidth(column) + kColumnRoom);
     }

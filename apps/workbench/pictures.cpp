@@ -73,7 +73,10 @@ private:
             return;
         }
         kv::Node* window = Opened(mainWindow_);
-        if (!taken_ && window) {
+        // What has the focus is seen in the window in front alone.
+        const QWidget* shown = window ? kv::qt::WidgetOf(*window) : nullptr;
+        const bool inFront = shown && shown->isActiveWindow();
+        if (!taken_ && window && (inFront || turns_ == kMostTurns)) {
             kv::WindowSystem::Get().Settle();
             taken_ = kv::qt::SavePicture(*window, path_);
         }

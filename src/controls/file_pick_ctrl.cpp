@@ -225,7 +225,9 @@ void CFilePickCtrl::ShowEntries() {
         AfxMessageBox("Error adding item!");
         break;
     }
-    m_lvFiles.SetColumnWidth(0, WidestName() + kBesideName);
+    // Large images would cut the names off.
+    const int larger = m_bLargeFilesIcons ? kLargeImage - kSmallImage : 0;
+    m_lvFiles.SetColumnWidth(0, WidestName() + kBesideName + larger);
 }
 
 /// In logical pixels. Each character is measured once, and then those names that come out widest by

@@ -21,7 +21,10 @@ CBrush& BackgroundBrush() {
 }  // namespace
 
 CComboBoxExx::CComboBoxExx()
-    : m_crBkColor(Color(SystemColor::kWindow)), m_crTextColor(Color(SystemColor::kWindowText)) {}
+    : m_crBkColor(Color(SystemColor::kWindow)),
+      m_crTextColor(Color(SystemColor::kWindowText)),
+      m_crFirstBkColor(m_crBkColor),
+      m_crFirstTextColor(m_crTextColor) {}
 
 void CComboBoxExx::SetColor(COLORREF& field, COLORREF color, BOOL redraw) {
     if (field == color) return;
@@ -65,9 +68,15 @@ void CComboBoxExx::OnEditUpdate() {
 
 HBRUSH CComboBoxExx::OnCtlColor(CDC* context, CWnd*, UINT) {
     const bool enabled = IsWindowEnabled();
-    const COLORREF background = enabled ? m_crBkColor : Color(SystemColor::kButtonFace);
+    const auto shown = [](COLORREF color, COLORREF first, SystemColor systems) {
+        return color == first ? Color(systems) : color;
+    };
+    const COLORREF background = enabled ? shown(m_crBkColor, m_crFirstBkColor, SystemColor::kWindow)
+                                        : Color(SystemColor::kButtonFace);
     context->SetBkColor(background);
-    context->SetTextColor(enabled ? m_crTextColor : Color(SystemColor::kGrayText));
+    context->SetTextColor(enabled
+                              ? shown(m_crTextColor, m_crFirstTextColor, SystemColor::kWindowText)
+                              : Color(SystemColor::kGrayText));
     CBrush& brush = BackgroundBrush();
     brush.DeleteObject();
     brush.CreateSolidBrush(background);

@@ -30,4 +30,8 @@ protected:
 
 private:
     void SetColor(COLORREF& field, COLORREF color, BOOL redraw);
+
+    /// What it began with: a colour that nobody has changed follows the system's.
+    COLORREF m_crFirstBkColor;
+    COLORREF m_crFirstTextColor;
 };

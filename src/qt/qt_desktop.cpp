@@ -23,6 +23,7 @@
 #include "qt/peers/window_peers.h"
 #include "qt/platform_dialogs.h"
 #include "window/dialogs/dialog.h"
+#include "window/screens.h"
 #include "window/window_system.h"
 
 namespace kv::qt {
@@ -56,8 +57,8 @@ bool HasEnded(Node& window) {
 
 }  // namespace
 
-/// What Qt tells the desktop, and the loops that run.
-class QtDesktop::Events : public QObject, public Loops {
+/// What Qt tells the desktop, the loops that run, and the screens.
+class QtDesktop::Events : public QObject, public Loops, public Screens {
 public:
     Events() {
         QApplication::instance()->installEventFilter(this);
@@ -87,6 +88,19 @@ public:
         if (wakes_) return;
         wakes_ = true;
         QCoreApplication::postEvent(this, new QEvent(kWakeEvent));
+    }
+
+    CRect ScreenAround(CPoint at) const override {
+        const QPoint place = CurrentScale().ToScreen(at);
+        const auto farFrom = [&place](const QScreen* screen) {
+            const QRect area = screen->geometry();
+            const int across = std::max({area.left() - place.x(), place.x() - area.right(), 0});
+            const int down = std::max({area.top() - place.y(), place.y() - area.bottom(), 0});
+            return across + down;
+        };
+        const QList<QScreen*> screens = QGuiApplication::screens();
+        const auto nearest = std::ranges::min_element(screens, {}, farFrom);
+        return nearest == screens.end() ? CRect{} : CurrentScale().ToLogical(RoomOn(**nearest));
     }
 
     void RunUntilEnded(Node& window) {
@@ -131,6 +145,7 @@ private:
 QtDesktop::QtDesktop() : events_(std::make_unique<Events>()) {
     SetLoops(events_.get());
     AnswerScreenReaders();
+    SetScreens(*this, events_.get());
     WindowSystem::Get().SetDesktop(this);
 }
 
@@ -139,6 +154,7 @@ QtDesktop::~QtDesktop() {
     for (const auto& window : windows)
         window->SetView(nullptr);
     WindowSystem::Get().ForgetDesktop(*this);
+    SetScreens(*this, nullptr);
     SetLoops(nullptr);
     ForgetScreenReaders();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -177,7 +193,7 @@ bool QtDesktop::HasPrinter(const std::string& device) {
 
 CSize QtDesktop::ScreenSize() {
     const QScreen* screen = QGuiApplication::primaryScreen();
-    return screen ? CurrentScale().ToLogical(RoomOn(*screen)) : CSize{};
+    return screen ? CurrentScale().ToLogical(RoomOn(*screen).size()) : CSize{};
 }
 
 CSize QtDesktop::TextExtent(const std::string& text, const Font& font) {

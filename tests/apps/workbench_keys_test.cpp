@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QScrollBar>
 #include <QTimer>
 #include <QTreeWidget>
 
@@ -220,6 +221,13 @@ TEST_F(WorkbenchKeys, ArrowsMoveThroughWhatWasFound) {
     QTest::keyClick(&palette.Words(), Qt::Key_Return);
     ASSERT_TRUE(palette.Chosen());
     EXPECT_EQ(palette.Chosen()->text().remove(u'&').toStdString(), "Zoom out");
+}
+
+TEST_F(WorkbenchKeys, CommandsShowTheirKeysWithoutScrolling) {
+    CommandPalette palette(*host->Window().menuBar());
+    palette.show();
+    QApplication::processEvents();
+    EXPECT_FALSE(palette.List().horizontalScrollBar()->isVisible());
 }
 
 TEST_F(WorkbenchKeys, ADisabledCommandThatIsFoundSaysWhy) {

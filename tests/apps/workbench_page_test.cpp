@@ -267,6 +267,19 @@ TEST_F(PageTest, TheLegendTellsWhatIsDrawnAndNothingElse) {
     EXPECT_TRUE(tells(1'000'000, "Federal shelf"));
 }
 
+TEST_F(PageTest, WhatHasNoRoomOnThePaperIsNamedOnce) {
+    const auto leftOut = [&](const Sheet& sheet) {
+        const PrintPlan plan = PlanOf(pick, 4000, sheet);
+        const PrintEnd end = Write(plan, PdfFile(folder.Native("map.pdf"), sheet, plan.title));
+        EXPECT_TRUE(end.whole);
+        return NoRoomFor(end.leftOut).toStdString();
+    };
+    EXPECT_EQ(leftOut(SheetOf(8.5, 11)), "");
+    // Several pages of two inches by one inch.
+    EXPECT_EQ(leftOut(SheetOf(3, 2)),
+              "The paper has no room for: title and scale, key of the pages, legend.");
+}
+
 bool IsGray(const QString& color) {
     const QColor each(color);
     return !each.isValid() || (each.red() == each.green() && each.green() == each.blue());

@@ -44,6 +44,8 @@ protected:
         host->ShowOnMap({"43113"}, "391");
         ASSERT_TRUE(host->Canvas().GetPick().block);
     }
+
+    std::vector<std::string> notes;
 };
 
 TEST_F(WorkbenchPrinting, ExportsThePickAsAPdfAtTheScaleThatWasChosen) {
@@ -139,6 +141,35 @@ TEST_F(WorkbenchPrinting, AStrokeFontIsToldToBeMissing) {
     EXPECT_THAT(failures, ElementsAre("There is no stroke font here. Texts are written in the "
                                       "True Type font."));
     EXPECT_THAT(Pages("block.pdf"), SizeIs(1));
+}
+
+TEST_F(WorkbenchPrinting, WhatHasNoRoomOnThePaperIsTold) {
+    Open();
+    PickBlock();
+    const auto inHugeLetters = InDialog([](kv::User& at) {
+        at.Type(kPrintScale, "4000");
+        at.Type(kMinimalFontSize, "72");
+        at.Click(IDOK);
+    });
+    Trigger("Export PDF...", {inHugeLetters, NameFile(folder.Native("block.pdf"))});
+    EXPECT_THAT(failures, ElementsAre("The paper has no room for: title and scale, legend."));
+    EXPECT_EQ(Said(), "Saved " + folder.Native("block.pdf"));
+    const auto note = [this] {
+        auto* preview = qobject_cast<PrintPreview*>(QApplication::activeModalWidget());
+        if (!preview || !preview->isActiveWindow()) return false;
+        for (const auto* label : preview->findChildren<QLabel*>()) {
+            if (label->isVisible()) notes.push_back(label->text().toStdString());
+        }
+        // The page is painted first.
+        if (notes.size() < 2) {
+            notes.clear();
+            return false;
+        }
+        preview->reject();
+        return true;
+    };
+    Trigger("Print Preview...", {inHugeLetters, note});
+    EXPECT_THAT(notes, testing::Contains("The paper has no room for: title and scale, legend."));
 }
 
 TEST_F(WorkbenchPrinting, AFileThatCannotBeWrittenIsTold) {

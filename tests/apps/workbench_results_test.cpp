@@ -282,6 +282,19 @@ TEST(ResultsPane, TellsWhichRowTheUserCameTo) {
     EXPECT_EQ(pane.ChosenRow(), 2);
 }
 
+TEST(ResultsPane, BeforeTheFirstReportItSaysWhatToDoAndShowsNoHeadings) {
+    ResultsPane pane;
+    pane.show();
+    const auto isGrey = [&] { return pane.Heading().foregroundRole() != QPalette::WindowText; };
+    EXPECT_FALSE(pane.View().horizontalHeader()->isVisible());
+    pane.SetCurrent(false);
+    EXPECT_FALSE(isGrey());
+    pane.SetTable(Sample());
+    EXPECT_TRUE(pane.View().horizontalHeader()->isVisible());
+    pane.SetCurrent(false);
+    EXPECT_TRUE(isGrey());
+}
+
 TEST(ResultsPane, AClickOnAHeadingSorts) {
     ResultsPane pane;
     pane.SetTable(Sample());

@@ -153,6 +153,16 @@ TEST_F(FilePick, TheColumnIsWiderThanTheWidestNameByThirtyFive) {
     });
 }
 
+TEST_F(FilePick, LargeImagesTakeNothingFromTheNames) {
+    folder_.Write("data/WWWWWWWWWWWW.txt", "");
+    dialog_.SetLargeFilesIcons(TRUE);
+    Run([](kv::User& user) {
+        auto& files = static_cast<CListCtrl&>(*user.Window().GetDlgItem(kFiles));
+        EXPECT_EQ(files.GetColumnWidth(0), files.GetStringWidth("WWWWWWWWWWWW.txt") + 35 + 16);
+        user.Click(IDCANCEL);
+    });
+}
+
 TEST_F(FilePick, GoesDownByADoubleClickAndUpByTheFirstLine) {
     Run([](kv::User& user) {
         user.DoubleClick(kFiles, "Gulf Blocks");

@@ -101,6 +101,18 @@ TEST_F(ComboBoxExx, PaintsInItsOwnColours) {
     EXPECT_EQ(colors.text, RGB(200, 210, 220));
 }
 
+TEST_F(ComboBoxExx, ColoursThatNobodySetFollowTheSystems) {
+    kv::Raster raster(10, 10);
+    CDC context(raster);
+    desktop.SetColor(kv::SystemColor::kWindow, RGB(35, 35, 35));
+    desktop.SetColor(kv::SystemColor::kWindowText, RGB(250, 250, 250));
+    EXPECT_EQ(kv::AskColors(*box.m_hWnd, context).background, RGB(35, 35, 35));
+    EXPECT_EQ(kv::AskColors(*box.m_hWnd, context).text, RGB(250, 250, 250));
+    box.SetTextColor(RGB(200, 210, 220), FALSE);
+    EXPECT_EQ(kv::AskColors(*box.m_hWnd, context).background, RGB(35, 35, 35));
+    EXPECT_EQ(kv::AskColors(*box.m_hWnd, context).text, RGB(200, 210, 220));
+}
+
 TEST_F(ComboBoxExx, AnotherColourRepaintsOnRequestOnly) {
     struct Counter : kv::View {
         explicit Counter(int& count) : paints(count) {}

@@ -1,5 +1,7 @@
 #include <QAbstractButton>
 #include <QLabel>
+#include <QProxyStyle>
+#include <QStyleFactory>
 #include <map>
 
 #include "qt_fixture.h"
@@ -45,6 +47,25 @@ TEST_F(ButtonView, IsDownAsLongAsItIsHeld) {
     EXPECT_FALSE(Button(20)->isDown());
     QTest::mouseRelease(Button(20), Qt::LeftButton, {}, outside);
     EXPECT_THAT(Told(), IsEmpty());
+}
+
+TEST_F(ButtonView, TheFirstOneShowsTheFocusAsSoonAsTheWindowIsInFront) {
+    for (const kv::ControlKind kind : {kCheckBox, kRadio}) {
+        Show({At(20, kind, 7, "Go", kv::kFirstOfGroup), At(21, kind, 24, "Go")});
+        EXPECT_EQ(test::FocusedId(), 20);
+        EXPECT_NE(Button(20)->grab().toImage(), Button(21)->grab().toImage());
+        dialog.DestroyWindow();
+    }
+}
+
+TEST_F(ButtonView, AFocusedOneIsMarkedAlsoWhereAHostHasWrappedTheStyle) {
+    Show({At(20, kPushButton, 7, "Go"), At(21, kPushButton, 24, "Go")});
+    const QImage marked = Button(20)->grab().toImage();
+    ASSERT_NE(marked, Button(21)->grab().toImage());
+    QProxyStyle hosts(new QProxyStyle(QStyleFactory::create(QApplication::style()->name())));
+    Button(20)->setStyle(&hosts);
+    EXPECT_EQ(Button(20)->grab().toImage(), marked);
+    Button(20)->setStyle(nullptr);
 }
 
 TEST_F(ButtonView, SpaceAndItsMnemonicPress) {

@@ -1,7 +1,10 @@
 #include <QClipboard>
 #include <QMenu>
 #include <QPlainTextEdit>
+#include <algorithm>
+#include <cstdlib>
 
+#include "dark_palette.h"
 #include "qt_fixture.h"
 #include "window/controls/edit_node.h"
 
@@ -23,6 +26,12 @@ kv::ControlRow At(int id, kv::ControlKind kind, int y, const char* text = "",
     return {id, kind, text, {7, y, 100, 12}, style};
 }
 
+/// Of the part of a colour that differs most.
+int Difference(const QColor& a, const QColor& b) {
+    return std::max({std::abs(a.red() - b.red()), std::abs(a.green() - b.green()),
+                     std::abs(a.blue() - b.blue())});
+}
+
 TEST_F(EditView, TypingArrivesInTheNodeAndShows) {
     Show({At(11, kEdit, 7), At(12, kEdit, 24)});
     Told();
@@ -41,6 +50,31 @@ TEST_F(EditView, WhatTheProgramWritesShows) {
     EXPECT_EQ(Line(11)->text(), QString::fromUtf8("12° 30'"));
     dialog.SetDlgItemText(11, "Überall");
     EXPECT_EQ(Line(11)->text(), QString::fromUtf8("Überall"));
+}
+
+TEST_F(EditView, APartIsDrawnAgainAsItIsInTheWhole) {
+    Show({At(11, kEdit, 7), At(12, kEdit, 24), At(13, kEdit, 41, "", kv::kReadOnly)});
+    const QPalette light = QApplication::palette();
+    for (const QPalette& palette : {light, test::DarkPalette(), light}) {
+        QApplication::setPalette(palette);
+        for (const int id : {11, 12, 13}) {
+            dialog.SetDlgItemText(id, std::to_string(palette.cacheKey()).c_str());
+            const QImage whole = Line(id)->grab().toImage();
+            for (const QRect& part :
+                 {Line(id)->rect().adjusted(2, 2, -2, -2), QRect(QPoint(), Line(id)->size() / 2)}) {
+                QImage drawn = whole;
+                drawn.fill(palette.color(QPalette::Window));
+                Line(id)->render(&drawn, part.topLeft(), part);
+                for (int x = part.left(); x <= part.right(); ++x) {
+                    for (int y = part.top(); y <= part.bottom(); ++y) {
+                        const QPoint at = QPoint(x, y) * whole.devicePixelRatio();
+                        ASSERT_LE(Difference(whole.pixelColor(at), drawn.pixelColor(at)), 2)
+                            << id << ": " << x << ", " << y;
+                    }
+                }
+            }
+        }
+    }
 }
 
 TEST_F(EditView, CharactersOfSeveralBytesAreTypedAndErasedWhole) {

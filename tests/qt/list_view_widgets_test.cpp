@@ -283,6 +283,27 @@ TEST_F(ListViewWidget, TheHeadingsReachToTheEndOfTheList) {
         EXPECT_EQ(picture.pixel(behind, y), picture.pixel(inside, y)) << y;
 }
 
+/// The first column of a picture in which something dark is drawn.
+int FirstInk(const QImage& picture) {
+    constexpr int kDark = 128;
+    for (int x = 0; x < picture.width(); ++x) {
+        for (int y = 0; y < picture.height(); ++y)
+            if (picture.pixelColor(x, y).lightness() < kDark) return x;
+    }
+    return picture.width();
+}
+
+TEST_F(ListViewWidget, AHeadingBeginsWhereTheTextsUnderItDo) {
+    Show({{11, kEdit, "", {7, 7, 80, 12}}, {35, kListView, "", {7, 24, 200, 90}}});
+    auto& list = dialog.Control<CListCtrl>(35);
+    list.InsertColumn(0, "Lease", LVCFMT_LEFT, 90);
+    list.InsertItem(0, "Lease");
+    Process();
+    const QRect cell = View(35)->visualRect(View(35)->model()->index(0, 0));
+    EXPECT_EQ(FirstInk(Header()->viewport()->grab().toImage()),
+              FirstInk(View(35)->viewport()->grab(cell).toImage()));
+}
+
 TEST_F(ListViewWidget, ASelectedRowWithTheFocusIsReadWell) {
     ShowList(0);
     ClickRow(35, 2);

@@ -10,6 +10,7 @@
 #include "qt_fixture.h"
 #include "support/temp_folder.h"
 #include "window/dialogs/message_box.h"
+#include "window/screens.h"
 
 using enum kv::ControlKind;
 using test::kTestTemplate;
@@ -248,6 +249,14 @@ TEST_F(Windows, MovingTheWindowIsKnownToTheNode) {
     dialog.SetWindowPos(nullptr, 10, 10, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
     EXPECT_NE(Window()->pos(), at);
     EXPECT_EQ(dialog.m_hWnd->Rect().left, 10);
+}
+
+TEST_F(Windows, AnyPlaceHasAScreenAroundIt) {
+    const CRect screen = kv::ScreenAround(CPoint{10, 10});
+    EXPECT_EQ(screen.Size(), desktop.ScreenSize());
+    EXPECT_TRUE(screen.PtInRect({10, 10}));
+    for (const CPoint far : {CPoint{-100'000, 10}, CPoint{10, 100'000}})
+        EXPECT_EQ(kv::ScreenAround(far), screen);
 }
 
 TEST_F(Windows, FocusIsTheLayers) {

@@ -28,6 +28,8 @@ constexpr CSize kScreen{960, 540};
 /// Where the caption of a group box stands, in dialog units.
 constexpr int kCaptionIndent = 6;
 constexpr int kCaptionHeight = 8;
+/// From there on what has a frame of its own does not touch that of the group box.
+constexpr int kInsideFrame = 12;
 
 int TextWidth(const std::string& text) {
     return kv::MeasureText(text, {"", kLineHeight, false, false}).cx;
@@ -140,12 +142,20 @@ private:
         const ControlRow& member = aAround ? b : a;
         if (*box.text && common.IntersectRect(CaptionOf(box), Units(member.place))) {
             Complain(Name(member) + " covers the caption of " + Name(box));
+        } else if (*box.text && HasFrame(member.kind) &&
+                   member.place.y < box.place.y + kInsideFrame) {
+            Complain(Name(member) + " touches the frame of " + Name(box));
         }
     }
 
     static bool IsAround(const ControlRow& box, const ControlRow& member) {
         return box.kind == ControlKind::kGroupBox &&
                Contains(Units(box.place), Units(member.place));
+    }
+
+    static bool HasFrame(ControlKind kind) {
+        return !IsLabel(kind) && kind != ControlKind::kGroupBox && kind != ControlKind::kRadio &&
+               kind != ControlKind::kCheckBox;
     }
 
     static CRect CaptionOf(const ControlRow& box) {

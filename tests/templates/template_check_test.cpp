@@ -68,8 +68,11 @@ TEST(TemplateCheck, LetsRowsTakeTurnsInOnePlace) {
 
 TEST(TemplateCheck, WantsAGroupBoxAroundItsMembersAndItsCaptionFree) {
     EXPECT_THAT(
-        Check({{kStatic, kGroupBox, "Box", {7, 7, 80, 40}}, {11, kEdit, "", {13, 18, 50, 12}}}),
+        Check({{kStatic, kGroupBox, "Box", {7, 7, 80, 40}}, {11, kEdit, "", {13, 19, 50, 12}}}),
         IsEmpty());
+    EXPECT_THAT(
+        Check({{kStatic, kGroupBox, "Box", {7, 7, 80, 40}}, {11, kEdit, "", {13, 18, 50, 12}}}),
+        ElementsAre("dialog 7: 11 touches the frame of \"Box\""));
     EXPECT_THAT(
         Check({{kStatic, kGroupBox, "Box", {7, 7, 80, 40}}, {11, kEdit, "", {60, 18, 50, 12}}}),
         ElementsAre("dialog 7: \"Box\" and 11 overlap"));
@@ -205,9 +208,9 @@ TEST(TemplateCheck, LetsOkAndCancelComeLastWhereverTheyStand) {
 TEST(TemplateCheck, ReadsAGroupBoxAsOne) {
     const kv::ControlRow left{kStatic, kGroupBox, "Left", {7, 7, 80, 50}};
     const kv::ControlRow right{kStatic, kGroupBox, "Right", {91, 7, 80, 50}};
-    const kv::ControlRow a{11, kEdit, "", {13, 18, 60, 12}};
+    const kv::ControlRow a{11, kEdit, "", {13, 19, 60, 12}};
     const kv::ControlRow b{12, kEdit, "", {13, 34, 60, 12}};
-    const kv::ControlRow c{13, kEdit, "", {97, 18, 60, 12}};
+    const kv::ControlRow c{13, kEdit, "", {97, 19, 60, 12}};
     const kv::ControlRow d{14, kEdit, "", {97, 34, 60, 12}};
     EXPECT_THAT(Check({left, a, b, right, c, d}), IsEmpty());
     EXPECT_THAT(Check({left, right, a, c, b, d}),
@@ -225,7 +228,7 @@ TEST(TemplateCheck, LooksIntoAGroupBoxWithinAGroupBox) {
     EXPECT_THAT(Check({{kStatic, kGroupBox, "Outer", {7, 7, 150, 80}},
                        {kStatic, kGroupBox, "Inner", {13, 18, 130, 50}},
                        {12, kEdit, "", {20, 45, 60, 12}},
-                       {11, kEdit, "", {20, 29, 60, 12}}}),
+                       {11, kEdit, "", {20, 30, 60, 12}}}),
                 ElementsAre("dialog 7: the tab order jumps back from 12 to 11"));
 }
 

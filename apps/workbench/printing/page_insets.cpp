@@ -47,10 +47,11 @@ PageInsets::PageInsets(const PrintPlan& plan, const PageView& view, const MapLoo
                        Paper& paper, PageLabels& labels)
     : plan_(plan), view_(view), look_(look), paper_(paper), labels_(labels) {}
 
-void PageInsets::Draw(std::int64_t page) {
+QStringList PageInsets::Draw(std::int64_t page) {
     if (page == 0) DrawTitle();
     if (plan_.grid.Count() > 1) DrawKey(page);
     if (page == 0 && plan_.layers.legend) DrawLegend();
+    return leftOut_;
 }
 
 PageInsets::Row PageInsets::Line(const QString& text) const {
@@ -81,7 +82,7 @@ std::optional<QRectF> PageInsets::FindPlace(Corner wanted, const QSizeF& size) c
     return {};
 }
 
-void PageInsets::DrawPanel(Corner wanted, const std::vector<Row>& rows) {
+void PageInsets::DrawPanel(const QString& name, Corner wanted, const std::vector<Row>& rows) {
     double indent = 0;
     for (const Row& row : rows)
         if (row.draw && !row.text.isEmpty()) indent = row.drawn.width() + kBetween;
@@ -95,7 +96,10 @@ void PageInsets::DrawPanel(Corner wanted, const std::vector<Row>& rows) {
         size = {std::max(size.width(), width + 2 * kInside), size.height() + heightOf(row)};
     }
     const auto place = FindPlace(wanted, size);
-    if (!place) return;
+    if (!place) {
+        leftOut_ << name;
+        return;
+    }
     taken_.push_back(*place);
     labels_.Keep(*place);
     paper_.Draw(Rectangle(*place), {look_.panel, look_.panelLine, kLineWidth});
@@ -133,7 +137,7 @@ void PageInsets::DrawTitle() {
                         {feet * view_.Scale() + overhang, 2 * size + kInside},
                         [this](const QRectF& place) { DrawScaleBar(place); }});
     }
-    DrawPanel(kTopLeft, rows);
+    DrawPanel(QStringLiteral("title and scale"), kTopLeft, rows);
 }
 
 /// Length of the scale bar; 0 where none is that short.
@@ -222,7 +226,7 @@ void PageInsets::DrawLegend() {
     if (plan_.layers.wells) AddSpots(rows, false);
     if (plan_.layers.platforms) AddSpots(rows, true);
     if (plan_.layers.pipelines) AddPipelines(rows);
-    if (rows.size() > 1) DrawPanel(kTopRight, rows);
+    if (rows.size() > 1) DrawPanel(QStringLiteral("legend"), kTopRight, rows);
 }
 
 void PageInsets::DrawKey(std::int64_t page) {
@@ -236,7 +240,7 @@ void PageInsets::DrawKey(std::int64_t page) {
     rows.push_back({{}, 0, false, cells + QSizeF(0, kBetween), [this, page](const QRectF& place) {
                         DrawKeyCells(place, page);
                     }});
-    DrawPanel(kBottomRight, rows);
+    DrawPanel(QStringLiteral("key of the pages"), kBottomRight, rows);
 }
 
 /// A cell for each page, with its number where there is room; this page's is filled.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QRectF>
+#include <QStringList>
 #include <functional>
 #include <optional>
 #include <vector>
@@ -19,7 +20,8 @@ public:
     PageInsets(const PrintPlan& plan, const PageView& view, const MapLook& look, Paper& paper,
                PageLabels& labels);
 
-    void Draw(std::int64_t page);
+    /// Answers the names of those that had no room.
+    QStringList Draw(std::int64_t page);
 
 private:
     /// A line of a panel: a text, something drawn, or that and a text behind it.
@@ -44,8 +46,8 @@ private:
     Row Line(const QString& text) const;
     Row Heading(const QString& text) const;
     /// Draws it in the corner, or where that is taken in the next one that is free. Without room
-    /// in any it is left out.
-    void DrawPanel(Corner wanted, const std::vector<Row>& rows);
+    /// in any it is left out, by `name`.
+    void DrawPanel(const QString& name, Corner wanted, const std::vector<Row>& rows);
     std::optional<QRectF> FindPlace(Corner wanted, const QSizeF& size) const;
 
     const PrintPlan& plan_;
@@ -54,6 +56,7 @@ private:
     Paper& paper_;
     PageLabels& labels_;
     std::vector<QRectF> taken_;
+    QStringList leftOut_;
 };
 
 }  // namespace workbench

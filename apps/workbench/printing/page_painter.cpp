@@ -6,15 +6,21 @@
 
 namespace workbench {
 
-void DrawPage(const PrintPlan& plan, std::int64_t page, Paper& paper) {
+QStringList DrawPage(const PrintPlan& plan, std::int64_t page, Paper& paper) {
     const PageView view(plan, page);
     const MapLook look = LookOnPaper(plan.ink);
     PageLabels labels(view.Neat());
     PageMap map(plan, view, look, paper);
     map.DrawShapes(labels);
-    PageInsets(plan, view, look, paper, labels).Draw(page);
+    const QStringList leftOut = PageInsets(plan, view, look, paper, labels).Draw(page);
     if (plan.layers.labels) map.DrawLabels(labels);
     PageFrame(plan, view, look, paper).Draw(page);
+    return leftOut;
+}
+
+QString NoRoomFor(const QStringList& leftOut) {
+    if (leftOut.isEmpty()) return {};
+    return QStringLiteral("The paper has no room for: %1.").arg(leftOut.join(QStringLiteral(", ")));
 }
 
 }  // namespace workbench

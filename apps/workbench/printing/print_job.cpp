@@ -29,10 +29,13 @@ int PrintJob::Total() const {
 }
 
 bool PrintJob::Step() {
-    bool written = sink_->Page([this](Paper& paper) { DrawPage(plan_, next_, paper); });
+    bool written =
+        sink_->Page([this](Paper& paper) { end_.leftOut << DrawPage(plan_, next_, paper); });
     if (written && ++next_ < plan_.grid.Count()) return true;
     written = written && sink_->End();
-    end_ = {written, written ? QString() : sink_->Error()};
+    end_.whole = written;
+    if (!written) end_.failure = sink_->Error();
+    end_.leftOut.removeDuplicates();
     return false;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <functional>
 #include <memory>
 
@@ -12,8 +13,9 @@ namespace workbench {
 
 /// How the writing of pages has ended.
 struct PrintEnd {
-    bool whole = false;  ///< every page was written; otherwise it failed or was cancelled
-    QString failure;     ///< empty where it did not fail
+    bool whole = false;   ///< every page was written; otherwise it failed or was cancelled
+    QString failure;      ///< empty where it did not fail
+    QStringList leftOut;  ///< what is set into the map and had no room, each once
 };
 
 /// Writes the pages of a plan, one in each step.

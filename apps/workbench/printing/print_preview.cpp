@@ -42,7 +42,7 @@ void PageSheet::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     painter.fillRect(event->rect(), Qt::white);
     PainterPaper paper(painter, pixels_ / kPointsPerInch);
-    DrawPage(plan_, page_, paper);
+    emit LeftOut(DrawPage(plan_, page_, paper));
 }
 
 PrintPreview::PrintPreview(PrintPlan plan, QWidget* parent)
@@ -50,6 +50,7 @@ PrintPreview::PrintPreview(PrintPlan plan, QWidget* parent)
       plan_(std::move(plan)),
       area_(new QScrollArea),
       sheet_(new PageSheet(plan_)),
+      note_(new QLabel),
       where_(new QLabel) {
     setWindowTitle(tr("Print Preview"));
     setWindowFlag(Qt::WindowMaximizeButtonHint);
@@ -58,7 +59,12 @@ PrintPreview::PrintPreview(PrintPlan plan, QWidget* parent)
     area_->setBackgroundRole(QPalette::Mid);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(area_, 1);
+    layout->addWidget(note_);
     layout->addLayout(MakeButtons());
+    note_->setWordWrap(true);
+    note_->hide();
+    // Behind the painting, which the note gives another size.
+    connect(sheet_, &PageSheet::LeftOut, this, &PrintPreview::ShowLeftOut, Qt::QueuedConnection);
     GoTo(0);
     resize(kFirstSize);
 }
@@ -96,6 +102,15 @@ void PrintPreview::GoTo(std::int64_t page) {
     where_->setText(tr("Page %1 of %2").arg(page + 1).arg(plan_.grid.Count()));
     previous_->setEnabled(page > 0);
     next_->setEnabled(page + 1 < plan_.grid.Count());
+}
+
+void PrintPreview::ShowLeftOut(const QStringList& names) {
+    const QString note = NoRoomFor(names);
+    if (note == note_->text()) return;
+    note_->setText(note);
+    note_->setVisible(!note.isEmpty());
+    layout()->activate();
+    Zoom();
 }
 
 void PrintPreview::Zoom() {

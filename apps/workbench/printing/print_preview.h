@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDialog>
+#include <QStringList>
 #include <QWidget>
 
 #include "workbench/printing/print_plan.h"
@@ -21,6 +22,10 @@ public:
     void SetPage(std::int64_t page);
     /// So many pixels for an inch.
     void SetZoom(double pixels);
+
+signals:
+    /// What had no room on the page that was just drawn; empty where all had.
+    void LeftOut(const QStringList& names);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -46,12 +51,14 @@ protected:
 private:
     QLayout* MakeButtons();
     void GoTo(std::int64_t page);
+    void ShowLeftOut(const QStringList& names);
     void Zoom();
 
     PrintPlan plan_;
     std::int64_t page_ = 0;
     QScrollArea* area_;
     PageSheet* sheet_;
+    QLabel* note_;
     QLabel* where_;
     QPushButton* previous_;
     QPushButton* next_;

@@ -14,6 +14,7 @@
 #include "window/dialogs/file_dialog.h"
 #include "window/window_system.h"
 #include "workbench/document/map_shape.h"
+#include "workbench/printing/page_painter.h"
 #include "workbench/printing/print_job.h"
 #include "workbench/printing/print_preview.h"
 
@@ -282,9 +283,10 @@ void Printing::Write(PrintPlan plan, std::unique_ptr<PageSink> sink, const QStri
         std::move(plan), std::move(sink), [this, said, failed](const PrintEnd& end) {
             if (!end.failure.isEmpty()) {
                 fail_(failed + QStringLiteral("\n") + end.failure);
-            } else {
-                status_.Say(end.whole ? said : tr("The pages were cancelled."));
+                return;
             }
+            status_.Say(end.whole ? said : tr("The pages were cancelled."));
+            if (end.whole && !end.leftOut.isEmpty()) fail_(NoRoomFor(end.leftOut));
         }));
 }
 

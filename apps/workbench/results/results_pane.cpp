@@ -82,6 +82,7 @@ void ResultsPane::SetTable(ResultTable table) {
 
 void ResultsPane::ShowHeading() {
     const bool none = model_.columnCount() == 0;
+    view_->horizontalHeader()->setVisible(!none);
     QFont font = this->font();
     font.setBold(!none);
     heading_->setFont(font);
@@ -90,7 +91,8 @@ void ResultsPane::ShowHeading() {
 }
 
 void ResultsPane::SetCurrent(bool current) {
-    const auto role = current ? QPalette::WindowText : QPalette::PlaceholderText;
+    const bool none = model_.columnCount() == 0;
+    const auto role = current || none ? QPalette::WindowText : QPalette::PlaceholderText;
     if (heading_->foregroundRole() != role) heading_->setForegroundRole(role);
 }
 

@@ -2,9 +2,8 @@
 
 #include <algorithm>
 
-#include "window/desktop.h"
 #include "window/dialog_keys.h"
-#include "window/window_system.h"
+#include "window/screens.h"
 
 namespace kv::swatches {
 
@@ -61,9 +60,8 @@ void PaletteDlg::FocusValue() {
     if (found != m_cells.end()) found->swatch->SetFocus();
 }
 
-CRect PaletteDlg::ScreenRect() {
-    const CSize size = WindowSystem::Get().GetDesktop().ScreenSize();
-    return {0, 0, size.cx, size.cy};
+CRect PaletteDlg::ScreenRect() const {
+    return ScreenAround(m_rcSwatch);
 }
 
 CRect PaletteDlg::BelowSwatch() const {

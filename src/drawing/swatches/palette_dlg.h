@@ -23,7 +23,7 @@ public:
     BOOL PreTranslateMessage(MSG* message) override;
 
 protected:
-    /// `swatch` is on the screen.
+    /// `swatch` is in the coordinates of the screen.
     PaletteDlg(UINT templateId, const RECT& swatch, CWnd* parent);
 
     /// Takes over the control of that id as a cell.
@@ -41,7 +41,8 @@ protected:
     CRect BelowSwatch() const;
     /// The same; where that passes the bottom of the screen, as wide as the screen.
     CRect BelowSwatchOrWide() const;
-    static CRect ScreenRect();
+    /// The screen that the swatch is on.
+    CRect ScreenRect() const;
     void FocusValue();
 
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;

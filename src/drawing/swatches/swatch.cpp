@@ -28,11 +28,15 @@ void DrawPaper(CDC& context, const CRect& rect) {
     context.FillSolidRect(&inside, kPaper);
 }
 
+/// Where buttons are dark, the ring is as light as the paper that it would touch: there its inner
+/// line is dark.
 void DrawFocusRing(CDC& context, const CRect& rect) {
-    const COLORREF color = CurrentLook().Color(SystemColor::kButtonText);
+    const COLORREF face = CurrentLook().Color(SystemColor::kButtonFace);
+    const COLORREF text = CurrentLook().Color(SystemColor::kButtonText);
     for (int inset = 1; inset < kInset; ++inset) {
         CRect ring = rect;
         ring.DeflateRect(inset, inset);
+        const COLORREF color = inset == kInset - 1 && IsDark(face) ? face : text;
         context.Draw3dRect(&ring, color, color);
     }
 }

@@ -28,6 +28,9 @@ constexpr const char* kSizes[] = {"1", "2", "3",  "4",  "5",  "6",  "7",
                                   "8", "9", "10", "20", "30", "40", "50"};
 constexpr const char* kPercents[] = {"0", "10", "15", "30", "50", "75", "100"};
 
+/// Of the upper right corner. Nothing is told when they are left: its degrees do it for them.
+constexpr int kQuietBoxes[] = {kLatMaxMin, kLatMaxSec, kLonMaxMin, kLonMaxSec};
+
 }  // namespace
 
 int CKvGuiQuickOffBldDlg::m_nDefHeight = 0;
@@ -381,7 +384,9 @@ void CKvGuiQuickOffBldDlg::ReadAngles() {
 }
 
 void CKvGuiQuickOffBldDlg::OnKillFocusLLCoord(UINT nId) {
-    if (!IsTyped(nId)) return;
+    const bool forOthers = nId == kLatMaxDeg || nId == kLonMaxDeg;
+    const auto typed = [this](int id) { return IsTyped(static_cast<UINT>(id)); };
+    if (!IsTyped(nId) && !(forOthers && std::ranges::any_of(kQuietBoxes, typed))) return;
     ReadAngles();
     kv::mapbuild::ProjectToXY(m_tBounds, CornerPlane());
     UpdateCoordinates();

@@ -1,6 +1,7 @@
 #include "qt/drawing/paint.h"
 
 #include <QPainter>
+#include <QProxyStyle>
 #include <QStyle>
 #include <QStyleOptionFrame>
 
@@ -59,8 +60,12 @@ QIcon IconOf(const QPixmap& plain) {
     return icon;
 }
 
+/// Also where a host has wrapped it.
 bool IsFusion(const QWidget& widget) {
-    return widget.style()->name() == u"fusion";
+    const QStyle* style = widget.style();
+    while (const auto* wrapping = qobject_cast<const QProxyStyle*>(style))
+        style = wrapping->baseStyle();
+    return style->name() == u"fusion";
 }
 
 bool MayPaint(const Node& node) {

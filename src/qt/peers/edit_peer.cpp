@@ -6,9 +6,11 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QStyleHints>
+#include <QStyleOptionFrame>
 #include <algorithm>
 #include <limits>
 
@@ -155,6 +157,48 @@ bool HoldsFocus(const EditNode& edit) {
     return WindowSystem::Get().Focus() == &edit;
 }
 
+/// The frame and the ground of a line edit as its style drew them last. With most styles they cost
+/// more than the text, which changes alone.
+class Panel {
+public:
+    /// Draws them; from the second time that they look so on, as they were.
+    void Paint(QWidget& edit, const QStyleOptionFrame& option) {
+        const Look look{option.rect.size(), option.state, option.palette.cacheKey(),
+                        edit.devicePixelRatio(), edit.style()};
+        QPainter painter(&edit);
+        const auto draw = [&](QPainter& on) {
+            edit.style()->drawPrimitive(QStyle::PE_PanelLineEdit, &option, &on, &edit);
+        };
+        if (look != look_) {
+            look_ = look;
+            picture_ = QPixmap();
+            draw(painter);
+            return;
+        }
+        if (picture_.isNull()) {
+            picture_ = QPixmap(look.size * look.ratio);
+            picture_.setDevicePixelRatio(look.ratio);
+            picture_.fill(Qt::transparent);
+            QPainter on(&picture_);
+            draw(on);
+        }
+        painter.drawPixmap(0, 0, picture_);
+    }
+
+private:
+    struct Look {
+        QSize size;
+        QStyle::State state;
+        qint64 palette = 0;
+        double ratio = 0;
+        const QStyle* style = nullptr;
+        bool operator==(const Look&) const = default;
+    };
+
+    Look look_;
+    QPixmap picture_;
+};
+
 class LineView : public QLineEdit {
 public:
     LineView(EditNode& node, QWidget* host)
@@ -209,14 +253,46 @@ protected:
         QLineEdit::focusInEvent(event);
         Mirror();
     }
+    void paintEvent(QPaintEvent* event) override {
+        textAlone_ = PaintPanel();
+        QLineEdit::paintEvent(event);
+        textAlone_ = false;
+    }
+    void initStyleOption(QStyleOptionFrame* option) const override {
+        QLineEdit::initStyleOption(option);
+        if (textAlone_) TakePanelOut(*option);
+    }
 
 private:
     int IndexAt(const QMouseEvent& event) { return cursorPositionAt(event.position().toPoint()); }
+
+    /// False where the text would stand elsewhere without it.
+    bool PaintPanel() {
+        QStyleOptionFrame option;
+        QLineEdit::initStyleOption(&option);
+        QStyleOptionFrame bare = option;
+        TakePanelOut(bare);
+        const auto placeOfText = [this](const QStyleOptionFrame& each) {
+            return style()->subElementRect(QStyle::SE_LineEditContents, &each, this);
+        };
+        if (placeOfText(bare) != placeOfText(option)) return false;
+        panel_.Paint(*this, option);
+        return true;
+    }
+    static void TakePanelOut(QStyleOptionFrame& option) {
+        const int width = option.lineWidth;
+        option.rect.adjust(width, width, -width, -width);
+        option.lineWidth = 0;
+        option.palette.setBrush(QPalette::Base, Qt::NoBrush);
+    }
 
     WeakNode node_;
     EditMouse mouse_;
     WheelNotches wheel_;
     bool mirroring_ = false;
+    Panel panel_;
+    /// While it is painted on its panel.
+    bool textAlone_ = false;
 };
 
 class LinesView : public QPlainTextEdit {

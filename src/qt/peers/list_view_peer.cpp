@@ -118,6 +118,21 @@ public:
     explicit Headings(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) {}
 
 protected:
+    /// Their texts begin where those of the cells do.
+    void paintSection(QPainter* painter, const QRect& rect, int section) const override {
+        QStyleOptionHeaderV2 option;
+        initStyleOption(&option);
+        initStyleOptionForIndex(&option, section);
+        option.rect = rect;
+        style()->drawControl(QStyle::CE_HeaderSection, &option, painter, this);
+        const int ofCell = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
+        const int own = style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, this);
+        const int more = std::max(ofCell - own, 0);
+        option.rect = style()
+                          ->subElementRect(QStyle::SE_HeaderLabel, &option, this)
+                          .adjusted(more, 0, -more, 0);
+        style()->drawControl(QStyle::CE_HeaderLabel, &option, painter, this);
+    }
     void paintEvent(QPaintEvent* event) override {
         QHeaderView::paintEvent(event);
         const int end = length() - offset();

@@ -83,7 +83,8 @@ void Peer::Changed(Change change) {
     switch (change) {
         case Change::kText:
             ShowText();
-            ShowName();
+            // What can be typed is neither its own name nor another's.
+            if (ShowsOwnText(node_)) ShowName();
             break;
         case Change::kRect:
             ShowRect();

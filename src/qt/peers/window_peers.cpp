@@ -92,6 +92,10 @@ protected:
     virtual QWidget* Body() { return this; }
 
     bool event(QEvent* event) override {
+        // Showing a window took this from it: what has the focus at the start is to be seen, too.
+        if (event->type() == QEvent::WindowActivate) {
+            this->setAttribute(Qt::WA_KeyboardFocusChange);
+        }
         const bool done = Base::event(event);
         if (event->type() == QEvent::WindowActivate && !HostHasFocus()) {
             Act(node_, [](Node& window) { input::Activate(window); });
@@ -203,7 +207,7 @@ public:
 protected:
     /// With room for the scroll bar of the other direction.
     QSize SizeFor(const QSize& contents) const override {
-        const QSize room = RoomOn(*screen());
+        const QSize room = RoomOn(*screen()).size();
         const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
         QSize size = contents;
         if (contents.height() > room.height()) size.rwidth() += bar;
@@ -320,11 +324,11 @@ Qt::ToolBarAreas AreasOf(DWORD sides) {
 
 }  // namespace
 
-QSize RoomOn(const QScreen& screen) {
+QRect RoomOn(const QScreen& screen) {
     const QStyle& style = *QApplication::style();
     const int title = style.pixelMetric(QStyle::PM_TitleBarHeight);
     const int frame = style.pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
-    return screen.availableGeometry().size() - QSize(2 * frame, title + frame);
+    return screen.availableGeometry().adjusted(0, 0, -2 * frame, -title - frame);
 }
 
 DialogPeer::DialogPeer(Node& node) : Peer(node, new DialogView(node, OwnerOf(node))) {}

@@ -9,7 +9,7 @@ class QScreen;
 namespace kv::qt {
 
 /// What a screen has for the contents of a window, whose frame is around them.
-QSize RoomOn(const QScreen& screen);
+QRect RoomOn(const QScreen& screen);
 
 /// A dialog: a window of its own, modal or not.
 class DialogPeer : public Peer, public Stacked {

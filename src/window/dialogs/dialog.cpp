@@ -8,6 +8,7 @@
 #include "window/dialog_keys.h"
 #include "window/frames/frame_wnd.h"
 #include "window/modal_scope.h"
+#include "window/screens.h"
 #include "window/templates/resources.h"
 #include "window/window_system.h"
 
@@ -16,16 +17,18 @@ using kv::WindowSystem;
 
 namespace {
 
-/// Places a window in the middle of the one that owns it, or of the screen, wholly on the screen.
+/// Places a window in the middle of the one that owns it, wholly on the screen where that is, or of
+/// the first screen.
 void Center(kv::Node& window, const kv::Node* owner) {
-    const CSize screen = WindowSystem::Get().GetDesktop().ScreenSize();
-    const CRect around = owner ? owner->ScreenRect() : CRect{0, 0, screen.cx, screen.cy};
+    const CSize first = WindowSystem::Get().GetDesktop().ScreenSize();
+    const CRect around = owner ? owner->ScreenRect() : CRect{0, 0, first.cx, first.cy};
+    const CRect screen = owner ? kv::ScreenAround(around) : around;
     const int width = window.Rect().Width();
     const int height = window.Rect().Height();
     int left = around.left + (around.Width() - width) / 2;
     int top = around.top + (around.Height() - height) / 2;
-    left = std::max(0, std::min(left, screen.cx - width));
-    top = std::max(0, std::min(top, screen.cy - height));
+    left = std::max(screen.left, std::min(left, screen.right - width));
+    top = std::max(screen.top, std::min(top, screen.bottom - height));
     window.SetRect({left, top, left + width, top + height});
 }
 

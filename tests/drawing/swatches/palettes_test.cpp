@@ -4,6 +4,7 @@
 #include "drawing/swatches/kv_color_button.h"
 #include "drawing/swatches/symbol_palettes.h"
 #include "frame/kvcom/color.h"
+#include "support/two_screens.h"
 #include "swatch_fixture.h"
 
 using namespace kv::palettes;
@@ -465,6 +466,22 @@ TEST_F(PalettePlaces, IsMovedLeftByAsMuchAsItPassesTheScreen) {
         EXPECT_EQ(place.right, 1280) << swatch;
         EXPECT_GT(swatchRect.left, place.left) << swatch;
     }
+}
+
+TEST_F(PalettePlaces, KeepToTheScreenThatTheSwatchIsOn) {
+    CRect place;
+    Run(host, [&](kv::User& user) {
+        host.SetWindowPos(nullptr, 2430, 150, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+        host.GetDlgItem(test::kWidth)->GetWindowRect(&swatchRect);
+        test::TwoScreens two;
+        two.ExpectWindow("", [&](kv::User& palette) {
+            place = palette.WindowNode().Rect();
+            palette.Key(0, "Escape");
+        });
+        user.Click(test::kWidth);
+    });
+    EXPECT_EQ(place.right, test::kSecondScreen.right);
+    EXPECT_EQ(place.top, swatchRect.bottom);
 }
 
 TEST_F(PalettePlaces, AtTheBottomWidthsStandBesideTheSwatch) {

@@ -238,6 +238,19 @@ TEST_F(SwatchPixels, TheFocusIsARingBetweenFrameAndValue) {
     ExpectExactly(focused, {3, 3, 100, 100}, RGB(255, 0, 0));
 }
 
+TEST_F(SwatchPixels, WhereButtonsAreDarkTheRingStandsOffThePaper) {
+    constexpr COLORREF kDarkFace = RGB(40, 40, 40);
+    constexpr COLORREF kLightText = RGB(250, 250, 250);
+    desktop.SetColor(SystemColor::kButtonFace, kDarkFace);
+    desktop.SetColor(SystemColor::kButtonText, kLightText);
+    host.width.SetFocus();
+    const kv::Raster focused = Painted(host.width);
+    const int middle = focused.Width() / 2;
+    EXPECT_EQ(focused.Pixel({middle, 1}), kLightText);
+    EXPECT_EQ(focused.Pixel({middle, 2}), kDarkFace);
+    EXPECT_GT(GetRValue(focused.Pixel({middle, 3})), 200);
+}
+
 TEST_F(SwatchPixels, PressedACellShowsItsValueInASunkenFrame) {
     host.basic.SetEventType(E_EVENT_CELL);
     const kv::Raster up = Painted(host.basic);

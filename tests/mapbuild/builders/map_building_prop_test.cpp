@@ -241,6 +241,22 @@ TEST_F(MapBuildingProp, OfTheUpperRightCornerTheDegreesAloneReact) {
     });
 }
 
+TEST_F(MapBuildingProp, LeavingTheDegreesOfTheUpperRightCornerReadsWhatWasTypedBesideThem) {
+    for (const int degrees : {kLatMaxDeg, kLonMaxDeg}) {
+        for (const int id : {kLatMaxMin, kLatMaxSec, kLonMaxMin, kLonMaxSec}) {
+            Set(kCustom, false);
+            Run(dialog, [&](kv::User& user) {
+                user.Type(id, "7");
+                user.Focus(degrees);
+                EXPECT_EQ(test::AnglesOf(dialog.m_tBounds), test::AnglesOf(Stored(kCustom, false)));
+                user.Focus(kMapName);
+                EXPECT_NE(test::AnglesOf(dialog.m_tBounds), test::AnglesOf(Stored(kCustom, false)));
+                EXPECT_EQ(user.Text(id), "7");
+            });
+        }
+    }
+}
+
 TEST_F(MapBuildingProp, DegreesOfMinusZeroAreWest) {
     Set(kCustom, false);
     Run(dialog, [&](kv::User& user) {

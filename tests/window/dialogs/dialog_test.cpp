@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include "support/dialog_fixture.h"
+#include "support/two_screens.h"
 #include "window/frames/frame_wnd.h"
 
 using enum kv::ControlKind;
@@ -106,6 +107,21 @@ TEST_F(Dialog, StandsInTheMiddleOfItsOwnerAndWhollyOnTheScreen) {
         EXPECT_EQ(rect.right, 1920);
         EXPECT_EQ((rect.top + rect.bottom) / 2, 200);
     });
+}
+
+TEST_F(Dialog, StandsOnTheScreenOfItsOwner) {
+    test::TwoScreens two;
+    CFrameWnd frame;
+    frame.Create("Host", {2300, 120, 2540, 300});
+    RecordingDialog owned(test::kTestTemplate, &frame);
+    CRect rect;
+    two.ExpectWindow("", [&](kv::User& user) {
+        owned.GetWindowRect(&rect);
+        user.Click(IDOK);
+    });
+    owned.DoModal();
+    EXPECT_EQ(rect.right, test::kSecondScreen.right);
+    EXPECT_EQ(rect.top, test::kSecondScreen.top);
 }
 
 TEST_F(Dialog, DisablesItsOwnerWhileItRuns) {
