@@ -17,9 +17,7 @@ constexpr int kTitle = 32;
 
 }  // namespace
 
-/// At the right edge of the main window, as far as the screen has room there, and below the tools
-/// that stand there already.
-void MapTools::PutBeside(CWnd& tool) const {
+CPoint MapTools::PlaceBeside(const CWnd& tool) const {
     CRect place;
     CRect around;
     tool.GetWindowRect(&place);
@@ -32,8 +30,7 @@ void MapTools::PutBeside(CWnd& tool) const {
         other->GetWindowRect(&taken);
         if (other != &tool && taken.right > left) top = std::max(top, taken.bottom + kTitle);
     }
-    top = std::max(0, std::min(top, screen.cy - place.Height()));
-    tool.MoveWindow(left, top, place.Width(), place.Height());
+    return {left, std::max(0, std::min(top, screen.cy - place.Height()))};
 }
 
 void MapTools::SetMaker(const std::string& className, Make make) {
@@ -52,7 +49,10 @@ bool MapTools::Show(const adaptors::Adaptor& adaptor) {
     auto& tool = tools_[adaptor.className];
     if (!tool) {
         tool = make(&owner_);
-        if (tool->Window()) PutBeside(*tool->Window());
+        if (CDialog* window = tool->Window()) {
+            const CPoint at = PlaceBeside(*window);
+            window->SetWindowPos(nullptr, at.x, at.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+        }
     }
     if (CDialog* window = tool->Window()) {
         window->ShowWindow(SW_SHOW);

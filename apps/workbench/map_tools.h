@@ -32,12 +32,14 @@ public:
     /// Brings a tool to the front, with the keyboard.
     static void Activate(CDialog& tool);
 
+    /// Where a window stands beside the map: at the right edge of the main window, as far as the
+    /// screen has room there, and below the tools that stand there already.
+    CPoint PlaceBeside(const CWnd& tool) const;
+
     /// Null for one that was never asked for.
     adaptors::Tool* Find(const std::string& className) const;
 
 private:
-    void PutBeside(CWnd& tool) const;
-
     CWnd& owner_;
     std::map<std::string, Make> makers_;
     std::map<std::string, std::unique_ptr<adaptors::Tool>> tools_;

@@ -13,6 +13,7 @@
 #include "qt/qt_desktop.h"
 #include "window/window_system.h"
 #include "workbench/dataset.h"
+#include "workbench/drawing_tools/text_scale.h"
 #include "workbench/map_search.h"
 #include "workbench/match.h"
 #include "workbench/sample_maker.h"
@@ -86,8 +87,16 @@ Workbench::Workbench(CKvDbInfo database) : database_(std::move(database)) {
     printing_ = new Printing(frame_, model_, *canvas_, runner_, *status_,
                              [this](const QString& message) { Fail(message); });
     printing_->setParent(window_);
-    readouts_ = std::make_unique<Readouts>(model_, tools_, *canvas_, *status_, *commands_);
+    mouse_ = std::make_unique<MapMouse>(*canvas_, *status_);
+    readouts_ = std::make_unique<Readouts>(model_, tools_, *canvas_, *mouse_, *status_, *commands_);
     MakeDocumentTools();
+    drawing_ = std::make_unique<DrawingTools>(
+        DrawingDesk{frame_, model_, *canvas_, *mouse_, tools_, runner_, *status_, *commands_,
+                    history_, [this](const QString& message) { Fail(message); }});
+    printing_->SetDrawings([this] {
+        const MapDocument& document = history_.Current();
+        return MapDrawings{document.drawings, FeetPerInch(document)};
+    });
     MakeMenus();
     new FocusRound([this] { return FocusParts(); }, window_);
     ConnectAll();
@@ -170,8 +179,9 @@ void Workbench::ConnectAll() {
         documents_->TakePicks(PicksOf(canvas_->GetPick()));
         commands_->Refresh();
     });
-    connect(canvas_, &MapCanvas::PlaceClicked, this,
-            [this](const Place& place) { tools_.SetPosition(place); });
+    connect(canvas_, &MapCanvas::PlaceClicked, this, [this](const Place& place) {
+        if (!drawing_->HasMouse()) tools_.SetPosition(place);
+    });
     connect(results_, &ResultsPane::BlockWanted, this,
             [this](const QString& area, const QString& block) {
                 ShowOnMap({area.toStdString()}, block.toStdString());
@@ -222,6 +232,7 @@ void Workbench::Show() {
 void Workbench::LoadMap() {
     if (loader_) runner_.Drop(loader_);
     readouts_->MapGoes();
+    drawing_->MapGoes();
     canvas_->ModelGoes();
     model_.Clear();
     loader_ = std::make_shared<MapLoader>(model_, [this] {

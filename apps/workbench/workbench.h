@@ -10,11 +10,14 @@
 #include "adaptors/adaptor.h"
 #include "frame/kvdbkvn/db_info.h"
 #include "workbench/commands.h"
+#include "workbench/document/document_history.h"
 #include "workbench/document/document_tools.h"
+#include "workbench/drawing_tools/drawing_tools.h"
 #include "workbench/focus_round.h"
 #include "workbench/main_frame.h"
 #include "workbench/map/map_canvas.h"
 #include "workbench/map_loader.h"
+#include "workbench/map_mouse.h"
 #include "workbench/map_tools.h"
 #include "workbench/outcome_pane.h"
 #include "workbench/printing/printing.h"
@@ -84,6 +87,7 @@ public:
     OutcomePane& Outcome() { return *outcome_; }
     MapTools& Tools() { return tools_; }
     const Readouts& ReadoutTools() const { return *readouts_; }
+    DrawingTools& Drawing() { return *drawing_; }
     RecordTools& Records() { return *records_; }
     DocumentTools& Documents() { return *documents_; }
     DocumentHistory& History() { return history_; }
@@ -178,7 +182,9 @@ private:
     QPointer<DocumentTools> documents_;
 
     DocumentHistory history_;
+    std::unique_ptr<MapMouse> mouse_;
     std::unique_ptr<Readouts> readouts_;
+    std::unique_ptr<DrawingTools> drawing_;
 };
 
 }  // namespace workbench

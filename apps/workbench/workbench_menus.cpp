@@ -30,6 +30,7 @@ constexpr LayerEntry kLayerEntries[] = {
     {"&Wells", &MapLayers::wells},         {"&Platforms", &MapLayers::platforms},
     {"P&ipelines", &MapLayers::pipelines}, {"&Names", &MapLayers::labels},
     {"&Graticule", &MapLayers::graticule}, {"&Legend", &MapLayers::legend},
+    {"&Drawings", &MapLayers::drawings},
 };
 
 /// Puts the mark of a mnemonic ahead of the first letter, of words first, that is not among
@@ -62,6 +63,7 @@ void Workbench::MakeMenus() {
     MakeEditMenu();
     MakeViewMenu();
     documents_->MakeMenu(*window_->menuBar()->addMenu(tr("&Map")));
+    drawing_->MakeMenu(*window_->menuBar()->addMenu(tr("D&raw")), [this] { return NoMap(); });
     readouts_->MakeMenu(*window_->menuBar()->addMenu(tr("&Tools")));
     records_->MakeMenus(*window_->menuBar(), *commands_);
     MakeDialogsMenu();
@@ -274,7 +276,9 @@ std::vector<FocusPart> Workbench::FocusParts() {
     if (!well_->visibleRegion().isEmpty())
         parts.push_back(
             PanePart(records_->Dock(), [this] { well_->setFocus(Qt::TabFocusReason); }));
-    for (CDialog* tool : tools_.Shown()) {
+    std::vector<CDialog*> tools = tools_.Shown();
+    if (CDialog* dialog = drawing_->Dialog()) tools.push_back(dialog);
+    for (CDialog* tool : tools) {
         parts.push_back({[tool] {
                              const QWidget* window = kv::qt::WidgetOf(*tool->m_hWnd);
                              return window && window->isActiveWindow();
@@ -304,6 +308,13 @@ void Workbench::ExplainKeys() {
                           "lets them go")},
         {tr("Ctrl+D"), tr("measure distances: drag, or click twice; with Shift go on from the last "
                           "point; Escape ends")},
+        {tr("Ctrl+Shift+L, G, T, B"), tr("draw a line or a polygon, write a text, fill blocks; "
+                                         "Space is a click in the middle of "
+                                         "the map, Enter accepts, Backspace takes a point back")},
+        {tr("Ctrl+E"),
+         tr("select what was drawn: drag or Ctrl+arrow keys move it, Enter or a double "
+            "click changes it, Delete deletes it")},
+        {tr("Ctrl+H"), tr("search and replace in texts and labels")},
         {tr("Ctrl+Shift+C"), tr("copy the position that is read")},
         {tr("Ctrl+G"), tr("go to an area, a block or a place, in the bar as well")},
         {tr("Ctrl+Shift+F"), tr("find a well; Ctrl+I shows its record and the comments on it")},

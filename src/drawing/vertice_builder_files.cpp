@@ -58,9 +58,10 @@ void CKvGuiVerticeBuilder::OnButtonLoadFile() {
     std::array<char, kv::file_pick::kPathSize> path{};
     picker.GetSelectedItem(path.data());
     CFile file;
-    if (!file.Open(path.data(), CFile::modeRead)) return;
-    if (!ReadRows(file)) {
+    if (!file.Open(path.data(), CFile::modeRead) || !ReadRows(file)) {
+        ++m_nMovesFocus;
         AfxMessageBox(CString(path.data()) + "\nThis file cannot be read.");
+        --m_nMovesFocus;
         return;
     }
     file.Close();

@@ -4,8 +4,8 @@
 #include <limits>
 #include <random>
 
+#include "workbench/map/cut.h"
 #include "workbench/map/feature_layer.h"
-#include "workbench/printing/cut.h"
 #include "workbench/printing/page_grid.h"
 #include "workbench/printing/page_ticks.h"
 

@@ -603,11 +603,12 @@ TEST_F(VerticeFiles, LoadsLinesWithEitherEndAndEachOnce) {
     }
 }
 
-TEST_F(VerticeFiles, AFileThatIsNotThereIsPassedOver) {
+TEST_F(VerticeFiles, AFileThatIsNotThereIsToldAndTheRowsStay) {
     Run(dialog, [&](kv::User& user) {
         TypeXy(user, "9", "9");
         user.Click(kAdd);
         ExpectPick("none.txt");
+        desktop.ExpectMessage(folder.Dialog("none.txt") + "\nThis file cannot be read.");
         user.Click(kLoad);
         EXPECT_EQ(user.Rows(kRows).size(), 1u);
     });

@@ -222,6 +222,8 @@ MapDocument DocumentOf(std::string_view text, const std::string& dataset) {
         return document;
     } catch (const json::exception& e) {
         Refuse(std::string("It is broken: ") + e.what());
+    } catch (const BadDrawings& e) {
+        Refuse(std::string("It is broken: ") + e.what());
     }
 }
 

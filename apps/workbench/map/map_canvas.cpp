@@ -33,9 +33,17 @@ MapCanvas::MapCanvas(const MapModel& model, QWidget* parent) : MapWidget(parent)
     ChooseLook();
 }
 
+bool MapCanvas::IsDark() const {
+    return palette().color(QPalette::Window).lightness() < kDark;
+}
+
 void MapCanvas::ChooseLook() {
-    const bool dark = palette().color(QPalette::Window).lightness() < kDark;
-    painter_.SetLook(dark ? DarkLook() : LightLook());
+    painter_.SetLook(IsDark() ? DarkLook() : LightLook());
+}
+
+void MapCanvas::SetOverlay(const MapOverlay* overlay) {
+    painter_.SetOverlay(overlay);
+    update();
 }
 
 void MapCanvas::ModelChanged() {

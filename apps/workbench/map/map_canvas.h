@@ -56,6 +56,9 @@ public:
 
     /// `cursor` is the one that the canvas has where nothing is dragged.
     void SetTaken(Taken taken, const QCursor& cursor);
+    /// Draws that into the map. Not owned; null for nothing.
+    void SetOverlay(const MapOverlay* overlay);
+    bool IsDark() const;
     /// Draws over the map, and over what was added before.
     void AddDrawnOver(std::function<void(QPainter&, const MapView&)> draw);
 

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "workbench/map/angle_text.h"
+#include "workbench/map/cut.h"
 #include "workbench/map/graticule.h"
 #include "workbench/map/map_legend.h"
 
@@ -116,6 +117,8 @@ void MapPainter::Draw(QPainter& painter, const MapModel& model, const MapView& v
     painter.fillRect(all, look_.ground);
     painter.setRenderHint(QPainter::Antialiasing);
     DrawAreas();
+    const bool drawings = overlay_ && layers.drawings;
+    if (drawings) overlay_->DrawFills(painter, model, view);
     DrawBlockLines();
     if (layers.graticule) DrawGraticule();
     DrawAreaLines();
@@ -124,6 +127,7 @@ void MapPainter::Draw(QPainter& painter, const MapModel& model, const MapView& v
     if (layers.wells) DrawSpots(false);
     if (layers.platforms) DrawSpots(true);
     DrawRowMark(marks);
+    if (drawings) overlay_->DrawOnTop(painter, view);
 
     DrawScaleBar();
     if (frame_) DrawTitle();
@@ -136,6 +140,7 @@ void MapPainter::Draw(QPainter& painter, const MapModel& model, const MapView& v
         DrawBlockLabels(marks.pick);
         if (layers.platforms) DrawSpotLabels(true);
         if (layers.wells) DrawSpotLabels(false);
+        if (layers.pipelines) DrawPipelineLabels();
     }
     if (frame_) DrawFrame();
 }
@@ -490,12 +495,14 @@ void MapPainter::DrawBlockLabels(const Pick& pick) {
 /// In the middle of a small block, in a corner of a large one, where it is out of the way.
 void MapPainter::DrawBlockLabel(const BlockRef& block) {
     const Box& box = block.Bounds();
-    const QSizeF size = blockLabels_.SizeOf(block.Label());
+    const std::string_view label = LabelOf(LabelLayer::kLeases, *block.area, block.Label());
+    if (label.empty()) return;
+    const QSizeF size = blockLabels_.SizeOf(label);
     const double width = box.Width() * view_->Scale();
     if (size.width() > width) return;
     const QPointF middle = At(box.Middle());
     if (width < kCornerLabelsFrom) {
-        PutLabelAtBest(blockLabels_, block.Label(), std::array{middle});
+        PutLabelAtBest(blockLabels_, label, std::array{middle});
         return;
     }
     const QPointF off(width / 2 - size.width() / 2 - 5,
@@ -507,7 +514,7 @@ void MapPainter::DrawBlockLabel(const BlockRef& block) {
         if (Inside(block.area->blocks.Points(block.block), outer)) places.push_back(corner);
     }
     places.push_back(middle);
-    PutLabelAtBest(blockLabels_, block.Label(), places);
+    PutLabelAtBest(blockLabels_, label, places);
 }
 
 void MapPainter::DrawSpotLabels(bool platforms) {
@@ -516,7 +523,9 @@ void MapPainter::DrawSpotLabels(bool platforms) {
     for (const AreaMap* area : visible_) {
         const FeatureLayer& layer = platforms ? area->platforms : area->wells;
         layer.ForEachIn(seen, [&](std::size_t number) {
-            const std::string_view label = layer.Label(number);
+            std::string_view label = layer.Label(number);
+            if (!platforms) label = LabelOf(LabelLayer::kWells, *area, label);
+            if (label.empty()) return;
             const QSizeF size = spotLabels_.SizeOf(label);
             const QPointF beside(MapSymbols::kSize / 2 + size.width() / 2, 0);
             const QPointF above(0, MapSymbols::kSize / 2 + size.height() / 2);
@@ -535,6 +544,28 @@ QRectF MapPainter::DrawPanel(const QRectF& panel) {
     painter_->setBrush(look_.panel);
     painter_->drawRoundedRect(panel.translated(0.5, 0.5), 4, 4);
     return panel;
+}
+
+/// Beside the middle of its part in the view.
+void MapPainter::DrawPipelineLabels() {
+    if (view_->Scale() < kSpotLabelsFrom) return;
+    const Box seen = view_->Visible();
+    for (const AreaMap* area : visible_) {
+        area->pipelines.ForEachIn(seen, [&](std::size_t number) {
+            const std::string_view label =
+                LabelOf(LabelLayer::kPipelines, *area, area->pipelines.Label(number));
+            const auto parts = CutPath(area->pipelines.Points(number), seen);
+            if (label.empty() || parts.empty()) return;
+            const auto& part = parts[parts.size() / 2];
+            const QSizeF size = spotLabels_.SizeOf(label);
+            const QPointF beside(size.width() / 2 + kMargin / 2, 0);
+            const QPointF above(0, size.height() / 2 + kMargin / 2);
+            const Segment middle{part[part.size() / 2 - 1], part[part.size() / 2]};
+            const QPointF at = (At(middle.from) + At(middle.to)) / 2;
+            PutLabelAtBest(spotLabels_, label,
+                           std::array{at - above, at + above, at + beside, at - beside});
+        });
+    }
 }
 
 void MapPainter::DrawScaleBar() {

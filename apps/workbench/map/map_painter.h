@@ -17,6 +17,7 @@
 #include "workbench/map/map_frame.h"
 #include "workbench/map/map_look.h"
 #include "workbench/map/map_model.h"
+#include "workbench/map/map_overlay.h"
 #include "workbench/map/map_projection.h"
 #include "workbench/map/map_symbols.h"
 #include "workbench/map/map_view.h"
@@ -32,6 +33,7 @@ struct MapLayers {
     bool graticule = true;
     bool legend = true;
     bool legendFolded = false;
+    bool drawings = true;
 };
 
 /// What stands out on the map.
@@ -56,6 +58,8 @@ public:
     void SetProjection(const MapProjection& projection) { projection_ = projection; }
     /// A map that was built: its edge is drawn, and what lies outside is dimmed.
     void SetFrame(std::optional<MapFrame> frame) { frame_ = std::move(frame); }
+    /// Draws that into the map, too. Not owned; null for nothing.
+    void SetOverlay(const MapOverlay* overlay) { overlay_ = overlay; }
     /// Whether wells and platforms can be told apart in this view.
     static bool ShowsSpots(const MapView& view);
 
@@ -103,6 +107,10 @@ private:
     /// Those that are not picked.
     void DrawBlockLabels(const Pick& pick);
     void DrawSpotLabels(bool platforms);
+    void DrawPipelineLabels();
+    std::string_view LabelOf(LabelLayer layer, const AreaMap& area, std::string_view label) const {
+        return overlay_ ? overlay_->Label(layer, area.code, label) : label;
+    }
     void DrawPickLabel(const Pick& pick);
     void DrawBlockLabel(const BlockRef& block);
     /// False when it would lie over another label, or not wholly on the screen.
@@ -125,6 +133,7 @@ private:
     std::optional<MapFrame> frame_;
     MapLook look_ = LightLook();
     QFont font_;
+    const MapOverlay* overlay_ = nullptr;
     LabelArt areaLabels_;
     LabelArt blockLabels_;
     LabelArt spotLabels_;

@@ -2,8 +2,8 @@
 
 #include <array>
 
+#include "workbench/map/cut.h"
 #include "workbench/map/map_legend.h"
-#include "workbench/printing/cut.h"
 
 namespace workbench {
 
@@ -80,8 +80,9 @@ void PageMap::AddLine(QPainterPath& path, std::span<const Point> onPage) const {
     }
 }
 
-void PageMap::DrawShapes(PageLabels& labels) {
+void PageMap::DrawShapes(PageLabels& labels, const std::function<void()>& drawFills) {
     DrawAreas();
+    drawFills();
     DrawBlockLines();
     DrawAreaLines(labels);
     if (plan_.layers.pipelines) DrawPipelines();
@@ -205,6 +206,9 @@ void PageMap::DrawLabels(PageLabels& labels) {
         for (const AreaMap& area : plan_.map.areas)
             LabelSpots(area, platforms, labels);
     }
+    if (!plan_.layers.pipelines) return;
+    for (const AreaMap& area : plan_.map.areas)
+        LabelPipelines(area, labels);
 }
 
 /// By its name where that fits into the area, else by its number.
@@ -231,7 +235,10 @@ void PageMap::LabelAreas(PageLabels& labels) {
 void PageMap::LabelBlocks(const AreaMap& area, PageLabels& labels) {
     if (BlockSize(area) < kBlockLabelsFrom) return;
     area.blocks.ForEachIn(view_.Shown(), [&](std::size_t number) {
-        const Writing style = Style(area.blocks.Label(number), kBlockText, look_.blockText);
+        const Writing style =
+            Style(plan_.Label(LabelLayer::kLeases, area, area.blocks.Label(number)), kBlockText,
+                  look_.blockText);
+        if (style.text.isEmpty()) return;
         const QSizeF size = SizeOf(style.text, style.size);
         const Box& box = area.blocks.BoxOf(number);
         const double width = box.Width() * view_.Scale();
@@ -255,13 +262,34 @@ void PageMap::LabelSpots(const AreaMap& area, bool platforms, PageLabels& labels
     if (BlockSize(area) < kSpotLabelsFrom) return;
     const FeatureLayer& layer = platforms ? area.platforms : area.wells;
     layer.ForEachIn(view_.Shown(), [&](std::size_t number) {
-        const Writing style = Style(layer.Label(number), kSpotText, look_.spotText);
+        std::string_view label = layer.Label(number);
+        if (!platforms) label = plan_.Label(LabelLayer::kWells, area, label);
+        if (label.empty()) return;
+        const Writing style = Style(label, kSpotText, look_.spotText);
         const QSizeF size = SizeOf(style.text, style.size);
         const double half = MapSymbols::kSize / 2 * kSymbolSize;
         const QPointF beside(half + size.width() / 2, 0);
         const QPointF above(0, half + size.height() / 2);
         const QPointF at = view_.At(layer.Points(number).front());
         labels.Put(paper_, style, std::array{at + beside, at - beside, at - above, at + above});
+    });
+}
+
+/// Beside the middle of its part on the page.
+void PageMap::LabelPipelines(const AreaMap& area, PageLabels& labels) {
+    if (BlockSize(area) < kSpotLabelsFrom) return;
+    area.pipelines.ForEachIn(view_.Shown(), [&](std::size_t number) {
+        const std::string_view label =
+            plan_.Label(LabelLayer::kPipelines, area, area.pipelines.Label(number));
+        const auto parts = CutPath(OnPage(area.pipelines.Points(number)), neat_);
+        if (label.empty() || parts.empty()) return;
+        const auto& part = parts[parts.size() / 2];
+        const Point& from = part[part.size() / 2 - 1];
+        const Point& to = part[part.size() / 2];
+        const QPointF at((from.x + to.x) / 2, (from.y + to.y) / 2);
+        const Writing style = Style(label, kSpotText, look_.spotText);
+        const QPointF above(0, SizeOf(style.text, style.size).height() / 2 + kBesideBlock / 2);
+        labels.Put(paper_, style, std::array{at - above, at + above});
     });
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "workbench/printing/page_labels.h"
 #include "workbench/printing/page_view.h"
 
@@ -27,7 +29,8 @@ public:
 
     /// Draws areas, blocks, pipelines, wells and platforms, and marks for the labels where they
     /// are.
-    void DrawShapes(PageLabels& labels);
+    /// `drawFills` is called under the lines of blocks.
+    void DrawShapes(PageLabels& labels, const std::function<void()>& drawFills);
     void DrawLabels(PageLabels& labels);
 
 private:
@@ -46,6 +49,7 @@ private:
     void LabelAreas(PageLabels& labels);
     void LabelBlocks(const AreaMap& area, PageLabels& labels);
     void LabelSpots(const AreaMap& area, bool platforms, PageLabels& labels);
+    void LabelPipelines(const AreaMap& area, PageLabels& labels);
     Writing Style(std::string_view text, double size, const QColor& color) const;
 
     const PrintPlan& plan_;

@@ -1,5 +1,6 @@
 #include "workbench/printing/page_painter.h"
 
+#include "workbench/printing/page_drawings.h"
 #include "workbench/printing/page_frame.h"
 #include "workbench/printing/page_insets.h"
 #include "workbench/printing/page_map.h"
@@ -11,7 +12,11 @@ QStringList DrawPage(const PrintPlan& plan, std::int64_t page, Paper& paper) {
     const MapLook look = LookOnPaper(plan.ink);
     PageLabels labels(view.Neat());
     PageMap map(plan, view, look, paper);
-    map.DrawShapes(labels);
+    PageDrawings drawings(plan, view, paper);
+    map.DrawShapes(labels, [&] {
+        if (plan.layers.drawings) drawings.DrawFills();
+    });
+    if (plan.layers.drawings) drawings.DrawLinesAndTexts();
     const QStringList leftOut = PageInsets(plan, view, look, paper, labels).Draw(page);
     if (plan.layers.labels) map.DrawLabels(labels);
     PageFrame(plan, view, look, paper).Draw(page);

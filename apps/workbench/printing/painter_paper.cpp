@@ -60,16 +60,20 @@ void PainterPaper::Write(const Writing& writing) {
     painter_.rotate(writing.turned);
     const QPointF at(Shift(writing.anchor, width), 0);
     painter_.setFont(font);
-    if (writing.halo.isValid()) {
+    if (writing.halo.isValid() || writing.stroke > 0) {
         // Letters as a shape are made in the screen's pixels.
         QPainterPath letters;
         QFont shaped = font;
         shaped.setPixelSize(1000);
         letters.addText({}, shaped, writing.text);
         const double part = writing.size * pixels_ / 1000;
-        painter_.strokePath(QTransform(part, 0, 0, part, at.x(), at.y()).map(letters),
-                            QPen(writing.halo, kHaloWidth * writing.size * pixels_, Qt::SolidLine,
-                                 Qt::RoundCap, Qt::RoundJoin));
+        const QPainterPath outline = QTransform(part, 0, 0, part, at.x(), at.y()).map(letters);
+        const auto stroke = [&](const QColor& color, double thick) {
+            painter_.strokePath(
+                outline, QPen(color, thick * pixels_, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        };
+        if (writing.halo.isValid()) stroke(writing.halo, kHaloWidth * writing.size);
+        if (writing.stroke > 0) stroke(writing.color, writing.stroke);
     }
     painter_.setPen(writing.color);
     painter_.drawText(at, writing.text);

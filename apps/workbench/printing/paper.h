@@ -36,6 +36,7 @@ struct Writing {
     bool bold = false;
     QColor halo = {};   ///< around the letters; none where it is invalid
     double turned = 0;  ///< degrees, clockwise
+    double stroke = 0;  ///< how much thicker the letters are, by a line of their colour around them
 };
 
 /// What a page is drawn on. Lines stay lines, and text stays text.

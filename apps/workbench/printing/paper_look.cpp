@@ -39,6 +39,16 @@ QColor Gray(const QColor& color) {
 
 }  // namespace
 
+QColor LineOnPaper(const QColor& color, InkMode mode) {
+    if (mode == InkMode::kBlackAndWhite) return Qt::black;
+    return mode == InkMode::kGray ? Gray(color) : color;
+}
+
+QColor FillOnPaper(const QColor& color, InkMode mode) {
+    if (mode == InkMode::kBlackAndWhite) return Qt::white;
+    return mode == InkMode::kGray ? Gray(color) : color;
+}
+
 MapLook LookOnPaper(InkMode mode) {
     MapLook look = LightLook();
     look.ground = look.halo = look.panel = Qt::white;

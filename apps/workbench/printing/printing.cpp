@@ -199,6 +199,8 @@ std::optional<PrintPlan> Printing::Ask(DEVMODE* paper) {
     if (!dialog.GetTrueTypeFont())
         fail_(tr("There is no stroke font here. Texts are written in the True Type font."));
     plan.map = MapOnPaper(model_, subject->projection, plan.grid.Covered());
+    plan.drawings = DrawingsOnPaper(drawings_(), subject->projection);
+    plan.map.leftOut += plan.drawings.leftOut;
     return plan;
 }
 

@@ -39,6 +39,8 @@ public:
     void SetWhat(What what) { what_ = what; }
     /// The map that was built, if there is one.
     void SetMap(std::optional<BuiltMap> map) { map_ = std::move(map); }
+    /// Tells what was drawn on the map, which is printed with it.
+    void SetDrawings(std::function<MapDrawings()> drawings) { drawings_ = std::move(drawings); }
 
 private:
     /// What is to come out, in the projection that is usual there.
@@ -76,6 +78,7 @@ private:
     WorkRunner& runner_;
     StatusLine& status_;
     Fail fail_;
+    std::function<MapDrawings()> drawings_ = [] { return MapDrawings(); };
     DEVMODE exportPaper_;
     What what_ = What::kMap;
     std::optional<BuiltMap> map_;

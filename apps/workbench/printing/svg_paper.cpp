@@ -91,6 +91,10 @@ void SvgPaper::Write(const Writing& writing) {
                      Number(kHaloWidth * writing.size) +
                      "\" stroke-linejoin=\"round\" paint-order=\"stroke\"";
     }
+    if (writing.stroke > 0) {
+        elements_ += " stroke=\"" + ColorText(writing.color) + "\" stroke-width=\"" +
+                     Number(writing.stroke) + "\" stroke-linejoin=\"round\"";
+    }
     elements_ += ">" + Escaped(writing.text) + "</text>\n";
 }
 

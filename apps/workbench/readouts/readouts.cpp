@@ -16,15 +16,20 @@
 
 namespace workbench {
 
-Readouts::Readouts(const MapModel& model, MapTools& tools, MapCanvas& canvas, StatusLine& status,
-                   Commands& commands)
-    : positions_(model), tools_(tools), canvas_(&canvas), status_(status), commands_(commands) {
+Readouts::Readouts(const MapModel& model, MapTools& tools, MapCanvas& canvas, MapMouse& mouse,
+                   StatusLine& status, Commands& commands)
+    : positions_(model),
+      tools_(tools),
+      canvas_(&canvas),
+      mouse_(mouse),
+      status_(status),
+      commands_(commands) {
     tools.SetMaker(CoordTool::kClass, [this](CWnd* owner) { return MakeCoordinates(owner); });
     tools.SetMaker(DistanceTool::kClass, [this](CWnd* owner) { return MakeDistance(owner); });
     connect(&canvas, &MapCanvas::Pointed, this, &Readouts::MouseAt);
     connect(&canvas, &MapCanvas::PlaceDragged, this,
             [this](const Place& from, const Place& to, bool done) {
-                if (distance_) distance_->Drag(from, to, done);
+                if (distance_ && mouse_.Has(this)) distance_->Drag(from, to, done);
                 Refresh();
             });
     canvas.installEventFilter(this);
@@ -171,23 +176,27 @@ void Readouts::Refresh() {
 
 void Readouts::Show(const State& state) {
     const bool anew = state.hasPosition != shown_.hasPosition;
+    const bool begins =
+        (state.distance && !shown_.distance) || (state.coordinates && !shown_.coordinates);
     shown_ = state;
     if (coord_) coord_->SetTakesClicks(!state.distance);
     coordinatesRow_->setChecked(state.coordinates);
     distanceRow_->setChecked(state.distance);
-    if (state.distance) {
-        status_.ShowMode(state.drawing ? tr("Distance: second point")
-                                       : tr("Distance: first point"));
-        canvas_->SetTaken(Taken::kDrags, DistanceCursor());
-    } else if (state.coordinates) {
-        status_.ShowMode(state.held ? tr("Coordinates: held") : tr("Coordinates: click to hold"));
-        canvas_->SetTaken(Taken::kClicks, state.held ? HeldCursor() : CoordinatesCursor());
-    } else {
-        status_.ShowMode({});
-        canvas_->SetTaken(Taken::kNothing, Qt::CrossCursor);
-    }
-    canvas_->update();
+    mouse_.Use(this, UseIn(state));
+    if (begins) mouse_.Raise(this);
     if (anew) commands_.Refresh();
+}
+
+MouseUse Readouts::UseIn(const State& state) {
+    if (state.distance) {
+        return {Taken::kDrags, DistanceCursor(),
+                state.drawing ? tr("Distance: second point") : tr("Distance: first point")};
+    }
+    if (state.coordinates) {
+        return {Taken::kClicks, state.held ? HeldCursor() : CoordinatesCursor(),
+                state.held ? tr("Coordinates: held") : tr("Coordinates: click to hold")};
+    }
+    return {};
 }
 
 }  // namespace workbench

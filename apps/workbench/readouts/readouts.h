@@ -4,6 +4,7 @@
 #include <QPointer>
 #include <memory>
 
+#include "workbench/map_mouse.h"
 #include "workbench/map_tools.h"
 #include "workbench/readouts/coord_tool.h"
 #include "workbench/readouts/distance_tool.h"
@@ -24,8 +25,8 @@ class Readouts : public QObject {
     Q_OBJECT
 public:
     /// All of them outlive it but the canvas and what is in its window.
-    Readouts(const MapModel& model, MapTools& tools, MapCanvas& canvas, StatusLine& status,
-             Commands& commands);
+    Readouts(const MapModel& model, MapTools& tools, MapCanvas& canvas, MapMouse& mouse,
+             StatusLine& status, Commands& commands);
 
     /// Fills the menu of tools.
     void MakeMenu(QMenu& menu);
@@ -60,12 +61,14 @@ private:
     bool Escape();
     void Refresh();
     void Show(const State& state);
+    static MouseUse UseIn(const State& state);
     void Copy(const QString& text);
     QString NoPosition() const;
 
     MapPositions positions_;
     MapTools& tools_;
     QPointer<MapCanvas> canvas_;
+    MapMouse& mouse_;
     StatusLine& status_;
     Commands& commands_;
     CoordTool* coord_ = nullptr;  ///< kept by `tools_`, as the other one

@@ -13,6 +13,7 @@ namespace kv::map {
 struct Place {
     double lat = 0;
     double lon = 0;
+    bool operator==(const Place&) const = default;
 };
 
 /// Map units.

@@ -1,4 +1,4 @@
-#include "workbench/printing/cut.h"
+#include "workbench/map/cut.h"
 
 #include <algorithm>
 #include <array>
