@@ -342,6 +342,16 @@ TEST_F(WorkbenchTest, NoTwoRowsOfAMenuShareALetter) {
     }
 }
 
+TEST_F(WorkbenchTest, NoTwoCommandsShareTheirKeys) {
+    Open();
+    std::set<QKeySequence> taken;
+    for (const QAction* action : host->Window().findChildren<QAction*>()) {
+        for (const QKeySequence& keys : action->shortcuts())
+            EXPECT_TRUE(taken.insert(keys).second) << action->text().toStdString();
+    }
+    EXPECT_FALSE(taken.empty());
+}
+
 TEST_F(WorkbenchTest, ADialogsOutcomeIsShown) {
     Open();
     const adaptors::Adaptor* adaptor = adaptors::Find("CKvGuiPipeStatusDlg");

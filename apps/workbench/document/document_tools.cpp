@@ -131,7 +131,7 @@ void DocumentTools::FillRecent() {
             if (MayLeave()) OpenFile(path);
         });
     }
-    if (number == 0) recentMenu_->addAction(tr("No map was saved yet"))->setEnabled(false);
+    if (number == 0) recentMenu_->addAction(tr("&No map was saved yet"))->setEnabled(false);
 }
 
 QString DocumentTools::NoMap() const {

@@ -78,7 +78,7 @@ void DrawingTools::MakeMenu(QMenu& menu, Commands::WhyNot noMap) {
     AddTool(menu, Tool::kLine, tr("Poly&line"), Qt::CTRL | Qt::SHIFT | Qt::Key_L, noMap);
     AddTool(menu, Tool::kPolygon, tr("Poly&gon"), Qt::CTRL | Qt::SHIFT | Qt::Key_G, noMap);
     AddTool(menu, Tool::kText, tr("&Text"), Qt::CTRL | Qt::SHIFT | Qt::Key_T, noMap);
-    AddTool(menu, Tool::kFill, tr("Fill &block"), Qt::CTRL | Qt::SHIFT | Qt::Key_B, noMap);
+    AddTool(menu, Tool::kFill, tr("Fill &block"), Qt::CTRL | Qt::SHIFT | Qt::Key_K, noMap);
     menu.addSeparator();
     AddTool(menu, Tool::kSelect, tr("&Select"), Qt::CTRL | Qt::Key_E, noMap);
     const auto noSelection = [this] {
