@@ -66,6 +66,14 @@ protected:
         ASSERT_TRUE(Document().map);
     }
     void SaveAs(const std::string& path) { Trigger("Save As...", {NameFile(path)}); }
+    void ExportBoundary(const char* name) {
+        Trigger("Export pick boundary...", {InDialog([](kv::User& at) {
+                                                at.Select(kWidth, "1");
+                                                at.Select(kHeight, "1");
+                                                at.Click(IDOK);
+                                            }),
+                                            NameFile(folder.Native(name))});
+    }
     const MapDocument& Document() { return host->Documents().Document(); }
     const CKvMapBounds& Bounds() { return Document().map->bounds; }
     MapCanvas& Canvas() { return host->Canvas(); }
@@ -432,31 +440,17 @@ TEST_F(WorkbenchDocument, RecentMapsAreInTheMenu) {
     EXPECT_TRUE(Document().map);
 }
 
-TEST_F(WorkbenchDocument, TheBoundaryOfPicksIsExportedAsTextAndAsGeoJson) {
+TEST_F(WorkbenchDocument, TheBoundaryOfPicksIsExportedAsText) {
     PickBlock();
-    const auto export_ = [this](const char* name) {
-        const std::string path = folder.Native(name);
-        Trigger("Export pick boundary...", {InDialog([](kv::User& at) {
-                                                at.Select(kWidth, "1");
-                                                at.Select(kHeight, "1");
-                                                at.Click(IDOK);
-                                            }),
-                                            NameFile(path)});
-        EXPECT_EQ(Said(), "Saved " + path);
-        return ReadWhole(path);
-    };
     CMinMax2Dd_t bounds;
     ASSERT_TRUE(CKvDbUtil::S_GetLLBounds(kArea, kBlock, "", bounds, ""));
-    const std::string text = export_("block.txt");
-    std::vector<std::string> lines = kv::Split(text, '\n');
+    ExportBoundary("block.txt");
+    EXPECT_EQ(Said(), "Saved " + folder.Native("block.txt"));
+    const std::vector<std::string> lines = kv::Split(folder.Read("block.txt"), '\n');
     ASSERT_THAT(lines, SizeIs(6));
     EXPECT_EQ(lines[0], lines[4]);
     EXPECT_NEAR(kv::Atof(lines[0]), bounds.minX, 1e-6);
     EXPECT_NEAR(kv::Atof(lines[0].substr(lines[0].find(' '))), bounds.minY, 1e-6);
-    const auto ring =
-        nlohmann::json::parse(export_("block.geojson"))["geometry"]["coordinates"].at(0);
-    EXPECT_NEAR(ring[2][0].get<double>(), bounds.maxY, 1e-9);
-    EXPECT_NEAR(ring[2][1].get<double>(), bounds.maxX, 1e-9);
     EXPECT_FALSE(Document().map) << "an export is no map";
     Trigger("Export pick boundary...",
             {PressOk(), [this] {
@@ -466,6 +460,26 @@ TEST_F(WorkbenchDocument, TheBoundaryOfPicksIsExportedAsTextAndAsGeoJson) {
              }});
     ASSERT_THAT(failures, SizeIs(1));
     EXPECT_THAT(failures[0], HasSubstr("late.txt could not be saved.\nIt cannot be written."));
+}
+
+TEST_F(WorkbenchDocument, TheBoundaryAsGeoJsonIsOnTheDatumOfGeoJson) {
+    PickBlock();
+    CMinMax2Dd_t bounds;
+    ASSERT_TRUE(CKvDbUtil::S_GetLLBounds(kArea, kBlock, "", bounds, ""));
+    double lon = 0;
+    double lat = 0;
+    const bool hasGrid = CKvUtilLLdrv::Nad2783(bounds.maxY, bounds.maxX, lon, lat) == 0;
+    ExportBoundary("block.geojson");
+    EXPECT_EQ(folder.Has("block.geojson"), hasGrid);
+    if (!hasGrid) {
+        EXPECT_THAT(failures, ElementsAre(HasSubstr("projsync --file us_noaa_conus")));
+        return;
+    }
+    EXPECT_GT(std::hypot(lon - bounds.maxY, lat - bounds.maxX), 1e-4);
+    const auto feature = nlohmann::json::parse(folder.Read("block.geojson"));
+    const auto corner = feature["geometry"]["coordinates"].at(0).at(2);
+    EXPECT_NEAR(corner[0].get<double>(), lon, 1e-9);
+    EXPECT_NEAR(corner[1].get<double>(), lat, 1e-9);
 }
 
 TEST_F(WorkbenchDocument, ReportsTellXAndYInTheProjectionThatIsChosen) {

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <nlohmann/json.hpp>
 
+#include "frame/kvcom/util_lldrv.h"
+#include "workbench/document/map_file.h"
 #include "workbench/map/angle_text.h"
 #include "workbench/map/feature_layer.h"
 
@@ -29,6 +31,26 @@ std::string BoundaryAsText(const std::vector<Place>& corners) {
     for (const Place& corner : Closed(corners))
         text += DecimalDegrees(corner) + "\n";
     return text;
+}
+
+std::vector<Place> OnWgs84(const std::vector<Place>& corners) {
+    std::vector<Place> shifted;
+    for (const Place& corner : corners) {
+        Place place;
+        const int failure = CKvUtilLLdrv::Nad2783(corner.lon, corner.lat, place.lon, place.lat);
+        if (failure == 1) {
+            throw MapFileError(
+                "GeoJSON is on the datum WGS 84, and the boundary lies outside of "
+                "the grid that leads there.");
+        }
+        if (failure != 0) {
+            throw MapFileError(
+                "GeoJSON is on the datum WGS 84, and the grid that leads there is "
+                "not installed: projsync --file us_noaa_conus");
+        }
+        shifted.push_back(place);
+    }
+    return shifted;
 }
 
 std::string BoundaryAsGeoJson(const std::string& name, const std::vector<Place>& corners) {

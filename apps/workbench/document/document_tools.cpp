@@ -316,8 +316,8 @@ void DocumentTools::ExportBoundary() {
     const QString shown = Text(kv::ToNative(path));
     const bool geo = shown.endsWith(QStringLiteral("json"), Qt::CaseInsensitive);
     try {
-        WriteWhole(path,
-                   geo ? BoundaryAsGeoJson(boundary->name, corners) : BoundaryAsText(corners));
+        WriteWhole(path, geo ? BoundaryAsGeoJson(boundary->name, OnWgs84(corners))
+                             : BoundaryAsText(corners));
         host_.status.Say(tr("Saved %1").arg(shown));
     } catch (const MapFileError& error) {
         host_.fail(tr("%1 could not be saved.\n%2").arg(shown, QString::fromUtf8(error.what())));
