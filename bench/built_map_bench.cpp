@@ -29,8 +29,7 @@ constexpr Map kSmall{27.4, 27.8, -91.2, -90.6};
 template <typename Box>
 struct MapBox {
     explicit MapBox(const Map& map) {
-        CKvDbInfo info("", "", ("sqlite:" + bench::SamplePath()).c_str());
-        CKvDbAbsDataMgr(1).SetDbInfo(info);
+        bench::ConnectToSample();
         frame.Create("Host");
         box.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWN, {0, 0, 200, 400}, &frame, 1);
         box.SetMinLat(map.minLat);

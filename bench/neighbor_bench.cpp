@@ -7,7 +7,6 @@
 #include <functional>
 #include <map>
 #include <set>
-#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
@@ -25,40 +24,13 @@
 
 namespace {
 
+using bench::BareEngine;
 using kv::blocks::NeighborRelation;
 using kv::blocks::Place;
 using kv::blocks::Selection;
 
 constexpr int kBlocks = 500;
 constexpr int kManyBlocks = 5'000;
-
-/// A connection past the library.
-class Engine {
-public:
-    Engine() {
-        if (sqlite3_open_v2(bench::SamplePath().c_str(), &database_, SQLITE_OPEN_READONLY,
-                            nullptr) != SQLITE_OK) {
-            throw std::runtime_error(sqlite3_errmsg(database_));
-        }
-    }
-    ~Engine() { sqlite3_close(database_); }
-    Engine(const Engine&) = delete;
-    Engine& operator=(const Engine&) = delete;
-
-    /// Hands each row to `take`.
-    template <typename Take>
-    void Read(const std::string& sql, const Take& take) {
-        sqlite3_stmt* statement = nullptr;
-        if (sqlite3_prepare_v2(database_, sql.c_str(), -1, &statement, nullptr) != SQLITE_OK)
-            throw std::runtime_error(sqlite3_errmsg(database_));
-        while (sqlite3_step(statement) == SQLITE_ROW)
-            take(statement);
-        sqlite3_finalize(statement);
-    }
-
-private:
-    sqlite3* database_ = nullptr;
-};
 
 std::string Text(sqlite3_stmt* row, int column) {
     return reinterpret_cast<const char*>(sqlite3_column_text(row, column));
@@ -67,7 +39,7 @@ std::string Text(sqlite3_stmt* row, int column) {
 /// Blocks of the federal waters, an area's beside one another.
 Selection FirstBlocks(int count) {
     Selection selection;
-    Engine().Read(
+    BareEngine().Read(
         "select areaname, lbnum || coalesce(lbext, '') from gulf_mexico_lbi join "
         "gulf_mexico_connam2 on stcode = areacode where area_abbr is not null and stcode > '435' "
         "order by refnum limit " +
@@ -126,7 +98,7 @@ public:
     Geometries(const Geometries&) = delete;
     Geometries& operator=(const Geometries&) = delete;
 
-    GEOSGeometry* Area(Engine& engine, const std::string& sql) {
+    GEOSGeometry* Area(BareEngine& engine, const std::string& sql) {
         places_.clear();
         engine.Read(sql, [&](sqlite3_stmt* row) {
             places_.push_back(sqlite3_column_double(row, 0));
@@ -153,7 +125,7 @@ private:
 };
 
 /// The same statements, in the same order, and the same outlines.
-std::size_t SearchBare(Engine& engine, const std::vector<std::string>& statements) {
+std::size_t SearchBare(BareEngine& engine, const std::vector<std::string>& statements) {
     Geometries geometries;
     std::size_t met = 0;
     for (std::size_t next = 0; next < statements.size();) {
@@ -173,7 +145,7 @@ std::size_t SearchBare(Engine& engine, const std::vector<std::string>& statement
 void SearchPeer(benchmark::State& state, int count) {
     const Selection selection = FirstBlocks(count);
     const std::vector<std::string> statements = StatementsOf(selection);
-    Engine engine;
+    BareEngine engine;
     std::size_t met = 0;
     for (auto _ : state)
         met = SearchBare(engine, statements);

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <vector>
 
+#include "frame/kvdbkvn/db_abs_data_mgr.h"
 #include "sampledata/dataset.h"
 #include "sampledata/loader_sqlite.h"
 
@@ -30,6 +31,11 @@ const std::string& SamplePath() {
     };
     static const SampleFile file;
     return file.Path();
+}
+
+void ConnectToSample() {
+    CKvDbInfo info("", "", ("sqlite:" + SamplePath()).c_str());
+    CKvDbAbsDataMgr(1).SetDbInfo(info);
 }
 
 void QueryBareEngine(benchmark::State& state, const std::string& path, const std::string& sql) {

@@ -2,13 +2,11 @@
 // texts, a frame at a time, beside a loop that draws them all.
 
 #include <QApplication>
-#include <QImage>
-#include <QPainter>
 #include <cmath>
-#include <ctime>
 #include <memory>
 #include <random>
 
+#include "frames.h"
 #include "ratio.h"
 #include "sample_map.h"
 #include "workbench/drawings/drawing_colors.h"
@@ -22,10 +20,6 @@ using workbench::DrawnLine;
 using workbench::MapView;
 using workbench::Place;
 
-constexpr int kWidth = 1600;
-constexpr int kHeight = 900;
-/// Thirty frames a second.
-constexpr double kLongestFrame = 1.0 / 30;
 constexpr Place kMiddle{28.4, -91.5};
 /// Pixels for a degree at which all that is drawn is on the screen.
 constexpr double kAll = 115;
@@ -68,104 +62,60 @@ const std::shared_ptr<const Drawings>& Drawn() {
 }
 
 MapView View() {
-    MapView view;
-    view.Resize(kWidth, kHeight);
-    view.SetBounds(bench::SampleMap().Bounds());
+    MapView view = bench::WholeView();
     view.SetMiddle(workbench::ToMap(kMiddle), kAll);
     return view;
 }
 
-/// A movement to and fro takes so many frames.
-constexpr int kFrames = 48;
-
-template <typename Move, typename Draw>
-void Run(benchmark::State& state, Move&& move, Draw&& draw, bool inTime) {
-    MapView view = View();
-    QImage screen(kWidth, kHeight, QImage::Format_RGB32);
-    int frame = 0;
-    const auto next = [&] {
-        move(view, frame++);
-        QPainter painter(&screen);
-        painter.setRenderHint(QPainter::Antialiasing);
-        draw(painter, view);
-    };
-    while (inTime && frame < kFrames)
-        next();
-    const int before = frame;
-    const std::clock_t begin = std::clock();
-    for (auto _ : state)
-        next();
-    const double seconds =
-        static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC / (frame - before);
-    state.counters["frames/s"] = 1 / seconds;
-    if (inTime && frame - before >= kFrames && seconds > kLongestFrame) {
-        state.SkipWithError("slower than 30 frames a second");
-    }
-}
-
-template <typename Move>
-void Ours(benchmark::State& state, Move&& move) {
+void Ours(benchmark::State& state, bench::Move move) {
     workbench::DrawnLayer layer(bench::SampleMap());
     layer.Show(Drawn(), {}, kFeetPerInch);
     workbench::MapPainter map;
     map.SetFont(QApplication::font());
     map.SetOverlay(&layer);
-    Run(
-        state, move,
-        [&](QPainter& painter, const MapView& view) {
-            map.Draw(painter, bench::SampleMap(), view, {}, {});
-        },
-        true);
+    bench::DrawFramesInTime(state, View(), move, [&](QPainter& painter, const MapView& view) {
+        map.Draw(painter, bench::SampleMap(), view, {}, {});
+    });
+}
+
+QPointF At(const MapView& view, const Place& place) {
+    const workbench::ScreenPoint point = view.ToScreen(workbench::ToMap(place));
+    return {point.x, point.y};
 }
 
 /// Every line by a pen with its own dashes, and every text.
-template <typename Move>
-void Peer(benchmark::State& state, Move&& move) {
+void DrawAll(QPainter& painter, const MapView& view) {
     constexpr Qt::PenStyle kStyles[] = {Qt::SolidLine, Qt::DashLine, Qt::DotLine, Qt::DashDotLine,
                                         Qt::DashDotDotLine};
-    const auto at = [](const MapView& view, const Place& place) {
-        const workbench::ScreenPoint point = view.ToScreen(workbench::ToMap(place));
-        return QPointF(point.x, point.y);
-    };
-    const auto draw = [&](QPainter& painter, const MapView& view) {
-        painter.fillRect(0, 0, kWidth, kHeight, Qt::white);
-        for (const DrawnLine& line : Drawn()->lines) {
-            QPolygonF points;
-            for (const Place& place : line.points)
-                points.append(at(view, place));
-            painter.setPen(
-                QPen(workbench::DrawnColor(line.color), line.width + 1, kStyles[line.type]));
-            painter.drawPolyline(points);
-        }
-        for (const workbench::DrawnText& text : Drawn()->texts) {
-            painter.save();
-            painter.translate(at(view, text.at));
-            painter.rotate(-text.angle);
-            painter.setPen(workbench::DrawnColor(text.color));
-            painter.drawText(QPointF(), QString::fromStdString(text.text));
-            painter.restore();
-        }
-    };
-    Run(state, move, draw, false);
+    painter.fillRect(0, 0, bench::kMapWidth, bench::kMapHeight, Qt::white);
+    for (const DrawnLine& line : Drawn()->lines) {
+        QPolygonF points;
+        for (const Place& place : line.points)
+            points.append(At(view, place));
+        painter.setPen(QPen(workbench::DrawnColor(line.color), line.width + 1, kStyles[line.type]));
+        painter.drawPolyline(points);
+    }
+    for (const workbench::DrawnText& text : Drawn()->texts) {
+        painter.save();
+        painter.translate(At(view, text.at));
+        painter.rotate(-text.angle);
+        painter.setPen(workbench::DrawnColor(text.color));
+        painter.drawText(QPointF(), QString::fromStdString(text.text));
+        painter.restore();
+    }
 }
 
-void Pan(MapView& view, int frame) {
-    view.Pan(frame % kFrames < kFrames / 2 ? 7 : -7, 0);
-}
-
-/// From all that is drawn down to a few, and back again.
-void Zoom(MapView& view, int frame) {
-    constexpr double kStep = 1.25;
-    view.Zoom({kWidth / 2.0, kHeight / 2.0}, frame % kFrames < kFrames / 2 ? kStep : 1 / kStep);
+void Peer(benchmark::State& state, bench::Move move) {
+    bench::DrawFrames(state, View(), move, DrawAll);
 }
 
 const bench::Subject kPan(
     "drawings/pan over 10,000 lines and 1,000 texts", 1.0,
-    [](benchmark::State& state) { Ours(state, Pan); },
-    [](benchmark::State& state) { Peer(state, Pan); });
+    [](benchmark::State& state) { Ours(state, bench::Pan); },
+    [](benchmark::State& state) { Peer(state, bench::Pan); });
 const bench::Subject kZoom(
     "drawings/zoom from 10,000 lines to few", 1.0,
-    [](benchmark::State& state) { Ours(state, Zoom); },
-    [](benchmark::State& state) { Peer(state, Zoom); });
+    [](benchmark::State& state) { Ours(state, bench::Zoom); },
+    [](benchmark::State& state) { Peer(state, bench::Zoom); });
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include <set>
 #include <vector>
 
+#include "frames.h"
 #include "ratio.h"
 #include "sample_map.h"
 #include "workbench/map/map_painter.h"
@@ -21,8 +22,6 @@ using workbench::MapView;
 using workbench::Place;
 using workbench::Point;
 
-constexpr int kWidth = 1600;
-constexpr int kHeight = 900;
 constexpr double kLongest = 0.3;
 constexpr Place kMiddle{28.4, -91.5};
 
@@ -33,7 +32,7 @@ MapProjection Next(int turn) {
 
 MapView Whole(const workbench::MapModel& model) {
     MapView view;
-    view.Resize(kWidth, kHeight);
+    view.Resize(bench::kMapWidth, bench::kMapHeight);
     view.SetBounds(model.Bounds());
     view.ShowAll();
     return view;
@@ -63,31 +62,36 @@ void Ours(benchmark::State& state) {
     workbench::ProjectedMap projected(bench::SampleMap());
     workbench::MapPainter painter;
     painter.SetFont(QApplication::font());
-    QImage screen(kWidth, kHeight, QImage::Format_RGB32);
+    QImage screen(bench::kMapWidth, bench::kMapHeight, QImage::Format_RGB32);
     int turn = 0;
-    const std::clock_t begin = std::clock();
-    for (auto _ : state) {
+    const auto change = [&] {
         const MapProjection projection = Next(turn++);
         projected.SetProjection(projection);
         painter.SetProjection(projection);
         QPainter canvas(&screen);
         painter.Draw(canvas, projected.Drawn(), Whole(projected.Drawn()), {}, {});
-    }
-    const double seconds = static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC / turn;
+    };
+    // The map that a person changes is shown already, with its labels.
+    change();
+    const std::clock_t begin = std::clock();
+    for (auto _ : state)
+        change();
+    const double seconds = static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC /
+                           static_cast<double>(state.iterations());
     if (seconds > kLongest) state.SkipWithError("slower than 300 ms");
 }
 
 void Peer(benchmark::State& state) {
     const MapView view = Whole(bench::SampleMap());
     const std::vector<Place>& vertices = Vertices();
-    QImage screen(kWidth, kHeight, QImage::Format_RGB32);
+    QImage screen(bench::kMapWidth, bench::kMapHeight, QImage::Format_RGB32);
     int turn = 0;
     for (auto _ : state) {
         const MapProjection projection = Next(turn++);
         for (const Place& place : vertices)
             benchmark::DoNotOptimize(projection.ToMap(place));
         QPainter canvas(&screen);
-        canvas.fillRect(0, 0, kWidth, kHeight, Qt::white);
+        canvas.fillRect(0, 0, bench::kMapWidth, bench::kMapHeight, Qt::white);
         canvas.setRenderHint(QPainter::Antialiasing);
         canvas.setBrush(QColor(0xe1, 0xef, 0xf8));
         canvas.setPen(QColor(0x6f, 0x8d, 0xa8));

@@ -9,6 +9,7 @@
 #include "coordtools/distance_dialog.h"
 #include "coordtools/distance_ids.h"
 #include "frame/module.h"
+#include "peers.h"
 #include "qt/qt_desktop.h"
 #include "ratio.h"
 
@@ -21,6 +22,7 @@ constexpr std::chrono::milliseconds kMostTime{1};
 
 void CoordOurs(benchmark::State& state) {
     InitControlDll();
+    bench::ConnectToSample();
     kv::qt::QtDesktop desktop;
     CKvCoordDialog dialog(nullptr);
     dialog.Create(kv::coord_dialog::kTemplate);
@@ -38,6 +40,7 @@ void CoordOurs(benchmark::State& state) {
 
 void DistanceOurs(benchmark::State& state) {
     InitControlDll();
+    bench::ConnectToSample();
     kv::qt::QtDesktop desktop;
     CKvDistanceDialog dialog(nullptr, nullptr);
     dialog.Create(kv::distance_dialog::kTemplate);

@@ -2,7 +2,7 @@
 
 #include <map>
 #include <optional>
-#include <set>
+#include <ranges>
 #include <utility>
 
 #include "base/numbers.h"
@@ -62,11 +62,15 @@ std::string QuotedList(const std::vector<std::string>& texts) {
     return list + ")";
 }
 
-/// A table of the dataset, with its owner, unless the stem already names one.
-std::string TableOf(const std::string& dataset, const char* suffix) {
+/// The dataset, the registered one for an empty name, with its owner, unless it names one.
+std::string WithOwner(const std::string& dataset) {
     const std::string stem = dataset.empty() ? CKvDbDatasetSet::S_GetGlobalDataset() : dataset;
-    if (stem.find('.') != std::string::npos) return stem + suffix;
-    return CKvDbDatasetSet::S_GetGlobalOwner() + "." + stem + suffix;
+    if (stem.find('.') != std::string::npos) return stem;
+    return CKvDbDatasetSet::S_GetGlobalOwner() + "." + stem;
+}
+
+std::string TableOf(const std::string& dataset, const char* suffix) {
+    return WithOwner(dataset) + suffix;
 }
 
 /// Column 0 of every row.
@@ -186,8 +190,8 @@ using Outline = std::vector<CKvDispPoint>;
 /// The outlines of picks, read in a few statements, however many there are.
 class OutlineReader {
 public:
-    OutlineReader(CKvDbAbsDataMgr& manager, std::string dataset)
-        : manager_(manager), dataset_(std::move(dataset)) {}
+    OutlineReader(CKvDbAbsDataMgr& manager, const std::string& dataset)
+        : manager_(manager), dataset_(WithOwner(dataset)) {}
 
     std::vector<Outline> Read(const std::vector<CKvDbUtil::Pick>& picks) {
         outlines_.assign(picks.size(), {});
@@ -201,10 +205,17 @@ public:
     }
 
 private:
+    /// Picks by their labels, and blocks of the tables, that differ in their water alone.
+    struct SameNumber {
+        std::vector<std::pair<std::string, std::size_t>> picks;
+        std::vector<Found> found;
+    };
+
     /// A statement names no more than this, since servers have a limit.
     static constexpr std::size_t kMostNames = 500;
 
-    static std::vector<std::vector<std::string>> InParts(const std::set<std::string>& names) {
+    template <typename Names>
+    static std::vector<std::vector<std::string>> InParts(Names&& names) {
         std::vector<std::vector<std::string>> parts;
         for (const std::string& name : names) {
             if (parts.empty() || parts.back().size() == kMostNames) parts.emplace_back();
@@ -217,29 +228,28 @@ private:
                   const std::vector<std::size_t>& members,
                   const std::vector<std::string>& areaCodes) {
         if (areaCodes.empty()) return;
-        std::map<std::string, std::vector<std::size_t>> byLabel;
-        std::set<std::string> bare;
+        std::map<std::string, SameNumber> byNumber;
         std::vector<std::size_t> whole;
         for (const std::size_t i : members) {
             if (picks[i].block == kAllBlocks) {
                 whole.push_back(i);
                 continue;
             }
-            const std::string label = LabelOf(picks[i].block, picks[i].ext);
-            byLabel[label].push_back(i);
-            bare.insert(kv::catalogue::StripWaterSuffix(label));
+            std::string label = LabelOf(picks[i].block, picks[i].ext);
+            SameNumber& same = byNumber[kv::catalogue::StripWaterSuffix(label)];
+            same.picks.emplace_back(std::move(label), i);
         }
         if (!whole.empty()) ReadWholeAreas(whole, areaCodes);
-        std::map<std::string, std::vector<Found>> found;
-        for (const std::vector<std::string>& part : InParts(bare)) {
+        for (const std::vector<std::string>& part : InParts(std::views::keys(byNumber))) {
             for (Found& each : BlocksIn(manager_, dataset_, areaCodes, part))
-                found[kv::catalogue::StripWaterSuffix(each.label)].push_back(std::move(each));
+                byNumber[kv::catalogue::StripWaterSuffix(each.label)].found.push_back(
+                    std::move(each));
         }
-        for (const auto& [label, ofLabel] : byLabel) {
-            const Found* meant = Meant(found[kv::catalogue::StripWaterSuffix(label)], label);
-            if (!meant) continue;
-            std::vector<std::size_t>& wanted = wanted_[meant->refnum];
-            wanted.insert(wanted.end(), ofLabel.begin(), ofLabel.end());
+        for (const auto& [number, same] : byNumber) {
+            for (const auto& [label, i] : same.picks) {
+                if (const Found* meant = Meant(same.found, label))
+                    wanted_[meant->refnum].push_back(i);
+            }
         }
     }
 
@@ -259,25 +269,26 @@ private:
     }
 
     void ReadCorners() {
-        std::set<std::string> refnums;
-        for (const auto& [refnum, members] : wanted_)
-            refnums.insert(refnum);
-        for (const std::vector<std::string>& part : InParts(refnums)) {
+        for (const std::vector<std::string>& part : InParts(std::views::keys(wanted_))) {
             std::string list;
             for (const std::string& refnum : part)
                 list += (list.empty() ? "(" : ",") + refnum;
             manager_.Select(FromCorners("refnum, lat, lon", dataset_, "refnum in " + list + ")") +
                             " order by refnum, ptnum");
-            const std::vector<std::size_t>* members = nullptr;
-            std::string last;
-            for (int row = 0; row < manager_.NumberOfRows(); ++row) {
-                if (const char* refnum = manager_.GetItem(row, 0); !members || last != refnum) {
-                    last = refnum;
-                    members = &wanted_[last];
-                }
-                for (const std::size_t i : *members)
-                    outlines_[i].push_back(Corner(row, 1));
-            }
+            KeepCorners();
+        }
+    }
+
+    /// From rows that are sorted by block.
+    void KeepCorners() {
+        Outline corners;
+        for (int row = 0; row < manager_.NumberOfRows();) {
+            const std::string refnum = manager_.GetItem(row, 0);
+            corners.clear();
+            for (; row < manager_.NumberOfRows() && refnum == manager_.GetItem(row, 0); ++row)
+                corners.push_back(Corner(row, 1));
+            for (const std::size_t i : wanted_[refnum])
+                outlines_[i] = corners;
         }
     }
 
