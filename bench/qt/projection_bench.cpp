@@ -109,6 +109,6 @@ void Peer(benchmark::State& state) {
     }
 }
 
-const bench::Subject kChange("map/change of the projection", 1.5, Ours, Peer);
+const bench::Subject kChange("map/change of the projection", 1.3, Ours, Peer);
 
 }  // namespace

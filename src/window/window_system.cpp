@@ -148,6 +148,8 @@ void WindowSystem::Destroy(Node& node) {
     std::weak_ptr<Node> heir;
     Guarded([&] { heir = HeirOfFocus(node); });
     const bool inParent = node.parent_ != nullptr;
+    // Off the screen as a whole, and not control by control.
+    if (!inParent) Guarded([&] { node.SetVisible(false); });
     Release(node);
     TakeOut(node);
 

@@ -4,6 +4,8 @@
 
 #include <gmock/gmock.h>
 
+#include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QImage>
 #include <cmath>
 #include <random>
@@ -37,13 +39,28 @@ protected:
     void Show(Drawings drawings, double feetPerInch = 4000) {
         layer.Show(std::make_shared<const Drawings>(std::move(drawings)), {}, feetPerInch);
     }
-    QImage Painted() {
+    /// More lines than are painted anew at each movement.
+    static Drawings VeryMany() {
+        std::mt19937 random(5);
+        std::uniform_real_distribution<double> place(-250, 250);
+        Drawings drawings;
+        for (int i = 0; i < 700; ++i) {
+            const QPointF from(place(random), place(random));
+            drawings.lines.push_back(Line({from, from + QPointF(30, place(random) / 10)}));
+            drawings.lines.back().width = i % kLineWidths;
+            drawings.lines.back().type = i % kLineTypes;
+            drawings.lines.back().color = i % kColors;
+        }
+        return drawings;
+    }
+    QImage Painted() { return PaintedBy(layer); }
+    QImage PaintedBy(const DrawnLayer& painted) {
         QImage image(kSize, kSize, QImage::Format_RGB32);
         image.fill(Qt::white);
         QPainter painter(&image);
         painter.setRenderHint(QPainter::Antialiasing);
-        layer.DrawFills(painter, model, view);
-        layer.DrawOnTop(painter, view);
+        painted.DrawFills(painter, model, view);
+        painted.DrawOnTop(painter, view);
         return image;
     }
     static QColor Pixel(const QImage& image, double right, double down) {
@@ -196,16 +213,7 @@ TEST_F(DrawnLayerTest, WhatIsFarLargerThanTheViewIsDrawnAllTheSame) {
 }
 
 TEST_F(DrawnLayerTest, VeryManyAreAsSharpBehindADragAsWhereTheyArePaintedAnew) {
-    std::mt19937 random(5);
-    std::uniform_real_distribution<double> place(-250, 250);
-    Drawings drawings;
-    for (int i = 0; i < 700; ++i) {
-        const QPointF from(place(random), place(random));
-        drawings.lines.push_back(Line({from, from + QPointF(30, place(random) / 10)}));
-        drawings.lines.back().width = i % kLineWidths;
-        drawings.lines.back().type = i % kLineTypes;
-        drawings.lines.back().color = i % kColors;
-    }
+    Drawings drawings = VeryMany();
     drawings.texts = {{At(10, 10), "HEXAGON", 0.5, 30, 0}};
     Show(drawings, 20'000);
     Painted();
@@ -231,6 +239,50 @@ TEST_F(DrawnLayerTest, VeryManyAreAsSharpBehindADragAsWhereTheyArePaintedAnew) {
     drawings.lines.clear();
     Show(drawings, 20'000);
     EXPECT_NE(Painted(), before) << "other drawings are painted anew";
+}
+
+TEST_F(DrawnLayerTest, VeryManyAreStretchedWhileTheMapIsZoomedAndSharpBehindIt) {
+    Drawings drawings = VeryMany();
+    drawings.lines.push_back(Line({{40, -90}, {40, 90}}));
+    drawings.lines.back().width = kLineWidths - 1;
+    drawings.lines.back().color = 9;
+    Show(drawings);
+    int repaints = 0;
+    layer.SetRepaint([&] { ++repaints; });
+    const auto zoom = [&] { view.Zoom({kSize / 2.0, kSize / 2.0}, 1.25); };
+    const auto sharp = [&] {
+        DrawnLayer another(model);
+        another.Show(std::make_shared<const Drawings>(drawings), {}, 4000);
+        return PaintedBy(another);
+    };
+    const auto wait = [](auto&& until) {
+        QElapsedTimer time;
+        time.start();
+        while (time.elapsed() < 5'000 && !until())
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+    };
+    Painted();
+    zoom();
+    EXPECT_EQ(Painted(), sharp()) << "a single step";
+    zoom();
+    const QImage stretched = Painted();
+    EXPECT_NE(stretched, sharp());
+    EXPECT_EQ(Pixel(stretched, 62.5, 0), QColor(255, 0, 0));
+    EXPECT_EQ(Pixel(sharp(), 62.5, 0), QColor(255, 0, 0));
+    wait([&] { return repaints > 0; });
+    EXPECT_EQ(Painted(), sharp()) << "the movement is over";
+    QElapsedTimer rest;
+    rest.start();
+    wait([&] { return rest.elapsed() > 400; });
+    EXPECT_EQ(repaints, 1);
+    for (int step = 0; step < 9; ++step) {
+        zoom();
+        const QImage image = Painted();
+        EXPECT_EQ(Pixel(image, 40 * view.Scale() / kScale, 0), QColor(255, 0, 0)) << step;
+        if (40 * view.Scale() / kScale > kSize / 3.0) break;
+    }
+    Show(Drawings());
+    EXPECT_TRUE(Inked(Painted()).isEmpty());
 }
 
 // Texts.

@@ -49,6 +49,9 @@ QString Label(const char* deed, const DrawingRef& ref) {
 DrawingTools::DrawingTools(DrawingDesk desk)
     : desk_(std::move(desk)), canvas_(&desk_.canvas), layer_(desk_.model), positions_(desk_.model) {
     layer_.SetDark(canvas_->IsDark());
+    layer_.SetRepaint([this] {
+        if (canvas_) canvas_->update();
+    });
     canvas_->SetOverlay(&layer_);
     canvas_->installEventFilter(this);
     canvas_->AddDrawnOver([this](QPainter& painter, const MapView& view) { Paint(painter, view); });

@@ -1,6 +1,7 @@
 #include "workbench/drawings/drawn_layer.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 
 #include "workbench/drawings/drawing_colors.h"
@@ -23,9 +24,13 @@ constexpr double kLeastText = 1.2;
 constexpr double kReadableText = 3;
 constexpr double kLargeText = 60;
 
-/// More drawings than that are not painted anew where the map is but dragged.
+/// More drawings than that are not painted anew where the map is but dragged or zoomed.
 constexpr std::size_t kMany = 500;
 constexpr double kPartOfPixel = 0.01;
+/// A frame so soon after another belongs to the same movement.
+constexpr std::chrono::milliseconds kSoon(150);
+/// Beyond that nothing can be made out of what is stretched.
+constexpr double kMostStretched = 4;
 
 constexpr double kRadius = 6'371'000;  ///< of the earth, metres
 constexpr double kMetersPerFoot = 1200.0 / 3937.0;
@@ -52,6 +57,14 @@ Box Grown(const MapView& view) {
 }
 
 }  // namespace
+
+DrawnLayer::DrawnLayer(const MapModel& model) : model_(model) {
+    zooming_.setSingleShot(true);
+    zooming_.setInterval(kSoon);
+    QObject::connect(&zooming_, &QTimer::timeout, [this] {
+        if (stretched_ && repaint_) repaint_();
+    });
+}
 
 void DrawnLayer::Show(std::shared_ptr<const Drawings> drawings, const MapProjection& projection,
                       double feetPerInch) {
@@ -161,14 +174,32 @@ void DrawnLayer::DrawOnTop(QPainter& painter, const MapView& view) const {
 void DrawnLayer::DrawKept(QPainter& painter, const MapView& view) const {
     const double ratio = painter.device()->devicePixelRatioF();
     const QSize size = QSizeF(view.Width() * ratio, view.Height() * ratio).toSize();
-    const bool same = painted_.pixels.size() == size &&
-                      painted_.pixels.devicePixelRatio() == ratio && painted_.scale == view.Scale();
-    if (!same || !MoveKept(view)) {
+    const bool kept = painted_.pixels.size() == size && painted_.pixels.devicePixelRatio() == ratio;
+    const bool zoomed = kept && painted_.scale != view.Scale();
+    const bool stretches = zoomed && zooming_.isActive() && CanStretch(view);
+    if (zoomed) zooming_.start();
+    if (stretches) return DrawStretched(painter, view);
+    if (!kept || zoomed || !MoveKept(view)) {
         painted_ = {QPixmap(size), view.Middle(), view.Scale()};
         painted_.pixels.setDevicePixelRatio(ratio);
         Repaint(view, QRect(QPoint(), size));
     }
+    stretched_ = false;
     painter.drawPixmap(0, 0, painted_.pixels);
+}
+
+bool DrawnLayer::CanStretch(const MapView& view) const {
+    const double times = view.Scale() / painted_.scale;
+    return times <= kMostStretched && times >= 1 / kMostStretched;
+}
+
+void DrawnLayer::DrawStretched(QPainter& painter, const MapView& view) const {
+    stretched_ = true;
+    const double right = view.Width() / 2.0 / painted_.scale;
+    const double up = view.Height() / 2.0 / painted_.scale;
+    const QRectF place(OnScreen(view, {painted_.middle.x - right, painted_.middle.y + up}),
+                       OnScreen(view, {painted_.middle.x + right, painted_.middle.y - up}));
+    painter.drawPixmap(place, painted_.pixels, painted_.pixels.rect());
 }
 
 /// False where the map has moved by parts of pixels, or out of sight.

@@ -2,8 +2,11 @@
 
 #include <QPainterPath>
 #include <QPixmap>
+#include <QTimer>
+#include <functional>
 #include <memory>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "workbench/drawings/drawings.h"
@@ -19,7 +22,11 @@ namespace workbench {
 class DrawnLayer final : public MapOverlay {
 public:
     /// `model`, in Mercator's projection, outlives it.
-    explicit DrawnLayer(const MapModel& model) : model_(model) {}
+    explicit DrawnLayer(const MapModel& model);
+
+    /// Who paints the map anew. Very many drawings are stretched while the map is zoomed step
+    /// after step; it is called when the last step is over.
+    void SetRepaint(std::function<void()> repaint) { repaint_ = std::move(repaint); }
 
     /// Shows these drawings, null for none, on a map of that projection, at whose scale an inch is
     /// so many feet. What the projection cannot show is not there.
@@ -50,8 +57,8 @@ public:
     std::span<const Point> PointsOf(std::size_t line) const { return lines_.Points(line); }
 
 private:
-    /// What was painted last, of very many drawings, and of what view: a map that is dragged shows
-    /// it again.
+    /// What was painted last, of very many drawings, and of what view: a map that is dragged or
+    /// zoomed shows it again.
     struct Painted {
         QPixmap pixels;
         Point middle;
@@ -65,6 +72,8 @@ private:
     void DrawWithin(QPainter& painter, const MapView& view, const Box& box) const;
     void DrawKept(QPainter& painter, const MapView& view) const;
     bool MoveKept(const MapView& view) const;
+    bool CanStretch(const MapView& view) const;
+    void DrawStretched(QPainter& painter, const MapView& view) const;
     void Repaint(const MapView& view, const QRect& part) const;
     double UnitAt(const Place& place) const;
     PlacedText Put(const DrawnText& text) const;
@@ -84,6 +93,10 @@ private:
     std::vector<PlacedText> texts_;
     FeatureLayer textBoxes_;
     mutable Painted painted_;
+    /// Runs since a frame of another scale than the one before.
+    mutable QTimer zooming_;
+    mutable bool stretched_ = false;
+    std::function<void()> repaint_;
 };
 
 }  // namespace workbench

@@ -187,7 +187,7 @@ void ButtonPeer::ShowFocus() {
 }
 
 void ButtonPeer::ShowStyle() {
-    if (!GetNode().Parent()) return;
+    if (!GetNode().Parent() || !Widget()->isVisible()) return;
     for (const auto& sibling : GetNode().Parent()->Children()) {
         Peer* peer = IsPush(*sibling) ? PeerOf(*sibling) : nullptr;
         if (peer && peer->Widget()) peer->Widget()->update();

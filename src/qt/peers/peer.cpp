@@ -1,7 +1,9 @@
 #include "qt/peers/peer.h"
 
+#include <QAbstractButton>
 #include <QAccessible>
 #include <QHash>
+#include <QLabel>
 #include <algorithm>
 
 #include "qt/drawing/colors.h"
@@ -28,8 +30,9 @@ bool IsGroupBox(const Node& node) {
 }
 
 /// Some widgets become known to screen readers while they are being made, as the platform's own;
-/// also before one listens.
+/// also before one listens. To look whether one did would make it known.
 void ForgetInterfaceOf(QWidget* widget) {
+    if (qobject_cast<QLabel*>(widget) || qobject_cast<QAbstractButton*>(widget)) return;
     QAccessibleInterface* early = QAccessible::queryAccessibleInterface(widget);
     if (early) QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(early));
 }
@@ -43,7 +46,9 @@ Peer::Peer(Node& node, QWidget* widget) : node_(node), widget_(widget) {
 }
 
 Peer::~Peer() {
-    Peers().removeIf([this](const auto& each) { return each.value() == this; });
+    for (const QWidget* widget : widgets_) {
+        if (Peers().value(widget) == this) Peers().remove(widget);
+    }
     if (widget_) LetGo(widget_);
     if (!node_.Parent()) SettleSoon();
 }
@@ -61,6 +66,7 @@ Peer* PeerOf(const Node& node) {
 
 void AddWidget(Peer& peer, QWidget* widget) {
     Peers().insert(widget, &peer);
+    peer.widgets_.push_back(widget);
     TakeKeysOf(widget, peer.GetNode());
 }
 

@@ -5,6 +5,7 @@
 #include <QWidget>
 #include <functional>
 #include <memory>
+#include <vector>
 
 #include "qt/drawing/scale.h"
 #include "window/node.h"
@@ -56,11 +57,14 @@ protected:
     void MakeChildren();
 
 private:
+    friend void AddWidget(Peer& peer, QWidget* widget);
     void ShowNameWithParts();
     void ShowOrder();
 
     Node& node_;
     QPointer<QWidget> widget_;
+    /// All that count as this peer's; some may be gone.
+    std::vector<const QWidget*> widgets_;
 };
 
 /// The peer of the widget, or of the nearest widget around it that has one; null for none.
