@@ -149,7 +149,7 @@ void WindowSystem::Destroy(Node& node) {
     Guarded([&] { heir = HeirOfFocus(node); });
     const bool inParent = node.parent_ != nullptr;
     // Off the screen as a whole, and not control by control.
-    if (!inParent) Guarded([&] { node.SetVisible(false); });
+    if (node.Class() == NodeClass::kDialog) Guarded([&] { node.SetVisible(false); });
     Release(node);
     TakeOut(node);
 
