@@ -55,7 +55,6 @@ BOOL CKvGuiProgressDlg::OnInitDialog() {
     m_Progress.SetRange(m_nLower, m_nUpper);
     m_Progress.SetStep(m_nStep);
     m_Progress.SetPos(m_nLower);
-    SetWindowText("Progress");
     return TRUE;
 }
 

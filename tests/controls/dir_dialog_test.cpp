@@ -33,6 +33,12 @@ TEST(RestOfName, OfANameInCapitalsIsInSmallLettersUnlessItHasBlanks) {
     EXPECT_EQ(RestOfName("G", "GULF_2"), "ulf_2");
     EXPECT_EQ(RestOfName("G", "GULF BLOCKS"), "ULF BLOCKS");
     EXPECT_EQ(RestOfName("2", "2024"), "024");
+    EXPECT_EQ(RestOfName("A", "AZ"), "z");
+    EXPECT_EQ(RestOfName("Z", "ZA"), "a");
+    EXPECT_EQ(RestOfName("Z", "ZZ"), "z");
+    EXPECT_EQ(RestOfName("A", "AA"), "a");
+    EXPECT_EQ(RestOfName("A", "ABz"), "Bz");
+    EXPECT_EQ(RestOfName("A", "ABa"), "Ba");
 }
 
 TEST(RestOfName, FollowsTheCaseOfTheLastTypedCharacter) {
@@ -41,6 +47,8 @@ TEST(RestOfName, FollowsTheCaseOfTheLastTypedCharacter) {
     EXPECT_EQ(RestOfName("gu", "Gulf Blocks"), "lf Blocks");
     EXPECT_EQ(RestOfName("GU", "GULF"), "LF");
     EXPECT_EQ(RestOfName("g", "GULF"), "ulf");
+    EXPECT_EQ(RestOfName("QA", "Qatar"), "TAR");
+    EXPECT_EQ(RestOfName("QZ", "Qzar"), "AR");
 }
 
 /// "D:" is a drive with some folders, each other letter a drive of its kind that holds nothing.

@@ -106,6 +106,13 @@ TEST(MaskFormat, DatesAreShownByTheirParts) {
            {"d/m/yyyy", "07/04/2024", "4/7/2024"},
            {"dddd, mmmm dd, yyyy", "2/29/2024", "Thursday, February 29, 2024"},
            {"ddd", "1/1/2000", "Sat"},
+           {"dddd ddd", "9/1/2024", "Sunday Sun"},
+           {"dddd ddd", "9/2/2024", "Monday Mon"},
+           {"dddd ddd", "9/3/2024", "Tuesday Tue"},
+           {"dddd ddd", "9/4/2024", "Wednesday Wed"},
+           {"dddd ddd", "9/5/2024", "Thursday Thu"},
+           {"dddd ddd", "9/6/2024", "Friday Fri"},
+           {"dddd ddd", "9/7/2024", "Saturday Sat"},
            {"yyyy", "1/1/29", "2029"},
            {"yyyy", "1/1/30", "1930"},
            {"mm.dd", "12-31-1999", "12.31"}});

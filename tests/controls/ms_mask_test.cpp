@@ -339,6 +339,33 @@ TEST_F(MsMask, AMaskThatComesTakesTheTextInIfItFits) {
     });
 }
 
+TEST_F(MsMask, AMaskInThePlaceOfAnotherBeginsEmpty) {
+    RunWith("##", [&](kv::User& user) {
+        mask.SetText("12");
+        mask.SetMask("&&");
+        EXPECT_EQ(user.Text(kMask), "__");
+    });
+}
+
+TEST_F(MsMask, WhatAMaskHeldIsFormattedWithoutIt) {
+    RunWith("##", [&](kv::User& user) {
+        mask.SetText("12");
+        mask.SetFormat("0.0");
+        user.Focus(kAhead);
+        mask.SetMask("");
+        EXPECT_EQ(user.Text(kMask), "12.0");
+        EXPECT_EQ(mask.GetText(), "12");
+    });
+}
+
+TEST_F(MsMask, TypingMarksItAsModified) {
+    RunWith("##", [&](kv::User& user) {
+        EXPECT_FALSE(mask.SendMessage(EM_GETMODIFY));
+        user.Type(kMask, "1");
+        EXPECT_TRUE(mask.SendMessage(EM_GETMODIFY));
+    });
+}
+
 TEST_F(MsMask, ThePromptCharacterIsShownInEmptyPlaces) {
     RunWith("##", [&](kv::User& user) {
         mask.SetPromptChar("*x");
@@ -403,6 +430,9 @@ TEST_F(MsMask, WithTheSelectionShownEverywhereTheFormatIsNot) {
         EXPECT_FALSE(mask.GetHideSelection());
         EXPECT_EQ(user.Text(kMask), "12");
         EXPECT_EQ(mask.GetFormattedText(), "12.0");
+        mask.SetHideSelection(TRUE);
+        EXPECT_TRUE(mask.GetHideSelection());
+        EXPECT_EQ(user.Text(kMask), "12.0");
     });
 }
 
