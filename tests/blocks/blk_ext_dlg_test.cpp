@@ -219,6 +219,17 @@ TEST_F(BlkExtDlg, ADoubleClickListsTheBlocksOfAnAreaByNumber) {
     });
 }
 
+TEST_F(BlkExtDlg, ListingTheBlocksOfAnAreaDisablesRemove) {
+    Given({{"PLAIN", ""}});
+    Run(dialog, [](kv::User& user) {
+        Search(user, "");
+        user.Click(kSelected);
+        EXPECT_TRUE(user.Enabled(kRemove));
+        user.DoubleClick(kAvailable, "GRAND ISLE");
+        EXPECT_FALSE(user.Enabled(kRemove));
+    });
+}
+
 TEST_F(BlkExtDlg, SpaceListsTheBlocksOfAnAreaAsADoubleClickDoes) {
     Run(dialog, [](kv::User& user) {
         Search(user, "grand");

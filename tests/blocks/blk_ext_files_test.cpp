@@ -440,6 +440,10 @@ TEST_F(BlkExtFiles, EntriesAndNeighborsAreReadAtOnceOrNotAtAll) {
 TEST_F(BlkExtFiles, ReadersTellWhetherTheFileCouldBeRead) {
     desktop.ExpectMessage(kNotOpened);
     EXPECT_FALSE(dialog.ReadImportFile(folder.Dialog("none.txt"), 3));
+    desktop.ExpectMessage(kNotOpened);
+    EXPECT_FALSE(dialog.ReadImportFile(folder.Dialog("none.txt"), false, ",", "-"));
+    desktop.ExpectMessage(kNotOpened);
+    EXPECT_FALSE(dialog.ReadImportFile(folder.Dialog("none.txt"), 5, 5, 5));
     folder.Write("in.txt", "h\nA\t1\t \t\n");
     EXPECT_TRUE(dialog.ReadImportFile(folder.Dialog("in.txt"), 3));
     EXPECT_TRUE(dialog.ReadImportFile(folder.Dialog("in.txt"), -1, -1, -1));
