@@ -6,8 +6,10 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
 #include <string>
 
+#include "base/paths.h"
 #include "frame/kvdbkvn/db_abs_data_mgr.h"
 #include "frame/module.h"
 #include "map_picks/map_picks.h"
@@ -28,6 +30,7 @@ Ctrl+K finds any command by its name, F6 goes round the bar, the map and the tab
 Exit codes: 0 done, 2 wrong use, 3 a failure of the database or of a file.)";
 
 struct Options {
+    std::string file;
     std::string database;
     std::string picture;
     std::string pictures;
@@ -66,12 +69,18 @@ bool ChoosePlatform(const Options& options) {
 #endif
 }
 
+/// The file that is to be opened, as the dialogs name it.
+std::string FileToOpen(const Options& options) {
+    if (options.file.empty()) return {};
+    return kv::FromNative(std::filesystem::absolute(options.file).string());
+}
+
 int TakePictures(workbench::Workbench& host, const Options& options) {
     EndOnFailure(host);
     // What the platform of no display cannot do is of no interest to a picture.
     QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
     host.Window().resize(1280, 860);
-    host.Show();
+    host.Show(FileToOpen(options));
     while (host.Model().Areas().empty())
         QApplication::processEvents();
     if (!options.pictures.empty()) {
@@ -88,6 +97,7 @@ int main(int argc, char** argv) {
     CLI::App app("The desktop host of KVGuiCtl: a map and reports of oil and gas data");
     app.footer(kHelpFooter);
     Options options;
+    app.add_option("file", options.file, "Map to open, as the menu Map saves them (.kvmap)");
     app.add_option("--db", options.database,
                    "Server text, as sqlite:PATH or postgresql://...; the sample database if left "
                    "out");
@@ -109,6 +119,7 @@ int main(int argc, char** argv) {
         return kFailure;
     }
     QApplication::setApplicationName(QStringLiteral("Workbench"));
+    QApplication::setDesktopFileName(QStringLiteral("kvguictl-workbench"));
     QApplication application(argc, argv);
     QApplication::setStyle(new workbench::HostStyle);
     InitControlDll();
@@ -125,6 +136,6 @@ int main(int argc, char** argv) {
             std::_Exit(kDone);
         });
     }
-    host.Show();
+    host.Show(FileToOpen(options));
     return QApplication::exec();
 }

@@ -216,14 +216,15 @@ void Workbench::Save() {
     Remember(kState, window_->saveState(kStateVersion));
 }
 
-void Workbench::Show() {
-    new FirstPaint(*canvas_, [this] {
+void Workbench::Show(const std::string& file) {
+    new FirstPaint(*canvas_, [this, file] {
         emit FirstPainted();
         if (const auto missing = MissingSample(database_)) {
             OfferSample(*missing);
         } else {
             LoadMap();
         }
+        if (!file.empty()) documents_->OpenFile(file);
     });
     frame_.ShowWindow(SW_SHOW);
     canvas_->setFocus();

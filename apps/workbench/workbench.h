@@ -43,8 +43,9 @@ public:
     explicit Workbench(CKvDbInfo database = {});
     ~Workbench() override;
 
-    /// Shows the window as the user left it, and reads the map once it is painted.
-    void Show();
+    /// Shows the window as the user left it. Once it is painted, reads the map, and opens the map
+    /// document in `file`, where one is named.
+    void Show(const std::string& file = {});
     /// Reads the map anew.
     void LoadMap();
     /// Works on another database. False, with the words of the failure, when it holds no areas; the

@@ -419,6 +419,31 @@ TEST_F(WorkbenchDocument, AFileThatCannotBeOpenedLeavesAllAsItIs) {
     }
 }
 
+TEST_F(WorkbenchDocument, AFileThatIsNamedAtTheStartIsOpened) {
+    Build();
+    const std::string path = folder.Native("map.kvmap");
+    SaveAs(path);
+    const MapDocument built = Document();
+    Open(test::SampleServer(), path);
+    EXPECT_THAT(failures, IsEmpty());
+    EXPECT_EQ(Document(), built);
+    EXPECT_THAT(Title(), StartsWith(built.map->name + " - "));
+    EXPECT_FALSE(host->Model().Areas().empty());
+    for (const Place& corner : EdgeOf(built.map.value())) {
+        const auto screen = Canvas().ScreenAt(corner);
+        ASSERT_TRUE(screen);
+        EXPECT_TRUE(QRectF(Canvas().rect()).contains(*screen));
+    }
+}
+
+TEST_F(WorkbenchDocument, AFileThatIsNamedAtTheStartAndCannotBeOpenedIsTold) {
+    const std::string path = folder.Native("missing.kvmap");
+    Open(test::SampleServer(), path);
+    EXPECT_THAT(failures, ElementsAre(path + " could not be opened.\nIt cannot be read."));
+    EXPECT_FALSE(Document().map);
+    EXPECT_FALSE(host->Model().Areas().empty());
+}
+
 TEST_F(WorkbenchDocument, RecentMapsAreInTheMenu) {
     Build();
     SaveAs(folder.Native("first.kvmap"));

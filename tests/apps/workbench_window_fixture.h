@@ -27,15 +27,16 @@ protected:
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 
-    /// Opens the window and reads the map.
-    void Open(const std::string& server = test::SampleServer()) {
+    /// Opens the window, reads the map, and opens a map document, where one is named.
+    void Open(const std::string& server = test::SampleServer(), const std::string& file = {}) {
+        host.reset();
         CKvDbInfo info("", "", server.c_str());
         test::ConnectTo(info);
         host = std::make_unique<Workbench>(info);
         host->SetFailureShown(
             [this](const QString& message) { failures.push_back(message.toStdString()); });
         QSignalSpy painted(host.get(), &Workbench::FirstPainted);
-        host->Show();
+        host->Show(file);
         while (painted.isEmpty())
             QApplication::processEvents();
         host->Runner().Finish();
