@@ -23,7 +23,7 @@ nm -D --defined-only "$library" | grep -E ' T InitControlDll$' ||
 ! nm -DC --defined-only "$library" | grep ' T kv::dialect::' || fail "shows what is not marked"
 ! ldd "$library" | grep -iE 'qt[0-9]|gtk|gdk|libX11|libxcb|wayland|wx|fltk' || fail "links a GUI toolkit"
 for engine in KVGuiCtlPostgres KVGuiCtlOdbc; do
-    [ -f "$libraries/$engine.so" ] || fail "$engine.so does not stand beside the library"
+    [ -f "$libraries/KVGuiCtl/$engine.so" ] || fail "$engine.so does not lie below the library"
 done
 ! grep -rlF -e "$build" -e "$work/first" "$libraries/cmake" "$libraries/pkgconfig" ||
     fail "the package names the folder it was built in"

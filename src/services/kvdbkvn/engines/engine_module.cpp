@@ -85,10 +85,11 @@ fs::path OwnFolder() {
     return fs::read_symlink("/proc/self/exe", ignored).parent_path();
 }
 
+/// Below the library, or below the folder "lib" beside a program that is linked without it.
 std::vector<fs::path> ModuleFolders() {
     if (const char* folder = std::getenv("KVGUICTL_ENGINES"); folder && *folder) return {folder};
     const fs::path own = OwnFolder();
-    return {own, own.parent_path() / "lib"};
+    return {own / "KVGuiCtl", own.parent_path() / "lib" / "KVGuiCtl"};
 }
 
 fs::path FindModule(const std::string& library) {
