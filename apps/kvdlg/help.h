@@ -60,6 +60,8 @@ between two actions of a window is the scene behind that window's.
   {"map": [PICK, ...]}            the map that blocks are picked on; a pick is "AREA,BLOCK,EXTENSION"
                                   with the area's name; null cancels it
   {"pump": N, "do": [...]}        acts on the window in front inside long work, after N steps of it
+  {"wait": N, "do": [...]}        the same of the window that comes up when a query takes longer than
+                                  half a second, by which it can be cancelled
 
 Actions, with the ids that "kvdlg describe CLASS" tells:
 

@@ -17,8 +17,9 @@ namespace {
 std::string WordsOfScenesLeft(const Json& user, int left, const std::map<std::string, int>& lines) {
     const std::string words = "the run is over, and " + std::to_string(left) +
                               (left == 1 ? " scene was not taken" : " scenes were not taken");
-    const bool pumps = std::any_of(user.begin(), user.end(),
-                                   [](const Json& scene) { return scene.contains("pump"); });
+    const bool pumps = std::any_of(user.begin(), user.end(), [](const Json& scene) {
+        return scene.contains("pump") || scene.contains("wait");
+    });
     if (pumps) return words;
     const auto first = user.size() - static_cast<std::size_t>(left);
     const auto line = lines.find("/user/" + std::to_string(first));

@@ -8,6 +8,7 @@
 
 #include "window/acting/row_texts.h"
 #include "window/acting/user.h"
+#include "window/controls/combo_box_node.h"
 #include "window/mnemonics.h"
 #include "window/templates/resources.h"
 
@@ -67,6 +68,12 @@ std::string ShownText(const kv::Node& control) {
     return secret && !control.Text().empty() ? "***" : control.Text();
 }
 
+/// What a list tells as long as it has no rows.
+const std::string& WordsOfNoRows(const kv::Node& list) {
+    const auto* combo = dynamic_cast<const kv::ComboBoxNode*>(&list);
+    return combo ? combo->List().ToolTip() : list.ToolTip();
+}
+
 Json DescribeControl(kv::Node& control) {
     Json result{{"id", control.Id()},
                 {"kind", KindName(control.Class(), control.Style())},
@@ -78,6 +85,8 @@ Json DescribeControl(kv::Node& control) {
     if (kv::HasRows(control)) {
         result["rows"] = kv::RowTexts(control);
         result["selection"] = kv::SelectedRows(control);
+        const std::string& words = WordsOfNoRows(control);
+        if (result["rows"].empty() && !words.empty()) result["says"] = words;
     }
     return result;
 }

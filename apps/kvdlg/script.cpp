@@ -13,6 +13,7 @@
 #include "base/paths.h"
 #include "kvdlg/script_lines.h"
 #include "window/acting/input.h"
+#include "window/acting/wait_scene.h"
 
 namespace kvdlg {
 
@@ -241,16 +242,17 @@ std::string MapTextOf(const Json& picks, const std::string& where) {
 struct SceneKind {
     std::string_view keys[2];
 };
-constexpr SceneKind kSceneKinds[] = {{{"window", "do"}}, {{"message", "answer"}},
-                                     {{"file"}},         {{"print"}},
-                                     {{"map"}},          {{"pump", "do"}}};
+constexpr SceneKind kSceneKinds[] = {
+    {{"window", "do"}}, {{"message", "answer"}}, {{"file"}},      {{"print"}},
+    {{"map"}},          {{"pump", "do"}},        {{"wait", "do"}}};
 
 void CheckKeys(const Json& scene, const ScenePlace& place) {
     if (!scene.is_object()) Wrong(place.Words(), "an object");
     const auto kind = std::ranges::find_if(
         kSceneKinds, [&](const SceneKind& each) { return scene.contains(each.keys[0]); });
     if (kind == std::end(kSceneKinds)) {
-        Wrong(place.Words(), "\"window\", \"message\", \"file\", \"print\", \"map\" or \"pump\"");
+        Wrong(place.Words(),
+              "\"window\", \"message\", \"file\", \"print\", \"map\", \"pump\" or \"wait\"");
     }
     RefuseOthers(scene, std::span(kind->keys).first(kind->keys[1].empty() ? 1 : 2),
                  [&](const std::string& key) { return place.WordsOfKey(key); });
@@ -287,9 +289,12 @@ void AddScene(const Json& scene, const ScenePlace& place, kv::HeadlessDesktop& d
     } else if (scene.contains("map")) {
         desktop.ExpectOther(kMap, MapTextOf(scene["map"], where));
     } else {
-        if (!scene["pump"].is_number_integer())
-            Wrong(where, "\"pump\" to be how many pumpings go by first");
-        desktop.ExpectPump(play, scene["pump"].get<int>());
+        const char* key = scene.contains("pump") ? "pump" : "wait";
+        if (!scene[key].is_number_integer())
+            Wrong(where, std::string("\"") + key + "\" to be how many pumpings go by first");
+        const int skip = scene[key].get<int>();
+        scene.contains("pump") ? desktop.ExpectPump(play, skip)
+                               : kv::ExpectWait(desktop, play, skip);
     }
 }
 

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "frame/catalogue.h"
+#include "frame/kvcom/cancelled.h"
 #include "frame/kvlogs/log.h"
 #include "workbench/dataset.h"
 
@@ -128,6 +129,8 @@ void MapLoader::ReadOptional(Reader reader, AreaMap& area) {
     if (failed_.count(reader)) return;
     try {
         reader(area);
+    } catch (const CKvCancelled&) {
+        throw;
     } catch (const CKvException& e) {
         failed_.insert(reader);
         CKvLog::Output("The map lacks a layer. " + e.GetErrorMessage(true, true), kLogLevel, false);

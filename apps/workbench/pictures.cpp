@@ -55,15 +55,15 @@ kv::Node* Opened(const kv::Node& mainWindow) {
     return newest;
 }
 
-/// Waits inside a dialog's loop, takes its picture, and closes all that is open.
-class Photographer : public QObject {
+/// Waits inside a dialog's loop, looks at it, and closes all that is open.
+class Onlooker : public QObject {
 public:
-    Photographer(kv::Node& mainWindow, std::string path)
-        : mainWindow_(mainWindow), path_(std::move(path)) {
-        connect(&timer_, &QTimer::timeout, this, &Photographer::Look);
+    Onlooker(kv::Node& mainWindow, const std::function<bool(kv::Node&)>& look)
+        : mainWindow_(mainWindow), look_(look) {
+        connect(&timer_, &QTimer::timeout, this, &Onlooker::Look);
         timer_.start(0);
     }
-    bool Taken() const { return taken_; }
+    bool HasLooked() const { return looked_; }
 
 private:
     void Look() {
@@ -76,11 +76,11 @@ private:
         // What has the focus is seen in the window in front alone.
         const QWidget* shown = window ? kv::qt::WidgetOf(*window) : nullptr;
         const bool inFront = shown && shown->isActiveWindow();
-        if (!taken_ && window && (inFront || turns_ == kMostTurns)) {
+        if (!looked_ && window && (inFront || turns_ == kMostTurns)) {
             kv::WindowSystem::Get().Settle();
-            taken_ = kv::qt::SavePicture(*window, path_);
+            looked_ = look_(*window);
         }
-        if (taken_ || ++turns_ > kMostTurns) Close(window);
+        if (looked_ || ++turns_ > kMostTurns) Close(window);
     }
     void Close(kv::Node* window) {
         if (QWidget* box = QApplication::activeModalWidget(); box && !window) {
@@ -92,18 +92,26 @@ private:
     }
 
     kv::Node& mainWindow_;
-    std::string path_;
+    const std::function<bool(kv::Node&)>& look_;
     QTimer timer_;
-    bool taken_ = false;
+    bool looked_ = false;
     int turns_ = 0;
 };
 
 }  // namespace
 
-bool SaveDialog(Workbench& host, const adaptors::Adaptor& adaptor, const std::string& folder) {
-    Photographer photographer(*host.Frame().m_hWnd, folder + "/" + adaptor.className + ".png");
+bool LookAtDialog(Workbench& host, const adaptors::Adaptor& adaptor,
+                  const std::function<bool(kv::Node&)>& look) {
+    const Onlooker onlooker(*host.Frame().m_hWnd, look);
     host.RunDialog(adaptor);
-    if (photographer.Taken()) return true;
+    return onlooker.HasLooked();
+}
+
+bool SaveDialog(Workbench& host, const adaptors::Adaptor& adaptor, const std::string& folder) {
+    const std::string path = folder + "/" + adaptor.className + ".png";
+    if (LookAtDialog(host, adaptor,
+                     [&](kv::Node& window) { return kv::qt::SavePicture(window, path); }))
+        return true;
     std::fprintf(stderr, "workbench: no picture of %s\n", adaptor.className.c_str());
     return false;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "workbench/workbench.h"
@@ -13,6 +14,11 @@ void PlaySample(Workbench& host);
 /// its sample inputs and named by its class, and "workbench.png". False, with the reason on the
 /// standard error output, when one could not be made.
 bool SavePictures(Workbench& host, const std::string& folder);
+
+/// Opens a dialog with its sample inputs, hands its window over when it is in front, and closes all
+/// that is open. False when none was there to look at, or `look` answers so.
+bool LookAtDialog(Workbench& host, const adaptors::Adaptor& adaptor,
+                  const std::function<bool(kv::Node&)>& look);
 
 /// Writes a PNG file of one dialog with its sample inputs into a folder that is there. False, with
 /// the reason on the standard error output, when it could not be made.

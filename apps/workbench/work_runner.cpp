@@ -3,7 +3,8 @@
 #include <QElapsedTimer>
 #include <algorithm>
 
-#include "frame/kvcom/exception.h"
+#include "window/held_back.h"
+#include "workbench/failure_words.h"
 
 namespace workbench {
 
@@ -43,8 +44,8 @@ void WorkRunner::Cancel() {
 }
 
 void WorkRunner::Continue() {
-    // A message box of a failed step pumps the timer.
-    if (stepping_) return;
+    // A message box of a failed step pumps the timer, and so does a query that somebody waits for.
+    if (stepping_ || kv::HoldsBack()) return;
     QElapsedTimer elapsed;
     elapsed.start();
     while (StepOnce() && elapsed.elapsed() < kTurn) {
@@ -64,11 +65,12 @@ bool WorkRunner::StepOnce() {
     try {
         more = work->Step();
     } catch (const CKvException& e) {
-        failure = QString::fromStdString(e.GetErrorMessage(true, true));
+        failure = FailureWords(e);
     }
     stepping_ = false;
     if (more) return true;
     std::erase(waiting_, work);
+    // What was cancelled ends with what it has.
     if (failure.isEmpty()) work->Finished();
     EndCurrent();
     if (!failure.isEmpty()) emit Failed(failure);

@@ -14,6 +14,7 @@
 #include "window/window_system.h"
 #include "workbench/dataset.h"
 #include "workbench/drawing_tools/text_scale.h"
+#include "workbench/failure_words.h"
 #include "workbench/map_search.h"
 #include "workbench/match.h"
 #include "workbench/sample_maker.h"
@@ -266,7 +267,7 @@ bool Workbench::UseDatabase(const CKvDbInfo& info, QString& failure) {
     try {
         const Rows areas("select count(*) from " + TableName(kv::catalogue::kAreaTable));
     } catch (const CKvException& e) {
-        failure = QString::fromStdString(e.GetErrorMessage(true, true));
+        failure = FailureWords(e);
         CKvDbAbsDataMgr(KV_CONNECT_DEFAULT).SetDbInfo(database_);
         return false;
     }
@@ -283,6 +284,7 @@ bool Workbench::UseDatabase(const CKvDbInfo& info, QString& failure) {
 }
 
 void Workbench::Fail(const QString& message) {
+    if (message.isEmpty()) return;
     if (failure_) {
         failure_(message);
     } else {
@@ -325,7 +327,7 @@ void Workbench::ShowOnMap(const std::vector<std::string>& areaCodes, const std::
     try {
         if (loader_) loader_->Need(areaCodes);
     } catch (const CKvException& e) {
-        Fail(QString::fromStdString(e.GetErrorMessage(true, true)));
+        Fail(FailureWords(e));
         return;
     }
     const Pick pick = model_.FindPick(areaCodes, block);
@@ -357,7 +359,7 @@ void Workbench::RunReport() {
     try {
         words = WordsOfPick();
     } catch (const CKvException& e) {
-        Fail(QString::fromStdString(e.GetErrorMessage(true, true)));
+        Fail(FailureWords(e));
         return;
     }
     runner_.Begin(std::make_shared<ReportLoader>(*layer, std::string(layer->title) + " in " + words,
@@ -440,7 +442,7 @@ void Workbench::PickInBar(const AreaMap& area, std::string_view block) {
         bar.SetArea(area.code);
         bar.SetBlkExt(label);
     } catch (const CKvException& e) {
-        Fail(QString::fromStdString(e.GetErrorMessage(true, true)));
+        Fail(FailureWords(e));
     }
     kv::WindowSystem::Get().Settle();
 }

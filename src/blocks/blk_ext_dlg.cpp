@@ -10,6 +10,7 @@
 #include "blocks/block_file.h"
 #include "frame/kvdbkvn/db_abs_data_mgr.h"
 #include "frame/kvdbkvn/db_dataset_set.h"
+#include "frame/kvdbkvn/tell_failure.h"
 #include "window/controls/edit.h"
 #include "window/dialog_keys.h"
 
@@ -57,13 +58,14 @@ bool FillList(CListBox& list, const std::string& sql,
         const int rows = manager.NumberOfRows();
         if (rows == 0) AfxMessageBox("No Matches found!", 0, 0);
         list.ResetContent();
+        kv::db::ShowAskedAnew(list);
         for (int row = 0; row < rows; ++row) {
             const char* text = manager.GetItem(row, 0);
             if (!isHeldBack(text)) list.AddString(text);
         }
         filled = true;
     } catch (const CKvException& e) {
-        AfxMessageBox(e.GetErrorMessage(true, true).c_str(), 0, 0);
+        kv::db::TellFailure(e, list);
     }
     manager.FreeData();
     manager.Disconnect();
@@ -333,8 +335,7 @@ void CKvGuiBlkExtDlg::listExt(const std::string& area) {
     const IndexedSelection selection(*m_pSelection);
     const bool listed = FillList(m_listExt, GetBlkExtQuery(area),
                                  [&](const char* block) { return selection.Has(area, block); });
-    if (!listed) return;
-    m_listAvail.SetSel(m_listAvail.FindString(-1, area.c_str()), TRUE);
+    if (listed) m_listAvail.SetSel(m_listAvail.FindString(-1, area.c_str()), TRUE);
     UpdateActionButtons();
 }
 

@@ -12,6 +12,7 @@
 #include "frame/kvcom/util_geo.h"
 #include "frame/kvdbkvn/db_abs_data_mgr.h"
 #include "frame/kvdbkvn/table_owner.h"
+#include "frame/kvdbkvn/tell_failure.h"
 #include "window/dialogs/message_box.h"
 
 using kv::blocks::NeighborRelation;
@@ -62,10 +63,6 @@ void Show(const std::string& words) {
     AfxMessageBox(words.c_str(), 0, 0);
 }
 
-void Show(const CKvException& failure) {
-    Show(failure.GetErrorMessage(true, true));
-}
-
 void Close(CKvDbAbsDataMgr& db) {
     db.FreeData();
     db.Disconnect();
@@ -83,7 +80,7 @@ void ChangeWhole(const Change& change) {
     } catch (const CKvException& failure) {
         // Ahead of the box, which may stand for long: others wait for what is locked.
         db.Rollback();
-        Show(failure);
+        kv::db::TellFailure(failure);
     }
     Close(db);
 }
@@ -142,7 +139,7 @@ bool CNeighborBlocks::PopulateNeighbor() {
         outlines.Connect();
         Search(candidates, outlines);
     } catch (const CKvException& failure) {
-        Show(failure);
+        kv::db::TellFailure(failure);
         isWhole = false;
     }
     index_.reset();

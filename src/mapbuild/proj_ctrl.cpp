@@ -5,10 +5,12 @@
 
 #include "base/numbers.h"
 #include "base/text.h"
+#include "frame/kvcom/cancelled.h"
 #include "frame/kvcom/projection_code.h"
 #include "frame/kvcom/util_lldrv.h"
 #include "frame/kvdbkvn/db_abs_data_mgr.h"
 #include "frame/kvdbkvn/db_dataset_set.h"
+#include "frame/kvdbkvn/tell_failure.h"
 #include "frame/kvlogs/log.h"
 #include "mapbuild/proj_sel.h"
 #include "window/controls/combo_box.h"
@@ -107,8 +109,10 @@ void CKvGuiProjCtrl::BuildCodeDescMap() {
             Enter(code, description.substr(std::min(ahead.size(), description.size())),
                   description);
         }
+    } catch (const CKvCancelled&) {
+        m_bMapDescHasData = false;
     } catch (const CKvException& e) {
-        AfxMessageBox(e.GetErrorMessage(true, true).c_str(), 0, 0);
+        kv::db::TellFailure(e);
     }
     manager.FreeData();
     manager.Disconnect();

@@ -4,6 +4,7 @@
 #include "frame/kvcom/projection_code.h"
 #include "frame/kvdbkvn/db_abs_data_mgr.h"
 #include "frame/kvdbkvn/db_dataset_set.h"
+#include "frame/kvdbkvn/tell_failure.h"
 #include "mapbuild/proj_sel_ids.h"
 #include "mapbuild/utm_zone_dlg.h"
 #include "window/controls/list_box.h"
@@ -31,6 +32,7 @@ CListBox& CKvGuiProjSel::List() const {
 void CKvGuiProjSel::FillList(const std::string& sql, int sign) {
     m_vCodes.clear();
     List().ResetContent();
+    kv::db::ShowAskedAnew(List());
     CKvDbAbsDataMgr manager(1);
     try {
         manager.Connect();
@@ -41,7 +43,7 @@ void CKvGuiProjSel::FillList(const std::string& sql, int sign) {
         }
         List().SetCurSel(0);
     } catch (const CKvException& e) {
-        AfxMessageBox(e.GetErrorMessage(true, true).c_str(), 0, 0);
+        kv::db::TellFailure(e, List());
     }
     manager.FreeData();
     manager.Disconnect();

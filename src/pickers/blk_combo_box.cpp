@@ -4,6 +4,7 @@
 
 #include "frame/kvcom/misc.h"
 #include "frame/kvdbkvn/db_dataset_set.h"
+#include "frame/kvdbkvn/tell_failure.h"
 #include "window/dialog_keys.h"
 
 namespace catalogue = kv::catalogue;
@@ -59,7 +60,9 @@ void CKvBlkComboBox::V_InitializeCombo() {
     EnsureTables();
     const std::string query = BlockQuery();
     m_filling.reset();
-    if (FillFromQuery(query, true)) m_filling = Filling{query, ConnectionInForce(), GetCount()};
+    // One that was cancelled is asked anew by dropping the list, and not by passing by.
+    if (FillFromQuery(query, true) || kv::db::SaysCancelled(*this))
+        m_filling = Filling{query, ConnectionInForce(), GetCount()};
 }
 
 bool CKvBlkComboBox::IsFilled() const {

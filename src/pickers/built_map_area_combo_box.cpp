@@ -3,9 +3,11 @@
 #include <vector>
 
 #include "base/text.h"
+#include "frame/kvcom/cancelled.h"
 #include "frame/kvdbkvn/db_abs_data_mgr.h"
 #include "frame/kvdbkvn/db_dataset_set.h"
 #include "frame/kvdbkvn/db_util.h"
+#include "frame/kvdbkvn/tell_failure.h"
 #include "pickers/inside_map.h"
 
 namespace catalogue = kv::catalogue;
@@ -68,9 +70,13 @@ void CKvBuiltMapAreaComboBox::V_InitializeCombo() {
     std::string query;
     try {
         query = QueryInside();
+    } catch (const CKvCancelled&) {
+        kv::db::ShowCancelled(*this);
+        return;
     } catch (const CKvException&) {
         ShowLabelsAlone();
         throw;
     }
-    if (!Fill(query, g_firstFill) && GetCount() == 0) ShowLabelsAlone();
+    const bool filled = Fill(query, g_firstFill);
+    if (!filled && !kv::db::SaysCancelled(*this) && GetCount() == 0) ShowLabelsAlone();
 }

@@ -6,6 +6,7 @@
 #include "base/text.h"
 #include "frame/kvdbkvn/db_abs_data_mgr.h"
 #include "frame/kvdbkvn/table_owner.h"
+#include "frame/kvdbkvn/tell_failure.h"
 #include "pickers/custom_order_dlg_ids.h"
 
 using namespace kv::custom_order_dlg;
@@ -44,10 +45,6 @@ std::vector<std::string> AreasBy(const char* column, CKvDbAbsDataMgr& manager) {
     return areas;
 }
 
-void Show(const CKvException& failure) {
-    AfxMessageBox(failure.GetErrorMessage(true, true).c_str(), 0, 0);
-}
-
 void Close(CKvDbAbsDataMgr& manager) {
     manager.FreeData();
     manager.Disconnect();
@@ -63,7 +60,7 @@ bool Read(const Ask& ask) {
         ask(manager);
         read = true;
     } catch (const CKvException& failure) {
-        Show(failure);
+        kv::db::TellFailure(failure);
     }
     Close(manager);
     return read;
@@ -189,7 +186,7 @@ bool CCustomOrderDlg::WriteOrder() {
         // Ahead of the box, which may stand for long: others wait for what is locked.
         manager.Rollback();
         written = false;
-        Show(failure);
+        kv::db::TellFailure(failure);
     }
     Close(manager);
     return written;

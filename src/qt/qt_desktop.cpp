@@ -22,6 +22,7 @@
 #include "qt/peers/peer.h"
 #include "qt/peers/window_peers.h"
 #include "qt/platform_dialogs.h"
+#include "window/blocked_windows.h"
 #include "window/dialogs/dialog.h"
 #include "window/screens.h"
 #include "window/window_system.h"
@@ -146,6 +147,7 @@ QtDesktop::QtDesktop() : events_(std::make_unique<Events>()) {
     SetLoops(events_.get());
     AnswerScreenReaders();
     SetScreens(*this, events_.get());
+    SetPatience(kUsualPatience);
     WindowSystem::Get().SetDesktop(this);
 }
 
@@ -155,6 +157,7 @@ QtDesktop::~QtDesktop() {
         window->SetView(nullptr);
     WindowSystem::Get().ForgetDesktop(*this);
     SetScreens(*this, nullptr);
+    SetPatience({});
     SetLoops(nullptr);
     ForgetScreenReaders();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);

@@ -3,6 +3,7 @@
 #include "base/text.h"
 #include "frame/catalogue.h"
 #include "frame/kvdbkvn/db_abs_data_mgr.h"
+#include "frame/kvdbkvn/tell_failure.h"
 #include "qualifiers/list_rows.h"
 #include "qualifiers/list_sel_ids.h"
 #include "window/controls/combo_box.h"
@@ -172,15 +173,13 @@ void CKvGuiListSel::Search() {
             searched = true;
         }
     } catch (const CKvException& e) {
-        AfxMessageBox(e.GetErrorMessage(true, true).c_str(), 0, 0);
+        kv::db::TellFailure(e, Available());
     }
     manager.FreeData();
     manager.Disconnect();
-    // What failed was told, and leaves the selection as it was.
-    if (!searched) return;
-
-    // A text that no row begins with gives the index -1, which selects every row.
-    Available().SetSel(Available().FindString(-1, FindText().c_str()), TRUE);
+    // What failed was told, and leaves the selection as it was. A text that no row begins with
+    // gives the index -1, which selects every row.
+    if (searched) Available().SetSel(Available().FindString(-1, FindText().c_str()), TRUE);
     UpdateActionButtons();
 }
 
@@ -189,6 +188,7 @@ void CKvGuiListSel::ShowFound(const CKvDbAbsDataMgr& found) {
     const int rows = found.NumberOfRows();
     if (rows == 0) AfxMessageBox("No Matches found!", 0, 0);
     available.ResetContent();
+    kv::db::ShowAskedAnew(available);
     RowBeginnings selected(Selected());
     for (int row = 0; row < rows; ++row) {
         // A row that some row of Selected merely begins with is held back, too.

@@ -5,6 +5,7 @@
 #include "base/text.h"
 #include "frame/kvcom/misc.h"
 #include "frame/kvdbkvn/db_abs_data_mgr.h"
+#include "frame/kvdbkvn/tell_failure.h"
 #include "records/create_user_table_ids.h"
 
 using namespace kv::create_user_table;
@@ -17,10 +18,6 @@ constexpr std::size_t kWellTableEnd = 9;
 
 void Show(const std::string& words) {
     AfxMessageBox(words.c_str(), 0, 0);
-}
-
-void Show(const CKvException& failure) {
-    Show(failure.GetErrorMessage(true, true));
 }
 
 void UseLogin(CKvDbInfo login) {
@@ -36,7 +33,7 @@ void Ask(const std::string& sql, const ReadRows& read) {
         manager.Select(sql);
         read(manager);
     } catch (const CKvException& failure) {
-        Show(failure);
+        kv::db::TellFailure(failure);
     }
     manager.FreeData();
     manager.Disconnect();
@@ -130,7 +127,7 @@ bool CKvCreateUserTable::Create_Comment_Table() {
         manager->Commit();
     } catch (const CKvException& failure) {
         manager->Rollback();
-        Show(failure);
+        kv::db::TellFailure(failure);
         return false;
     }
     return true;

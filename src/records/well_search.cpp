@@ -1,6 +1,6 @@
 #include "records/well_search.h"
 
-#include "frame/kvcom/exception.h"
+#include "frame/kvdbkvn/tell_failure.h"
 #include "records/well_search_ids.h"
 #include "window/controls/combo_box.h"
 
@@ -57,7 +57,7 @@ void CKvGuiWellSearch::FillAreas() {
     try {
         m_comboArea.V_InitializeCombo();
     } catch (const CKvException& failure) {
-        AfxMessageBox(failure.GetErrorMessage(true, true).c_str(), 0, 0);
+        kv::db::TellFailure(failure);
     }
 }
 

@@ -7,6 +7,7 @@
 
 #include "window/desktop.h"
 #include "window/dialog_keys.h"
+#include "window/held_back.h"
 #include "window/modal_scope.h"
 #include "window/stacking.h"
 
@@ -238,7 +239,7 @@ void WindowSystem::Post(Node& node, UINT message, WPARAM wParam, LPARAM lParam) 
 
 bool WindowSystem::Take(MSG& message, const Node* node, UINT first, UINT last) {
     const auto at = std::find_if(queue_.begin(), queue_.end(), [&](const MSG& each) {
-        return (!node || each.hwnd == node) &&
+        return (!node || each.hwnd == node) && !IsHeldBack(*each.hwnd) &&
                ((!first && !last) || (each.message >= first && each.message <= last));
     });
     if (at == queue_.end()) return false;
@@ -331,6 +332,7 @@ bool WindowSystem::RunIdleUpdates() {
 }
 
 void WindowSystem::Idle() {
+    if (HoldsBack()) return;
     SettleFocus();
     ShowWaiting();
     for (int round = 0; round < kMostIdleRounds; ++round) {

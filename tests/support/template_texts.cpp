@@ -426,6 +426,10 @@ constexpr const char* kTexts = R"texts(
     2006 swatch ""
     2007 swatch ""
 
+12100 "Waiting for the Database"
+    1003 label "Running for 0 s"
+    2 button "Cancel"
+
 13000 "Pipeline Status"
     13003 label "ACTIVE Status"
     13004 check box "ALL"

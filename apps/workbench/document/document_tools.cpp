@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "base/paths.h"
-#include "frame/kvcom/exception.h"
 #include "mapbuild/builders/custom_dlg.h"
 #include "mapbuild/builders/map_building_prop.h"
 #include "mapbuild/builders/map_rpt_proj_chooser.h"
@@ -20,6 +19,7 @@
 #include "workbench/document/map_file.h"
 #include "workbench/document/map_shape.h"
 #include "workbench/document/report_coordinates.h"
+#include "workbench/failure_words.h"
 
 namespace workbench {
 
@@ -32,10 +32,6 @@ constexpr const char* kBoundaryFilter =
 
 QString Text(const std::string& text) {
     return QString::fromStdString(text);
-}
-
-QString Words(const CKvException& failure) {
-    return Text(failure.GetErrorMessage(true, true));
 }
 
 /// The current dataset, as documents name it.
@@ -188,7 +184,7 @@ bool DocumentTools::LeaveOutUnknown(Picks& picks) {
                        .arg(names));
         return true;
     } catch (const CKvException& failure) {
-        host_.fail(Words(failure));
+        host_.fail(FailureWords(failure));
         return false;
     }
 }
@@ -223,7 +219,7 @@ void DocumentTools::NewFromCounties() {
         for (const std::string& county : counties.Chosen())
             picks.push_back({"", county, ""});
     } catch (const CKvException& failure) {
-        host_.fail(Words(failure));
+        host_.fail(FailureWords(failure));
         return;
     }
     CKvGuiQuickOffBldDlg dialog(&host_.frame);

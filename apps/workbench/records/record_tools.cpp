@@ -11,6 +11,7 @@
 #include "records/create_user_table.h"
 #include "records/well_search.h"
 #include "window/window_system.h"
+#include "workbench/failure_words.h"
 #include "workbench/records/area_order.h"
 #include "workbench/records/well_comments.h"
 #include "workbench/records/well_finder.h"
@@ -30,10 +31,6 @@ bool IsOfWells(const ResultTable& table) {
 std::pair<Place, Place> CornersOf(const MapCanvas& canvas) {
     const Box box = canvas.Seen();
     return {ToPlace({box.minX, box.minY}), ToPlace({box.maxX, box.maxY})};
-}
-
-QString Words(const CKvException& failure) {
-    return QString::fromStdString(failure.GetErrorMessage(true, true));
 }
 
 /// Puts the connection record back that was in force.
@@ -77,7 +74,7 @@ std::vector<std::string> RecordTools::InOrder(std::vector<std::string> areaLiter
     try {
         return Ordered(areaLiterals, order_.GetbCustom());
     } catch (const CKvException& failure) {
-        host_.fail(Words(failure));
+        host_.fail(FailureWords(failure));
         return areaLiterals;
     }
 }
@@ -153,7 +150,7 @@ void RecordTools::CreateCommentTable() {
             CKvCreateUserTable dialog(&host_.frame);
             if (dialog.DoModal() == IDOK) LetAllRead(before);
         } catch (const CKvException& failure) {
-            host_.fail(Words(failure));
+            host_.fail(FailureWords(failure));
         }
     }
     host_.pane.Refresh();

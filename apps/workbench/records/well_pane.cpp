@@ -11,6 +11,7 @@
 #include <QValidator>
 
 #include "frame/kvcom/misc.h"
+#include "workbench/failure_words.h"
 
 namespace workbench {
 
@@ -144,7 +145,7 @@ void WellPane::Refresh() {
     try {
         ReadComments();
     } catch (const CKvException& failure) {
-        emit Failed(Text(failure.GetErrorMessage(true, true)));
+        emit Failed(FailureWords(failure));
     }
     ShowComments();
 }
@@ -213,7 +214,7 @@ void WellPane::Do(const Write& write) {
                    "it is now; what you typed still stands in the field.");
         }
     } catch (const CKvException& e) {
-        failure = Text(e.GetErrorMessage(true, true));
+        failure = FailureWords(e);
     }
     Refresh();
     if (!failure.isEmpty()) emit Failed(failure);

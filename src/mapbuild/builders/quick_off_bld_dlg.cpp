@@ -7,7 +7,7 @@
 #include "base/numbers.h"
 #include "base/text.h"
 #include "frame/catalogue.h"
-#include "frame/kvcom/exception.h"
+#include "frame/kvcom/cancelled.h"
 #include "frame/kvcom/util_lldrv.h"
 #include "mapbuild/builders/quick_off_bld_ids.h"
 #include "mapbuild/builders/snap_range_dlg.h"
@@ -99,6 +99,8 @@ void CKvGuiQuickOffBldDlg::Ask(const std::function<void()>& ask) {
     try {
         const kv::db::LookUpsThrow failures;
         ask();
+    } catch (const CKvCancelled&) {
+        // The person knows, and what was asked for stays as it was.
     } catch (const CKvException& e) {
         Tell(e.GetErrorMessage(true, true));
     }

@@ -12,6 +12,7 @@
 #include "window/acting/input.h"
 #include "window/acting/row_texts.h"
 #include "window/acting/user.h"
+#include "window/controls/combo_box_node.h"
 
 namespace kv::qt {
 
@@ -147,12 +148,15 @@ bool RowsView::event(QEvent* event) {
 /// An empty list tells what its tool tip does.
 void RowsView::paintEvent(QPaintEvent* event) {
     QListView::paintEvent(event);
-    const Peer* peer = model_.rowCount() == 0 ? PeerOf(this) : nullptr;
-    if (!peer || peer->Widget() != this || peer->GetNode().ToolTip().empty()) return;
+    Peer* peer = model_.rowCount() == 0 ? PeerOf(this) : nullptr;
+    if (!peer) return;
+    // The rows of a combo box are those of its list.
+    const auto* combo = dynamic_cast<const ComboBoxNode*>(&peer->GetNode());
+    const std::string& words = combo ? combo->List().ToolTip() : peer->GetNode().ToolTip();
+    if (words.empty()) return;
     QPainter painter(viewport());
     style()->drawItemText(&painter, viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap,
-                          palette(), true, ToQString(peer->GetNode().ToolTip()),
-                          QPalette::PlaceholderText);
+                          palette(), true, ToQString(words), QPalette::PlaceholderText);
 }
 
 void RowsView::mousePressEvent(QMouseEvent* event) {

@@ -4,11 +4,13 @@
 #include <new>
 #include <utility>
 
+#include "frame/kvcom/cancelled.h"
 #include "frame/kvdbkvn/statement_trace.h"
 #include "frame/kvlogs/log.h"
 #include "services/kvdbkvn/connection.h"
 #include "services/kvdbkvn/dialect/translate.h"
 #include "services/kvdbkvn/engines/engine.h"
+#include "services/kvdbkvn/engines/statement_wait.h"
 #include "services/kvdbkvn/known_translations.h"
 #include "services/kvdbkvn/session_pool.h"
 #include "window/dialogs/message_box.h"
@@ -18,6 +20,7 @@ namespace {
 using kv::db::Rows;
 using kv::db::Session;
 using kv::db::SessionPool;
+using kv::db::StatementWait;
 using kv::dialect::Kind;
 using kv::dialect::Translation;
 
@@ -53,6 +56,19 @@ bool Commits(Kind kind) {
 
 bool MayRead(Kind kind) {
     return kind == Kind::kRead || kind == Kind::kUnknown;
+}
+
+/// What a person may cancel. How its engine tells of that is its own.
+std::unique_ptr<Rows> QueryWhileSomebodyWaits(const std::string& sql, Session& session) {
+    const StatementWait wait;
+    std::unique_ptr<Rows> rows;
+    try {
+        rows = session.Query(sql);
+    } catch (const CKvException&) {
+        if (!wait.Cancelled()) throw;
+    }
+    if (wait.Cancelled()) throw CKvCancelled();
+    return rows;
 }
 
 }  // namespace
@@ -105,6 +121,8 @@ struct CKvDbAbsDataMgr::State {
         kv::db::TraceStatement(sql);
         try {
             return RunOnLiveSession(operation);
+        } catch (const CKvCancelled&) {
+            throw;
         } catch (const CKvException& failure) {
             throw CKvException(WordsOf(failure), sql);
         }
@@ -148,7 +166,7 @@ struct CKvDbAbsDataMgr::State {
         rows = Run(sql, [&](Session& s) -> std::unique_ptr<Rows> {
             const auto translation = Translate(sql, s);
             if (!MayRead(translation->kind)) throw CKvException(kv::db::kOnlyReads);
-            return s.Query(translation->text);
+            return QueryWhileSomebodyWaits(translation->text, s);
         });
         return rows->Count();
     }

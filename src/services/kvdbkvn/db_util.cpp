@@ -1,5 +1,6 @@
 #include "frame/kvdbkvn/db_util.h"
 
+#include <exception>
 #include <map>
 #include <optional>
 #include <ranges>
@@ -36,17 +37,19 @@ int s_nThrowing = 0;
 template <class Answer, class Work>
 Answer LookUp(Answer otherwise, const Work& work) {
     CKvDbAbsDataMgr manager(KV_CONNECT_DEFAULT);
-    std::optional<CKvException> failed;
+    std::exception_ptr thrown;
+    std::string words;
     try {
         manager.Connect();
         otherwise = work(manager);
     } catch (const CKvException& failure) {
-        failed = failure;
+        thrown = std::current_exception();
+        words = failure.GetErrorMessage(true, true);
     }
     manager.FreeData();
     manager.Disconnect();
-    if (failed && s_nThrowing > 0) throw *failed;
-    if (failed) CKvLog::Output(failed->GetErrorMessage(true, true), kLogLevel, false);
+    if (thrown && s_nThrowing > 0) std::rethrow_exception(thrown);
+    if (thrown) CKvLog::Output(words, kLogLevel, false);
     return otherwise;
 }
 

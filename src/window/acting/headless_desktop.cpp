@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "window/blocked_windows.h"
 #include "window/dialogs/dialog.h"
 #include "window/window_system.h"
 
@@ -27,6 +28,7 @@ bool Matches(Node& window, const std::string& name) {
 }  // namespace
 
 HeadlessDesktop::~HeadlessDesktop() {
+    SetPatience({});
     WindowSystem::Get().ForgetDesktop(*this);
 }
 

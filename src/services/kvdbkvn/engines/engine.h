@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <memory>
 #include <string>
 
@@ -55,11 +56,15 @@ public:
     virtual const dialect::Columns& ColumnsOf(const std::string& schema,
                                               const std::string& table) = 0;
 
+    /// No statement may run longer from now on.
+    virtual void LimitStatements(std::chrono::milliseconds limit) = 0;
+
     /// Throws what the engine has to say against a text that it cannot read; runs nothing. Returns
     /// when the engine can read the text, or cannot be asked.
     virtual void Check(const std::string& sql) = 0;
     /// Runs one statement that reads; refuses any other, whatever `sql` claims to be. Sees what
-    /// the open transaction has changed.
+    /// the open transaction has changed. Where the engine can, it asks `StatementWait::IsOver`
+    /// again and again, and fails when it is.
     virtual std::unique_ptr<Rows> Query(const std::string& sql) = 0;
     /// Runs one statement inside the session's open transaction, which it begins if there is none.
     /// A failure undoes that statement alone. Returns the number of rows changed.
@@ -71,6 +76,12 @@ public:
     /// used again.
     virtual bool Rollback() noexcept = 0;
 };
+
+/// What a statement that took longer than it may has to say.
+inline std::string TimeLimitWords(std::chrono::milliseconds limit) {
+    return "The statement was stopped: it took longer than the time limit of the connection, " +
+           std::to_string(limit.count()) + " ms";
+}
 
 /// The words of a commit that failed with `reason`.
 inline std::string CommitFailure(const std::string& reason) {

@@ -12,6 +12,7 @@
 
 #include "frame/kvcom/exception.h"
 #include "services/kvdbkvn/engines/database_fault.h"
+#include "services/kvdbkvn/engines/statement_wait.h"
 
 namespace kv::db {
 namespace {
@@ -22,7 +23,9 @@ namespace fs = std::filesystem;
 class SessionOfModule final : public Session {
 public:
     explicit SessionOfModule(std::unique_ptr<ModuleSession> session)
-        : session_(std::move(session)) {}
+        : session_(std::move(session)) {
+        session_->StopQueryWhen(&StatementWait::IsOver);
+    }
 
     dialect::Target Target() const override { return session_->Target(); }
     bool HasOwnFunctions() const override { return session_->Target() == dialect::Target::kOracle; }
@@ -36,6 +39,11 @@ public:
         const dialect::Columns* columns = session_->ColumnsOf(schema, table, failure);
         if (!columns) throw CKvException(failure);
         return *columns;
+    }
+
+    void LimitStatements(std::chrono::milliseconds limit) override {
+        std::string failure;
+        if (!session_->LimitStatements(limit, failure)) throw CKvException(failure);
     }
 
     void Check(const std::string& sql) override {

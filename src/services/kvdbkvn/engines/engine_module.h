@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <memory>
 #include <string>
 
@@ -14,7 +15,14 @@ namespace kv::db {
 /// what comes back with it is null, negative or false.
 class KVGUICTL_API ModuleSession {
 public:
+    /// Whether a query that runs is to stop; lets the windows live meanwhile.
+    using IsOver = bool() noexcept;
+
     virtual ~ModuleSession() = default;
+    /// Asked while a query runs, by sessions that can stop one.
+    virtual void StopQueryWhen(IsOver*) noexcept {}
+    virtual bool LimitStatements(std::chrono::milliseconds limit,
+                                 std::string& failure) noexcept = 0;
     virtual dialect::Target Target() const noexcept = 0;
     virtual bool IsAlive() noexcept = 0;
     virtual bool WasGoneAhead() const noexcept { return false; }

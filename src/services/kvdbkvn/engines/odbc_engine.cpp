@@ -2,6 +2,7 @@
 #include <sqlext.h>
 
 #include <array>
+#include <chrono>
 #include <map>
 #include <memory>
 #include <string>
@@ -167,6 +168,12 @@ public:
         return !lost_ && dead != SQL_CD_TRUE && (file_.empty() || IdentityOf(file_) == identity_);
     }
     bool WasGoneAhead() const noexcept override { return !sent_; }
+
+    /// Drivers take whole seconds.
+    bool LimitStatements(std::chrono::milliseconds limit, std::string&) noexcept override {
+        limit_ = static_cast<SQLULEN>(std::chrono::ceil<std::chrono::seconds>(limit).count());
+        return true;
+    }
 
     bool HasSchema(const std::string& name) noexcept override {
         switch (target_) {
@@ -422,6 +429,10 @@ private:
     }
 
     bool Send(const Statement& statement, const std::string& sql, std::string& failure) {
+        // A driver that knows no limit runs it without.
+        if (limit_ > 0)
+            SQLSetStmtAttr(statement.get(), SQL_ATTR_QUERY_TIMEOUT,
+                           reinterpret_cast<SQLPOINTER>(limit_), SQL_IS_UINTEGER);
         const SQLRETURN code = SQLExecDirect(statement.get(), Text(sql), SQL_NTS);
         if (SQL_SUCCEEDED(code) || code == SQL_NO_DATA) return true;
         failure = Note(Diagnose(SQL_HANDLE_STMT, statement.get()));
@@ -448,6 +459,8 @@ private:
     /// Of SQLite; empty for one in memory, and for other databases.
     std::string file_;
     FileIdentity identity_;
+    /// Of a statement, in seconds; 0 for none.
+    SQLULEN limit_ = 0;
     std::map<std::string, bool> schemas_;
     /// By schema and table; kept until a statement defines something or fails.
     std::map<std::string, dialect::Columns> columns_;

@@ -9,6 +9,7 @@
 #include "services/kvdbkvn/engines/engine_module.h"
 #include "services/kvdbkvn/engines/secrets.h"
 #include "services/kvdbkvn/engines/sqlite_engine.h"
+#include "services/kvdbkvn/engines/time_limit.h"
 
 namespace kv::db {
 namespace {
@@ -50,7 +51,10 @@ std::unique_ptr<Session> Open(const CKvDbInfo& info) {
     try {
         if (engine == std::end(kEngines)) ThrowUnknownServer(info.GetServer());
         FailWhereAsked("open");
-        return engine->open(info);
+        const TimeLimited limited = TakeTimeLimit(info);
+        auto session = engine->open(limited.info);
+        if (limited.limit.count() > 0) session->LimitStatements(limited.limit);
+        return session;
     } catch (const CKvException& failure) {
         throw CKvException(Scrub(failure.GetErrorMessage(false, false), info));
     }

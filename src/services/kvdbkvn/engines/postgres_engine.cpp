@@ -1,10 +1,14 @@
 #include <libpq-fe.h>
 #include <poll.h>
 
+#include <algorithm>
+#include <array>
 #include <charconv>
+#include <chrono>
 #include <cstring>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -27,6 +31,15 @@ constexpr std::pair<const char*, const char*> kDefaults[] = {
     {"tcp_user_timeout", "30000"},
 };
 
+/// How often the windows live while a query runs, and how long a server may take to answer that it
+/// has stopped one.
+constexpr std::chrono::milliseconds kBetweenQuestions{20};
+constexpr std::chrono::seconds kMostToStop{2};
+
+/// What a server that follows another refuses a change with.
+constexpr const char* kStandby =
+    "Refused: the server that answers is a standby, which only reads until it takes over";
+
 constexpr const char* kSetUp[] = {
     kPostgresSearchPath,
     "set standard_conforming_strings to on",
@@ -36,6 +49,8 @@ constexpr const char* kSetUp[] = {
 struct Clear {
     void operator()(PGresult* result) const { PQclear(result); }
     void operator()(PGconn* connection) const { PQfinish(connection); }
+    void operator()(PGcancel* cancel) const { PQfreeCancel(cancel); }
+    void operator()(PQconninfoOption* options) const { PQconninfoFree(options); }
 };
 using Result = std::unique_ptr<PGresult, Clear>;
 using Connection = std::unique_ptr<PGconn, Clear>;
@@ -96,6 +111,12 @@ public:
 
     dialect::Target Target() const noexcept override { return dialect::Target::kPostgres; }
 
+    void StopQueryWhen(IsOver* isOver) noexcept override { isOver_ = isOver; }
+
+    bool LimitStatements(std::chrono::milliseconds limit, std::string& failure) noexcept override {
+        return RunAll({Run("set statement_timeout to " + std::to_string(limit.count()))}, failure);
+    }
+
     /// A server that went away has closed the connection; taking in what it sent last tells.
     bool IsAlive() noexcept override {
         PGconn* connection = connection_.get();
@@ -151,7 +172,7 @@ public:
             EndReading();
             return nullptr;
         }
-        std::vector<Result> results = Batch({{Command::Kind::kRunPrepared}});
+        std::vector<Result> results = Batch({{Command::Kind::kRunPrepared}}, isOver_);
         EndReading();
         if (PQresultStatus(results[0].get()) != PGRES_TUPLES_OK) {
             failure = WordsOfReading(results[0]);
@@ -171,7 +192,7 @@ public:
         NoteTransaction();
         for (const Result& result : results) {
             if (Succeeded(result)) continue;
-            failure = Words(result);
+            failure = WordsOfChange(result);
             columns_.clear();
             UndoStatement(begins);
             return -1;
@@ -217,15 +238,41 @@ private:
         return false;
     }
 
-    /// Sends the commands at once and waits for all of them. A result each; null for those that
-    /// did not come to run.
-    std::vector<Result> Batch(const std::vector<Command>& commands) {
+    /// Returns when the server has sent something, or the connection is lost. Asks meanwhile
+    /// whether the query is to stop, and tells the server so; one that does not answer that is
+    /// given up.
+    void Await(IsOver* isOver) {
+        using Clock = std::chrono::steady_clock;
+        std::optional<Clock::time_point> stopped;
+        while (PQstatus(connection_.get()) == CONNECTION_OK && PQisBusy(connection_.get())) {
+            pollfd socket{PQsocket(connection_.get()), POLLIN, 0};
+            const int ready = poll(&socket, 1, static_cast<int>(kBetweenQuestions.count()));
+            if (ready > 0 && PQconsumeInput(connection_.get()) != 1) return;
+            if (!isOver()) continue;
+            if (!stopped) StopQuery();
+            if (!stopped) stopped = Clock::now();
+            if (Clock::now() - *stopped > kMostToStop) connection_.reset();
+        }
+    }
+
+    /// Where it fails, the query comes to its own end, or is given up.
+    void StopQuery() {
+        const std::unique_ptr<PGcancel, Clear> cancel{PQgetCancel(connection_.get())};
+        std::array<char, 256> ignored{};
+        if (cancel) PQcancel(cancel.get(), ignored.data(), static_cast<int>(ignored.size()));
+    }
+
+    /// Sends the commands at once and waits for all of them, asking `isOver` meanwhile where there
+    /// is one. A result each; null for those that did not come to run.
+    std::vector<Result> Batch(const std::vector<Command>& commands, IsOver* isOver = nullptr) {
         std::vector<Result> results(commands.size());
         PGconn* connection = connection_.get();
         for (const Command& command : commands)
             if (!Send(command)) return results;
         if (PQpipelineSync(connection) != 1) return results;
         for (Result& result : results) {
+            if (isOver) Await(isOver);
+            if (!connection_) return results;
             result.reset(PQgetResult(connection));
             if (IsCopy(result)) {
                 connection_.reset();
@@ -317,12 +364,24 @@ private:
         return words;
     }
 
-    /// What a change is refused with inside of a query that it hides in.
-    std::string WordsOfReading(const Result& result) {
+    /// Whether a change was refused since nothing but reading is let through.
+    static bool IsRefusedChange(const Result& result) {
         static constexpr std::string_view kReadOnlyTransaction = "25006";
         const char* state = PQresultErrorField(result.get(), PG_DIAG_SQLSTATE);
-        const bool changes = state && state == kReadOnlyTransaction;
-        return (changes ? std::string(kOnlyReads) + ": " : "") + Words(result);
+        return state && state == kReadOnlyTransaction;
+    }
+
+    /// What a change is refused with inside of a query that it hides in.
+    std::string WordsOfReading(const Result& result) {
+        return (IsRefusedChange(result) ? std::string(kOnlyReads) + ": " : "") + Words(result);
+    }
+
+    /// The same of a change that the server itself refuses: one that follows another only reads.
+    std::string WordsOfChange(const Result& result) {
+        const char* standby = PQparameterStatus(connection_.get(), "in_hot_standby");
+        const bool onlyReads = standby && std::strcmp(standby, "on") == 0;
+        return (IsRefusedChange(result) && onlyReads ? std::string(kStandby) + ": " : "") +
+               Words(result);
     }
 
     bool Fail(std::string& failure) {
@@ -331,6 +390,7 @@ private:
     }
 
     Connection connection_;
+    IsOver* isOver_ = nullptr;
     bool inTransaction_ = false;
     /// Columns of the statement that was described last.
     int describedColumns_ = 0;
@@ -348,6 +408,72 @@ std::string UrlOf(const CKvDbInfo& info) {
     return ToLower(server.substr(0, colon)) + server.substr(colon);
 }
 
+/// The hosts that a URL names, as the client library's settings tell them: lists of equal length.
+class Hosts {
+public:
+    explicit Hosts(const std::string& url) {
+        const std::unique_ptr<PQconninfoOption, Clear> options{
+            PQconninfoParse(url.c_str(), nullptr)};
+        for (const PQconninfoOption* each = options.get(); each && each->keyword; ++each) {
+            for (auto& [keyword, values] : lists_)
+                if (keyword == each->keyword && each->val) values = Split(each->val, ',');
+        }
+    }
+
+    bool AreSeveral() const { return Count() > 1; }
+
+    /// The settings, beginning with the host of that place, in turn.
+    std::vector<std::pair<std::string, std::string>> From(std::size_t first) const {
+        std::vector<std::pair<std::string, std::string>> settings;
+        for (const auto& [keyword, values] : lists_) {
+            // A single port is that of all hosts.
+            if (values.size() != Count()) continue;
+            std::vector<std::string> turned = values;
+            std::rotate(turned.begin(), turned.begin() + static_cast<std::ptrdiff_t>(first),
+                        turned.end());
+            std::string joined;
+            for (const std::string& value : turned)
+                joined += (&value == turned.data() ? "" : ",") + value;
+            settings.emplace_back(keyword, joined);
+        }
+        return settings;
+    }
+
+    /// The place of the one that a connection came to.
+    std::size_t PlaceOf(PGconn* connection) const {
+        const std::string host = PQhost(connection);
+        const std::string port = PQport(connection);
+        for (std::size_t at = 0; at < Count(); ++at) {
+            const std::string& name = Of(kHost, at).empty() ? Of(kAddress, at) : Of(kHost, at);
+            const std::string& its = Of(kPort, at);
+            if (name == host && (its.empty() || its == port)) return at;
+        }
+        return 0;
+    }
+
+private:
+    enum List { kHost, kAddress, kPort };
+
+    std::size_t Count() const {
+        return std::max(lists_[kHost].second.size(), lists_[kAddress].second.size());
+    }
+    const std::string& Of(List list, std::size_t at) const {
+        static const std::string none;
+        const std::vector<std::string>& values = lists_[list].second;
+        return at < values.size() ? values[at] : none;
+    }
+
+    std::array<std::pair<std::string, std::vector<std::string>>, 3> lists_{
+        {{"host", {}}, {"hostaddr", {}}, {"port", {}}}};
+};
+
+/// Which of several hosts has answered last, by their URL. It is asked first from then on, so that
+/// one that is dead costs its time-out once.
+std::map<std::string, std::size_t>& LastHosts() {
+    static std::map<std::string, std::size_t> hosts;
+    return hosts;
+}
+
 /// User and password of the record go ahead of those in the URL.
 Connection Connect(const CKvDbInfo& info) {
     std::vector<const char*> keywords;
@@ -361,13 +487,21 @@ Connection Connect(const CKvDbInfo& info) {
         add(keyword, value);
     const std::string url = UrlOf(info);
     add("dbname", url.c_str());
+    const Hosts hosts(url);
+    std::vector<std::pair<std::string, std::string>> turned;
+    if (hosts.AreSeveral()) turned = hosts.From(LastHosts()[url]);
+    for (const auto& [keyword, value] : turned)
+        add(keyword.c_str(), value.c_str());
     add("user", info.GetUser().c_str());
     add("password", info.GetPassword().c_str());
     add("client_encoding", "UTF8");
     keywords.push_back(nullptr);
     values.push_back(nullptr);
     constexpr int kReadUrl = 1;
-    return Connection(PQconnectdbParams(keywords.data(), values.data(), kReadUrl));
+    Connection connection(PQconnectdbParams(keywords.data(), values.data(), kReadUrl));
+    if (hosts.AreSeveral() && PQstatus(connection.get()) == CONNECTION_OK)
+        LastHosts()[url] = hosts.PlaceOf(connection.get());
+    return connection;
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <chrono>
 #include <deque>
 #include <filesystem>
 #include <fstream>
@@ -20,6 +21,7 @@
 #include "services/kvdbkvn/engines/file_identity.h"
 #include "services/kvdbkvn/engines/row_arena.h"
 #include "services/kvdbkvn/engines/sqlite_functions.h"
+#include "services/kvdbkvn/engines/statement_wait.h"
 
 namespace kv::db {
 namespace {
@@ -28,6 +30,9 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view kPrefix = "sqlite:";
 constexpr int kBusyMilliseconds = 5000;
+/// Steps of SQLite's machine after which it asks whether a statement is to go on: they take far
+/// less than a millisecond.
+constexpr int kStepsBetweenQuestions = 4000;
 constexpr std::size_t kMostKept = 8;
 constexpr std::size_t kLongestKept = 4096;
 
@@ -42,6 +47,8 @@ struct FinalizeStatement {
 using Statement = std::unique_ptr<sqlite3_stmt, FinalizeStatement>;
 
 class SqliteSession final : public Session {
+    using Clock = std::chrono::steady_clock;
+
 public:
     /// One that is `frozen` is read as it stands, past its log and unguarded against who changes
     /// it.
@@ -51,6 +58,7 @@ public:
           identity_(IdentityOf(path_)),
           frozen_(frozen) {
         sqlite3_set_authorizer(database_.get(), &Authorize, this);
+        sqlite3_progress_handler(database_.get(), kStepsBetweenQuestions, &IsToStop, this);
         AddSqliteFunctions(database_.get());
         Run("pragma case_sensitive_like=on");
         LookAtFile();
@@ -84,6 +92,8 @@ public:
         const std::string sql = ColumnsQuery(Target(), schema, table);
         return columns_[name] = ColumnsIn(*Fetch(Prepare(sql).get(), sql), Target());
     }
+
+    void LimitStatements(std::chrono::milliseconds limit) override { limit_ = limit; }
 
     void Check(const std::string& sql) override {
         const GuardScope guard(*this, Guard::kChecking);
@@ -144,6 +154,8 @@ private:
     public:
         GuardScope(SqliteSession& session, Guard guard) : session_(session) {
             session_.guard_ = guard;
+            session_.begun_ = Clock::now();
+            session_.tooLong_ = false;
         }
         ~GuardScope() { session_.guard_ = Guard::kNone; }
         GuardScope(const GuardScope&) = delete;
@@ -183,6 +195,16 @@ private:
         return SQLITE_OK;
     }
 
+    /// Only a caller's statement is stopped; what the session runs of its own ends soon.
+    static int IsToStop(void* self) {
+        auto& session = *static_cast<SqliteSession*>(self);
+        if (session.guard_ == Guard::kNone) return 0;
+        session.tooLong_ =
+            session.limit_.count() > 0 && Clock::now() - session.begun_ > session.limit_;
+        const bool isQuery = session.guard_ == Guard::kReading;
+        return session.tooLong_ || (isQuery && StatementWait::IsOver());
+    }
+
     static bool DescribesOnly(std::string_view pragma) {
         return pragma.ends_with("_info") || pragma.ends_with("_list");
     }
@@ -195,6 +217,7 @@ private:
         if (code == SQLITE_AUTH)
             throw CKvException("Refused: the connection itself begins and ends its transaction",
                                sql);
+        if (code == SQLITE_INTERRUPT && tooLong_) throw CKvException(TimeLimitWords(limit_), sql);
         throw CKvException(sqlite3_errmsg(database_.get()), sql);
     }
 
@@ -300,6 +323,11 @@ private:
     FileIdentity identity_;
     bool frozen_;
     Guard guard_ = Guard::kNone;
+    /// None where it is 0.
+    std::chrono::milliseconds limit_{0};
+    /// When the caller's statement began, and whether it was stopped for taking too long.
+    Clock::time_point begun_;
+    bool tooLong_ = false;
     /// The one used last stands last.
     std::deque<Prepared> prepared_;
 };

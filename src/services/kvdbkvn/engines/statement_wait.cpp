@@ -1,0 +1,65 @@
+#include "services/kvdbkvn/engines/statement_wait.h"
+
+#include <utility>
+
+#include "services/kvdbkvn/engines/wait_dlg.h"
+#include "window/blocked_windows.h"
+#include "window/window_system.h"
+
+namespace kv::db {
+namespace {
+
+/// A press of the button is heard within this.
+constexpr std::chrono::milliseconds kBetweenLooks{25};
+
+StatementWait* g_current = nullptr;
+
+}  // namespace
+
+struct StatementWait::Shown {
+    BlockedWindows windows;
+    CKvWaitDlg dialog;
+};
+
+StatementWait::StatementWait() : outer_(std::exchange(g_current, this)) {}
+
+StatementWait::~StatementWait() {
+    shown_.reset();
+    g_current = outer_;
+}
+
+bool StatementWait::IsOver() noexcept {
+    StatementWait* wait = g_current;
+    if (!wait || wait->outer_) return false;
+    if (!wait->blind_ && Clock::now() >= wait->nextLook_) {
+        wait->blind_ = !WindowSystem::Get().Guarded([wait] { wait->LookOn(); });
+        wait->nextLook_ = Clock::now() + kBetweenLooks;
+    }
+    return wait->cancelled_;
+}
+
+void StatementWait::LookOn() {
+    const auto soFar = Clock::now() - begun_;
+    if (!shown_) {
+        const auto patience = Patience();
+        if (patience && soFar >= *patience) Show();
+    }
+    if (!shown_) return;
+    shown_->dialog.ShowTime(std::chrono::duration_cast<std::chrono::seconds>(soFar));
+    shown_->windows.Pump();
+    cancelled_ = shown_->dialog.IsCancelled();
+}
+
+void StatementWait::Show() {
+    Node* asking = WindowSystem::Get().ActiveWindow();
+    blind_ = !asking || !asking->Visible();
+    if (blind_) return;
+    CWnd* owner = asking->Root()->AnyHandle();
+    auto shown = std::make_unique<Shown>();
+    blind_ = !shown->dialog.Create(owner);
+    if (blind_) return;
+    shown->windows.Except(*shown->dialog.m_hWnd);
+    shown_ = std::move(shown);
+}
+
+}  // namespace kv::db
