@@ -43,9 +43,11 @@ struct Area {
     char plan;
     /// A convex outline of three or four corners; a triangle repeats its last corner.
     Corner corners[4];
+    /// 0 in the Gulf of Mexico, above that elsewhere.
+    int region = 0;
 };
 
-/// Every area, in its default order.
+/// Every area of the Gulf, in its default order.
 std::span<const Area> Areas();
 
 /// What stands behind a block's number and extension where a user sees it: the water, by the area

@@ -112,11 +112,11 @@ void RoundEachCorner(Outline& outline, Random& random) {
 
 }  // namespace
 
-std::vector<Block> LayOutBlocks() {
+std::vector<Block> LayOutBlocks(std::span<const Area> areas) {
     Random random(kSeed);
     std::map<std::string, int> counters;
     std::vector<Block> all;
-    for (const Area& area : Areas()) {
+    for (const Area& area : areas) {
         std::vector<Cell> cells = CutIntoSquares(area, SideOf(area.layout));
         JoinLongBlocks(cells, random);
         std::vector<Block> blocks(cells.size());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <string>
 #include <vector>
 
@@ -21,11 +22,11 @@ struct Block {
     Outline outline;
 };
 
-/// Lays every area out in blocks: squares of the area's projection, cut off where the area ends.
+/// Lays these areas out in blocks: squares of the area's projection, cut off where the area ends.
 ///
 /// A block's corners are rounded, each by itself, so that what neighbours share agrees to the last
-/// decimal but one. Throws std::runtime_error where PROJ fails.
-std::vector<Block> LayOutBlocks();
+/// decimal but one. The areas must outlive them. Throws std::runtime_error where PROJ fails.
+std::vector<Block> LayOutBlocks(std::span<const Area> areas = Areas());
 
 /// Some place inside the block.
 GeoPoint PlaceInside(const Block& block, Random& random);

@@ -5,26 +5,27 @@
 #include "sampledata/counties.h"
 #include "sampledata/leases.h"
 #include "sampledata/pipelines.h"
+#include "sampledata/scaled_areas.h"
 #include "sampledata/wells.h"
 #include "services/kvcom/projection_zones.h"
 
 namespace kv::sample {
 namespace {
 
-void WriteAreas(Sink& sink) {
+void WriteAreas(std::span<const Area> areas, Sink& sink) {
     sink.Begin(TableNamed("gulf_mexico_connam2"));
-    for (const Area& area : Areas())
+    for (const Area& area : areas)
         sink.Add({area.name, area.code, area.mmsCode});
     sink.End();
 
     sink.Begin(TableNamed("gulf_mexico_area_projection"));
-    for (const Area& area : Areas())
+    for (const Area& area : areas)
         sink.Add({area.code, std::to_string(area.projection)});
     sink.End();
 
     sink.Begin(TableNamed("nvd2000_area_order"));
     int place = 0;
-    for (const Area& area : Areas()) {
+    for (const Area& area : areas) {
         const std::string text = std::to_string(++place);
         sink.Add({area.name, text, text});
     }
@@ -67,15 +68,16 @@ void WriteWorkTable(Sink& sink) {
 
 }  // namespace
 
-void WriteDataset(Sink& sink, const std::function<void(const std::string&)>& progress) {
+void WriteDataset(Sink& sink, const std::function<void(const std::string&)>& progress, int scale) {
+    const ScaledAreas areas(scale);
     progress("areas, counties and projection zones");
-    WriteAreas(sink);
+    WriteAreas(areas.All(), sink);
     WriteZones(sink);
     WriteCounties(sink);
     WriteWorkTable(sink);
 
     progress("blocks");
-    const std::vector<Block> blocks = LayOutBlocks();
+    const std::vector<Block> blocks = LayOutBlocks(areas.All());
     WriteBlocks(blocks, sink);
 
     progress("leases, owners and bids");
@@ -87,7 +89,7 @@ void WriteDataset(Sink& sink, const std::function<void(const std::string&)>& pro
     WriteWells(wells, sink);
 
     progress("platforms, plans, permits, prospects, fields and shotpoints");
-    const std::vector<Site> platforms = WriteSites(leases, sink);
+    const std::vector<Site> platforms = WriteSites(leases, scale, sink);
 
     progress("pipelines");
     WritePipelines(blocks, platforms, sink);

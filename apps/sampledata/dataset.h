@@ -11,6 +11,7 @@ namespace kv::sample {
 ///
 /// It is the same every time: all that is made up comes from `Random` with fixed seeds, all
 /// arithmetic behind the projections is in whole numbers.
-void WriteDataset(Sink& sink, const std::function<void(const std::string&)>& progress);
+void WriteDataset(Sink& sink, const std::function<void(const std::string&)>& progress,
+                  int scale = 1);
 
 }  // namespace kv::sample

@@ -11,6 +11,7 @@
 #include "sampledata/digest.h"
 #include "sampledata/loader_postgres.h"
 #include "sampledata/loader_sqlite.h"
+#include "sampledata/scaled_areas.h"
 
 namespace {
 
@@ -22,6 +23,7 @@ struct Request {
     std::string target;
     bool force = false;
     bool digest = false;
+    int scale = 1;
 };
 
 /// Makes the dataset, tells each step with the time since the start, and prints the digest if it is
@@ -35,7 +37,7 @@ void Write(Sink* sink, const Request& request) {
     };
     kv::sample::Digest digest(sink);
     Sink& into = request.digest || !sink ? static_cast<Sink&>(digest) : *sink;
-    kv::sample::WriteDataset(into, tell);
+    kv::sample::WriteDataset(into, tell, request.scale);
     tell("all rows written");
     if (request.digest) std::printf("%s\n", digest.Text().c_str());
 }
@@ -88,6 +90,9 @@ int main(int argc, char** argv) {
     app.add_flag("--force", request.force, "Replace a dataset that is there already");
     app.add_flag("--digest", request.digest,
                  "Print a digest of all rows; without a target, build nothing else");
+    app.add_option("--scale", request.scale,
+                   "How many times the size, with the same again in other regions of the earth")
+        ->check(CLI::Range(1, kv::sample::kMostScale));
     CLI11_PARSE(app, argc, argv);
     if (request.target.empty() && !request.digest) {
         std::fprintf(stderr, "%s", app.help().c_str());

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdlib>
+#include <span>
 
 #include "sampledata/names.h"
 
@@ -10,6 +11,7 @@ namespace kv::sample {
 namespace {
 
 constexpr std::uint64_t kSeed = 15'000;
+/// In each region.
 constexpr int kSegments = 15'000;
 /// A line of its own all the way ashore has one in so many segments.
 constexpr int kOneTrunkIn = 60;
@@ -50,7 +52,7 @@ struct Junction {
 };
 
 /// One place for lines to come ashore in each area of bays and state waters.
-std::vector<Site> PlacesAshore(const std::vector<Block>& blocks, Random& random) {
+std::vector<Site> PlacesAshore(std::span<const Block> blocks, Random& random) {
     std::vector<Site> places;
     for (std::size_t first = 0; first < blocks.size();) {
         std::size_t end = first;
@@ -96,7 +98,7 @@ void FindNext(std::vector<Junction>& junctions, std::size_t at) {
     }
 }
 
-std::vector<Junction> MakeJunctions(const std::vector<Site>& platforms,
+std::vector<Junction> MakeJunctions(std::span<const Site> platforms,
                                     const std::vector<Site>& shore) {
     std::vector<Junction> junctions;
     for (const Site& platform : platforms) {
@@ -128,21 +130,42 @@ Segment LaySegment(int number, const Site& from, const Site& to, Random& random)
     return segment;
 }
 
-/// Each platform has a line towards the coast. The others lie beside those, lead elsewhere, or all
-/// the way ashore.
-std::vector<Segment> LaySegments(const std::vector<Block>& blocks,
-                                 const std::vector<Site>& platforms) {
-    Random random(kSeed);
+/// In one region each platform has a line towards the coast. The others lie beside those, lead
+/// elsewhere, or all the way ashore.
+void LaySegments(std::span<const Block> blocks, std::span<const Site> platforms, Random& random,
+                 std::vector<Segment>& segments) {
     const std::vector<Site> shore = PlacesAshore(blocks, random);
     const std::vector<Junction> junctions = MakeJunctions(platforms, shore);
-    std::vector<Segment> segments;
-    for (int number = 1; number <= kSegments; ++number) {
-        const auto at = static_cast<std::size_t>(number) - 1;
+    for (std::size_t at = 0; at < kSegments; ++at) {
+        const int number = static_cast<int>(segments.size()) + 1;
         const bool first = at < junctions.size();
         const Junction& from = first ? junctions[at] : random.OneOf(junctions);
         const bool trunk = !first && random.Below(kOneTrunkIn) == 0;
         const Site& to = trunk ? *from.shore : *(first ? from.next[0] : random.OneOf(from.next));
         segments.push_back(LaySegment(number, from.site, to, random));
+    }
+}
+
+/// The things of a region, of those that are in the order of the regions.
+template <typename Thing, typename BlockOf>
+std::span<const Thing> InRegion(const std::vector<Thing>& things, int region,
+                                const BlockOf& blockOf) {
+    const auto regionOf = [&](const Thing& thing) { return blockOf(thing).area->region; };
+    const auto found = std::ranges::equal_range(things, region, {}, regionOf);
+    return {found.begin(), found.end()};
+}
+
+/// No line leads from one region to another.
+std::vector<Segment> LaySegments(const std::vector<Block>& blocks,
+                                 const std::vector<Site>& platforms) {
+    Random random(kSeed);
+    std::vector<Segment> segments;
+    for (int region = 0; region <= blocks.back().area->region; ++region) {
+        LaySegments(InRegion(
+                        blocks, region, [](const Block& block) -> auto& { return block; }),
+                    InRegion(
+                        platforms, region, [](const Site& site) -> auto& { return *site.block; }),
+                    random, segments);
     }
     return segments;
 }

@@ -175,12 +175,12 @@ std::vector<Site> WriteSiteTable(const SiteTable& table, const std::vector<Lease
 }
 
 /// A line of shotpoints runs through the blocks of a number of leases in their order.
-void WriteShotpoints(const std::vector<Lease>& leases, Random& random, Sink& sink) {
-    constexpr size_t kLines = 120;
+void WriteShotpoints(const std::vector<Lease>& leases, int scale, Random& random, Sink& sink) {
+    const size_t lines = size_t{120} * static_cast<size_t>(scale);
     constexpr size_t kPointsPerLine = 60;
     sink.Begin(TableNamed("gulf_mexico_shotpoint2d"));
-    for (size_t line = 0; line < kLines; ++line) {
-        const size_t first = line * (leases.size() / kLines);
+    for (size_t line = 0; line < lines; ++line) {
+        const size_t first = line * (leases.size() / lines);
         const std::string name = "LINE-" + Padded(static_cast<int>(line) + 1, 4);
         for (size_t i = 0; i < kPointsPerLine && first + i < leases.size(); ++i) {
             const Block& block = *leases[first + i].block;
@@ -193,14 +193,14 @@ void WriteShotpoints(const std::vector<Lease>& leases, Random& random, Sink& sin
 
 }  // namespace
 
-std::vector<Site> WriteSites(const std::vector<Lease>& leases, Sink& sink) {
+std::vector<Site> WriteSites(const std::vector<Lease>& leases, int scale, Sink& sink) {
     Random random(kSeed + 2);
     std::vector<Site> platforms;
     for (const SiteTable& table : SiteTables()) {
         std::vector<Site> sites = WriteSiteTable(table, leases, random, sink);
         if (&table == &SiteTables().front()) platforms = std::move(sites);
     }
-    WriteShotpoints(leases, random, sink);
+    WriteShotpoints(leases, scale, random, sink);
     return platforms;
 }
 

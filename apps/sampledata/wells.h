@@ -31,7 +31,8 @@ struct Site {
 };
 
 /// Fills the tables of what else stands, is planned or was surveyed at a place: platforms, permits,
-/// plans, prospects, fields and shotpoints. Answers the platforms.
-std::vector<Site> WriteSites(const std::vector<Lease>& leases, Sink& sink);
+/// plans, prospects, fields and shotpoints, of which there are `scale` times as many lines as in
+/// the Gulf. Answers the platforms, in the order of the leases.
+std::vector<Site> WriteSites(const std::vector<Lease>& leases, int scale, Sink& sink);
 
 }  // namespace kv::sample
