@@ -12,6 +12,7 @@
 #include <string>
 
 #include "services/kvdbkvn/session_pool.h"
+#include "services_pg/partitions.h"
 #include "services_pg/sample_answers.h"
 #include "services_sample/collected_rows.h"
 #include "support/database_helpers.h"
@@ -26,6 +27,9 @@ namespace {
 using kv::test::SqlQueries;
 using kv::test::SqlText;
 using kv::test::SqlValues;
+using testing::AllOf;
+using testing::HasSubstr;
+using testing::Not;
 
 // Values
 
@@ -233,16 +237,57 @@ protected:
     std::unique_ptr<Copy> copy_;
 };
 
+void ExpectTheRowsThatTheGeneratorMade(const SqlValues& values) {
+    const auto answers = SampleAnswers(values);
+    for (const SqlText& query : SqlQueries(values)) {
+        SCOPED_TRACE(values.areaName + ", " + query.name + ": " + query.sql);
+        const Answer expected = answers.at(query.name)();
+        EXPECT_EQ(Difference(Read(query.sql, expected), expected), "");
+    }
+}
+
 TEST_P(StatementsOnTheSample, QueriesGiveTheRowsThatTheGeneratorMade) {
     UseSample();
-    for (const SqlValues& values : AllValues()) {
-        const auto answers = SampleAnswers(values);
-        for (const SqlText& query : SqlQueries(values)) {
-            SCOPED_TRACE(values.areaName + ", " + query.name + ": " + query.sql);
-            const Answer expected = answers.at(query.name)();
-            EXPECT_EQ(Difference(Read(query.sql, expected), expected), "");
-        }
+    for (const SqlValues& values : AllValues())
+        ExpectTheRowsThatTheGeneratorMade(values);
+}
+
+std::size_t RowsIn(PostgresClient& client, const std::string& table) {
+    return std::stoul(client.Run("select count(*) from norvadon." + table));
+}
+
+std::string PlanOfBlocks(PostgresClient& client, const std::string& areaCode) {
+    return client.Run(
+        "explain (format json) select lbnum from norvadon.gulf_mexico_lbi where areacode = '" +
+        areaCode + "'");
+}
+
+TEST(PartsOnTheSample, GiveTheRowsThatTheGeneratorMade) {
+    const PostgresCluster other;
+    const PostgresDatabase database(std::string("template ") + kSampleTemplate);
+    SplitByArea(database, other);
+    PostgresClient near(database.Url());
+    PostgresClient far(other.Url());
+    for (const std::string table : kSplitTables) {
+        const std::size_t rows = Dataset().Of(table).size();
+        EXPECT_EQ(RowsIn(near, table), rows);
+        std::size_t away = 0;
+        for (const char* part : kFarParts)
+            away += RowsIn(far, table + "_" + part);
+        EXPECT_GT(away, rows / 2) << table;
+        EXPECT_LT(away, rows) << table;
     }
+    EXPECT_THAT(PlanOfBlocks(near, "43013"),
+                AllOf(HasSubstr("gulf_mexico_lbi_texas"), Not(HasSubstr("Foreign Scan"))));
+    EXPECT_THAT(PlanOfBlocks(near, "43620"),
+                AllOf(HasSubstr("Foreign Scan"), Not(HasSubstr("gulf_mexico_lbi_texas"))));
+
+    ConnectToServer(database.Url());
+    // One whose area stays, and one whose area is away.
+    for (const char* area : {"TRINITY BAY", "WEST CAMERON"})
+        ExpectTheRowsThatTheGeneratorMade(
+            *std::ranges::find(AllValues(), area, &SqlValues::areaName));
+    kv::db::SessionPool::Instance().Clear();
 }
 
 TEST_P(StatementsOnTheSample, TextsWithAGapAreRefusedAndTheConnectionGoesOn) {

@@ -54,20 +54,32 @@ std::string EncodedSlashes(const std::string& path) {
 
 }  // namespace
 
-PostgresCluster::PostgresCluster() : folder_(MakeFolder()) {
+PostgresCluster::PostgresCluster() : PostgresCluster(nullptr) {}
+
+PostgresCluster::PostgresCluster(const PostgresCluster* primary) : folder_(MakeFolder()) {
     try {
-        RunTool("initdb", "-D data -U kv --auth=trust -E UTF8 --locale=C --no-sync");
-        std::ofstream(folder_ + "/data/pg_hba.conf")
-            << "local all guarded scram-sha-256\nlocal all all trust\n";
-        Start();
-        RunTool("psql", "-h '" + folder_ +
-                            "' -U kv -d postgres -q -c \"create role guarded login password '" +
-                            kGuardedPassword + "'\"");
+        MakeData(primary);
     } catch (...) {
         std::error_code ignored;
         fs::remove_all(folder_, ignored);
         throw;
     }
+}
+
+void PostgresCluster::MakeData(const PostgresCluster* primary) {
+    if (primary) {
+        RunTool("pg_basebackup",
+                "-D data -R -X stream -c fast --no-sync -U kv -h '" + primary->folder_ + "'");
+        Start();
+        return;
+    }
+    RunTool("initdb", "-D data -U kv --auth=trust -E UTF8 --locale=C --no-sync");
+    std::ofstream(folder_ + "/data/pg_hba.conf")
+        << "local all guarded scram-sha-256\nlocal all all trust\nlocal replication all trust\n";
+    Start();
+    RunTool("psql", "-h '" + folder_ +
+                        "' -U kv -d postgres -q -c \"create role guarded login password '" +
+                        kGuardedPassword + "'\"");
 }
 
 PostgresCluster::~PostgresCluster() {
@@ -88,6 +100,18 @@ void PostgresCluster::Start() {
                 folder_ + "' -c max_connections=60 -c shared_buffers=16MB\" start");
 }
 
+void PostgresCluster::Kill() {
+    RunTool("pg_ctl", "-D data -w -s -m immediate stop");
+}
+
+void PostgresCluster::Promote() {
+    RunTool("pg_ctl", "-D data -w -s promote");
+}
+
+std::string PostgresCluster::Host() const {
+    return EncodedSlashes(folder_);
+}
+
 void PostgresCluster::Stop() {
     RunTool("pg_ctl", "-D data -w -s -m fast stop");
 }
@@ -95,7 +119,7 @@ void PostgresCluster::Stop() {
 std::string PostgresCluster::Url(const std::string& database, const std::string& user,
                                  const std::string& password) const {
     const std::string secret = password.empty() ? "" : ":" + password;
-    return "postgresql://" + user + secret + "@" + EncodedSlashes(folder_) + "/" + database;
+    return "postgresql://" + user + secret + "@" + Host() + "/" + database;
 }
 
 std::string PostgresCluster::Release() {

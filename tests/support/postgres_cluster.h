@@ -13,6 +13,8 @@ public:
     /// Makes a cluster and starts it. Everyone may connect as its superuser "kv"; the role
     /// "guarded" needs its password.
     PostgresCluster();
+    /// Makes a standby of a running one, and starts it: it follows what the other commits.
+    explicit PostgresCluster(const PostgresCluster* primary);
     /// Takes over one that was left running by `Release`, by its folder.
     explicit PostgresCluster(std::string folder) : folder_(std::move(folder)) {}
     PostgresCluster(const PostgresCluster&) = delete;
@@ -23,7 +25,13 @@ public:
     void Start();
     /// At once, cutting off its clients.
     void Stop();
+    /// As a machine that dies.
+    void Kill();
+    /// Lets a standby take changes from now on.
+    void Promote();
 
+    /// The folder as it stands in the place of a host in a URL.
+    std::string Host() const;
     const std::string& Folder() const { return folder_; }
     /// The URL of one of its databases, with a user and, if there is one, a password.
     std::string Url(const std::string& database = "postgres", const std::string& user = "kv",
@@ -35,6 +43,7 @@ public:
     static constexpr const char* kGuardedPassword = "Gulf-of-nowhere-61";
 
 private:
+    void MakeData(const PostgresCluster* primary);
     void RunTool(const std::string& tool, const std::string& arguments) const;
 
     std::string folder_;
