@@ -14,3 +14,9 @@ if(KVGUICTL_QT)
                             "qt6-base-dev). Without real windows: -DKVGUICTL_QT=OFF")
     endif()
 endif()
+
+# For what reads other programs' files, which is left out where it is missing.
+pkg_check_modules(GDAL IMPORTED_TARGET gdal>=3.4)
+if(NOT GDAL_FOUND)
+    message(STATUS "No GDAL (on Debian: libgdal-dev): kvload will read no files")
+endif()

@@ -7,7 +7,7 @@
 #include "sampledata/pipelines.h"
 #include "sampledata/scaled_areas.h"
 #include "sampledata/wells.h"
-#include "services/kvcom/projection_zones.h"
+#include "sampledata/zones.h"
 
 namespace kv::sample {
 namespace {
@@ -28,15 +28,6 @@ void WriteAreas(std::span<const Area> areas, Sink& sink) {
     for (const Area& area : areas) {
         const std::string text = std::to_string(++place);
         sink.Add({area.name, text, text});
-    }
-    sink.End();
-}
-
-void WriteZones(Sink& sink) {
-    sink.Begin(TableNamed("gulf_mexico_zone_code"));
-    for (const coord::Zone& zone : coord::Zones()) {
-        sink.Add({std::to_string(zone.code), zone.description, zone.category,
-                  zone.statePlaneCode ? std::to_string(zone.statePlaneCode) : "", zone.definition});
     }
     sink.End();
 }

@@ -3,36 +3,12 @@
 #include <stdexcept>
 #include <string_view>
 
+#include "sampledata/copy_text.h"
+
 namespace kv::sample {
 namespace {
 
 constexpr size_t kSendAt = 1 << 16;
-
-/// A cell as COPY reads it in its text format.
-void AppendCell(std::string& line, const std::string& cell) {
-    if (cell.empty()) {
-        line += "\\N";
-        return;
-    }
-    for (const char ch : cell) {
-        switch (ch) {
-            case '\\':
-                line += "\\\\";
-                break;
-            case '\t':
-                line += "\\t";
-                break;
-            case '\n':
-                line += "\\n";
-                break;
-            case '\r':
-                line += "\\r";
-                break;
-            default:
-                line += ch;
-        }
-    }
-}
 
 }  // namespace
 
@@ -65,11 +41,7 @@ void PostgresLoader::Add(const Row& row) {
     if (row.size() != table_->columns.size()) {
         throw std::runtime_error(std::string("A row does not fit ") + table_->name);
     }
-    for (size_t i = 0; i < row.size(); ++i) {
-        if (i > 0) pending_ += '\t';
-        AppendCell(pending_, row[i]);
-    }
-    pending_ += '\n';
+    AppendCopyLine(pending_, row);
     if (pending_.size() >= kSendAt) Send();
 }
 

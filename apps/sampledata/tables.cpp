@@ -183,14 +183,17 @@ std::string CreateTable(const Table& table, std::string_view owner,
     return sql + ")";
 }
 
+std::string IndexName(const Table& table, std::size_t index) {
+    return std::string(table.name) + "_i" + std::to_string(index + 1);
+}
+
 std::vector<std::string> CreateIndexes(const Table& table, std::string_view owner) {
     constexpr std::string_view kUnique = "unique ";
     std::vector<std::string> statements;
     for (std::string_view keys : table.indexes) {
         const bool unique = keys.starts_with(kUnique);
         if (unique) keys.remove_prefix(kUnique.size());
-        const std::string name =
-            std::string(table.name) + "_i" + std::to_string(statements.size() + 1);
+        const std::string name = IndexName(table, statements.size());
         statements.push_back(std::string(unique ? "create unique index " : "create index ") + name +
                              " on " + Owned(owner, table.name) + " (" + std::string(keys) + ")");
     }

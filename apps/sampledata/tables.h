@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <span>
 #include <string>
 #include <string_view>
@@ -46,6 +47,8 @@ std::string PostgresType(const Column& column);
 /// name where it is not empty.
 std::string CreateTable(const Table& table, std::string_view owner,
                         std::string (*typeOf)(const Column&));
+/// The name of the index at that place in the table's list.
+std::string IndexName(const Table& table, std::size_t index);
 std::vector<std::string> CreateIndexes(const Table& table, std::string_view owner);
 
 }  // namespace kv::sample

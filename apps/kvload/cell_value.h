@@ -1,0 +1,35 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "sampledata/tables.h"
+
+namespace kvload {
+
+/// The text of a source as a column of the dataset takes it; "" is null. Texts are made upper case,
+/// as searches look for them. `dateFormat` tells how dates are written: YYYY, YY, MM, MON and DD
+/// with any signs between them; "" takes only what can be read in one way. Throws Refused.
+std::string CellValue(const kv::sample::Column& column, std::string_view text,
+                      const std::string& dateFormat);
+
+/// An API number in twelve digits, of any of its usual forms: 10, 12 or 14 digits, with or without
+/// hyphens, also where a table calculation took its leading zero. Throws Refused.
+std::string ApiNumber(std::string_view text);
+
+/// Year-month-day. Throws Refused.
+std::string DayOf(std::string_view text, const std::string& format);
+
+/// Ten decimals are less than what two outlines may differ by, and stay the same out and in again.
+std::string DegreesText(double value);
+
+/// A table calculation writes a whole number with a fraction of nothing: "12.0" is "12".
+std::string_view WithoutZeroFraction(std::string_view text);
+
+/// Whether a text is a date by that format.
+bool IsDay(std::string_view text, const std::string& format);
+
+/// Whether a format has a year, a month and a day.
+bool IsDateFormat(std::string_view format);
+
+}  // namespace kvload

@@ -1,0 +1,315 @@
+#include "kvload/row_maker.h"
+
+#include <algorithm>
+#include <charconv>
+
+#include "base/text.h"
+#include "kvload/cell_value.h"
+#include "kvload/outline.h"
+#include "kvload/refused.h"
+
+namespace kvload {
+namespace {
+
+bool IsLabelPart(std::string_view column) {
+    return column == kLabel || column == kToLabel || column.ends_with("lbnum") ||
+           column.ends_with("lbext");
+}
+
+double NumberOf(const std::string& text) {
+    double value = 0.0;
+    const char* end = text.data() + text.size();
+    const auto read = std::from_chars(text.data(), end, value);
+    if (read.ec != std::errc() || read.ptr != end)
+        throw Refused("the coordinate \"" + text.substr(0, 40) + "\" is no number");
+    return value;
+}
+
+std::string Counted(size_t count, const char* what) {
+    return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
+}
+
+const char* KindName(ShapeKind kind) {
+    switch (kind) {
+        case ShapeKind::kPoint:
+            return "a point";
+        case ShapeKind::kLine:
+            return "a line";
+        case ShapeKind::kPolygon:
+            return "an outline";
+        default:
+            return "nothing";
+    }
+}
+
+void RequireKind(const Shape& shape, ShapeKind wanted) {
+    if (shape.kind == ShapeKind::kOther)
+        throw Refused("its geometry is of no use: " + shape.trouble);
+    if (shape.kind == ShapeKind::kNone) throw Refused("it has no geometry");
+    if (shape.kind != wanted)
+        throw Refused(std::string("its geometry is ") + KindName(shape.kind) + ", not " +
+                      KindName(wanted));
+}
+
+/// The part whose outer ring is the largest, and what share of all of them it is.
+const std::vector<Spots>& Largest(const Shape& shape, double& share) {
+    const auto areaOf = [](const std::vector<Spots>& part) {
+        return part.empty() ? 0.0 : std::abs(TwiceArea(part.front()));
+    };
+    double sum = 0.0;
+    for (const auto& part : shape.parts)
+        sum += areaOf(part);
+    const auto& largest = *std::ranges::max_element(shape.parts, {}, areaOf);
+    share = sum > 0.0 ? areaOf(largest) / sum : 1.0;
+    return largest;
+}
+
+}  // namespace
+
+RowMaker::RowMaker(const Mapping& mapping, const Layer& layer, const AreaIndex& areas)
+    : mapping_(mapping), layer_(layer), areas_(areas), table_(TableOf(*mapping.target)) {
+    Bind();
+    BindPlaces();
+}
+
+int RowMaker::FieldNamed(const std::string& name) {
+    if (name.empty()) return -1;
+    const auto& fields = layer_.Fields();
+    auto found = std::ranges::find(fields, name);
+    if (found == fields.end()) {
+        found = std::ranges::find_if(
+            fields, [&](const std::string& field) { return kv::EqualsNoCase(field, name); });
+    }
+    if (found == fields.end()) {
+        missing_.push_back("\"" + name + "\"");
+        return -1;
+    }
+    return static_cast<int>(found - fields.begin());
+}
+
+void RowMaker::Bind() {
+    for (const FieldRule& rule : mapping_.fields)
+        bound_.push_back({&rule, FieldNamed(rule.field), ColumnIndex(table_, rule.column)});
+    // The water's suffix on a label is told by the area's code.
+    std::ranges::stable_partition(
+        bound_, [](const Bound& bound) { return !IsLabelPart(bound.rule->column); });
+    x_ = FieldNamed(mapping_.place.x);
+    y_ = FieldNamed(mapping_.place.y);
+    bottomX_ = FieldNamed(mapping_.bottom.x);
+    bottomY_ = FieldNamed(mapping_.bottom.y);
+    if (missing_.empty()) return;
+    std::string words = "The source has no field ";
+    for (size_t i = 0; i < missing_.size(); ++i)
+        words += (i ? ", " : "") + missing_[i];
+    words += "; it has";
+    for (const std::string& field : layer_.Fields())
+        words += " \"" + field + "\"";
+    throw BadMapping(words);
+}
+
+void RowMaker::BindPlaces() {
+    const bool hasPlaces =
+        mapping_.target->places != Places::kNone && (x_ >= 0 || layer_.Kind() != ShapeKind::kNone);
+    if (mapping_.target->vertices && !hasPlaces)
+        throw BadMapping(
+            "The source has no geometry; where a field holds it as text, name that as "
+            "\"place\": {\"wkt\": FIELD}");
+    if (!hasPlaces && bottomX_ < 0) return;
+    const auto systemOf = [&](const std::string& first) {
+        for (const std::string& text : {first, mapping_.crs, layer_.ReferenceSystem()})
+            if (!text.empty()) return ToDataset(text);
+        throw BadSource(
+            "It does not tell its reference system, as a .prj file does: name it "
+            "as \"crs\" in the mapping, as EPSG:4267 for degrees on NAD27");
+    };
+    if (hasPlaces) system_.emplace(systemOf(mapping_.place.crs));
+    if (bottomX_ >= 0) bottomSystem_.emplace(systemOf(mapping_.bottom.crs));
+}
+
+std::string RowMaker::NameOf(const Feature& feature, long long number) const {
+    std::string name = "row " + std::to_string(number);
+    for (const Bound& bound : bound_) {
+        const bool tells =
+            IsLabelPart(bound.rule->column) ||
+            std::ranges::find(mapping_.target->required, std::string_view(bound.rule->column)) !=
+                mapping_.target->required.end();
+        if (!tells || bound.field < 0) continue;
+        const Cell& cell = feature.cells[static_cast<size_t>(bound.field)];
+        if (cell && !cell->empty()) name += ", " + cell->substr(0, 40);
+    }
+    return name;
+}
+
+/// What the source says of a column, or the mapping in its place.
+std::string RowMaker::TextOf(const Bound& bound, const Feature& feature) const {
+    if (bound.field < 0) return bound.rule->value;
+    const Cell& cell = feature.cells[static_cast<size_t>(bound.field)];
+    std::string text = kv::TrimSpace(cell.value_or(""));
+    const auto& codes = bound.rule->codes;
+    if (codes.empty()) return text;
+    const auto coded = codes.find(kv::ToUpper(text));
+    if (coded != codes.end()) return coded->second;
+    if (text.empty()) return {};
+    if (const auto other = codes.find("*"); other != codes.end()) return other->second;
+    throw Refused(bound.rule->column + ": \"" + text.substr(0, 40) + "\" is none of the codes");
+}
+
+/// An area that only tells where something else lies may be unknown.
+std::string RowMaker::AreaCode(const Bound& bound, const std::string& text, Made& made) const {
+    const bool required =
+        std::ranges::find(mapping_.target->required, std::string_view(bound.rule->column)) !=
+        mapping_.target->required.end();
+    const std::string by = bound.rule->by.empty() ? "stcode" : bound.rule->by;
+    try {
+        return text.empty() ? "" : areas_.CodeBy(by, kv::ToUpper(text));
+    } catch (const Refused& reason) {
+        if (required) throw;
+        made.notes.push_back(std::string(reason.what()) + ": " + bound.rule->column +
+                             " stays empty");
+        return {};
+    }
+}
+
+void RowMaker::FillColumn(const Bound& bound, const Feature& feature, Made& made) const {
+    const std::string text = TextOf(bound, feature);
+    if (bound.rule->column == kProjection) {
+        made.projection = CellValue({kProjection, kv::sample::CellKind::kWhole}, text, "");
+        return;
+    }
+    const size_t column = static_cast<size_t>(bound.column);
+    made.row[column] = NamesArea(bound.rule->column)
+                           ? AreaCode(bound, text, made)
+                           : CellValue(table_.columns[column], text, bound.rule->format);
+}
+
+void RowMaker::SplitLabel(const Bound& bound, const Feature& feature, Made& made) const {
+    const std::string_view name = bound.rule->column;
+    const std::string text = TextOf(bound, feature);
+    if (name.ends_with("lbnum") || name.ends_with("lbext")) {
+        std::string& cell = made.row[static_cast<size_t>(bound.column)];
+        if (!text.empty())
+            cell = name.ends_with("lbnum") ? BlockNumber(text) : BlockExtension(text);
+        return;
+    }
+    const std::string ahead = name == kToLabel ? "to_" : "";
+    const auto cell = [&](const char* part) -> std::string& {
+        return made.row[static_cast<size_t>(ColumnIndex(table_, ahead + part))];
+    };
+    // A label that nothing needs may be empty.
+    if (text.empty()) return;
+    const BlockLabel label = bound.rule->label.Split(text, cell("areacode"));
+    cell("lbnum") = label.number;
+    cell("lbext") = label.ext;
+}
+
+void RowMaker::Fill(const Bound& bound, const Feature& feature, Made& made) const {
+    try {
+        IsLabelPart(bound.rule->column) ? SplitLabel(bound, feature, made)
+                                        : FillColumn(bound, feature, made);
+    } catch (const Refused& reason) {
+        throw Refused(bound.rule->column + ": " + reason.what());
+    }
+}
+
+void RowMaker::Require(const Made& made) const {
+    for (const char* column : mapping_.target->required)
+        if (made.row[static_cast<size_t>(ColumnIndex(table_, column))].empty())
+            throw Refused(std::string("its ") + column + " is empty");
+}
+
+Made RowMaker::Make(const Feature& feature) const {
+    Made made;
+    made.row.resize(table_.columns.size());
+    for (const Bound& bound : bound_)
+        Fill(bound, feature, made);
+    Require(made);
+    switch (mapping_.target->places) {
+        case Places::kNone:
+            break;
+        case Places::kPoint:
+            TakePoint(feature, made);
+            break;
+        case Places::kOutline:
+            TakeOutline(feature.shape, made);
+            break;
+        case Places::kLine:
+            TakeLine(feature.shape, made);
+            break;
+    }
+    return made;
+}
+
+std::optional<Spot> RowMaker::PlaceIn(const Feature& feature, int x, int y) const {
+    const auto text = [&](int field) {
+        return kv::TrimSpace(feature.cells[static_cast<size_t>(field)].value_or(""));
+    };
+    const std::string east = text(x), north = text(y);
+    if (east.empty() && north.empty()) return std::nullopt;
+    return Spot{NumberOf(east), NumberOf(north)};
+}
+
+/// Both coordinates 0 are what many tables hold for a place that nobody knows.
+void RowMaker::PutPlace(const std::optional<Spot>& place, const ToDataset& system, const char* lat,
+                        const char* lon, Made& made) const {
+    if (!place || *place == Spot{}) {
+        made.notes.push_back(std::string("it has no place: ") + lat + " and " + lon +
+                             " stay empty");
+        return;
+    }
+    const Spot there = system.Place(*place);
+    made.row[static_cast<size_t>(ColumnIndex(table_, lat))] = DegreesText(there.y);
+    made.row[static_cast<size_t>(ColumnIndex(table_, lon))] = DegreesText(there.x);
+}
+
+void RowMaker::TakePoint(const Feature& feature, Made& made) const {
+    if (system_) {
+        std::optional<Spot> place;
+        if (x_ >= 0) {
+            place = PlaceIn(feature, x_, y_);
+        } else if (feature.shape.kind != ShapeKind::kNone) {
+            RequireKind(feature.shape, ShapeKind::kPoint);
+            place = feature.shape.parts.front().front().front();
+            if (feature.shape.parts.size() > 1)
+                made.notes.push_back("of " + Counted(feature.shape.parts.size(), "place") +
+                                     " the first is taken");
+        }
+        PutPlace(place, *system_, mapping_.target->lat, mapping_.target->lon, made);
+    }
+    if (bottomX_ >= 0)
+        PutPlace(PlaceIn(feature, bottomX_, bottomY_), *bottomSystem_, "bot_lat", "bot_lon", made);
+}
+
+void RowMaker::TakeOutline(const Shape& shape, Made& made) const {
+    RequireKind(shape, ShapeKind::kPolygon);
+    double share = 1.0;
+    const std::vector<Spots>& part = Largest(shape, share);
+    if (part.empty()) throw Refused("its outline has no corners");
+    for (const Spot& corner : part.front())
+        made.vertices.push_back(system_->Place(corner));
+    made.vertices = Tidied(std::move(made.vertices));
+    if (made.vertices.empty()) throw Refused("its outline has no area");
+    if (shape.parts.size() > 1)
+        made.notes.push_back("of " + Counted(shape.parts.size(), "part") +
+                             " the largest is taken, with " +
+                             kv::FormatText("%.1f", 100.0 * share) + " percent of the area");
+    if (part.size() > 1) made.notes.push_back(Counted(part.size() - 1, "hole") + " filled");
+    if (const auto crossing = Crossing(made.vertices))
+        made.notes.push_back("its outline crosses itself near " +
+                             kv::FormatText("%.6f, %.6f", crossing->y, crossing->x));
+}
+
+void RowMaker::TakeLine(const Shape& shape, Made& made) const {
+    RequireKind(shape, ShapeKind::kLine);
+    std::vector<Spots> parts;
+    for (const auto& part : shape.parts)
+        parts.push_back(part.front());
+    const std::vector<Spots> lines = Joined(std::move(parts));
+    if (lines.empty()) throw Refused("its line has no length");
+    for (const Spot& place : lines.front())
+        made.vertices.push_back(system_->Place(place));
+    if (lines.size() > 1)
+        made.notes.push_back("of " + Counted(lines.size(), "part") +
+                             " that do not meet the longest is taken");
+}
+
+}  // namespace kvload
