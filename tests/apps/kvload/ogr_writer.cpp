@@ -1,0 +1,77 @@
+#include "apps/kvload/ogr_writer.h"
+
+#include <cpl_string.h>
+#include <gdal.h>
+#include <ogr_api.h>
+#include <ogr_srs_api.h>
+
+#include <stdexcept>
+
+namespace test {
+namespace {
+
+void Require(bool holds, const std::string& words) {
+    if (!holds) throw std::runtime_error("GDAL cannot write " + words);
+}
+
+/// "GEOMETRY" is any.
+OGRwkbGeometryType TypeNamed(const std::string& name) {
+    std::string text = name + " EMPTY";
+    char* rest = text.data();
+    OGRGeometryH empty = nullptr;
+    if (name == "GEOMETRY" || OGR_G_CreateFromWkt(&rest, nullptr, &empty) != OGRERR_NONE)
+        return wkbUnknown;
+    const OGRwkbGeometryType type = OGR_G_GetGeometryType(empty);
+    OGR_G_DestroyGeometry(empty);
+    return type;
+}
+
+void WriteRow(OGRLayerH layer, const OgrRow& row) {
+    OGRFeatureH feature = OGR_F_Create(OGR_L_GetLayerDefn(layer));
+    for (size_t i = 0; i < row.cells.size(); ++i)
+        OGR_F_SetFieldString(feature, static_cast<int>(i), row.cells[i].c_str());
+    if (!row.shape.empty()) {
+        std::string text = row.shape;
+        char* rest = text.data();
+        OGRGeometryH geometry = nullptr;
+        Require(OGR_G_CreateFromWkt(&rest, nullptr, &geometry) == OGRERR_NONE, row.shape);
+        OGR_F_SetGeometryDirectly(feature, geometry);
+    }
+    const OGRErr error = OGR_L_CreateFeature(layer, feature);
+    OGR_F_Destroy(feature);
+    Require(error == OGRERR_NONE, "a row");
+}
+
+}  // namespace
+
+void WriteOgrFile(const OgrFile& file) {
+    GDALAllRegister();
+    GDALDriverH driver = GDALGetDriverByName(file.driver.c_str());
+    Require(driver, file.driver);
+    GDALDatasetH dataset = GDALCreate(driver, file.path.c_str(), 0, 0, 0, GDT_Unknown, nullptr);
+    Require(dataset, file.path);
+    OGRSpatialReferenceH system = nullptr;
+    if (!file.system.empty()) {
+        system = OSRNewSpatialReference(nullptr);
+        Require(OSRSetFromUserInput(system, file.system.c_str()) == OGRERR_NONE, file.system);
+        OSRSetAxisMappingStrategy(system, OAMS_TRADITIONAL_GIS_ORDER);
+    }
+    char** options = nullptr;
+    for (const std::string& option : file.layerOptions)
+        options = CSLAddString(options, option.c_str());
+    OGRLayerH layer =
+        GDALDatasetCreateLayer(dataset, "rows", system, TypeNamed(file.type), options);
+    CSLDestroy(options);
+    if (system) OSRRelease(system);
+    Require(layer, "a layer");
+    for (const std::string& name : file.fields) {
+        OGRFieldDefnH field = OGR_Fld_Create(name.c_str(), OFTString);
+        OGR_L_CreateField(layer, field, true);
+        OGR_Fld_Destroy(field);
+    }
+    for (const OgrRow& row : file.rows)
+        WriteRow(layer, row);
+    GDALClose(dataset);
+}
+
+}  // namespace test

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace test {
+
+/// A row to be written: its geometry as well-known text, "" for none, and its fields.
+struct OgrRow {
+    std::string shape;
+    std::vector<std::string> cells;
+};
+
+/// A file to be written through GDAL.
+struct OgrFile {
+    std::string path;
+    std::string driver;
+    /// As EPSG:4267; "" for none.
+    std::string system;
+    std::vector<std::string> fields;
+    std::vector<OgrRow> rows;
+    /// Of the geometry, as MULTIPOLYGON; a file geodatabase wants to know.
+    std::string type = "GEOMETRY";
+    std::vector<std::string> layerOptions = {};
+};
+
+/// Throws std::runtime_error.
+void WriteOgrFile(const OgrFile& file);
+
+}  // namespace test
