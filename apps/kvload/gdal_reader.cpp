@@ -1,11 +1,8 @@
-// The module that reads files through GDAL. Nothing else links it.
+// The module's reader of files of any kind.
 
 #include <cpl_conv.h>
-#include <cpl_error.h>
 #include <cpl_string.h>
-#include <gdal.h>
-#include <ogr_api.h>
-#include <ogr_srs_api.h>
+#include <cpl_vsi.h>
 
 #include <charconv>
 #include <cmath>
@@ -17,49 +14,20 @@
 
 #include "base/export.h"
 #include "base/text.h"
+#include "geofiles/gdal_handles.h"
 #include "kvload/source.h"
 
 namespace kvload {
 namespace {
 
-struct Release {
-    void operator()(void* dataset) const { GDALClose(dataset); }
-};
-struct ReleaseFeature {
-    void operator()(void* feature) const { OGR_F_Destroy(static_cast<OGRFeatureH>(feature)); }
-};
-struct ReleaseGeometry {
-    void operator()(void* geometry) const {
-        OGR_G_DestroyGeometry(static_cast<OGRGeometryH>(geometry));
-    }
-};
-using Dataset = std::unique_ptr<void, Release>;
-using FeaturePtr = std::unique_ptr<void, ReleaseFeature>;
-using Geometry = std::unique_ptr<void, ReleaseGeometry>;
+using geofiles::Complaints;
+using geofiles::Dataset;
+using geofiles::FeaturePtr;
+using geofiles::Geometry;
 
 OGRGeometryH Handle(const Geometry& geometry) {
     return static_cast<OGRGeometryH>(geometry.get());
 }
-
-/// While it lives, hears what GDAL complains of, which goes nowhere else.
-class Complaints {
-public:
-    Complaints() { CPLPushErrorHandlerEx(&Hear, this); }
-    ~Complaints() { CPLPopErrorHandler(); }
-    Complaints(const Complaints&) = delete;
-    Complaints& operator=(const Complaints&) = delete;
-
-    bool Any() const { return !first_.empty(); }
-    std::string Words(const char* otherwise) const { return Any() ? first_ : otherwise; }
-
-private:
-    static void CPL_STDCALL Hear(CPLErr level, CPLErrorNum, const char* words) {
-        auto* self = static_cast<Complaints*>(CPLGetErrorHandlerUserData());
-        if (level >= CE_Failure && self->first_.empty()) self->first_ = words ? words : "";
-    }
-
-    std::string first_;
-};
 
 Dataset OpenDataset(const std::string& path, const char* const* options) {
     return Dataset(GDALOpenEx(path.c_str(),
@@ -67,11 +35,29 @@ Dataset OpenDataset(const std::string& path, const char* const* options) {
                               options, nullptr));
 }
 
+/// What lies in an archive, or in the one folder of it that holds tables; none where two do.
+Dataset OpenArchive(const std::string& path, const char* const* options) {
+    const std::string root = "/vsizip/" + path;
+    if (Dataset whole = OpenDataset(root, options)) return whole;
+    char** names = VSIReadDirRecursive(root.c_str());
+    Dataset found;
+    bool several = false;
+    for (int i = 0; i < CSLCount(names); ++i) {
+        std::string name = names[i];
+        if (!name.ends_with('/')) continue;
+        name.pop_back();
+        Dataset inside = OpenDataset(root + "/" + name, options);
+        several = several || (inside && found);
+        if (inside) found = std::move(inside);
+    }
+    CSLDestroy(names);
+    return several ? nullptr : std::move(found);
+}
+
 /// An archive is what lies in it, where it is no format of its own.
 Dataset OpenDatasetOrArchive(const std::string& path, const char* const* options) {
-    const bool isArchive = kv::ToLower(path).ends_with(".zip");
-    if (isArchive) {
-        if (Dataset inside = OpenDataset("/vsizip/" + path, options)) return inside;
+    if (kv::ToLower(path).ends_with(".zip")) {
+        if (Dataset inside = OpenArchive(path, options)) return inside;
     }
     return OpenDataset(path, options);
 }

@@ -102,8 +102,8 @@ std::vector<Job> JobsOf(const Options& options) {
 
 int RunLoad(const Options& options) {
     std::vector<Job> jobs = JobsOf(options);
-    const auto store = OpenStore(options.database, Purpose::kLoad);
     std::signal(SIGINT, OnInterrupt);
+    const auto store = OpenStore(options.database, Purpose::kLoad);
     ProgressLine line;
     const Watcher watcher{
         [&](const std::string& step, long long done, long long of) { line.Tell(step, done, of); },

@@ -144,6 +144,17 @@ TEST_F(LoadFormats, NameTheLayersOfAFileThatHasSeveral) {
     EXPECT_THAT(Complaint("many", three), HasSubstr("no layer \"three\": "));
 }
 
+TEST_F(LoadFormats, TakeWhatLiesInAnArchiveOrInAFolderOfIt) {
+    const std::string areas = "name,code,abbr\nWalker Ridge,43610,WR\n";
+    for (const char* name : {"areas.csv", "data/areas.csv"}) {
+        const std::string archive = name == std::string("areas.csv") ? "flat.zip" : "deep.zip";
+        WriteArchive(folder.Native(archive), name, areas);
+        EXPECT_EQ(Load(archive, kAreas, true).loaded, 1) << name;
+    }
+    folder.Write("noise.zip", "no archive");
+    EXPECT_THAT(Complaint("noise.zip", kAreas), HasSubstr("noise.zip cannot be read"));
+}
+
 TEST_F(LoadFormats, TellWhichFieldIsNotThere) {
     folder.Write("areas.csv", "name,CODE\nA,1\n");
     EXPECT_THAT(Complaint("areas.csv", kAreas),

@@ -1,3 +1,10 @@
+#include <fcntl.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+
 #include "apps/kvload/load_fixture.h"
 #include "support/postgres_database.h"
 
@@ -21,6 +28,50 @@ protected:
     }
 
     PostgresDatabase database;
+};
+
+/// kvload at work. What it says goes to a file.
+class RunningKvload {
+public:
+    RunningKvload(std::vector<std::string> arguments, const std::string& said) {
+        arguments.insert(arguments.begin(), KVLOAD_PROGRAM);
+        std::vector<char*> words;
+        for (std::string& argument : arguments)
+            words.push_back(argument.data());
+        words.push_back(nullptr);
+        posix_spawn_file_actions_t files;
+        posix_spawn_file_actions_init(&files);
+        posix_spawn_file_actions_addopen(&files, STDERR_FILENO, said.c_str(), O_WRONLY | O_CREAT,
+                                         0600);
+        const int failure =
+            posix_spawn(&process_, KVLOAD_PROGRAM, &files, nullptr, words.data(), environ);
+        posix_spawn_file_actions_destroy(&files);
+        if (failure != 0) throw std::runtime_error("kvload does not start");
+    }
+    ~RunningKvload() {
+        if (ended_) return;
+        Send(SIGKILL);
+        ExitCode();
+    }
+    RunningKvload(const RunningKvload&) = delete;
+    RunningKvload& operator=(const RunningKvload&) = delete;
+
+    void Send(int signal) const { kill(process_, signal); }
+    bool Runs() {
+        ended_ = ended_ || waitpid(process_, &status_, WNOHANG) == process_;
+        return !ended_;
+    }
+    /// Waits for the end; -1 where a signal was it.
+    int ExitCode() {
+        if (!ended_) waitpid(process_, &status_, 0);
+        ended_ = true;
+        return WIFEXITED(status_) ? WEXITSTATUS(status_) : -1;
+    }
+
+private:
+    pid_t process_ = -1;
+    int status_ = 0;
+    bool ended_ = false;
 };
 
 TEST_F(LoadOnPostgres, GivesTheRowsThatSqliteHas) {
@@ -49,6 +100,29 @@ TEST_F(LoadOnPostgres, LeavesNothingWhereItIsCancelled) {
     watcher.cancelled = [&] { return --left < 0; };
     EXPECT_THROW(LoadBoth(watcher), kvload::Cancelled);
     EXPECT_EQ(database.Run("select count(*) from pg_namespace where nspname = 'norvadon'"), "0");
+}
+
+TEST_F(LoadOnPostgres, LeavesNothingWhereCtrlCIsPressed) {
+    {
+        const auto store = OpenStore(database.Url(), Purpose::kLoad);
+        kvload::Load({JobOf("areas.csv", kAreas)}, *store, false, Nobody());
+    }
+    folder.Write("blocks.json", kBlocks);
+    // The blocks are written and their corners are not, as long as another program holds the table.
+    PostgresClient other(database.Url()), watcher(database.Url());
+    other.Run("begin; lock table norvadon.gulf_mexico_lbv");
+    RunningKvload kvload({folder.Native("blocks.csv"), "--map", folder.Native("blocks.json"),
+                          "--db", database.Url()},
+                         folder.Native("said"));
+    while (watcher.Run("select count(*) from pg_locks l, pg_database d where d.oid = l.database "
+                       "and d.datname = current_database() and not l.granted") == "0")
+        ASSERT_TRUE(kvload.Runs()) << folder.Read("said");
+    kvload.Send(SIGINT);
+    other.Run("rollback");
+    EXPECT_EQ(kvload.ExitCode(), 130);
+    EXPECT_EQ(folder.Read("said"), "kvload: Cancelled. Nothing was loaded\n");
+    EXPECT_EQ(database.Run("select count(*) from norvadon.gulf_mexico_lbi"), "0");
+    EXPECT_EQ(database.Run("select count(*) from norvadon.gulf_mexico_lbv"), "0");
 }
 
 TEST_F(LoadOnPostgres, LeavesNothingWhereTheServerGoesAway) {

@@ -1,6 +1,7 @@
 #include "apps/kvload/ogr_writer.h"
 
 #include <cpl_string.h>
+#include <cpl_vsi.h>
 #include <gdal.h>
 #include <ogr_api.h>
 #include <ogr_srs_api.h>
@@ -72,6 +73,13 @@ void WriteOgrFile(const OgrFile& file) {
     for (const OgrRow& row : file.rows)
         WriteRow(layer, row);
     GDALClose(dataset);
+}
+
+void WriteArchive(const std::string& path, const std::string& name, const std::string& content) {
+    VSILFILE* file = VSIFOpenL(("/vsizip/" + path + "/" + name).c_str(), "wb");
+    Require(file, path);
+    const bool written = VSIFWriteL(content.data(), 1, content.size(), file) == content.size();
+    Require(VSIFCloseL(file) == 0 && written, path);
 }
 
 }  // namespace test

@@ -27,4 +27,7 @@ struct OgrFile {
 /// Throws std::runtime_error.
 void WriteOgrFile(const OgrFile& file);
 
+/// A ZIP archive that holds one file, which may lie in a folder of it. Throws std::runtime_error.
+void WriteArchive(const std::string& path, const std::string& name, const std::string& content);
+
 }  // namespace test
