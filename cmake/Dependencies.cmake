@@ -15,8 +15,8 @@ if(KVGUICTL_QT)
     endif()
 endif()
 
-# For what reads other programs' files, which is left out where it is missing.
+# For what reads and writes other programs' files, which is left out where it is missing.
 pkg_check_modules(GDAL IMPORTED_TARGET gdal>=3.4)
 if(NOT GDAL_FOUND)
-    message(STATUS "No GDAL (on Debian: libgdal-dev): kvload will read no files")
+    message(STATUS "No GDAL (on Debian: libgdal-dev): kvload will read no files, and no GeoPackages are written")
 endif()

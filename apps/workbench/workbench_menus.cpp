@@ -13,6 +13,7 @@
 #include "qt/qt_desktop.h"
 #include "window/window_system.h"
 #include "workbench/command_palette.h"
+#include "workbench/exports/exports.h"
 #include "workbench/open_database_dialog.h"
 #include "workbench/workbench.h"
 
@@ -78,10 +79,15 @@ void Workbench::MakeFileMenu() {
     commands_->Add(menu, tr("R&un"), Qt::Key_F5, [this] { Run(); });
     menu.addSeparator();
     commands_->Add(
-        menu, tr("&Save results as CSV..."), QKeySequence::Save, [this] { SaveResults(); },
+        menu, tr("&Save results..."), QKeySequence::Save, [this] { SaveResults(); },
         [this] { return NoRows(); });
     menu.addSeparator();
     printing_->AddTo(menu, *commands_, [this] { return NoMap(); });
+    menu.addSeparator();
+    auto* exports = new Exports({frame_, model_, *canvas_, runner_, *status_, history_,
+                                 [this](const QString& words) { Fail(words); }},
+                                window_);
+    exports->AddTo(menu, *commands_, [this] { return NoMap(); });
     menu.addSeparator();
     commands_->Add(menu, tr("E&xit"), Qt::CTRL | Qt::Key_Q, [this] { window_->close(); });
 }
@@ -355,10 +361,15 @@ void Workbench::OpenDatabase() {
 
 void Workbench::SaveResults() {
     const QString name = QString::fromStdString(results_->Model().Table().title) + ".csv";
-    QFileDialog dialog(window_, tr("Save Results"), LastFolder(),
-                       tr("Comma-separated values (*.csv);;All files (*)"));
+    const QString workbooks = tr("Workbooks for spreadsheets (*.xlsx)");
+    QFileDialog dialog(window_, tr("Save Results"), LastFolder());
+    dialog.setNameFilters({tr("Comma-separated values (*.csv)"), workbooks, tr("All files (*)")});
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(QStringLiteral("csv"));
+    connect(&dialog, &QFileDialog::filterSelected, this, [&](const QString& filter) {
+        dialog.setDefaultSuffix(filter == workbooks ? QStringLiteral("xlsx")
+                                                    : QStringLiteral("csv"));
+    });
     dialog.selectFile(name);
     if (dialog.exec() != QDialog::Accepted) return;
     LastFolder() = dialog.directory().absolutePath();

@@ -111,7 +111,7 @@ TEST_F(WorkbenchKeys, RowsAreCopiedWithTheirHeadings) {
 
 TEST_F(WorkbenchKeys, ACommandThatWouldDoNothingSaysWhy) {
     for (const auto& [name, words] : std::initializer_list<std::pair<const char*, const char*>>{
-             {"Save results as CSV...", "There are no results."},
+             {"Save results...", "There are no results."},
              {"Find in results", "There are no results."},
              {"Copy rows", "No row of the results is selected."},
              {"Zoom to pick", "Nothing is picked on the map yet"},
@@ -133,7 +133,7 @@ TEST_F(WorkbenchKeys, CommandsAreEnabledOnceTheyAct) {
     user->Click(kRun);
     EXPECT_TRUE(MenuAction("Zoom to pick")->isEnabled());
     Report("Wells");
-    for (const char* name : {"Save results as CSV...", "Find in results", "Select all rows"})
+    for (const char* name : {"Save results...", "Find in results", "Select all rows"})
         EXPECT_TRUE(MenuAction(name)->isEnabled()) << name;
     EXPECT_FALSE(MenuAction("Copy rows")->isEnabled());
     host->Results().SelectAll();

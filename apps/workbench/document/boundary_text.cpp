@@ -40,7 +40,7 @@ std::vector<Place> OnWgs84(const std::vector<Place>& corners) {
         const int failure = CKvUtilLLdrv::Nad2783(corner.lon, corner.lat, place.lon, place.lat);
         if (failure == 1) {
             throw MapFileError(
-                "GeoJSON is on the datum WGS 84, and the boundary lies outside of "
+                "GeoJSON is on the datum WGS 84, and a place lies outside of "
                 "the grid that leads there.");
         }
         if (failure != 0) {

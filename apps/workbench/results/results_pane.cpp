@@ -13,6 +13,7 @@
 
 #include "workbench/elided_label.h"
 #include "workbench/results/csv.h"
+#include "workbench/results/xlsx.h"
 
 namespace workbench {
 
@@ -133,7 +134,9 @@ void ResultsPane::Find() {
 
 bool ResultsPane::Save(const QString& path, QString& error) const {
     std::string words;
-    const bool saved = SaveCsv(model_.Table(), model_.Shown(), path.toStdString(), words);
+    const auto save =
+        path.endsWith(QStringLiteral(".xlsx"), Qt::CaseInsensitive) ? SaveXlsx : SaveCsv;
+    const bool saved = save(model_.Table(), model_.Shown(), path.toStdString(), words);
     error = QString::fromStdString(words);
     return saved;
 }

@@ -1,0 +1,139 @@
+#include "workbench/exports/area_tables.h"
+
+#include <span>
+
+#include "frame/catalogue.h"
+#include "workbench/dataset.h"
+#include "workbench/results/cell_text.h"
+
+namespace workbench {
+
+namespace {
+
+using geofiles::ShapeKind;
+
+struct Field {
+    const char* name;
+    /// SQL; "t" is the layer's table, "a" that of the areas.
+    const char* expression;
+    bool number = false;
+};
+
+/// A layer of the map as the database has it.
+struct Source {
+    const char* name;
+    ShapeKind kind;
+    FeatureLayer AreaMap::*things;
+    bool MapLayers::*shown;  ///< null for what always is
+    const char* table;       ///< suffix of the dataset's table
+    const char* key;         ///< the column that tells its rows apart
+    const char* vertices;    ///< suffix of the table of their places, by the same column; or null
+    const char* latitude;
+    const char* longitude;
+    std::span<const Field> fields;
+};
+
+constexpr Field kAreaCode{"areacode", "t.areacode"};
+constexpr Field kAreaName{"area", "a.areaname"};
+constexpr Field kBlock{"block", "t.lbnum||t.lbext"};
+constexpr Field kOperator{"operator", "t.operator"};
+constexpr Field kStatus{"status", "t.status"};
+constexpr Field kWaterDepth{"water_depth", "t.water_depth", true};
+
+constexpr Field kBlockFields[] = {kAreaCode, kAreaName, kBlock};
+constexpr Field kWellFields[] = {{"api_no", "t.api_no"},
+                                 {"well_name", "t.well_name"},
+                                 kAreaCode,
+                                 kAreaName,
+                                 kBlock,
+                                 {"lease_no", "t.lease_no"},
+                                 kOperator,
+                                 kStatus,
+                                 {"total_depth", "t.total_depth", true},
+                                 kWaterDepth,
+                                 {"spud_date", "t.spud_date"}};
+constexpr Field kPlatformFields[] = {{"complex_id", "t.complex_id"},
+                                     {"structure", "t.structure"},
+                                     kAreaCode,
+                                     kAreaName,
+                                     kBlock,
+                                     kOperator,
+                                     kWaterDepth,
+                                     {"install_date", "t.install_date"},
+                                     {"removal_date", "t.removal_date"}};
+constexpr Field kPipelineFields[] = {{"segment_no", "t.segment_no"},
+                                     kAreaCode,
+                                     kAreaName,
+                                     kBlock,
+                                     {"to_areacode", "t.to_areacode"},
+                                     {"to_block", "t.to_lbnum||t.to_lbext"},
+                                     kOperator,
+                                     kStatus,
+                                     {"product", "t.product"},
+                                     {"size_in", "t.size_in", true},
+                                     {"approval_date", "t.approval_date"}};
+
+constexpr Source kSources[] = {
+    {"blocks", ShapeKind::kOutline, &AreaMap::blocks, nullptr, kv::catalogue::kBlockTable, "refnum",
+     kv::catalogue::kVertexTable, "v.lat", "v.lon", kBlockFields},
+    {"wells", ShapeKind::kPoint, &AreaMap::wells, &MapLayers::wells, "_well_hdr", "api_no", nullptr,
+     "t.surf_lat", "t.surf_lon", kWellFields},
+    {"platforms", ShapeKind::kPoint, &AreaMap::platforms, &MapLayers::platforms, "_platform",
+     "complex_id", nullptr, "t.lat", "t.lon", kPlatformFields},
+    {"pipelines", ShapeKind::kLine, &AreaMap::pipelines, &MapLayers::pipelines, "_pipeline",
+     "segment_no", "_pipeline_pt", "v.lat", "v.lon", kPipelineFields},
+};
+
+/// A row for each place: the key, the fields, latitude and longitude.
+std::string Statement(const Source& source, const std::string& areaCode) {
+    const std::string key = std::string("t.") + source.key;
+    std::string statement = "select " + key;
+    for (const Field& field : source.fields)
+        statement.append(", ").append(field.expression);
+    statement.append(", ").append(source.latitude).append(", ").append(source.longitude);
+    statement += " from " + TableName(source.table) + " t, ";
+    if (source.vertices) statement += TableName(source.vertices) + " v, ";
+    statement += TableName(kv::catalogue::kAreaTable) +
+                 " a where a.stcode = t.areacode and t.areacode = " + Quoted(areaCode) + " and ";
+    statement += source.vertices ? std::string("v.") + source.key + " = " + key
+                                 : std::string(source.latitude) + " is not null";
+    statement += " order by " + key;
+    return source.vertices ? statement + ", v.ptnum" : statement;
+}
+
+geofiles::Table HeadOf(const Source& source) {
+    geofiles::Table head{source.name, source.kind, {}};
+    for (const Field& field : source.fields)
+        head.columns.push_back({field.name, field.number});
+    return head;
+}
+
+void AddThings(ExportTables& tables, const Source& source, const std::string& areaCode) {
+    const Rows rows(Statement(source, areaCode));
+    const int latitude = static_cast<int>(source.fields.size()) + 1;
+    for (int row = 0; row < rows.Count();) {
+        const int first = row;
+        geofiles::Row thing;
+        for (int column = 1; column < latitude; ++column)
+            thing.cells.push_back(CellInUtf8(rows.Cell(first, column)));
+        const std::string key = rows.Cell(first, 0);
+        do {
+            thing.places.push_back({rows.Number(row, latitude), rows.Number(row, latitude + 1)});
+            ++row;
+        } while (source.vertices && row < rows.Count() && key == rows.Cell(row, 0));
+        tables.Add(std::move(thing));
+    }
+}
+
+}  // namespace
+
+void AddArea(ExportTables& tables, const AreaMap& area, const MapLayers& layers) {
+    for (const Source& source : kSources) {
+        const bool shown = !source.shown || layers.*source.shown;
+        if (!shown || (area.*source.things).Size() == 0) continue;
+        tables.Begin(HeadOf(source));
+        AddThings(tables, source, area.code);
+    }
+}
+
+}  // namespace workbench

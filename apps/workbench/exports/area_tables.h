@@ -1,0 +1,13 @@
+#pragma once
+
+#include "workbench/exports/export_tables.h"
+#include "workbench/map/map_model.h"
+#include "workbench/map/map_painter.h"
+
+namespace workbench {
+
+/// Puts an area's blocks in, and its wells, platforms and pipelines where these are among `layers`,
+/// as the database has them. What the map could not read is left out. Throws CKvException.
+void AddArea(ExportTables& tables, const AreaMap& area, const MapLayers& layers);
+
+}  // namespace workbench
