@@ -24,6 +24,8 @@ macro(kvguictl_package component name description section copyright)
             COMPONENT ${component} EXCLUDE_FROM_ALL)
 endmacro()
 
+set(programs_recommend kvguictl-engines)
+
 set(summary "dialogs for maps and reports of oil and gas data")
 kvguictl_package(library libkvguictl0 "${summary}: library
 Dialogs that ask which area and block, which values of a column, which bounds
@@ -35,6 +37,12 @@ set(CPACK_DEBIAN_LIBRARY_PACKAGE_RECOMMENDS kvguictl-engines)
 kvguictl_package(engines kvguictl-engines "${summary}: PostgreSQL and ODBC
 The library loads these when it is first asked for such a database. SQLite
 needs neither." libs copyright library)
+
+if(TARGET KVGuiCtlGdal)
+    kvguictl_package(gdal kvguictl-gdal "${summary}: files of other programs
+Reads them for kvload, and writes them for the workbench, through GDAL." libs copyright)
+    list(APPEND programs_recommend kvguictl-gdal)
+endif()
 
 if(TARGET KVGuiCtlQt)
     kvguictl_package(qt libkvguictlqt0 "${summary}: windows
@@ -52,9 +60,10 @@ install(FILES ${texts}/lintian-overrides.dev RENAME libkvguictl-dev
 
 kvguictl_package(programs kvguictl "${summary}: programs
 The workbench shows a dataset on a map and in reports, and opens every dialog.
-kvdlg runs a dialog from the shell. sampledata makes a dataset to try them on."
+kvdlg runs a dialog from the shell. sampledata makes a dataset to try them on,
+kvload one of files of other programs."
                  science copyright.programs library ${qt})
-set(CPACK_DEBIAN_PROGRAMS_PACKAGE_RECOMMENDS kvguictl-engines)
+list(JOIN programs_recommend ", " CPACK_DEBIAN_PROGRAMS_PACKAGE_RECOMMENDS)
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_DIRECTORY ${PROJECT_BINARY_DIR}/packages)

@@ -18,11 +18,13 @@ constexpr const char* kModule = "KVGuiCtlGdal.so";
 constexpr const char* kInstall =
     ". On Debian: apt-get install libgdal-dev, then build again; ./run --load does both";
 
+/// Beside a program: where it was built, and where it is installed.
 std::vector<fs::path> Folders() {
     if (const char* folder = std::getenv("KVGUICTL_ENGINES"); folder && *folder) return {folder};
     std::error_code ignored;
-    const fs::path own = fs::read_symlink("/proc/self/exe", ignored).parent_path();
-    return {own, own.parent_path() / "lib"};
+    const fs::path prefix =
+        fs::read_symlink("/proc/self/exe", ignored).parent_path().parent_path();
+    return {prefix / "lib" / "KVGuiCtl", prefix / LIBRARIES_FROM_PREFIX / "KVGuiCtl"};
 }
 
 fs::path FindModule() {

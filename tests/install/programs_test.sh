@@ -16,6 +16,7 @@ while read -r file; do
     [ -s "$prefix/$file" ] || fail "$file is not installed"
 done <<'END'
 bin/kvdlg
+bin/kvload
 bin/sampledata
 bin/workbench
 share/applications/kvguictl-workbench.desktop
