@@ -91,6 +91,14 @@ picked=$(pick "sqlite:$sample")
     fail "a dialog has found a server that is not there"
 grep -q '/nowhere/' "$work/said" || fail "the engine for PostgreSQL was not loaded: $(<"$work/said")"
 
+# A file of another program, through the module for those, where there was a GDAL to build it with.
+if [ -n "$(find "$prefix/lib" -name KVGuiCtlGdal.so)" ]; then
+    printf 'NAME,CODE\nGREEN CANYON,43602\n' >"$work/areas.csv"
+    "$prefix/bin/kvload" guess "$work/areas.csv" >"$work/said" 2>&1 &&
+        grep -q '"areaname": "NAME"' "$work/said" ||
+        fail "a file of another program is not read: $(<"$work/said")"
+fi
+
 # A map that cannot be opened is told, by the name that it has from here.
 code=0
 (cd "$work" && "$prefix/bin/workbench" --db "sqlite:$sample" --picture none.png missing.kvmap) \
