@@ -22,8 +22,7 @@ constexpr const char* kInstall =
 std::vector<fs::path> Folders() {
     if (const char* folder = std::getenv("KVGUICTL_ENGINES"); folder && *folder) return {folder};
     std::error_code ignored;
-    const fs::path prefix =
-        fs::read_symlink("/proc/self/exe", ignored).parent_path().parent_path();
+    const fs::path prefix = fs::read_symlink("/proc/self/exe", ignored).parent_path().parent_path();
     return {prefix / "lib" / "KVGuiCtl", prefix / LIBRARIES_FROM_PREFIX / "KVGuiCtl"};
 }
 
