@@ -73,7 +73,7 @@ void ScaledAreas::AddRegion(int region) {
         area.code = Keep(std::to_string(kFirstCode + static_cast<int>(areas_.size())));
         if (!mmsCodes.contains(gulf.mmsCode)) {
             std::string code = PairOf(triedMmsCodes_++);
-            while (IsOfTheGulf(code))
+            while (!code.empty() && IsOfTheGulf(code))
                 code = PairOf(triedMmsCodes_++);
             mmsCodes[gulf.mmsCode] = Keep(code);
         }
