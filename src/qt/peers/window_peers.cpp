@@ -20,6 +20,7 @@
 #include "window/acting/input.h"
 #include "window/dialogs/dialog.h"
 #include "window/frames/control_bar.h"
+#include "window/held_back.h"
 #include "window/window_system.h"
 
 namespace kv::qt {
@@ -182,6 +183,8 @@ class DialogView : public WindowView<QDialog> {
 public:
     DialogView(Node& node, QWidget* owner) : WindowView(node, owner) {
         setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+        // The one that comes up then holds back the host's own widgets, too.
+        if (HoldsBack()) setWindowModality(Qt::ApplicationModal);
         const auto* dialog = dynamic_cast<const DialogNode*>(&node);
         if (!dialog || !dialog->Modal()) return;
         setWindowModality(owner ? Qt::WindowModal : Qt::ApplicationModal);
