@@ -15,7 +15,7 @@ _kvdlg() {
     compopt +o nospace 2>/dev/null
     if ((COMP_CWORD == 1)); then
         words='list describe run --help --version'
-    elif [[ $previous == --@(input|script|picture) ]]; then
+    elif [[ $previous == --@(input|script|picture|record) ]]; then
         compopt -o filenames 2>/dev/null
         mapfile -t COMPREPLY < <(compgen -f -- "$current")
         return
@@ -25,7 +25,7 @@ _kvdlg() {
     elif [[ $command == @(describe|run) ]] && ((COMP_CWORD == 2)); then
         words=$(_kvdlg_classes "$program")
     elif [[ $command == run ]]; then
-        words='--db --help --input --picture --print --print0 --script --set --trace'
+        words='--db --help --input --picture --print --print0 --record --script --set --trace'
     fi
     mapfile -t COMPREPLY < <(compgen -W "$words" -- "$current")
 }

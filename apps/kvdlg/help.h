@@ -8,6 +8,7 @@ inline constexpr const char* kHelp = R"(
   kvdlg describe CKvGuiPipeStatusDlg           how to talk to one of them
   kvdlg run CKvGuiPipeStatusDlg                opens it in a window
   kvdlg run CKvGuiPipeStatusDlg --script FILE  plays a script on it, without a window
+  kvdlg run CKvGuiPipeStatusDlg --record FILE  opens it, and writes what is done in it as a script
   kvdlg run CKvGuiPipeStatusDlg --set text=ACT --print text
                                                for shell scripts: one input, one value of the outcome
   kvdlg run --help                             how to write a script
@@ -42,7 +43,8 @@ below; null for none. Left out, it is one without a name, with Letter paper. "dr
 beside those of the registry, as {"D": {"folder": "C:\\data", "kind": "removable"}}; the kind may also
 be "fixed", which it is if left out, "remote" or "CD-ROM". "time": "2024-05-06T07:08:09Z" is what time
 it is, and stays so; left out, it is the machine's. "screen": [1366, 728] is how large the screen is in
-pixels; left out, [1920, 1080].
+pixels; left out, [1920, 1080]. "folder": "C:\\data" is the current folder. "registry":
+{"SOFTWARE\\KVI": {"DATASET": "GULF_MEXICO"}} stands in the place of the user's, and keeps nothing.
 
 A name in a script that is none of these is refused, with its line.
 
@@ -67,18 +69,41 @@ Actions, with the ids that "kvdlg describe CLASS" tells:
 
   {"click": ID}                   a button, check box or radio button
   {"type": [ID, TEXT]}            replaces a text, key by key
+  {"keys": [ID, TEXT]}            types where the caret stands, key by key; the id 0 is what has the
+                                  focus
+  {"mark": [ID, FROM, TO]}        selects text with the mouse, by places in it
+  {"edit": [ID, COMMAND]}         cut, copy, paste, delete or undo, from the menu of a text
   {"key": [ID, KEY]}              one key: a letter, a digit, Enter, Escape, Tab, Space, Backspace,
                                   Delete, Insert, Home, End, Left, Right, Up, Down, PageUp, PageDown
-                                  or F4, with "Shift+", "Ctrl+", "Alt+" ahead of it; the id 0 is
+                                  or F1 to F24, with "Shift+", "Ctrl+", "Alt+" ahead of it; the id 0 is
                                   what has the focus
   {"paste": [ID, TEXT]}           a text by way of the clipboard
   {"select": [ID, ROWS]}          a row by its text or number from 0, or a list of them
-  {"doubleclick": [ID, ROW]}      a row by its text or number
-  {"drop": ID}                    drops the list of a combo box down
+  {"select": [ID, ROW, KEYS]}     clicks a row with "Shift", "Ctrl" or "Shift+Ctrl" held; the row []
+                                  is the room behind the rows
+  {"doubleclick": [ID, ROW]}      a row by its text or number; of a button, {"doubleclick": ID} is
+                                  the second click
+  {"rightclick": [ID, ROW]}       a row of a table with the right button
+  {"check": [ID, ROW]}            the check box of a row
+  {"heading": [ID, COLUMN]}       the heading of a column, counted from 0
+  {"copy": ID}                    copies the selected rows to the clipboard
+  {"drop": ID}                    drops the list of a combo box down, or closes it
+  {"closelist": ID}               closes it as a click elsewhere does
+  {"step": [ID, WAY]}             an arrow of a spin button, "up" or "down"
+  {"wheel": [ID, NOTCHES]}        the mouse wheel, up being positive
+  {"tool": [ID, TOOL]}            a button of a tool bar
   {"focus": ID}                   goes to a control
+  {"hold": ID}                    presses a button and holds it; {"holdagain": ID} the second time,
+                                  {"release": ID} lets it go
+  {"clipboard": TEXT}             what the clipboard holds from now on
+  {"pause": null}                 waits until what is typed into a list begins a new text
   {"close": null}                 closes the window by its window button
   {"call": [METHOD, ...]}         what the host of an open tool calls, with its arguments
   {"snapshot": NAME}              adds the controls as they stand to "windows"
+
+A script need not be written by hand: --record FILE writes what is done in the windows as one, with a
+head that says what was outside them. What was typed into a password box is not in it: there stands
+an asterisk for each character.
 
 For shell scripts, --set NAME=VALUE gives one input, a number, true or false, a list or an object as
 in JSON, and a text without quotes; of a list of texts each --set adds one. --print KEY prints what the

@@ -27,6 +27,7 @@
 #include "kvdlg/report.h"
 #include "kvdlg/script.h"
 #include "kvdlg/script_lines.h"
+#include "recording/recorded_run.h"
 
 namespace {
 
@@ -38,6 +39,7 @@ struct Options {
     Given given;
     std::string database;
     std::string picture;
+    std::string record;
     std::string printed;         ///< key of the one value to print, by itself
     std::string printedWithNul;  ///< the same, each item with a NUL behind it
     bool trace = false;
@@ -116,6 +118,16 @@ std::function<void(const std::string&)> EndOnMismatch(const std::string& databas
     };
 }
 
+/// The adaptor, with what is done in its windows written to a file.
+Adaptor Recorded(const Adaptor& adaptor, const std::string& file) {
+    Adaptor recorded = adaptor;
+    recorded.run = [&adaptor, path = Absolute(file), file](adaptors::Run& run) {
+        if (recording::RunRecorded(adaptor, run, path)) return;
+        throw FileFailure("The script " + file + " cannot be written");
+    };
+    return recorded;
+}
+
 /// Runs the dialog, with the script or a person in front of it.
 void RunOn(const Adaptor& adaptor, adaptors::Run& run, const Options& options,
            const std::optional<Script>& script, Records& records) {
@@ -158,7 +170,8 @@ int RunDialog(const Options& options) {
         [&](const std::string& statement) { records.sql.push_back(statement); });
     try {
         adaptor.Check(run.Inputs());
-        RunOn(adaptor, run, options, script, records);
+        RunOn(options.record.empty() ? adaptor : Recorded(adaptor, options.record), run, options,
+              script, records);
     } catch (const adaptors::BadInput& e) {
         throw BadScript(WithLine(e, script));
     }
@@ -222,6 +235,8 @@ void AddRunOptions(CLI::App& run, Options& options) {
     run.add_option("--picture", options.picture,
                    "PNG file for a picture of the dialog as it stands when it closes; with a "
                    "script, no display is needed for it");
+    run.add_option("--record", options.record,
+                   "File for a script of what is done in the windows, which --script plays");
     run.footer(kScriptHelp);
 }
 

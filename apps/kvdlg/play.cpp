@@ -4,6 +4,7 @@
 #include <map>
 
 #include "frame/graphics.h"
+#include "kvdlg/given_registry.h"
 #include "kvdlg/report.h"
 #include "kvdlg/script.h"
 #include "kvdlg/script_lines.h"
@@ -55,6 +56,7 @@ void Play(const adaptors::Adaptor& adaptor, adaptors::Run& run, const Script& sc
     hooks.at = [&](const std::string& where) { place = where; };
     const Json user = script.json.value("user", Json::array());
     const auto lines = LinesOf(script.text);
+    const GivenRegistry registry(script.json, lines);
     SetOutside(script.json, lines, desktop);
     AddScenes(user, lines, desktop, hooks);
 

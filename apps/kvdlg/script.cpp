@@ -12,113 +12,11 @@
 #include "adaptors/print_inputs.h"
 #include "base/paths.h"
 #include "kvdlg/script_lines.h"
-#include "window/acting/input.h"
 #include "window/acting/wait_scene.h"
 
 namespace kvdlg {
 
 namespace {
-
-using Action = std::function<void(kv::User&)>;
-
-[[noreturn]] void Wrong(const std::string& where, const std::string& expected) {
-    throw BadScript(where + ": expected " + expected);
-}
-
-int IdAt(const Json& value, std::size_t index, const std::string& where) {
-    if (!value.is_array() || value.size() <= index || !value[index].is_number_integer()) {
-        Wrong(where, "a list with the control's id at place " + std::to_string(index));
-    }
-    return value[index].get<int>();
-}
-
-std::string TextAt(const Json& value, std::size_t index, const std::string& where) {
-    if (!value.is_array() || value.size() <= index || !value[index].is_string()) {
-        Wrong(where, "a text at place " + std::to_string(index) + " of the list");
-    }
-    return value[index].get<std::string>();
-}
-
-int IdOf(const Json& value, const std::string& where) {
-    if (value.is_number_integer()) return value.get<int>();
-    Wrong(where, "a control's id");
-}
-
-Action MakeType(const Json& value, const std::string& where) {
-    return [id = IdAt(value, 0, where), text = TextAt(value, 1, where)](kv::User& user) {
-        user.Type(id, text);
-    };
-}
-
-Action MakeKey(const Json& value, const std::string& where) {
-    const int id = IdAt(value, 0, where);
-    const std::string name = TextAt(value, 1, where);
-    const auto last = name.find_last_of('+');
-    const std::string key = last == std::string::npos ? name : name.substr(last + 1);
-    if (!kv::input::KeyByName(key)) Wrong(where, "the name of a key, and not \"" + name + "\"");
-    return [id, name](kv::User& user) { user.Key(id, name); };
-}
-
-Action MakePaste(const Json& value, const std::string& where) {
-    return [id = IdAt(value, 0, where), text = TextAt(value, 1, where)](kv::User& user) {
-        user.Paste(id, text);
-    };
-}
-
-Action MakeClick(const Json& value, const std::string& where) {
-    return [id = IdOf(value, where)](kv::User& user) { user.Click(id); };
-}
-
-Action MakeDoubleClick(const Json& value, const std::string& where) {
-    const int id = IdAt(value, 0, where);
-    if (value.size() > 1 && value[1].is_number_integer()) {
-        return [id, row = value[1].get<int>()](kv::User& user) { user.DoubleClick(id, row); };
-    }
-    return [id, text = TextAt(value, 1, where)](kv::User& user) { user.DoubleClick(id, text); };
-}
-
-Action MakeSelect(const Json& value, const std::string& where) {
-    const int id = IdAt(value, 0, where);
-    if (value.size() != 2) Wrong(where, "[id, row text | index | list of them]");
-    if (value[1].is_string()) {
-        return [id, text = value[1].get<std::string>()](kv::User& user) { user.Select(id, text); };
-    }
-    const Json rows = value[1].is_array() ? value[1] : Json::array({value[1]});
-    for (const Json& row : rows) {
-        if (!row.is_string() && !row.is_number_integer()) Wrong(where, "rows as texts or indices");
-    }
-    return [id, rows](kv::User& user) {
-        std::vector<int> indices;
-        for (const Json& row : rows) {
-            indices.push_back(row.is_string() ? user.RowIndex(id, row.get<std::string>())
-                                              : row.get<int>());
-        }
-        user.Select(id, indices);
-    };
-}
-
-Action MakeDrop(const Json& value, const std::string& where) {
-    return [id = IdOf(value, where)](kv::User& user) { user.Drop(id); };
-}
-
-Action MakeFocus(const Json& value, const std::string& where) {
-    return [id = IdOf(value, where)](kv::User& user) { user.Focus(id); };
-}
-
-Action MakeClose(const Json&, const std::string&) {
-    return [](kv::User& user) { user.Close(); };
-}
-
-using Maker = Action (*)(const Json&, const std::string&);
-
-const std::map<std::string, Maker>& Makers() {
-    static const std::map<std::string, Maker> makers{
-        {"type", MakeType},   {"key", MakeKey},       {"paste", MakePaste},
-        {"click", MakeClick}, {"select", MakeSelect}, {"doubleclick", MakeDoubleClick},
-        {"drop", MakeDrop},   {"focus", MakeFocus},   {"close", MakeClose},
-    };
-    return makers;
-}
 
 using Lines = std::map<std::string, int>;
 
@@ -140,32 +38,6 @@ void RefuseOthers(const Json& object, std::span<const std::string_view> known,
     }
 }
 
-Action MakeAction(const Json& step, const std::string& where, const Hooks& hooks) {
-    if (!step.is_object() || step.size() != 1) Wrong(where, "an object with one action");
-    const std::string name = step.begin().key();
-    const Json& value = step.begin().value();
-    const std::string here = where + " (" + name + ")";
-    if (name == "snapshot") {
-        if (!value.is_string()) Wrong(here, "a name");
-        return [take = hooks.snapshot, title = value.get<std::string>()](kv::User& user) {
-            take(user.WindowNode(), title);
-        };
-    }
-    if (name == "call") {
-        const std::string method = TextAt(value, 0, here);
-        const Json arguments(value.begin() + 1, value.end());
-        return [call = hooks.call, method, arguments](kv::User&) { call(method, arguments); };
-    }
-    const auto maker = Makers().find(name);
-    if (maker == Makers().end()) {
-        std::string known = "snapshot, call";
-        for (const auto& [each, make] : Makers())
-            known += ", " + each;
-        Wrong(where, "one of the actions " + known + ", and not \"" + name + "\"");
-    }
-    return maker->second(value, here);
-}
-
 /// A scene of the script, and how its place is named.
 struct ScenePlace {
     int index;
@@ -185,7 +57,8 @@ struct ScenePlace {
     }
 };
 
-std::vector<Action> MakeActions(const Json& scene, const ScenePlace& place, const Hooks& hooks) {
+std::vector<Action> MakeActions(const Json& scene, const ScenePlace& place,
+                                kv::HeadlessDesktop& desktop, const Hooks& hooks) {
     std::vector<Action> actions;
     if (!scene.contains("do")) return actions;
     if (!scene["do"].is_array()) Wrong(place.Words(), "\"do\" to be a list of actions");
@@ -193,7 +66,7 @@ std::vector<Action> MakeActions(const Json& scene, const ScenePlace& place, cons
     for (const Json& step : scene["do"]) {
         const std::string where = place.WordsOfAction(index++);
         actions.push_back(
-            [where, at = hooks.at, act = MakeAction(step, where, hooks)](kv::User& user) {
+            [where, at = hooks.at, act = MakeAction(step, where, desktop, hooks)](kv::User& user) {
                 at(where);
                 act(user);
             });
@@ -262,7 +135,7 @@ void AddScene(const Json& scene, const ScenePlace& place, kv::HeadlessDesktop& d
               const Hooks& hooks) {
     CheckKeys(scene, place);
     const std::string where = place.Words();
-    const auto play = [actions = MakeActions(scene, place, hooks)](kv::User& user) {
+    const auto play = [actions = MakeActions(scene, place, desktop, hooks)](kv::User& user) {
         for (const Action& action : actions)
             action(user);
     };
@@ -364,6 +237,11 @@ void SetScreen(const Json& screen, const std::string& where, kv::HeadlessDesktop
     desktop.SetScreenSize({screen[0].get<int>(), screen[1].get<int>()});
 }
 
+void SetFolder(const Json& folder, const std::string& where) {
+    const bool is = folder.is_string() && kv::ChangeFolder(folder.get<std::string>());
+    if (!is) Wrong(where, "\"folder\" to be a folder that is there");
+}
+
 }  // namespace
 
 Json ParseJson(const std::string& text, const std::string& nameOfText) {
@@ -382,12 +260,14 @@ Json ParseJson(const std::string& text, const std::string& nameOfText) {
 
 void SetOutside(const Json& script, const std::map<std::string, int>& lines,
                 kv::HeadlessDesktop& desktop) {
-    constexpr std::string_view kHead[] = {"inputs", "printer", "drives", "time", "screen", "user"};
+    constexpr std::string_view kHead[] = {"inputs", "printer", "drives",   "time",
+                                          "screen", "folder",  "registry", "user"};
     const auto where = [&](const std::string& key) {
         return LineOf(lines, "/" + key) + "the script";
     };
     RefuseOthers(script, kHead, where);
     if (script.contains("drives")) MapDrives(script["drives"], where("drives"));
+    if (script.contains("folder")) SetFolder(script["folder"], where("folder"));
     if (script.contains("time")) SetTime(script["time"], where("time"), desktop);
     if (script.contains("screen")) SetScreen(script["screen"], where("screen"), desktop);
     if (!script.contains("printer")) return;

@@ -21,8 +21,8 @@ std::string Failed(const std::string& why) {
 
 }  // namespace
 
-void SetGraphics(Graphics graphics) {
-    Current() = std::move(graphics);
+Graphics SetGraphics(Graphics graphics) {
+    return std::exchange(Current(), std::move(graphics));
 }
 
 }  // namespace kv

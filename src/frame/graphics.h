@@ -19,8 +19,8 @@ using Graphics = std::function<std::string(const std::string& user, const std::s
                                            const std::string& server, int mode,
                                            const std::string& text, const std::string& owner)>;
 
-/// Names what `graphics` calls. Process-wide; null for none.
-KVGUICTL_API void SetGraphics(Graphics graphics);
+/// Names what `graphics` calls, and returns what there was. Process-wide; null for none.
+KVGUICTL_API Graphics SetGraphics(Graphics graphics);
 
 }  // namespace kv
 

@@ -1,6 +1,7 @@
 #include "qt/peers/edit_peer.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QContextMenuEvent>
 #include <QElapsedTimer>
 #include <QLineEdit>
@@ -136,7 +137,7 @@ void ShowMenu(QWidget& view, const WeakNode& node, const QPoint& at) {
     const bool writable = !edit->ReadOnly();
     const bool selected = edit->Anchor() != edit->Caret();
     const bool copies = selected && !edit->HasStyle(ES_PASSWORD);
-    const bool canPaste = !WindowSystem::Get().GetDesktop().ClipboardText().empty();
+    const bool canPaste = !QGuiApplication::clipboard()->text().isEmpty();
     auto* menu = new QMenu(&view);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     AddCommand(*menu, QLineEdit::tr("&Undo"), node, WM_UNDO, writable && edit->CanUndo());

@@ -5,7 +5,9 @@
 #include <cstdlib>
 #include <utility>
 
+#include "base/numbers.h"
 #include "base/text.h"
+#include "window/acting/listener.h"
 #include "window/acting/row_texts.h"
 #include "window/controls/button_node.h"
 #include "window/controls/combo_box_node.h"
@@ -96,6 +98,15 @@ constexpr std::array<std::pair<std::string_view, int>, 19> kKeyNames{{
     {"Esc", VK_ESCAPE},     {"Return", VK_RETURN}, {"Del", VK_DELETE},
 }};
 
+/// The number of "F1" to "F24"; 0 for other names.
+int FunctionKey(std::string_view name) {
+    constexpr int kFirst = 0x70;
+    if (name.size() < 2 || name.size() > 3 || ToUpper(name[0]) != 'F') return 0;
+    std::size_t end = 0;
+    const int number = ScanInteger(name.substr(1), &end).value_or(0);
+    return end + 1 == name.size() && number >= 1 && number <= 24 ? kFirst + number - 1 : 0;
+}
+
 /// The key of a typed character, as far as handlers of key-downs tell keys apart.
 int KeyOf(char ch) {
     const char upper = ToUpper(ch);
@@ -104,6 +115,35 @@ int KeyOf(char ch) {
     if (ch == '\t') return VK_TAB;
     if (ch == '\b') return VK_BACK;
     return VK_PACKET;
+}
+
+bool PressDown(Node& control, CPoint at, Modifiers modifiers) {
+    const auto keep = control.shared_from_this();
+    const ActionScope action;
+    const ModifierScope scope(modifiers);
+    MSG message{&control, WM_LBUTTONDOWN, 1, MAKELPARAM(at.x, at.y)};
+    if (WindowSystem::Get().PreTranslate(message) || !FocusForClick(control)) return false;
+    Send(control, message.message, message.wParam, message.lParam);
+    return true;
+}
+
+void LetUp(Node& control, CPoint at) {
+    MSG message{&control, WM_LBUTTONUP, 0, MAKELPARAM(at.x, at.y)};
+    WindowSystem::Get().Dispatch(message);
+}
+
+/// Types into whatever has the focus. `told` where the characters are part of something else.
+bool TypeCharacters(std::string_view text, bool told) {
+    auto& system = WindowSystem::Get();
+    for (const char& ch : text) {
+        if (!system.Focus() || !CanAct(*system.Focus())) return false;
+        if (!told) Tell({Act::kTypeHere, *system.Focus(), {}, {&ch, 1}});
+        Modifiers modifiers;
+        modifiers.shift = ch >= 'A' && ch <= 'Z';
+        RunKey(KeyOf(ch), ch == '\n' ? '\r' : ch, modifiers);
+        system.Settle();
+    }
+    return true;
 }
 
 }  // namespace
@@ -119,36 +159,34 @@ bool Click(Node& control) {
 bool ClickAt(Node& control, CPoint at) {
     if (!CanAct(control)) return false;
     const auto keep = control.shared_from_this();
-    if (Press(control, at)) Release(control, at);
+    Tell({Act::kClick, control});
+    if (PressDown(control, at, {}) && CanAct(control)) LetUp(control, at);
     return true;
 }
 
 bool Press(Node& control, CPoint at, Modifiers modifiers) {
     if (!CanAct(control)) return false;
-    const auto keep = control.shared_from_this();
-    const ActionScope action;
-    const ModifierScope scope(modifiers);
-    MSG message{&control, WM_LBUTTONDOWN, 1, MAKELPARAM(at.x, at.y)};
-    if (WindowSystem::Get().PreTranslate(message) || !FocusForClick(control)) return false;
-    Send(control, message.message, message.wParam, message.lParam);
-    return true;
+    Tell({Act::kPress, control, {}, {}, modifiers});
+    return PressDown(control, at, modifiers);
 }
 
 bool Release(Node& control, CPoint at) {
     if (!CanAct(control)) return false;
-    MSG message{&control, WM_LBUTTONUP, 0, MAKELPARAM(at.x, at.y)};
-    WindowSystem::Get().Dispatch(message);
+    Tell({Act::kRelease, control});
+    LetUp(control, at);
     return true;
 }
 
 bool HoldOver(Node& button, bool inside) {
     if (!CanAct(button) || button.Class() != NodeClass::kButton) return false;
+    Tell({inside ? Act::kHoldInside : Act::kHoldOutside, button});
     Send(button, BM_SETSTATE, inside);
     return true;
 }
 
 bool PressAgain(Node& control, CPoint at) {
     if (!CanAct(control)) return false;
+    Tell({Act::kPressAgain, control});
     Send(control, WM_LBUTTONDBLCLK, 1, MAKELPARAM(at.x, at.y));
     return true;
 }
@@ -158,11 +196,13 @@ bool DoubleClick(Node& list, int row) {
     const auto keep = list.shared_from_this();
     if (auto* box = dynamic_cast<ListBoxNode*>(&list)) {
         if (row >= box->Rows().Count()) return false;
+        Tell({Act::kDoubleClick, list, {row}});
         if (FocusForClick(list)) box->UserDoubleClick(row);
         return true;
     }
     if (auto* view = dynamic_cast<ListViewNode*>(&list)) {
         if (row >= view->Count()) return false;
+        Tell({Act::kDoubleClick, list, {row}});
         if (FocusForClick(list)) view->UserDoubleClick(row);
         return true;
     }
@@ -174,12 +214,15 @@ bool ClickRow(Node& list, int row, Modifiers modifiers) {
     const auto keep = list.shared_from_this();
     const ModifierScope scope(modifiers);
     if (auto* combo = dynamic_cast<ComboBoxNode*>(&list)) {
-        return (combo->Dropped() || combo->Simple()) && combo->Rows().Has(row) &&
-               combo->UserPick(row);
+        if (!(combo->Dropped() || combo->Simple()) || !combo->Rows().Has(row)) return false;
+        Tell({Act::kClickRow, list, {row}});
+        return combo->UserPick(row);
     }
     auto* box = dynamic_cast<ListBoxNode*>(&list);
     auto* view = dynamic_cast<ListViewNode*>(&list);
-    if ((!box && !view) || !FocusForClick(list)) return box || view;
+    if (!box && !view) return false;
+    Tell({Act::kClickRow, list, {row}, {}, modifiers});
+    if (!FocusForClick(list)) return true;
     if (box) {
         box->UserSelect(row, modifiers.shift, modifiers.ctrl);
     } else {
@@ -194,6 +237,7 @@ bool RightClickRow(Node& listView, int row, Modifiers modifiers) {
     const auto keep = listView.shared_from_this();
     const ActionScope action;
     const ModifierScope scope(modifiers);
+    Tell({Act::kRightClickRow, listView, {row}, {}, modifiers});
     return FocusForClick(listView) && view->UserRightClick(row);
 }
 
@@ -201,6 +245,7 @@ bool ClickColumn(Node& listView, int column) {
     auto* view = dynamic_cast<ListViewNode*>(&listView);
     if (!view || !CanAct(listView)) return false;
     const auto keep = listView.shared_from_this();
+    Tell({Act::kClickColumn, listView, {column}});
     if (FocusForClick(listView)) view->UserClickColumn(column);
     return true;
 }
@@ -216,6 +261,7 @@ bool ToggleCheck(Node& listView, int row) {
     auto* view = dynamic_cast<ListViewNode*>(&listView);
     if (!view || !CanAct(listView)) return false;
     const auto keep = listView.shared_from_this();
+    Tell({Act::kToggleCheck, listView, {row}});
     if (FocusForClick(listView)) view->UserToggleCheck(row);
     return true;
 }
@@ -229,6 +275,7 @@ bool SelectRows(Node& list, const std::vector<int>& rows) {
         const bool inside = std::all_of(rows.begin(), rows.end(),
                                         [count](int row) { return row >= 0 && row < count; });
         if (!inside) return false;
+        Tell({Act::kSelectRows, list, rows});
         if (FocusForClick(list)) box->UserSelectRows(rows);
         return true;
     }
@@ -236,11 +283,13 @@ bool SelectRows(Node& list, const std::vector<int>& rows) {
         const bool inside =
             std::all_of(rows.begin(), rows.end(), [view](int row) { return view->Has(row); });
         if (!inside) return false;
+        Tell({Act::kSelectRows, list, rows});
         if (FocusForClick(list)) view->UserSelectRows(rows);
         return true;
     }
     if (auto* combo = dynamic_cast<ComboBoxNode*>(&list)) {
         if (rows.size() != 1) return false;
+        Tell({Act::kSelectRows, list, rows});
         return !FocusForClick(list) || combo->UserPick(rows.front());
     }
     return false;
@@ -251,6 +300,7 @@ bool DropDown(Node& combo) {
     if (!box || !CanAct(combo)) return false;
     const auto keep = combo.shared_from_this();
     const ActionScope action;
+    Tell({Act::kDropDown, combo});
     if (FocusForClick(combo)) box->UserDrop();
     return true;
 }
@@ -258,6 +308,7 @@ bool DropDown(Node& combo) {
 bool CloseList(Node& combo) {
     auto* box = dynamic_cast<ComboBoxNode*>(&combo);
     if (!box || !box->Dropped() || combo.Destroyed()) return false;
+    Tell({Act::kCloseList, combo});
     Send(combo, CB_SHOWDROPDOWN, FALSE);
     return true;
 }
@@ -270,6 +321,7 @@ bool TurnWheel(Node& control, int notches) {
     if (!spin && focus == &control) spin = SpinOfKeys(control);
     if (spin) {
         const auto keepSpin = spin->shared_from_this();
+        Tell({Act::kTurnWheel, control, {notches}});
         for (int turned = 0; turned < std::abs(notches) && CanAct(*spin); ++turned) {
             spin->UserStep(notches > 0);
         }
@@ -277,6 +329,7 @@ bool TurnWheel(Node& control, int notches) {
     }
     auto* combo = dynamic_cast<ComboBoxNode*>(&control);
     if (!combo || !focus || !focus->IsSelfOrDescendantOf(control)) return false;
+    Tell({Act::kTurnWheel, control, {notches}});
     for (int turned = 0; turned < std::abs(notches) && CanAct(control); ++turned) {
         combo->UserKey(notches > 0 ? VK_UP : VK_DOWN);
     }
@@ -287,6 +340,7 @@ bool StepSpin(Node& spin, bool up) {
     auto* arrows = dynamic_cast<SpinNode*>(&spin);
     if (!arrows || !CanAct(spin)) return false;
     const auto keep = spin.shared_from_this();
+    Tell({Act::kStepSpin, spin, {up ? 1 : -1}});
     // The arrows take no focus of their own: what is typed into the buddy is at hand for them.
     Node* buddy = arrows->Buddy();
     if (buddy && CanAct(*buddy) && !FocusForClick(*buddy)) return true;
@@ -298,12 +352,14 @@ bool PressTool(Node& toolBar, int id) {
     auto* bar = dynamic_cast<ToolBarNode*>(&toolBar);
     if (!bar || !CanAct(toolBar)) return false;
     const auto keep = toolBar.shared_from_this();
+    Tell({Act::kPressTool, toolBar, {id}});
     return bar->UserPress(id);
 }
 
 bool SelectText(Node& edit, int anchor, int caret) {
     if (!CanAct(edit) || edit.Class() != NodeClass::kEdit) return false;
     const auto keep = edit.shared_from_this();
+    Tell({Act::kSelectText, edit, {anchor, caret}});
     if (FocusForClick(edit)) {
         Send(edit, EM_SETSEL, static_cast<WPARAM>(anchor), static_cast<LPARAM>(caret));
     }
@@ -313,6 +369,7 @@ bool SelectText(Node& edit, int anchor, int caret) {
 bool EditCommand(Node& edit, UINT message) {
     if (!CanAct(edit)) return false;
     const auto keep = edit.shared_from_this();
+    Tell({Act::kEditCommand, edit, {static_cast<int>(message)}});
     if (FocusForClick(edit)) Send(edit, message);
     return true;
 }
@@ -321,6 +378,7 @@ bool CopyRows(Node& list) {
     if (list.Destroyed() || !HasRows(list)) return false;
     const std::vector<int> rows = SelectedRows(list);
     if (rows.empty()) return false;
+    Tell({Act::kCopyRows, list});
     std::string text;
     for (const int row : rows) {
         if (!text.empty()) text += '\n';
@@ -335,35 +393,35 @@ bool TypeText(Node& control, std::string_view text) {
     const auto keep = control.shared_from_this();
     const ActionScope action;
     const ModalWatch watch;
+    Tell({Act::kTypeText, control, {}, text});
     FocusByTab(control);
     if (watch.Opened()) return true;
     if (text.empty()) {
         // Entered by Tab and nothing typed: what was selected is taken away, as with Delete.
-        return PressKey(VK_DELETE);
+        return RunKey(VK_DELETE, 0, {});
     }
-    return TypeHere(text);
+    return TypeCharacters(text, true);
 }
 
 bool TypeHere(std::string_view text) {
-    auto& system = WindowSystem::Get();
-    for (const char ch : text) {
-        if (!system.Focus() || !CanAct(*system.Focus())) return false;
-        Modifiers modifiers;
-        modifiers.shift = ch >= 'A' && ch <= 'Z';
-        RunKey(KeyOf(ch), ch == '\n' ? '\r' : ch, modifiers);
-        system.Settle();
-    }
-    return true;
+    return TypeCharacters(text, false);
 }
 
 bool PressKey(int key, Modifiers modifiers) {
-    return RunKey(key, 0, modifiers);
+    Node* target = KeyTarget();
+    if (!target) return false;
+    const auto keep = target->shared_from_this();
+    Tell({Act::kPressKey, *target, {key}, {}, modifiers});
+    if (RunKey(key, 0, modifiers)) return true;
+    Tell({Act::kInVain, *target});
+    return false;
 }
 
 int KeyByName(std::string_view name) {
     for (const auto& [known, key] : kKeyNames) {
         if (EqualsNoCase(known, name)) return key;
     }
+    if (const int key = FunctionKey(name)) return key;
     if (name.size() == 1) {
         const char upper = ToUpper(name.front());
         if ((upper >= 'A' && upper <= 'Z') || IsDigit(upper)) return upper;
@@ -375,6 +433,7 @@ bool Paste(Node& control, const std::string& text) {
     if (!CanAct(control) || !FocusedByClick(control)) return false;
     const auto keep = control.shared_from_this();
     const ActionScope action;
+    Tell({Act::kPaste, control, {}, text});
     auto& system = WindowSystem::Get();
     system.GetDesktop().SetClipboardText(text);
     const ModalWatch watch;
@@ -388,6 +447,7 @@ bool MoveFocus(Node& control) {
     Node* target = FocusedByClick(control);
     if (!CanAct(control) || !target) return false;
     const ActionScope action;
+    Tell({Act::kMoveFocus, control});
     WindowSystem::Get().SetFocus(target);
     return true;
 }
@@ -401,6 +461,7 @@ bool Activate(Node& window) {
 bool CloseWindow(Node& window) {
     if (!CanAct(window)) return false;
     const ActionScope action;
+    Tell({Act::kCloseWindow, window});
     Send(window, WM_CLOSE);
     return true;
 }

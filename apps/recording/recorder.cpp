@@ -1,0 +1,327 @@
+#include "recording/recorder.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "base/text.h"
+#include "window/acting/input.h"
+#include "window/acting/row_texts.h"
+#include "window/acting/user.h"
+#include "window/wnd.h"
+
+namespace recording {
+
+namespace {
+
+using kv::input::Act;
+using kv::input::Deed;
+
+/// Without a character for so long, what is typed into a list begins anew.
+constexpr std::chrono::seconds kPause{1};
+
+/// The id of the control that the node is or lies in; 0 for the window itself.
+int IdIn(const kv::Node& window, const kv::Node& node) {
+    const kv::Node* control = &node;
+    while (control != &window && control->Parent() != &window)
+        control = control->Parent();
+    return control == &window ? 0 : control->Id();
+}
+
+bool IsSecret(const kv::Node& node) {
+    return node.Class() == kv::NodeClass::kEdit && node.HasStyle(ES_PASSWORD);
+}
+
+/// What a click does nothing to.
+bool IsDead(const kv::Node& node) {
+    const kv::NodeClass kind = node.Class();
+    const bool group = kind == kv::NodeClass::kButton && kv::IsCaption(node);
+    return kind == kv::NodeClass::kStatic || kind == kv::NodeClass::kProgress || group;
+}
+
+/// Its text, or its number where a row ahead of it has the same.
+Json RowAsJson(kv::Node& list, int row) {
+    const std::vector<std::string> rows = kv::RowTexts(list);
+    if (row < 0 || row >= static_cast<int>(rows.size())) return row;
+    const std::string& text = rows[static_cast<std::size_t>(row)];
+    const bool first = std::ranges::find(rows, text) - rows.begin() == row;
+    return first ? Json(text) : Json(row);
+}
+
+Json RowsAsJson(kv::Node& list, const std::vector<int>& rows) {
+    if (rows.size() == 1) return RowAsJson(list, rows.front());
+    Json json = Json::array();
+    for (const int row : rows)
+        json.push_back(RowAsJson(list, row));
+    return json;
+}
+
+std::string InWords(const kv::Modifiers& held) {
+    return std::string(held.shift ? "Shift+" : "") + (held.ctrl ? "Ctrl+" : "") +
+           (held.alt ? "Alt+" : "");
+}
+
+/// "" for a key that has none.
+std::string NameOfKey(int key) {
+    constexpr std::array kNamed{"Backspace", "Tab",      "Enter", "Escape", "Space",
+                                "PageUp",    "PageDown", "End",   "Home",   "Left",
+                                "Up",        "Right",    "Down",  "Insert", "Delete"};
+    const auto named = std::ranges::find_if(
+        kNamed, [key](const char* name) { return kv::input::KeyByName(name) == key; });
+    if (named != kNamed.end()) return *named;
+    const std::string letter(1, static_cast<char>(key));
+    if (key > 0 && key < 0x80 && kv::input::KeyByName(letter) == key) return letter;
+    for (int number = 1; number <= 24; ++number) {
+        const std::string name = "F" + std::to_string(number);
+        if (kv::input::KeyByName(name) == key) return name;
+    }
+    return {};
+}
+
+const char* WordOf(UINT command) {
+    switch (command) {
+        case WM_CUT:
+            return "cut";
+        case WM_COPY:
+            return "copy";
+        case WM_PASTE:
+            return "paste";
+        case WM_CLEAR:
+            return "delete";
+        default:
+            return "undo";
+    }
+}
+
+}  // namespace
+
+void Recorder::WindowOpens(kv::Node& window) {
+    windows_.push_back({window.weak_from_this(), scenes_.size()});
+    scenes_.push_back({{"window", kv::ClassName(*window.AnyHandle())}, {"do", Json::array()}});
+}
+
+void Recorder::WindowCloses() {
+    windows_.pop_back();
+}
+
+std::size_t Recorder::SceneOpens(Json scene) {
+    scenes_.push_back(std::move(scene));
+    return scenes_.size() - 1;
+}
+
+void Recorder::PumpBegins() {
+    pumpings_.push_back({windows_.size(), std::nullopt});
+}
+
+void Recorder::PumpEnds() {
+    if (!pumpings_.back().scene) ++pumpsPassed_;
+    pumpings_.pop_back();
+}
+
+const Recorder::Window* Recorder::WindowOf(kv::Node& node) const {
+    const auto holds = [&node](const Window& each) {
+        const auto window = each.node.lock();
+        return window && node.IsSelfOrDescendantOf(*window);
+    };
+    const auto found = std::find_if(windows_.rbegin(), windows_.rend(), holds);
+    return found == windows_.rend() ? nullptr : &*found;
+}
+
+/// What is done inside long work, to a window that was open before, is a scene of its own.
+std::size_t Recorder::SceneOfDeeds(const Window& window) {
+    const auto place = static_cast<std::size_t>(&window - windows_.data());
+    if (pumpings_.empty() || place >= pumpings_.back().windows) return window.scene;
+    Pumping& pumping = pumpings_.back();
+    if (!pumping.scene) {
+        pumping.scene =
+            SceneOpens({{"pump", std::exchange(pumpsPassed_, 0)}, {"do", Json::array()}});
+    }
+    return *pumping.scene;
+}
+
+void Recorder::Did(const Deed& deed, Time now) {
+    const Window* window = WindowOf(deed.node);
+    if (!window) return;
+    scene_ = SceneOfDeeds(*window);
+    secret_ = IsSecret(deed.node);
+    Write(deed, *window->node.lock(), now);
+}
+
+void Recorder::Write(const Deed& deed, kv::Node& window, Time now) {
+    const int id = IdIn(window, deed.node);
+    switch (deed.act) {
+        case Act::kClick:
+        case Act::kPress:
+        case Act::kPressAgain:
+        case Act::kRelease:
+        case Act::kHoldInside:
+        case Act::kHoldOutside:
+        case Act::kMoveFocus:
+            Mouse(deed, id);
+            break;
+        case Act::kSelectText:
+        case Act::kEditCommand:
+        case Act::kTypeText:
+        case Act::kPaste:
+            Text(deed, id);
+            break;
+        case Act::kTypeHere:
+        case Act::kPressKey:
+        case Act::kInVain:
+            Keys(deed, id, now);
+            break;
+        case Act::kCloseWindow:
+            // What holds a bar goes by itself when the scene of the bar is over.
+            if (&deed.node == &window) Add("close", nullptr);
+            break;
+        default:
+            List(deed, id);
+            break;
+    }
+}
+
+void Recorder::Mouse(const Deed& deed, int id) {
+    if (deed.act == Act::kMoveFocus) return Add("focus", id);
+    if (IsDead(deed.node)) return;
+    if (deed.node.Class() != kv::NodeClass::kButton) {
+        // Where in a text it is, is told next.
+        if (deed.act == Act::kClick || deed.act == Act::kPress) Add("click", id);
+        return;
+    }
+    switch (deed.act) {
+        case Act::kClick:
+            return Add("click", id);
+        case Act::kPress:
+            heldOutside_ = false;
+            return Add("hold", id);
+        case Act::kPressAgain:
+            heldOutside_ = false;
+            return Add("holdagain", id);
+        case Act::kHoldOutside:
+            // What is left of the press.
+            heldOutside_ = true;
+            if (LastIs({{"hold", id}})) Deeds().back() = {{"focus", id}};
+            return;
+        case Act::kHoldInside:
+            if (std::exchange(heldOutside_, false) && LastIs({{"focus", id}}))
+                Deeds().back() = {{"hold", id}};
+            return;
+        default:
+            break;
+    }
+    if (std::exchange(heldOutside_, false)) return;
+    if (LastIs({{"hold", id}})) {
+        Deeds().back() = {{"click", id}};
+    } else if (LastIs({{"holdagain", id}})) {
+        Deeds().back() = {{"doubleclick", id}};
+    } else {
+        Add("release", id);
+    }
+}
+
+void Recorder::ClickRow(const Deed& deed, int id) {
+    const int row = deed.numbers.front();
+    const kv::Modifiers& held = deed.modifiers;
+    if (row < 0 && deed.node.Class() == kv::NodeClass::kListBox) return Add("focus", id);
+    Json value{id, row < 0 ? Json::array() : RowAsJson(deed.node, row)};
+    std::string keys = InWords({held.shift, held.ctrl, false});
+    if (!keys.empty()) {
+        keys.pop_back();
+        value.push_back(keys);
+    }
+    Add("select", std::move(value));
+}
+
+void Recorder::List(const Deed& deed, int id) {
+    const int number = deed.numbers.empty() ? 0 : deed.numbers.front();
+    switch (deed.act) {
+        case Act::kDoubleClick:
+            return Add("doubleclick", {id, RowAsJson(deed.node, number)});
+        case Act::kClickRow:
+            return ClickRow(deed, id);
+        case Act::kSelectRows:
+            return Add("select", {id, RowsAsJson(deed.node, deed.numbers)});
+        case Act::kRightClickRow:
+            return Add("rightclick", {id, RowAsJson(deed.node, number)});
+        case Act::kClickColumn:
+            return Add("heading", {id, number});
+        case Act::kToggleCheck:
+            return Add("check", {id, RowAsJson(deed.node, number)});
+        case Act::kDropDown:
+            return Add("drop", id);
+        case Act::kCloseList:
+            return Add("closelist", id);
+        case Act::kTurnWheel:
+            return Add("wheel", {id, number});
+        case Act::kStepSpin:
+            return Add("step", {id, number > 0 ? "up" : "down"});
+        case Act::kPressTool:
+            return Add("tool", {id, number});
+        case Act::kCopyRows:
+            return Add("copy", id);
+        default:
+            return;
+    }
+}
+
+void Recorder::Text(const Deed& deed, int id) {
+    const std::string text = secret_ ? std::string(deed.text.size(), '*') : std::string(deed.text);
+    switch (deed.act) {
+        case Act::kTypeText:
+            return Add("type", {id, text});
+        case Act::kPaste:
+            return Add("paste", {id, text});
+        case Act::kEditCommand:
+            return Add("edit", {id, WordOf(static_cast<UINT>(deed.numbers.front()))});
+        default:
+            break;
+    }
+    // The mouse that is dragged selects again and again.
+    const bool goesOn =
+        !Deeds().empty() && Deeds().back().contains("mark") && Deeds().back()["mark"][0] == id;
+    if (goesOn) Deeds().erase(Deeds().size() - 1);
+    Add("mark", {id, deed.numbers[0], deed.numbers[1]});
+}
+
+void Recorder::Keys(const Deed& deed, int id, Time now) {
+    if (deed.act == Act::kInVain) {
+        if (!Deeds().empty() && Deeds().back().contains("key")) Deeds().erase(Deeds().size() - 1);
+        return;
+    }
+    const bool inList = kv::HasRows(deed.node);
+    if (inList && searched_ && now - *searched_ >= kPause) {
+        searched_.reset();
+        Add("pause", nullptr);
+    }
+    if (deed.act == Act::kTypeHere) {
+        if (inList) searched_ = now;
+        TypeOn(id, secret_ ? "*" : std::string(deed.text));
+        return;
+    }
+    const std::string name = NameOfKey(deed.numbers.front());
+    if (!name.empty()) Add("key", {id, InWords(deed.modifiers) + name});
+}
+
+void Recorder::TypeOn(int id, const std::string& text) {
+    const bool goesOn =
+        !Deeds().empty() && Deeds().back().contains("keys") && Deeds().back()["keys"][0] == id;
+    if (goesOn) {
+        Json& typed = Deeds().back()["keys"][1];
+        typed = typed.get<std::string>() + text;
+    } else {
+        Add("keys", {id, text});
+    }
+}
+
+void Recorder::ClipboardIsRead(const std::string& text) {
+    if (!scene_ || clipboard_ == text) return;
+    Json& deeds = Deeds();
+    const bool brought = !deeds.empty() && deeds.back().contains("paste");
+    if (!brought) {
+        const Json deed{{"clipboard", secret_ ? std::string(text.size(), '*') : text}};
+        deeds.insert(deeds.empty() ? deeds.end() : deeds.end() - 1, deed);
+    }
+    if (!secret_) clipboard_ = text;
+}
+
+}  // namespace recording

@@ -1,0 +1,79 @@
+#pragma once
+
+#include <chrono>
+#include <cstddef>
+#include <functional>
+#include <memory>
+#include <nlohmann/json.hpp>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "window/acting/listener.h"
+
+namespace recording {
+
+using Json = nlohmann::ordered_json;
+
+/// Writes what a person does as the scenes of a script: what is clicked, picked and typed, by the
+/// ids of controls and the texts of rows. What is typed into a password box becomes asterisks.
+class Recorder {
+public:
+    using Time = std::chrono::system_clock::time_point;
+
+    const Json& Scenes() const { return scenes_; }
+
+    /// A window opens that the person works in from now on, until it closes.
+    void WindowOpens(kv::Node& window);
+    void WindowCloses();
+    /// Something opens that is answered as a whole. Its answer may follow.
+    std::size_t SceneOpens(Json scene);
+    void Answer(std::size_t scene, const char* key, Json answer) { scenes_[scene][key] = answer; }
+
+    /// What the person does meanwhile is done inside long work.
+    void PumpBegins();
+    void PumpEnds();
+
+    /// `now` is the time for all that the deed does.
+    void Did(const kv::input::Deed& deed, Time now);
+
+    /// What was done last has read that from the clipboard.
+    void ClipboardIsRead(const std::string& text);
+    void ClipboardIsSet() { clipboard_.reset(); }
+
+private:
+    struct Window {
+        std::weak_ptr<kv::Node> node;
+        std::size_t scene;
+    };
+    struct Pumping {
+        std::size_t windows;  ///< how many were open before
+        std::optional<std::size_t> scene;
+    };
+
+    const Window* WindowOf(kv::Node& node) const;
+    std::size_t SceneOfDeeds(const Window& window);
+    void Write(const kv::input::Deed& deed, kv::Node& window, Time now);
+    void Mouse(const kv::input::Deed& deed, int id);
+    void List(const kv::input::Deed& deed, int id);
+    void ClickRow(const kv::input::Deed& deed, int id);
+    void Text(const kv::input::Deed& deed, int id);
+    void Keys(const kv::input::Deed& deed, int id, Time now);
+    void TypeOn(int id, const std::string& text);
+
+    Json& Deeds() { return scenes_[*scene_]["do"]; }
+    void Add(const char* action, Json value) { Deeds().push_back({{action, std::move(value)}}); }
+    bool LastIs(const Json& deed) { return !Deeds().empty() && Deeds().back() == deed; }
+
+    Json scenes_ = Json::array();
+    std::vector<Window> windows_;
+    std::vector<Pumping> pumpings_;
+    int pumpsPassed_ = 0;
+    std::optional<std::size_t> scene_;  ///< of the last deed
+    bool secret_ = false;               ///< whether that is done to a password box
+    bool heldOutside_ = false;
+    std::optional<Time> searched_;  ///< when the last character was typed into a list
+    std::optional<std::string> clipboard_;
+};
+
+}  // namespace recording

@@ -1,0 +1,182 @@
+#include "recording/recording.h"
+
+#include <map>
+#include <tuple>
+#include <utility>
+#include <vector>
+
+#include "base/text.h"
+#include "recording/outside.h"
+#include "window/window_system.h"
+
+namespace recording {
+
+namespace {
+
+const char* WordOfAnswer(int id) {
+    static const std::map<int, const char*> words{
+        {IDOK, "ok"},       {IDCANCEL, "cancel"}, {IDYES, "yes"},      {IDNO, "no"},
+        {IDRETRY, "retry"}, {IDABORT, "abort"},   {IDIGNORE, "ignore"}};
+    const auto at = words.find(id);
+    return at == words.end() ? "ok" : at->second;
+}
+
+/// The picks of a map, each "AREA,BLOCK,EXTENSION"; null for none.
+Json PicksOf(const std::string& text) {
+    constexpr std::size_t kFieldsOfTheMap = 2;
+    constexpr std::size_t kFieldsOfAPick = 3;
+    if (text.empty()) return nullptr;
+    const std::vector<std::string> fields = kv::Split(text, ',');
+    Json picks = Json::array();
+    for (std::size_t at = kFieldsOfTheMap; at + kFieldsOfAPick <= fields.size();
+         at += kFieldsOfAPick) {
+        picks.push_back(fields[at] + "," + fields[at + 1] + "," + fields[at + 2]);
+    }
+    return picks;
+}
+
+}  // namespace
+
+Recording::Recording(const Json& inputs, std::function<void()> recorded)
+    : inner_(kv::WindowSystem::Get().GetDesktop()),
+      head_({{"inputs", inputs}}),
+      recorded_(std::move(recorded)) {
+    head_.update(HeadOfNow());
+    kv::WindowSystem::Get().SetDesktop(this);
+    formerListener_ = kv::input::SetListener([this](const kv::input::Deed& deed) {
+        now_ = inner_.Now();
+        recorder_.Did(deed, *now_);
+        Recorded();
+    });
+    ListenToMap();
+}
+
+Recording::~Recording() {
+    kv::SetGraphics(std::move(map_));
+    kv::input::SetListener(std::move(formerListener_));
+    kv::WindowSystem::Get().SetDesktop(&inner_);
+}
+
+Json Recording::Script() const {
+    Json script = head_;
+    script["user"] = recorder_.Scenes();
+    return script;
+}
+
+void Recording::Recorded() {
+    if (recorded_) recorded_();
+}
+
+template <typename Run>
+auto Recording::Answered(Json scene, const Run& run) {
+    const std::size_t place = recorder_.SceneOpens(std::move(scene));
+    auto [result, key, answer] = run();
+    recorder_.Answer(place, key, std::move(answer));
+    Recorded();
+    return result;
+}
+
+void Recording::ListenToMap() {
+    map_ = kv::SetGraphics(nullptr);
+    if (!map_) return;
+    kv::SetGraphics([this](const auto&... asked) {
+        return Answered({{"map", nullptr}}, [&] {
+            std::string text = map_(asked...);
+            Json picks = PicksOf(text);
+            return std::tuple(std::move(text), "map", std::move(picks));
+        });
+    });
+}
+
+void Recording::RunModal(kv::Node& dialog) {
+    recorder_.WindowOpens(dialog);
+    inner_.RunModal(dialog);
+    recorder_.WindowCloses();
+}
+
+void Recording::RunModeless(kv::Node& window, kv::Node& actOn) {
+    recorder_.WindowOpens(actOn);
+    inner_.RunModeless(window, actOn);
+    recorder_.WindowCloses();
+}
+
+int Recording::RunMessageBox(const kv::MessageBoxRequest& request) {
+    return Answered({{"message", request.text}}, [&] {
+        const int answer = inner_.RunMessageBox(request);
+        return std::tuple(answer, "answer", Json(WordOfAnswer(answer)));
+    });
+}
+
+int Recording::RunFileDialog(const kv::FileDialogRequest& request, std::string& path) {
+    return Answered({{"file", nullptr}}, [&] {
+        const int answer = inner_.RunFileDialog(request, path);
+        return std::tuple(answer, "file", answer == IDOK ? Json(path) : Json());
+    });
+}
+
+int Recording::RunPrintSetup(kv::PrinterSettings& settings) {
+    return Answered({{"print", nullptr}}, [&] {
+        const int answer = inner_.RunPrintSetup(settings);
+        return std::tuple(answer, "print", answer == IDOK ? PrinterAsJson(settings) : Json());
+    });
+}
+
+bool Recording::DefaultPrinter(kv::PrinterSettings& settings) {
+    return inner_.DefaultPrinter(settings);
+}
+
+bool Recording::HasPrinter(const std::string& device) {
+    return inner_.HasPrinter(device);
+}
+
+CSize Recording::ScreenSize() {
+    return inner_.ScreenSize();
+}
+
+CSize Recording::TextExtent(const std::string& text, const kv::Font& font) {
+    return inner_.TextExtent(text, font);
+}
+
+COLORREF Recording::Color(kv::SystemColor which) {
+    return inner_.Color(which);
+}
+
+kv::Font Recording::DefaultFont() {
+    return inner_.DefaultFont();
+}
+
+/// A deed takes no time: what judges by it and what is recorded judge alike.
+std::chrono::system_clock::time_point Recording::Now() {
+    return now_.value_or(inner_.Now());
+}
+
+std::string Recording::ClipboardText() {
+    std::string text = inner_.ClipboardText();
+    recorder_.ClipboardIsRead(text);
+    return text;
+}
+
+void Recording::SetClipboardText(const std::string& text) {
+    recorder_.ClipboardIsSet();
+    inner_.SetClipboardText(text);
+}
+
+void Recording::Pump() {
+    recorder_.PumpBegins();
+    inner_.Pump();
+    recorder_.PumpEnds();
+}
+
+void Recording::Wake() {
+    inner_.Wake();
+}
+
+void Recording::Created(kv::Node& node) {
+    inner_.Created(node);
+}
+
+std::string TextOf(const Json& script) {
+    return script.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
+}
+
+}  // namespace recording
