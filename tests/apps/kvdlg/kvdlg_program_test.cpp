@@ -269,6 +269,88 @@ TEST(KvdlgProgram, TraceAddsTheStatements) {
     EXPECT_FALSE(kvdlg.Play("CKvGuiListSel", script).Printed().contains("sql"));
 }
 
+TEST(KvdlgRecord, WritesAScriptThatPlaysWithTheSameOutcome) {
+    const Kvdlg kvdlg;
+    const std::string file = kvdlg.folder.Native("done.json");
+    const auto seen = kvdlg.Play(kStatus, kPickAndEnd, {"--record", file});
+    EXPECT_EQ(seen.exit, 0) << seen.error;
+    const auto script = Kvdlg::Json::parse(kvdlg.folder.Read("done.json"));
+    EXPECT_EQ(script.at("inputs").at("text"), "ACT");
+    EXPECT_EQ(script.at("user").at(0).at("do").at(0), (Kvdlg::Json{{"click", 1}}));
+    const auto played = kvdlg.Run({"run", kStatus, "--script", file});
+    EXPECT_EQ(played.exit, 0) << played.error;
+    EXPECT_EQ(played.out, seen.out);
+}
+
+TEST(KvdlgRecord, ThatCannotBeWrittenEndsWith3AndOpensNothing) {
+    const Kvdlg kvdlg;
+    const std::string file = kvdlg.folder.Native("none/done.json");
+    const auto ended = kvdlg.Play(kStatus, kPickAndEnd, {"--record", file});
+    EXPECT_EQ(ended.exit, 3);
+    EXPECT_EQ(ended.out, "");
+    EXPECT_EQ(ended.error, "kvdlg: The script " + file + " cannot be written\n");
+}
+
+TEST(KvdlgRecord, HoldsWhatWasDoneUpToTheEndOfAProgramThatFails) {
+    const Kvdlg kvdlg;
+    const auto ended =
+        kvdlg.Play(kStatus, R"({"user": [{"window": "", "do": [{"focus": 1}, {"click": 4711}]}]})",
+                   {"--record", kvdlg.folder.Native("done.json")});
+    EXPECT_EQ(ended.exit, 2);
+    EXPECT_THAT(kvdlg.folder.Read("done.json"), HasSubstr("\"focus\": 1"));
+}
+
+TEST(KvdlgScriptHead, ARegistryStandsInThePlaceOfTheUsersAndKeepsNothing) {
+    const Kvdlg kvdlg;
+    kvdlg.folder.Write("drive/list.txt", "x");
+    kvdlg.folder.Write("registry.ini", "[SOFTWARE\\KVI]\nDATASET=OTHER\n");
+    const Kvdlg::Json registry = {{"SOFTWARE\\KVI\\Drives", {{"Q", kvdlg.folder.Native("drive")}}}};
+    Kvdlg::Json script = {{"registry", registry},
+                          {"folder", "Q:\\"},
+                          {"inputs", {{"start", "Q:\\"}}},
+                          {"user", {{{"window", "CFilePickCtrl"}, {"do", {{{"click", 2}}}}}}}};
+    const auto ended = kvdlg.Play("CFilePickCtrl", script.dump());
+    EXPECT_EQ(ended.exit, 1) << ended.error;
+    EXPECT_THAT(ended.out, HasSubstr("list.txt"));
+    EXPECT_EQ(kvdlg.folder.Read("registry.ini"), "[SOFTWARE\\KVI]\nDATASET=OTHER\n");
+}
+
+TEST(KvdlgScriptHead, WhatIsNoRegistryOrFolderIsRefusedWithItsLine) {
+    const Kvdlg kvdlg;
+    const std::pair<const char*, const char*> wrong[] = {
+        {R"("registry": [])", "\"registry\" to be an object"},
+        {R"("registry": {"SOFTWARE": "x"})", "\"registry\" to be an object"},
+        {R"("registry": {"SOFTWARE": {"x": 1}})", "\"registry\" to be an object"},
+        {R"("folder": 1)", "\"folder\" to be a folder"},
+        {R"("folder": "C:\\no such folder")", "\"folder\" to be a folder"}};
+    for (const auto& [head, words] : wrong) {
+        const auto ended = kvdlg.Play(kStatus, std::string("{\n") + head + "}");
+        EXPECT_EQ(ended.exit, 2) << head;
+        EXPECT_THAT(ended.error, HasSubstr("Line 2, the script: expected ")) << head;
+        EXPECT_THAT(ended.error, HasSubstr(words)) << head;
+    }
+}
+
+TEST(KvdlgScript, AnActionThatIsHalfToldIsRefused) {
+    const Kvdlg kvdlg;
+    const std::pair<const char*, const char*> wrong[] = {
+        {R"({"keys": [1]})", "a text at place 1"},
+        {R"({"mark": [1, 2]})", "[id, from, to]"},
+        {R"({"edit": [1, "format"]})", "cut, copy, paste, delete or undo"},
+        {R"({"step": [1, "left"]})", "\"up\" or \"down\""},
+        {R"({"wheel": [1, "up"]})", "[id, number]"},
+        {R"({"check": [1]})", "a row by its text or number"},
+        {R"({"select": [1, 0, "Alt"]})", "\"Shift\", \"Ctrl\" or \"Shift+Ctrl\""},
+        {R"({"clipboard": 1})", "a text"},
+        {R"({"hold": "1"})", "a control's id"}};
+    for (const auto& [action, words] : wrong) {
+        const auto ended = kvdlg.Play(
+            kStatus, std::string(R"({"user": [{"window": "", "do": [)") + action + "]}]}");
+        EXPECT_EQ(ended.exit, 2) << action;
+        EXPECT_THAT(ended.error, HasSubstr(words)) << action;
+    }
+}
+
 class KvdlgPicture : public testing::Test {
 protected:
     void SetUp() override {
