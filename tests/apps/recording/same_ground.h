@@ -35,7 +35,7 @@ class SameGround : public testing::Test {
 protected:
     SameGround() {
         for (const char* variable : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME"})
-            folder_.Set(variable, Drive() + "/" + variable);
+            folder_.Set(variable, folder_.Native("home/") + variable);
         folder_.Set("KVGUICTL_DB", "sqlite:" + folder_.Native("sample.db"));
         InitControlDll();
     }
@@ -103,6 +103,7 @@ private:
         namespace fs = std::filesystem;
         fs::current_path(folder_.Native());
         fs::remove_all(Drive());
+        fs::remove_all(folder_.Native("home"));
         folder_.Write("drive/list.txt", "ACT\nREM\n391\n");
         folder_.Write("drive/blocks.txt", "GREEN CANYON,200,\nWEST CAMERON,1,\n");
         folder_.Write("drive/maps/points.txt", "1 2\n3 4\n");
