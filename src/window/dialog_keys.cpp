@@ -51,7 +51,7 @@ void MoveInGroup(Node& focused, bool forward) {
     std::vector<Node*> members = GroupOf(focused);
     std::erase_if(members, [&](Node* member) {
         return !CanHoldFocus(*member) || IsRadio(*member) != IsRadio(focused) ||
-               member->Class() != NodeClass::kButton;
+               member->Class() != NodeClass::kButton || IsCaption(*member);
     });
     const auto at = std::find(members.begin(), members.end(), &focused);
     if (at == members.end() || members.size() < 2) return;

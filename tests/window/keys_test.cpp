@@ -173,6 +173,15 @@ TEST_F(Keys, ArrowsPassDisabledAndHiddenRadioButtons) {
     });
 }
 
+TEST_F(Keys, ArrowsPassGroupBoxes) {
+    Open({Row(5, kGroupBox, "Both"), Row(21, kCheckBox, "One"), Row(22, kCheckBox, "Two")},
+         [](kv::User& user) {
+             user.Focus(21);
+             EXPECT_THAT(Visit(user, "Down", 2), ElementsAre(22, 21));
+             EXPECT_THAT(Visit(user, "Up", 1), ElementsAre(22));
+         });
+}
+
 TEST_F(Keys, AnArrowDoesNotCheckAButtonThatDidNotKeepTheFocus) {
     class Shy : public CWnd {
         LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
