@@ -8,6 +8,7 @@
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QHeaderView>
+#include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
@@ -31,21 +32,22 @@ namespace {
 /// How often the person may look at a window that does not close before they give up.
 constexpr int kMostTurns = 3000;
 
-const std::array kTexts{"1",         "12",
-                        "-89.5",     "28",
-                        "391",       "0",
-                        "A",         "SHELL",
-                        "ge",        "ENERGY",
-                        "W",         "x",
-                        "%",         "'",
-                        " ",         "1e9",
-                        "99999",     "-",
-                        ".",         "\u00e9",
-                        "N28 30 15", "28.504236, -89.125",
-                        "GC 200",    "name.txt",
-                        "C:\\",      "ACT",
-                        "2000",      "3.25",
-                        "ab cd",     "\\"};
+const std::array kTexts{"1",           "12",
+                        "-89.5",       "28",
+                        "391",         "0",
+                        "A",           "SHELL",
+                        "ge",          "ENERGY",
+                        "W",           "x",
+                        "%",           "'",
+                        " ",           "1e9",
+                        "99999",       "-",
+                        ".",           "\u00e9",
+                        "N28 30 15",   "28.504236, -89.125",
+                        "GC 200",      "name.txt",
+                        "C:\\",        "ACT",
+                        "2000",        "3.25",
+                        "ab cd",       "\\",
+                        "\u4e95\u20ac"};
 
 const std::array kKeys{Qt::Key_Tab,      Qt::Key_Tab,    Qt::Key_Backtab, Qt::Key_Return,
                        Qt::Key_Space,    Qt::Key_Left,   Qt::Key_Right,   Qt::Key_Up,
@@ -92,7 +94,9 @@ void RandomPerson::Look() {
     QTimer::singleShot(0, this, [this] {
         if (--turnsLeft_ < 0) {
             gaveUp_ = true;
-            QCoreApplication::quit();
+            // The loops are those of dialogs, and not the application's own, which alone `quit`
+            // ends.
+            QCoreApplication::exit();
             return;
         }
         Look();
@@ -294,8 +298,10 @@ void RandomPerson::OnSpin(QWidget& widget) {
     }
 }
 
-/// By Cancel, or else as it comes.
+/// By Cancel, or else as it comes. What does not let go may want something else done first.
 void RandomPerson::Leave(kv::Node& window) {
+    if (Chance(15)) return PutRight();
+    if (Chance(15)) return OnWindow(window);
     for (const int id : {IDCANCEL, IDOK}) {
         kv::Node* button = window.FindChild(id);
         QWidget* widget = button && button->ReallyVisible() ? kv::qt::WidgetOf(*button) : nullptr;
@@ -309,11 +315,22 @@ void RandomPerson::Leave(kv::Node& window) {
     }
 }
 
+/// A number in the place of what is in a box.
+void RandomPerson::PutRight() {
+    auto* box = qobject_cast<QLineEdit*>(Holder());
+    if (!box) return;
+    QTest::keyClick(box, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(box, Qt::Key_1);
+    if (QWidget* holder = Holder()) QTest::keyClick(holder, Qt::Key_Tab);
+}
+
 void RandomPerson::PressKey() {
     QWidget* holder = Holder();
     if (!holder) return;
     const int what = Any(100);
-    if (what < 70) {
+    if (what < 4) {
+        QTest::keyClick(holder, Chance(70) ? Qt::Key_Down : Qt::Key_Up, Qt::AltModifier);
+    } else if (what < 70) {
         const Qt::Key key = AnyOf(kKeys);
         if (key == Qt::Key_Escape && Chance(70)) return;
         QTest::keyClick(holder, key, Held());
@@ -326,7 +343,16 @@ void RandomPerson::PressKey() {
 }
 
 void RandomPerson::Type() {
-    for (const QChar& each : QString::fromUtf8(AnyOf(kTexts))) {
+    const QString text = QString::fromUtf8(AnyOf(kTexts));
+    QWidget* first = Holder();
+    if (first && Chance(10)) {
+        // By an input method, as a whole.
+        QInputMethodEvent event;
+        event.setCommitString(text);
+        QApplication::sendEvent(first, &event);
+        return;
+    }
+    for (const QChar& each : text) {
         // Each key goes where the one before it has led.
         QWidget* holder = Holder();
         if (!holder || QApplication::activePopupWidget()) return;

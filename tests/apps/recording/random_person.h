@@ -34,6 +34,7 @@ private:
     void OnSpin(QWidget& widget);
     void Leave(kv::Node& window);
 
+    void PutRight();
     void PressKey();
     void Type();
     void Click(QWidget& widget, Qt::MouseButton button = Qt::LeftButton);
