@@ -82,6 +82,15 @@ bool Release(Node& control) {
     return kv::input::Release(control, MiddleOf(control));
 }
 
+/// On what holds a bar.
+bool PressBeside(Node& bar) {
+    return kv::input::CanAct(bar) && kv::input::Press(*bar.Root(), {0, 0});
+}
+
+bool LetGo(Node& button) {
+    return kv::input::HoldOver(button, false) && Release(button);
+}
+
 /// The second click of two.
 bool ClickTwice(Node& button) {
     const auto keep = button.shared_from_this();
@@ -262,8 +271,10 @@ Action MakeDrop(const Json& value, const std::string& where, kv::HeadlessDesktop
     return [id = IdOf(value, where)](kv::User& user) { user.Drop(id); };
 }
 
-Action MakeFocus(const Json& value, const std::string& where, kv::HeadlessDesktop&) {
-    return [id = IdOf(value, where)](kv::User& user) { user.Focus(id); };
+Action MakeFocus(const Json& value, const std::string& where, kv::HeadlessDesktop& desktop) {
+    const int id = IdOf(value, where);
+    if (id != 0) return [id](kv::User& user) { user.Focus(id); };
+    return OfControl<PressBeside>(value, where, desktop);
 }
 
 Action MakeClose(const Json&, const std::string&, kv::HeadlessDesktop&) {
@@ -289,6 +300,7 @@ const std::map<std::string, Maker>& Makers() {
         {"holdagain", OfControl<HoldAgain>},
         {"key", MakeKey},
         {"keys", MakeKeys},
+        {"letgo", OfControl<LetGo>},
         {"mark", MakeMark},
         {"paste", MakePaste},
         {"pause", MakePause},

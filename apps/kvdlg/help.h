@@ -92,9 +92,9 @@ Actions, with the ids that "kvdlg describe CLASS" tells:
   {"step": [ID, WAY]}             an arrow of a spin button, "up" or "down"
   {"wheel": [ID, NOTCHES]}        the mouse wheel, up being positive
   {"tool": [ID, TOOL]}            a button of a tool bar
-  {"focus": ID}                   goes to a control
+  {"focus": ID}                   goes to a control; the id 0 is what holds a bar
   {"hold": ID}                    presses a button and holds it; {"holdagain": ID} the second time,
-                                  {"release": ID} lets it go
+                                  {"release": ID} lets it go, {"letgo": ID} beside it
   {"clipboard": TEXT}             what the clipboard holds from now on
   {"pause": null}                 waits until what is typed into a list begins a new text
   {"close": null}                 closes the window by its window button
@@ -103,7 +103,7 @@ Actions, with the ids that "kvdlg describe CLASS" tells:
 
 A script need not be written by hand: --record FILE writes what is done in the windows as one, with a
 head that says what was outside them. What was typed into a password box is not in it: there stands
-an asterisk for each character.
+an asterisk for each byte. Neither are places on the screen, pictures and times.
 
 For shell scripts, --set NAME=VALUE gives one input, a number, true or false, a list or an object as
 in JSON, and a text without quotes; of a list of texts each --set adds one. --print KEY prints what the

@@ -73,13 +73,13 @@ Json RegistryAsJson(const std::string& text) {
     return sections;
 }
 
-Json HeadOfNow() {
+Json HeadOfNow(std::chrono::system_clock::time_point now) {
     kv::Desktop& desktop = kv::WindowSystem::Get().GetDesktop();
     const auto printer = kv::CurrentPrinter();
     const CSize screen = desktop.ScreenSize();
     return {{"printer", printer ? PrinterAsJson(*printer) : Json()},
             {"drives", DrivesAsJson()},
-            {"time", InWords(desktop.Now())},
+            {"time", InWords(now)},
             {"screen", {screen.cx, screen.cy}},
             {"folder", kv::CurrentFolder()},
             {"registry", RegistryAsJson(kv::ReadTextFile(RegistryFile()).value_or(""))}};

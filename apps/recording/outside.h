@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <nlohmann/json.hpp>
 
 #include "window/desktop.h"
@@ -9,8 +10,9 @@ namespace recording {
 
 using Json = nlohmann::ordered_json;
 
-/// As it is now: printer, drives, time, screen, current folder and the application's registry.
-Json HeadOfNow();
+/// Printer, drives, screen, current folder and the application's registry, as they are now, and
+/// that time.
+Json HeadOfNow(std::chrono::system_clock::time_point now);
 
 Json PrinterAsJson(const kv::PrinterSettings& printer);
 

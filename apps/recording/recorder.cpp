@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/text.h"
+#include "base/utf8.h"
 #include "window/acting/input.h"
 #include "window/acting/row_texts.h"
 #include "window/acting/user.h"
@@ -39,13 +40,13 @@ bool IsDead(const kv::Node& node) {
     return kind == kv::NodeClass::kStatic || kind == kv::NodeClass::kProgress || group;
 }
 
-/// Its text, or its number where a row ahead of it has the same.
+/// Its text, or its number where a row ahead of it has the same or a script cannot hold it.
 Json RowAsJson(kv::Node& list, int row) {
     const std::vector<std::string> rows = kv::RowTexts(list);
     if (row < 0 || row >= static_cast<int>(rows.size())) return row;
     const std::string& text = rows[static_cast<std::size_t>(row)];
     const bool first = std::ranges::find(rows, text) - rows.begin() == row;
-    return first ? Json(text) : Json(row);
+    return first && IsWritable(text) ? Json(text) : Json(row);
 }
 
 Json RowsAsJson(kv::Node& list, const std::vector<int>& rows) {
@@ -59,6 +60,12 @@ Json RowsAsJson(kv::Node& list, const std::vector<int>& rows) {
 std::string InWords(const kv::Modifiers& held) {
     return std::string(held.shift ? "Shift+" : "") + (held.ctrl ? "Ctrl+" : "") +
            (held.alt ? "Alt+" : "");
+}
+
+/// Whether the key types a character.
+bool Types(int key, const kv::Modifiers& held) {
+    const bool character = key == VK_SPACE || (key >= '0' && key <= 'Z');
+    return character && !held.ctrl && !held.alt;
 }
 
 /// "" for a key that has none.
@@ -95,6 +102,15 @@ const char* WordOf(UINT command) {
 
 }  // namespace
 
+bool IsWritable(std::string_view text) {
+    for (std::size_t at = 0; at < text.size();) {
+        const std::size_t length = kv::Utf8At(text, at).length;
+        if (length == 1 && static_cast<unsigned char>(text[at]) >= 0x80) return false;
+        at += length;
+    }
+    return true;
+}
+
 void Recorder::WindowOpens(kv::Node& window) {
     windows_.push_back({window.weak_from_this(), scenes_.size()});
     scenes_.push_back({{"window", kv::ClassName(*window.AnyHandle())}, {"do", Json::array()}});
@@ -130,7 +146,11 @@ const Recorder::Window* Recorder::WindowOf(kv::Node& node) const {
 /// What is done inside long work, to a window that was open before, is a scene of its own.
 std::size_t Recorder::SceneOfDeeds(const Window& window) {
     const auto place = static_cast<std::size_t>(&window - windows_.data());
-    if (pumpings_.empty() || place >= pumpings_.back().windows) return window.scene;
+    const bool inside = !pumpings_.empty() && place < pumpings_.back().windows;
+    return inside ? SceneOfPumping() : window.scene;
+}
+
+std::size_t Recorder::SceneOfPumping() {
     Pumping& pumping = pumpings_.back();
     if (!pumping.scene) {
         pumping.scene =
@@ -139,12 +159,28 @@ std::size_t Recorder::SceneOfDeeds(const Window& window) {
     return *pumping.scene;
 }
 
+/// A click on what holds a bar takes the focus from it.
+bool Recorder::PressedBeside(const Deed& deed) {
+    if (deed.act != Act::kPress || WindowOf(deed.node)) return false;
+    const auto liesThere = [&](const Window& each) {
+        const auto window = each.node.lock();
+        return window && window->IsSelfOrDescendantOf(deed.node);
+    };
+    const auto bar = std::ranges::find_if(windows_, liesThere);
+    if (bar == windows_.end()) return false;
+    scene_ = SceneOfDeeds(*bar);
+    Add("focus", 0);
+    return true;
+}
+
 void Recorder::Did(const Deed& deed, Time now) {
+    if (PressedBeside(deed)) return;
     const Window* window = WindowOf(deed.node);
-    if (!window) return;
-    scene_ = SceneOfDeeds(*window);
+    // Long work may show a window of its own.
+    if (!window && pumpings_.empty()) return;
+    scene_ = window ? SceneOfDeeds(*window) : SceneOfPumping();
     secret_ = IsSecret(deed.node);
-    Write(deed, *window->node.lock(), now);
+    Write(deed, window ? *window->node.lock() : *deed.node.Root(), now);
 }
 
 void Recorder::Write(const Deed& deed, kv::Node& window, Time now) {
@@ -198,18 +234,15 @@ void Recorder::Mouse(const Deed& deed, int id) {
             heldOutside_ = false;
             return Add("holdagain", id);
         case Act::kHoldOutside:
-            // What is left of the press.
             heldOutside_ = true;
-            if (LastIs({{"hold", id}})) Deeds().back() = {{"focus", id}};
             return;
         case Act::kHoldInside:
-            if (std::exchange(heldOutside_, false) && LastIs({{"focus", id}}))
-                Deeds().back() = {{"hold", id}};
+            heldOutside_ = false;
             return;
         default:
             break;
     }
-    if (std::exchange(heldOutside_, false)) return;
+    if (std::exchange(heldOutside_, false)) return Add("letgo", id);
     if (LastIs({{"hold", id}})) {
         Deeds().back() = {{"click", id}};
     } else if (LastIs({{"holdagain", id}})) {
@@ -292,13 +325,16 @@ void Recorder::Keys(const Deed& deed, int id, Time now) {
     if (inList && searched_ && now - *searched_ >= kPause) {
         searched_.reset();
         Add("pause", nullptr);
+        ++pauses_;
     }
     if (deed.act == Act::kTypeHere) {
         if (inList) searched_ = now;
         TypeOn(id, secret_ ? "*" : std::string(deed.text));
         return;
     }
-    const std::string name = NameOfKey(deed.numbers.front());
+    const int key = deed.numbers.front();
+    if (secret_ && Types(key, deed.modifiers)) return TypeOn(id, "*");
+    const std::string name = NameOfKey(key);
     if (!name.empty()) Add("key", {id, InWords(deed.modifiers) + name});
 }
 

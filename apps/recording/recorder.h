@@ -7,6 +7,7 @@
 #include <nlohmann/json.hpp>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "window/acting/listener.h"
@@ -15,6 +16,9 @@ namespace recording {
 
 using Json = nlohmann::ordered_json;
 
+/// Whether the bytes can stand in a script, which is UTF-8.
+bool IsWritable(std::string_view text);
+
 /// Writes what a person does as the scenes of a script: what is clicked, picked and typed, by the
 /// ids of controls and the texts of rows. What is typed into a password box becomes asterisks.
 class Recorder {
@@ -22,6 +26,8 @@ public:
     using Time = std::chrono::system_clock::time_point;
 
     const Json& Scenes() const { return scenes_; }
+    /// How many of the deeds are pauses.
+    int Pauses() const { return pauses_; }
 
     /// A window opens that the person works in from now on, until it closes.
     void WindowOpens(kv::Node& window);
@@ -53,6 +59,8 @@ private:
 
     const Window* WindowOf(kv::Node& node) const;
     std::size_t SceneOfDeeds(const Window& window);
+    std::size_t SceneOfPumping();
+    bool PressedBeside(const kv::input::Deed& deed);
     void Write(const kv::input::Deed& deed, kv::Node& window, Time now);
     void Mouse(const kv::input::Deed& deed, int id);
     void List(const kv::input::Deed& deed, int id);
@@ -69,6 +77,7 @@ private:
     std::vector<Window> windows_;
     std::vector<Pumping> pumpings_;
     int pumpsPassed_ = 0;
+    int pauses_ = 0;
     std::optional<std::size_t> scene_;  ///< of the last deed
     bool secret_ = false;               ///< whether that is done to a password box
     bool heldOutside_ = false;

@@ -7,6 +7,7 @@
 
 #include "base/text.h"
 #include "recording/outside.h"
+#include "window/screens.h"
 #include "window/window_system.h"
 
 namespace recording {
@@ -39,13 +40,14 @@ Json PicksOf(const std::string& text) {
 
 Recording::Recording(const Json& inputs, std::function<void()> recorded)
     : inner_(kv::WindowSystem::Get().GetDesktop()),
+      begin_(std::chrono::floor<std::chrono::seconds>(inner_.Now())),
       head_({{"inputs", inputs}}),
       recorded_(std::move(recorded)) {
-    head_.update(HeadOfNow());
+    head_.update(HeadOfNow(begin_));
+    kv::SetScreens(*this, kv::ScreensOf(inner_));
     kv::WindowSystem::Get().SetDesktop(this);
     formerListener_ = kv::input::SetListener([this](const kv::input::Deed& deed) {
-        now_ = inner_.Now();
-        recorder_.Did(deed, *now_);
+        recorder_.Did(deed, inner_.Now());
         Recorded();
     });
     ListenToMap();
@@ -55,6 +57,7 @@ Recording::~Recording() {
     kv::SetGraphics(std::move(map_));
     kv::input::SetListener(std::move(formerListener_));
     kv::WindowSystem::Get().SetDesktop(&inner_);
+    kv::SetScreens(*this, nullptr);
 }
 
 Json Recording::Script() const {
@@ -101,7 +104,8 @@ void Recording::RunModeless(kv::Node& window, kv::Node& actOn) {
 }
 
 int Recording::RunMessageBox(const kv::MessageBoxRequest& request) {
-    return Answered({{"message", request.text}}, [&] {
+    // One that cannot be told may be any.
+    return Answered({{"message", IsWritable(request.text) ? request.text : ""}}, [&] {
         const int answer = inner_.RunMessageBox(request);
         return std::tuple(answer, "answer", Json(WordOfAnswer(answer)));
     });
@@ -145,9 +149,9 @@ kv::Font Recording::DefaultFont() {
     return inner_.DefaultFont();
 }
 
-/// A deed takes no time: what judges by it and what is recorded judge alike.
+/// The clock stands, as it does where the script is played; a pause is a second.
 std::chrono::system_clock::time_point Recording::Now() {
-    return now_.value_or(inner_.Now());
+    return begin_ + std::chrono::seconds(recorder_.Pauses());
 }
 
 std::string Recording::ClipboardText() {

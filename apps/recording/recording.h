@@ -1,7 +1,6 @@
 #pragma once
 
 #include <functional>
-#include <optional>
 #include <string>
 
 #include "frame/graphics.h"
@@ -51,12 +50,12 @@ private:
     void Recorded();
 
     kv::Desktop& inner_;
+    Recorder::Time begin_;
     Json head_;
     std::function<void()> recorded_;
     Recorder recorder_;
     kv::input::Listener formerListener_;
     kv::Graphics map_;
-    std::optional<Recorder::Time> now_;  ///< of the deed that goes on
 };
 
 /// A script as the text of a file.

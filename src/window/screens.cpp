@@ -10,7 +10,7 @@ namespace kv {
 namespace {
 
 /// Never destroyed: a desktop may outlast any other order.
-std::map<const Desktop*, const Screens*>& ScreensOf() {
+std::map<const Desktop*, const Screens*>& ScreensOfAll() {
     static auto* screens = new std::map<const Desktop*, const Screens*>;
     return *screens;
 }
@@ -19,16 +19,20 @@ std::map<const Desktop*, const Screens*>& ScreensOf() {
 
 void SetScreens(const Desktop& desktop, const Screens* screens) {
     if (screens) {
-        ScreensOf()[&desktop] = screens;
+        ScreensOfAll()[&desktop] = screens;
     } else {
-        ScreensOf().erase(&desktop);
+        ScreensOfAll().erase(&desktop);
     }
+}
+
+const Screens* ScreensOf(const Desktop& desktop) {
+    const auto several = ScreensOfAll().find(&desktop);
+    return several == ScreensOfAll().end() ? nullptr : several->second;
 }
 
 CRect ScreenAround(CPoint at) {
     Desktop& desktop = WindowSystem::Get().GetDesktop();
-    const auto several = ScreensOf().find(&desktop);
-    if (several != ScreensOf().end()) return several->second->ScreenAround(at);
+    if (const Screens* several = ScreensOf(desktop)) return several->ScreenAround(at);
     const CSize size = desktop.ScreenSize();
     return {0, 0, size.cx, size.cy};
 }

@@ -18,6 +18,8 @@ public:
 /// `screens` outlive what is asked, and are asked while that desktop is the present one. Null where
 /// it knows of no several.
 KVGUICTL_API void SetScreens(const Desktop& desktop, const Screens* screens);
+/// Null where that desktop knows of no several.
+KVGUICTL_API const Screens* ScreensOf(const Desktop& desktop);
 
 /// That of the present desktop; one that knows of no several has a single screen, at the origin.
 KVGUICTL_API CRect ScreenAround(CPoint at);

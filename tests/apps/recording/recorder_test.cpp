@@ -2,12 +2,16 @@
 
 #include <gtest/gtest.h>
 
+#include "kvdlg/actions.h"
 #include "recording/recording.h"
 #include "support/dialog_fixture.h"
+#include "support/two_screens.h"
 #include "window/controls/spin_node.h"
 #include "window/dialogs/file_dialog.h"
 #include "window/dialogs/message_box.h"
 #include "window/dialogs/print_dialog.h"
+#include "window/frames/control_bar.h"
+#include "window/frames/frame_wnd.h"
 
 using enum kv::ControlKind;
 using recording::Json;
@@ -18,6 +22,8 @@ using test::TestTemplate;
 namespace {
 
 namespace input = kv::input;
+
+constexpr int kOfWork = 101;
 
 class Recorder : public test::DialogTest {
 protected:
@@ -43,6 +49,13 @@ protected:
         for (const Json& deed : recorder.Scenes().at(0).at("do"))
             words += deed.dump() + "\n";
         return words;
+    }
+
+    /// What has been recorded, once more.
+    void Play() {
+        kv::User user(*dialog.m_hWnd, [](const std::string& words) { FAIL() << words; });
+        for (const Json& deed : Json(recorder.Scenes().at(0).at("do")))
+            kvdlg::MakeAction(deed, "here", desktop, {})(user);
     }
 
     TestTemplate template_{{Row(11, kEdit, "some text"), Row(12, kEdit, "5"),
@@ -72,16 +85,21 @@ TEST_F(Recorder, WritesClicksByTheIdsOfControls) {
 )");
 }
 
-TEST_F(Recorder, AButtonThatIsLetGoElsewhereHasGotTheFocusAlone) {
+TEST_F(Recorder, AButtonThatIsLetGoBesideItIsHeldAndNotClicked) {
     input::Press(NodeOf(20), {2, 2});
     input::HoldOver(NodeOf(20), false);
     input::Release(NodeOf(20), {-9, 2});
-    EXPECT_EQ(Deeds(), "{\"focus\":20}\n");
+    const std::string heldAlone = "{\"hold\":20}\n{\"letgo\":20}\n";
+    EXPECT_EQ(Deeds(), heldAlone);
+    dialog.told.clear();
+    Play();
+    EXPECT_FALSE(dialog.WasTold("20 clicked"));
+    EXPECT_EQ(Deeds(), heldAlone + heldAlone);
     input::Press(NodeOf(21), {2, 2});
     input::HoldOver(NodeOf(21), false);
     input::HoldOver(NodeOf(21), true);
     input::Release(NodeOf(21), {2, 2});
-    EXPECT_EQ(Deeds(), "{\"focus\":20}\n{\"click\":21}\n");
+    EXPECT_EQ(Deeds(), heldAlone + heldAlone + "{\"click\":21}\n");
 }
 
 TEST_F(Recorder, AKeyBetweenPressAndReleaseStandsBetweenThem) {
@@ -111,6 +129,17 @@ TEST_F(Recorder, WritesRowsByTheirTextAndOnesThatAreToldTwiceByNumber) {
 )");
 }
 
+TEST_F(Recorder, WritesARowByNumberWhoseTextIsNoUtf8) {
+    for (const char* text : {"caf\xe9", "caf\xc3\xa9", "\xe2\x82"})
+        dialog.SendDlgItemMessage(31, LB_ADDSTRING, 0, kv::AsParam(text));
+    for (const int row : {4, 5, 6})
+        input::ClickRow(NodeOf(31), row);
+    EXPECT_EQ(Deeds(), R"({"select":[31,4]}
+{"select":[31,"café"]}
+{"select":[31,6]}
+)");
+}
+
 TEST_F(Recorder, WritesTextsAndPlacesInThem) {
     input::TypeText(NodeOf(11), "new");
     input::TypeHere(" \u00e9");
@@ -132,6 +161,26 @@ TEST_F(Recorder, WritesTextsAndPlacesInThem) {
 )");
 }
 
+TEST_F(Recorder, WritesKeysByTheirNames) {
+    input::MoveFocus(NodeOf(16));
+    input::PressKey(VK_DOWN, {.alt = true});
+    input::ClickRow(NodeOf(16), 1);
+    input::PressKey(VK_TAB, {.shift = true});
+    input::MoveFocus(NodeOf(32));
+    input::PressKey(VK_DOWN, {.shift = true});
+    input::PressKey(0x71);
+    input::PressKey(VK_RETURN);
+    EXPECT_EQ(Deeds(), R"({"focus":16}
+{"key":[16,"Alt+Down"]}
+{"select":[16,"two"]}
+{"key":[16,"Shift+Tab"]}
+{"focus":32}
+{"key":[32,"Shift+Down"]}
+{"key":[32,"F2"]}
+{"key":[32,"Enter"]}
+)");
+}
+
 TEST_F(Recorder, TheEditOfAComboBoxGoesByItsBox) {
     kv::Node& edit = *NodeOf(15).FocusTarget();
     input::Press(edit, {2, 2});
@@ -147,12 +196,36 @@ TEST_F(Recorder, WhatAPasswordBoxHoldsIsNotWritten) {
     recorder.ClipboardIsRead("hidden");
     input::PressKey('V', {.ctrl = true});
     recorder.ClipboardIsRead("hidden");
+    input::PressKey(VK_SPACE);
+    input::PressKey('P', {.shift = true});
+    input::PressKey(VK_HOME);
+    EXPECT_EQ(NodeOf(13).Text(), "hiddenhidden P") << "what is typed is that all the same";
     EXPECT_EQ(Deeds(), R"({"type":[13,"******"]}
 {"keys":[13,"***"]}
 {"paste":[13,"******"]}
 {"clipboard":"******"}
 {"key":[13,"Ctrl+V"]}
+{"keys":[13,"**"]}
+{"key":[13,"Home"]}
 )");
+}
+
+TEST_F(Recorder, AClickBesideABarTakesTheFocusFromIt) {
+    CFrameWnd frame;
+    ASSERT_TRUE(frame.Create("Frame"));
+    CDialogBar bar;
+    ASSERT_TRUE(bar.Create(&frame, test::kTestTemplate, CBRS_TOP, kOfWork));
+    recorder.WindowOpens(*bar.m_hWnd);
+    kv::Node& edit = *bar.m_hWnd->FindChild(11);
+    input::MoveFocus(edit);
+    input::Press(*frame.m_hWnd, {1, 1});
+    const Json expected = Json::parse(R"([{"focus": 11}, {"focus": 0}])");
+    EXPECT_EQ(recorder.Scenes().at(1).at("do"), expected);
+
+    input::MoveFocus(edit);
+    kv::User user(*bar.m_hWnd, [](const std::string& words) { FAIL() << words; });
+    kvdlg::MakeAction(expected[1], "here", desktop, {})(user);
+    EXPECT_NE(kv::WindowSystem::Get().Focus(), &edit);
 }
 
 TEST_F(Recorder, AnotherTextThatIsTypedIntoAListBeginsBehindAPause) {
@@ -216,12 +289,27 @@ TEST_F(Recorder, WhatIsDoneInsideLongWorkIsASceneBehindSoManySteps) {
     EXPECT_EQ(recorder.Scenes().at(1), (Json{{"pump", 2}, {"do", {{{"click", 20}}}}}));
 }
 
+TEST_F(Recorder, WhatIsDoneInAWindowOfLongWorkIsInTheSceneOfItsStep) {
+    const TestTemplate ofWork({Row(IDCANCEL, kPushButton, "Cancel")}, kOfWork);
+    RecordingDialog work(kOfWork);
+    ASSERT_TRUE(work.Create(kOfWork));
+    kv::Node& cancel = *work.m_hWnd->FindChild(IDCANCEL);
+    input::MoveFocus(cancel);
+    recorder.PumpBegins();
+    input::Click(cancel);
+    recorder.PumpEnds();
+    ASSERT_EQ(recorder.Scenes().size(), 2U);
+    EXPECT_EQ(recorder.Scenes().at(1), (Json{{"pump", 0}, {"do", {{{"click", IDCANCEL}}}}}));
+    EXPECT_EQ(Deeds(), "");
+}
+
 /// What stands ahead of the desktop that the windows ask.
 class Recording : public test::DialogTest {
 protected:
     static Json User(const recording::Recording& recording) { return recording.Script()["user"]; }
 
-    TestTemplate template_{{Row(20, kPushButton, "&Go"), Row(IDCANCEL, kPushButton, "Cancel")}};
+    TestTemplate template_{
+        {Row(20, kPushButton, "&Go"), Row(IDCANCEL, kPushButton, "Cancel"), Row(31, kListBox)}};
     RecordingDialog dialog;
 };
 
@@ -239,6 +327,28 @@ TEST_F(Recording, WritesWhatOpensInItsOrder) {
                               {"message": "Really?", "answer": "no"}])"));
 }
 
+TEST_F(Recording, WritesADialogInADialogAndItsMessage) {
+    RecordingDialog inner;
+    dialog.when["20 clicked"] = [&] { inner.DoModal(); };
+    inner.when["20 clicked"] = [] { AfxMessageBox("Inside"); };
+    desktop.ExpectWindow("", [](kv::User& user) {
+        user.Click(20);
+        user.Key(0, "Escape");
+    });
+    desktop.ExpectWindow("", [](kv::User& user) {
+        user.Key(0, "Alt+G");
+        user.Click(IDCANCEL);
+    });
+    desktop.ExpectMessage("Inside");
+    const recording::Recording recording(Json::object());
+    dialog.DoModal();
+    EXPECT_EQ(User(recording), Json::parse(R"([{"window": "test::RecordingDialog",
+                               "do": [{"click": 20}, {"key": [20, "Escape"]}]},
+                              {"window": "test::RecordingDialog",
+                               "do": [{"key": [20, "Alt+G"]}, {"click": 2}]},
+                              {"message": "Inside", "answer": "ok"}])"));
+}
+
 TEST_F(Recording, WritesTheAnswersOfFileDialogsAndPrintSetup) {
     desktop.ExpectFile("C:\\a.txt");
     desktop.ExpectFileCancel();
@@ -251,6 +361,13 @@ TEST_F(Recording, WritesTheAnswersOfFileDialogsAndPrintSetup) {
     EXPECT_EQ(User(recording), Json::parse(R"([{"file": "C:\\a.txt"}, {"file": null},
                               {"print": {"device": "Plotter", "paper": 8, "landscape": true,
                                          "width": 2159, "height": 2794}}])"));
+}
+
+TEST_F(Recording, AMessageThatIsNoUtf8MayBeAny) {
+    desktop.ExpectMessage("");
+    const recording::Recording recording(Json::object());
+    AfxMessageBox("caf\xe9");
+    EXPECT_EQ(User(recording), Json::parse(R"([{"message": "", "answer": "ok"}])"));
 }
 
 TEST_F(Recording, WritesThePicksOfTheMap) {
@@ -287,6 +404,12 @@ TEST_F(Recording, TellsWhatIsOutside) {
     EXPECT_TRUE(recording::Recording(Json::object()).Script().at("printer").is_null());
 }
 
+TEST_F(Recording, WindowsFindTheSameScreens) {
+    const test::TwoScreens screens;
+    const recording::Recording recording(Json::object());
+    EXPECT_EQ(kv::ScreenAround(test::kSecondScreen), test::kSecondScreen);
+}
+
 TEST_F(Recording, IsOverWhenItGoes) {
     std::size_t told = 0;
     {
@@ -298,21 +421,27 @@ TEST_F(Recording, IsOverWhenItGoes) {
     EXPECT_EQ(told, 0U);
 }
 
-TEST_F(Recording, ItsClockStandsWhileSomethingIsDone) {
-    const recording::Recording recording(Json::object());
-    ASSERT_TRUE(dialog.Create(test::kTestTemplate));
-    std::vector<std::chrono::system_clock::time_point> seen;
-    dialog.when["20 clicked"] = [&] {
-        seen.push_back(kv::Now());
-        desktop.SetNow(desktop.Now() + std::chrono::hours(1));
-        seen.push_back(kv::Now());
+TEST_F(Recording, ItsClockStandsButForPauses) {
+    using namespace std::chrono_literals;
+    const recording::Recorder::Time begin = std::chrono::sys_days(std::chrono::year(2024) / 5 / 6);
+    std::vector<std::chrono::milliseconds> seen;
+    const auto type = [&](const char* text) {
+        input::TypeHere(text);
+        seen.push_back(std::chrono::duration_cast<std::chrono::milliseconds>(kv::Now() - begin));
     };
-    input::Click(*dialog.m_hWnd->FindChild(20));
-    ASSERT_EQ(seen.size(), 2U);
-    EXPECT_EQ(seen[0], seen[1]);
-    seen.clear();
-    input::Click(*dialog.m_hWnd->FindChild(20));
-    EXPECT_EQ(seen.at(0), desktop.Now() - std::chrono::hours(1));
+    desktop.SetNow(begin + 300ms);
+    desktop.ExpectWindow("", [&](kv::User& user) {
+        user.Focus(31);
+        type("a");
+        desktop.SetNow(desktop.Now() + 900ms);
+        type("b");
+        desktop.SetNow(desktop.Now() + 1h);
+        type("c");
+        user.Click(IDCANCEL);
+    });
+    const recording::Recording recording(Json::object());
+    dialog.DoModal();
+    EXPECT_THAT(seen, testing::ElementsAre(0ms, 0ms, 1000ms));
 }
 
 }  // namespace
