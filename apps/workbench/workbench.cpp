@@ -1,5 +1,6 @@
 #include "workbench/workbench.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QDockWidget>
 #include <QScreen>
@@ -466,14 +467,24 @@ bool Workbench::GoTo(const QString& text) {
 }
 
 void Workbench::OpenDialog(const adaptors::Adaptor& adaptor) {
-    if (!tools_.Show(adaptor)) RunDialog(adaptor);
+    if (!tools_.Show(adaptor)) {
+        RunDialog(adaptor);
+    } else if (recorder_.Records()) {
+        status_->Say(tr("What is done in a tool beside the map is not recorded."));
+    }
 }
 
 void Workbench::RunDialog(const adaptors::Adaptor& adaptor) {
     status_->Clear();
     adaptors::Run run(adaptor.SampleInputs());
     try {
-        adaptor.run(run);
+        const QString lost = recorder_.Run(adaptor, run);
+        if (!lost.isEmpty()) {
+            recorder_.End();
+            recordRow_->setChecked(false);
+            Fail(tr("%1 cannot be written. Nothing is recorded any more.").arg(lost));
+            return;
+        }
     } catch (const std::exception& e) {
         Fail(QString::fromUtf8(e.what()));
         return;

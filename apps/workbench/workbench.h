@@ -22,6 +22,7 @@
 #include "workbench/outcome_pane.h"
 #include "workbench/printing/printing.h"
 #include "workbench/readouts/readouts.h"
+#include "workbench/recording/dialog_recorder.h"
 #include "workbench/records/record_tools.h"
 #include "workbench/results/report_layers.h"
 #include "workbench/results/results_pane.h"
@@ -29,6 +30,7 @@
 #include "workbench/status_line.h"
 #include "workbench/work_runner.h"
 
+class QAction;
 class QDockWidget;
 class QMenu;
 
@@ -148,6 +150,7 @@ private:
     void ZoomTo();
     void FindCommand();
     void ExplainKeys();
+    void RecordDialogs();
     // Why a command would do nothing now; empty where it acts.
     QString NoMap() const;
     QString NoPick() const;
@@ -181,7 +184,9 @@ private:
     QPointer<Commands> commands_;
     QPointer<Printing> printing_;
     QPointer<DocumentTools> documents_;
+    QPointer<QAction> recordRow_;
 
+    DialogRecorder recorder_;
     DocumentHistory history_;
     std::unique_ptr<MapMouse> mouse_;
     std::unique_ptr<Readouts> readouts_;

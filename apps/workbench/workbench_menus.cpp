@@ -235,6 +235,8 @@ void Workbench::MakeHelpMenu() {
     QMenu& menu = *window_->menuBar()->addMenu(tr("&Help"));
     commands_->Add(menu, tr("&Mouse and keys..."), QKeySequence::HelpContents,
                    [this] { ExplainKeys(); });
+    recordRow_ = commands_->Add(menu, tr("&Record what I do..."), {}, [this] { RecordDialogs(); });
+    recordRow_->setCheckable(true);
 }
 
 // F6 goes round these.
@@ -347,6 +349,25 @@ void Workbench::ExplainKeys() {
     box.setWindowTitle(tr("Mouse and Keys"));
     box.setText(text + QStringLiteral("</table>"));
     box.exec();
+}
+
+/// The row of the menu begins and ends it.
+void Workbench::RecordDialogs() {
+    if (recorder_.Records()) {
+        const int count = recorder_.End();
+        status_->Say(count == 1 ? tr("1 dialog recorded") : tr("%1 dialogs recorded").arg(count));
+    } else {
+        QFileDialog dialog(window_, tr("Folder for the Scripts of What I Do"), LastFolder());
+        dialog.setFileMode(QFileDialog::Directory);
+        dialog.setOption(QFileDialog::ShowDirsOnly);
+        if (dialog.exec() == QDialog::Accepted) {
+            LastFolder() = dialog.selectedFiles().constFirst();
+            recorder_.Begin(LastFolder());
+            status_->Say(tr("What is done in the dialogs of the menu Dialogs is recorded in %1")
+                             .arg(LastFolder()));
+        }
+    }
+    recordRow_->setChecked(recorder_.Records());
 }
 
 void Workbench::OpenDatabase() {
