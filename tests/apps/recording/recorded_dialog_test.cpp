@@ -125,15 +125,17 @@ protected:
 };
 
 /// Scripts of the class that play to their end, need nothing of the command line, and in which all
-/// that is done is a person's: what a host calls meanwhile is none.
+/// that is done is a person's: what a host calls meanwhile is none. How long a query takes is no
+/// deed either, so a wait for one does not come again.
 std::vector<std::string> ScriptsOf(const std::string& className) {
     std::vector<std::string> names = test::ScriptNames();
     std::erase_if(names, [&](const std::string& name) {
         const Json expected = ExpectedOf(name);
+        const std::string text = test::ScriptFile(name + ".json");
         const bool ends = expected.at("exit") == 0 || expected.at("exit") == 1;
         return expected.at("run") != className || !ends || expected.contains("options") ||
-               expected.contains("db") ||
-               test::ScriptFile(name + ".json").find("{\"call\":") != std::string::npos;
+               expected.contains("db") || text.find("{\"call\":") != std::string::npos ||
+               text.find("{\"wait\":") != std::string::npos;
     });
     return names;
 }

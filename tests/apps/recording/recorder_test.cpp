@@ -213,6 +213,7 @@ TEST_F(Recorder, WhatAPasswordBoxHoldsIsNotWritten) {
 TEST_F(Recorder, AClickBesideABarTakesTheFocusFromIt) {
     CFrameWnd frame;
     ASSERT_TRUE(frame.Create("Frame"));
+    frame.ShowWindow(SW_SHOW);
     CDialogBar bar;
     ASSERT_TRUE(bar.Create(&frame, test::kTestTemplate, CBRS_TOP, kOfWork));
     recorder.WindowOpens(*bar.m_hWnd);
