@@ -147,7 +147,7 @@ QtDesktop::QtDesktop() : events_(std::make_unique<Events>()) {
     SetLoops(events_.get());
     AnswerScreenReaders();
     SetScreens(*this, events_.get());
-    SetPatience(kUsualPatience);
+    if (!Patience()) SetPatience(kUsualPatience);
     WindowSystem::Get().SetDesktop(this);
 }
 

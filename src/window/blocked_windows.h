@@ -14,7 +14,8 @@ namespace kv {
 inline constexpr std::chrono::milliseconds kUsualPatience{500};
 
 /// The same as it is just now: none where nobody waits, and then no sign is ever given. That is how
-/// it starts; a desktop with a screen sets it for as long as it lives.
+/// it starts; a desktop with a screen sets the usual one where there is none. It ends with the
+/// desktop.
 KVGUICTL_API void SetPatience(std::optional<std::chrono::milliseconds> patience);
 KVGUICTL_API std::optional<std::chrono::milliseconds> Patience();
 

@@ -339,11 +339,11 @@ TEST_F(MsMask, AMaskThatComesTakesTheTextInIfItFits) {
     });
 }
 
-TEST_F(MsMask, AMaskInThePlaceOfAnotherBeginsEmpty) {
-    RunWith("##", [&](kv::User& user) {
-        mask.SetText("12");
-        mask.SetMask("&&");
-        EXPECT_EQ(user.Text(kMask), "__");
+TEST_F(MsMask, AMaskInThePlaceOfAnotherTakesWhatWasEntered) {
+    RunWith("##-##", [&](kv::User& user) {
+        mask.SetText("12-34");
+        mask.SetMask("&&&&&");
+        EXPECT_EQ(user.Text(kMask), "1234_");
     });
 }
 

@@ -7,6 +7,7 @@
 #include "support/endless_view.h"
 #include "support/sqlite_file.h"
 #include "support/temp_folder.h"
+#include "window/blocked_windows.h"
 
 namespace {
 
@@ -17,6 +18,7 @@ class DatabaseWait : public test::QtDialogTest {
 protected:
     DatabaseWait() {
         InitControlDll();
+        kv::SetPatience(kv::kUsualPatience);
         const std::string path = folder_.Native("kv.db");
         test::RunOnSqliteFile(path, test::EndlessView("endless", "a"));
         CKvDbInfo info("", "", ("sqlite:" + path).c_str());

@@ -308,7 +308,8 @@ bool DropDown(Node& combo) {
 bool CloseList(Node& combo) {
     auto* box = dynamic_cast<ComboBoxNode*>(&combo);
     if (!box || !box->Dropped() || combo.Destroyed()) return false;
-    Tell({Act::kCloseList, combo});
+    // A list also closes because its window goes: nobody did that.
+    if (CanAct(combo)) Tell({Act::kCloseList, combo});
     Send(combo, CB_SHOWDROPDOWN, FALSE);
     return true;
 }

@@ -331,7 +331,7 @@ TEST(KvdlgScriptHead, WhatIsNoRegistryOrFolderIsRefusedWithItsLine) {
     }
 }
 
-TEST(KvdlgScript, AnActionThatIsHalfToldIsRefused) {
+TEST(KvdlgScriptActions, AreRefusedWhereTheyAreHalfTold) {
     const Kvdlg kvdlg;
     const std::pair<const char*, const char*> wrong[] = {
         {R"({"keys": [1]})", "a text at place 1"},
