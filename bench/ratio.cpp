@@ -10,8 +10,8 @@ namespace bench {
 namespace {
 
 /// Ours and the peer's take turns so often, so that what slows the machine for a while slows both.
-constexpr int kTurns = 7;
-constexpr double kSecondsPerTurn = 0.3;
+constexpr int kTurns = 21;
+constexpr double kSecondsPerTurn = 0.1;
 
 const std::string kOurs = "/ours";
 const std::string kPeer = "/peer";
