@@ -178,15 +178,16 @@ std::string CFilePickCtrl::CurrentPattern() const {
 
 /// What the folder holds, each kind in the order of the shown names; false where it cannot be read.
 bool CFilePickCtrl::Collect(Entries& folders, Entries& files) const {
-    const auto entries = kv::ReadFolder(m_szPath);
+    auto entries = kv::ReadFolder(m_szPath);
     if (!entries) return false;
     const std::string pattern = m_bDirOnly ? "" : CurrentPattern();
-    for (const kv::FolderEntry& entry : *entries) {
+    files.reserve(entries->size());
+    for (kv::FolderEntry& entry : *entries) {
         if (entry.name.front() == '.') continue;
         if (entry.isFolder)
             folders.push_back({entry.name, StrToCapitalizedWords(entry.name), CFile::directory});
         else if (!pattern.empty() && kv::FitsPattern(entry.name, pattern))
-            files.push_back({entry.name, entry.name, CFile::normal});
+            files.push_back({entry.name, std::move(entry.name), CFile::normal});
     }
     const auto inOrder = [](const Entry& a, const Entry& b) {
         return std::tie(a.shown, a.name) < std::tie(b.shown, b.name);
@@ -204,6 +205,7 @@ void CFilePickCtrl::PopulateFilePickCtrl() {
     Entries folders;
     Entries files;
     const bool read = Collect(folders, files);
+    m_entries.reserve(m_entries.size() + folders.size() + files.size());
     std::move(folders.begin(), folders.end(), std::back_inserter(m_entries));
     std::move(files.begin(), files.end(), std::back_inserter(m_entries));
     ShowEntries();
