@@ -1,7 +1,13 @@
 #include "services/kvcom/ini_file.h"
 
+#include <sys/stat.h>
+
 #include <algorithm>
+#include <cerrno>
+#include <ctime>
+#include <map>
 #include <set>
+#include <tuple>
 
 #include "base/paths.h"
 #include "base/text.h"
@@ -90,6 +96,23 @@ std::optional<IniFile> Load(const std::string& path) {
     return std::nullopt;
 }
 
+/// Settings are asked for with each statement: a file is read again when it has changed.
+using FileState = std::tuple<dev_t, ino_t, off_t, time_t, long>;
+struct Kept {
+    FileState state;
+    IniFile settings;
+};
+
+FileState StateOf(const struct stat& file) {
+    return {file.st_dev, file.st_ino, file.st_size, file.st_ctim.tv_sec, file.st_ctim.tv_nsec};
+}
+
+/// Whether a later change cannot bear the time of the last one: file systems count in ticks.
+bool IsSettled(const struct stat& file) {
+    constexpr time_t kLongestTick = 2;
+    return time(nullptr) > file.st_ctim.tv_sec + kLongestTick;
+}
+
 }  // namespace
 
 IniFile::IniFile(std::string_view text) : lines_(SplitLines(text)) {}
@@ -138,7 +161,14 @@ std::string IniFile::Text() const {
 }
 
 IniFile SettingsFile::Read() const {
-    return Load(path_).value_or(IniFile());
+    static std::map<std::string, Kept> read;
+    struct stat file;
+    if (stat(path_.c_str(), &file) != 0 && errno == ENOENT) return IniFile();
+    const auto known = read.find(path_);
+    if (known != read.end() && known->second.state == StateOf(file)) return known->second.settings;
+    const std::optional<IniFile> settings = Load(path_);
+    if (settings && IsSettled(file)) read.insert_or_assign(path_, Kept{StateOf(file), *settings});
+    return settings.value_or(IniFile());
 }
 
 bool SettingsFile::Write(std::string_view section, std::string_view key,

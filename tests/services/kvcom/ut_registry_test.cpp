@@ -3,7 +3,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <filesystem>
+#include <thread>
 
 #include "frame/kvdbkvn/table_owner.h"
 #include "support/file_size_limit.h"
@@ -36,6 +38,21 @@ std::size_t CountOf(const std::string& word, const std::string& text) {
     for (std::size_t at = text.find(word); at != std::string::npos; at = text.find(word, at + 1))
         ++count;
     return count;
+}
+
+TEST(Registry, IsReadAgainWhenAnotherHasChangedIt) {
+    const TempFolder folder;
+    folder.Write("registry.ini", "[SOFTWARE\\KVI]\nDATASET=A\n");
+    EXPECT_EQ(Get("DATASET"), "A");
+    folder.Write("registry.ini", "[SOFTWARE\\KVI]\nDATASET=B\n");
+    EXPECT_EQ(Get("DATASET"), "B") << "within a tick of the file system's clock";
+    std::this_thread::sleep_for(std::chrono::milliseconds(3100));
+    EXPECT_EQ(Get("DATASET"), "B");
+    EXPECT_EQ(Get("DATASET"), "B");
+    folder.Write("registry.ini", "[SOFTWARE\\KVI]\nDATASET=C\n");
+    EXPECT_EQ(Get("DATASET"), "C");
+    fs::remove(folder.Native("registry.ini"));
+    EXPECT_EQ(Get("DATASET"), "GULF_MEXICO");
 }
 
 TEST(Registry, TheEntriesOfTheFoldersHaveTheseNames) {
