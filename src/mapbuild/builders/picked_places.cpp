@@ -1,5 +1,6 @@
 #include "mapbuild/builders/picked_places.h"
 
+#include <functional>
 #include <utility>
 
 #include "frame/kvcom/projected_bounds.h"
@@ -41,6 +42,10 @@ private:
 };
 
 }  // namespace
+
+std::size_t PickedPlaces::HashOfPick::operator()(const CKvDbUtil::Pick& pick) const {
+    return std::hash<std::string>()(pick.area + '#' + pick.block + '#' + pick.ext);
+}
 
 void PickedPlaces::LearnBlocks(const Picks& picks, const std::string& dataset, Blocks& blocks) {
     Picks missing;

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <cstddef>
 #include <map>
 #include <optional>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "frame/kvdbkvn/db_util.h"
@@ -51,8 +53,11 @@ private:
         bool operator==(const Asked&) const = default;
     };
 
+    struct HashOfPick {
+        std::size_t operator()(const CKvDbUtil::Pick& pick) const;
+    };
     /// Empty for a block that is not known.
-    using Blocks = std::map<CKvDbUtil::Pick, Outline>;
+    using Blocks = std::unordered_map<CKvDbUtil::Pick, Outline, HashOfPick>;
 
     static void LearnBlocks(const Picks& picks, const std::string& dataset, Blocks& blocks);
     void LearnCounties(const Picks& picks);

@@ -1,9 +1,10 @@
 #include "frame/kvdbkvn/db_util.h"
 
+#include <algorithm>
 #include <exception>
 #include <map>
 #include <optional>
-#include <ranges>
+#include <unordered_map>
 #include <utility>
 
 #include "base/numbers.h"
@@ -208,21 +209,14 @@ public:
     }
 
 private:
-    /// Picks by their labels, and blocks of the tables, that differ in their water alone.
-    struct SameNumber {
-        std::vector<std::pair<std::string, std::size_t>> picks;
-        std::vector<Found> found;
-    };
-
     /// A statement names no more than this, since servers have a limit.
     static constexpr std::size_t kMostNames = 500;
 
-    template <typename Names>
-    static std::vector<std::vector<std::string>> InParts(Names&& names) {
+    static std::vector<std::vector<std::string>> InParts(const std::vector<std::string>& names) {
         std::vector<std::vector<std::string>> parts;
-        for (const std::string& name : names) {
-            if (parts.empty() || parts.back().size() == kMostNames) parts.emplace_back();
-            parts.back().push_back(name);
+        for (std::size_t begin = 0; begin < names.size(); begin += kMostNames) {
+            const std::size_t end = std::min(begin + kMostNames, names.size());
+            parts.emplace_back(names.begin() + begin, names.begin() + end);
         }
         return parts;
     }
@@ -231,29 +225,43 @@ private:
                   const std::vector<std::size_t>& members,
                   const std::vector<std::string>& areaCodes) {
         if (areaCodes.empty()) return;
-        std::map<std::string, SameNumber> byNumber;
         std::vector<std::size_t> whole;
+        std::vector<std::size_t> single;
+        std::vector<std::string> labels;
         for (const std::size_t i : members) {
             if (picks[i].block == kAllBlocks) {
                 whole.push_back(i);
                 continue;
             }
-            std::string label = LabelOf(picks[i].block, picks[i].ext);
-            SameNumber& same = byNumber[kv::catalogue::StripWaterSuffix(label)];
-            same.picks.emplace_back(std::move(label), i);
+            single.push_back(i);
+            labels.push_back(LabelOf(picks[i].block, picks[i].ext));
         }
         if (!whole.empty()) ReadWholeAreas(whole, areaCodes);
-        for (const std::vector<std::string>& part : InParts(std::views::keys(byNumber))) {
+        const BlocksByNumber found = FindBlocks(areaCodes, labels);
+        for (std::size_t n = 0; n < single.size(); ++n) {
+            const auto blocks = found.find(kv::catalogue::StripWaterSuffix(labels[n]));
+            if (blocks == found.end()) continue;
+            if (const Found* meant = Meant(blocks->second, labels[n])) Want(*meant, single[n]);
+        }
+    }
+
+    /// Blocks whose labels differ in their water alone have one number.
+    using BlocksByNumber = std::unordered_map<std::string, std::vector<Found>>;
+
+    BlocksByNumber FindBlocks(const std::vector<std::string>& areaCodes,
+                              const std::vector<std::string>& labels) {
+        BlocksByNumber blocks;
+        for (const std::vector<std::string>& part : InParts(labels)) {
             for (Found& each : BlocksIn(manager_, dataset_, areaCodes, part))
-                byNumber[kv::catalogue::StripWaterSuffix(each.label)].found.push_back(
-                    std::move(each));
+                blocks[kv::catalogue::StripWaterSuffix(each.label)].push_back(std::move(each));
         }
-        for (const auto& [number, same] : byNumber) {
-            for (const auto& [label, i] : same.picks) {
-                if (const Found* meant = Meant(same.found, label))
-                    wanted_[meant->refnum].push_back(i);
-            }
-        }
+        return blocks;
+    }
+
+    void Want(const Found& block, std::size_t pick) {
+        std::vector<std::size_t>& picks = wanted_[block.refnum];
+        if (picks.empty()) refnums_.push_back(block.refnum);
+        picks.push_back(pick);
     }
 
     CKvDispPoint Corner(int row, int column) const {
@@ -272,7 +280,7 @@ private:
     }
 
     void ReadCorners() {
-        for (const std::vector<std::string>& part : InParts(std::views::keys(wanted_))) {
+        for (const std::vector<std::string>& part : InParts(refnums_)) {
             std::string list;
             for (const std::string& refnum : part)
                 list += (list.empty() ? "(" : ",") + refnum;
@@ -298,8 +306,9 @@ private:
     CKvDbAbsDataMgr& manager_;
     std::string dataset_;
     std::vector<Outline> outlines_;
-    /// The picks that each block of the tables is the outline of.
-    std::map<std::string, std::vector<std::size_t>> wanted_;
+    /// The blocks to read, and the picks that each is the outline of.
+    std::vector<std::string> refnums_;
+    std::unordered_map<std::string, std::vector<std::size_t>> wanted_;
 };
 
 /// A county's row: the columns, and the condition that finds it.
