@@ -437,7 +437,8 @@ bool FileWriter::Write(std::string_view bytes) {
 
 bool FileWriter::Commit() {
     if (!file_) return false;
-    if (FileCallFails() || std::fflush(file_) != 0) return Fail(errno);
+    // The old file goes only when the new one is on the disk.
+    if (FileCallFails() || std::fflush(file_) != 0 || fsync(fileno(file_)) != 0) return Fail(errno);
     const bool closed = std::fclose(std::exchange(file_, nullptr)) == 0;
     if (closed && !FileCallFails() && std::rename(temporary_.c_str(), target_.c_str()) == 0)
         return true;

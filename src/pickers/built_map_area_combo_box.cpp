@@ -42,6 +42,7 @@ std::string CKvBuiltMapAreaComboBox::AreaCodesInside(const char* select) const {
 
 std::string CKvBuiltMapAreaComboBox::AreasInside() const {
     const bool abbreviated = m_nMode == catalogue::kMmsCode;
+    const kv::db::LookUpsThrow failures;
     std::string list;
     for (const std::string& code : ColumnOf(AreaCodesInside("select distinct"))) {
         const std::string area = CKvDbUtil::S_GetAreaName(code, abbreviated);

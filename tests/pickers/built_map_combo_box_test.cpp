@@ -191,6 +191,13 @@ TEST_F(BuiltMapBoxes, AFailureOfTheReadingStepIsThrownAndTheLabelsAreOffered) {
     EXPECT_THAT(RowsIn(area), testing::SizeIs(6));
 }
 
+TEST_F(BuiltMapBoxes, AnAreaWhoseNameCannotBeLookedUpIsNotLeftOutInSilence) {
+    Fill(2);
+    Change("alter table gulf_mexico_connam2 rename to away");
+    EXPECT_THAT(test::FailureOf([&] { Fill(1); }), HasSubstr("no such table"));
+    EXPECT_THAT(RowsIn(area), ElementsAre(" -AREA CODE-", " -MMS CODE-"));
+}
+
 TEST_F(BuiltMapBoxes, APersonWhoSwitchesTheModeIsToldOfAFailureThere) {
     Fill(0);
     Change("alter table gulf_mexico_lbi rename to away");

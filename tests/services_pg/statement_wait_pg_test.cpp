@@ -76,6 +76,17 @@ TEST_F(PostgresWaits, ACancelledQueryLosesNoChangeOfItsTransaction) {
     EXPECT_EQ(database_.Run("select count(*) from kvt"), "2");
 }
 
+TEST_F(PostgresWaits, AQueryThatWaitsForALockCanBeCancelled) {
+    manager_.Connect();
+    manager_.Select("select a from kvt");
+    PostgresClient other(database_.Url());
+    other.Run("begin; lock table kvt in access exclusive mode");
+    ExpectCancel();
+    EXPECT_THROW(manager_.Select("select a from kvt where a = 'x'"), CKvCancelled);
+    other.Run("rollback");
+    EXPECT_EQ(Cell("select a from kvt"), "x");
+}
+
 TEST_F(PostgresWaits, AServerThatDoesNotAnswerTheCancelIsGivenUp) {
     manager_.Connect();
     const int backend = std::atoi(Cell("select pg_backend_pid() from kvt").c_str());

@@ -43,4 +43,20 @@ private:
     sqlite3_stmt* statement_ = nullptr;
 };
 
+/// Another program that lets nobody read or write a file without a write-ahead log.
+class SqliteLock {
+public:
+    explicit SqliteLock(const std::string& path) {
+        sqlite3_open(path.c_str(), &database_);
+        if (sqlite3_exec(database_, "begin exclusive", nullptr, nullptr, nullptr) != SQLITE_OK)
+            throw std::runtime_error(sqlite3_errmsg(database_));
+    }
+    ~SqliteLock() { sqlite3_close(database_); }
+    SqliteLock(const SqliteLock&) = delete;
+    SqliteLock& operator=(const SqliteLock&) = delete;
+
+private:
+    sqlite3* database_ = nullptr;
+};
+
 }  // namespace test

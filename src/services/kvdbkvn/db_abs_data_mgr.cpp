@@ -58,12 +58,15 @@ bool MayRead(Kind kind) {
     return kind == Kind::kRead || kind == Kind::kUnknown;
 }
 
-/// What a person may cancel. How its engine tells of that is its own.
+/// What a person may cancel: the query, and what is asked ahead of it. How its engine tells of that
+/// is its own.
 std::unique_ptr<Rows> QueryWhileSomebodyWaits(const std::string& sql, Session& session) {
     const StatementWait wait;
     std::unique_ptr<Rows> rows;
     try {
-        rows = session.Query(sql);
+        const auto translation = Translate(sql, session);
+        if (!MayRead(translation->kind)) throw CKvException(kv::db::kOnlyReads);
+        rows = session.Query(translation->text);
     } catch (const CKvException&) {
         if (!wait.Cancelled()) throw;
     }
@@ -139,7 +142,7 @@ struct CKvDbAbsDataMgr::State {
         try {
             return operation(*session);
         } catch (const CKvException& failure) {
-            if (session->IsAlive()) throw;
+            if (!session || session->IsAlive()) throw;
             const bool hasNotRun = session->WasGoneAhead();
             LoseSession(WordsOf(failure));
             if (!hasNotRun) throw;
@@ -163,11 +166,7 @@ struct CKvDbAbsDataMgr::State {
 
     int Select(const std::string& sql) {
         rows.reset();
-        rows = Run(sql, [&](Session& s) -> std::unique_ptr<Rows> {
-            const auto translation = Translate(sql, s);
-            if (!MayRead(translation->kind)) throw CKvException(kv::db::kOnlyReads);
-            return QueryWhileSomebodyWaits(translation->text, s);
-        });
+        rows = Run(sql, [&](Session& s) { return QueryWhileSomebodyWaits(sql, s); });
         return rows->Count();
     }
 

@@ -64,6 +64,60 @@ TEST_F(StatementWaits, AnotherStatementHasAWaitOfItsOwn) {
     }
 }
 
+TEST_F(StatementWaits, AQueryThatWaitsForALockCanBeCancelled) {
+    Change("pragma journal_mode=delete");
+    manager_.Connect();
+    manager_.Select("select a from kvt");
+    const SqliteLock lock(path);
+    ExpectCancel();
+    EXPECT_THROW(manager_.Select("select a from kvt where a = 'x'"), CKvCancelled);
+    ExpectCancel();
+    EXPECT_THROW(manager_.Select("select a from kvt"), CKvCancelled);
+}
+
+TEST_F(StatementWaits, ATimeLimitEndsTheWaitForALock) {
+    Change("pragma journal_mode=delete");
+    Limit("?statement_timeout=50");
+    manager_.Connect();
+    manager_.Select("select a from kvt");
+    const SqliteLock lock(path);
+    EXPECT_THAT(FailureOf([&] { manager_.Insert("insert into kvt values ('y')"); }),
+                HasSubstr("locked"));
+}
+
+/// Asks for what never ends while it starts.
+class AskingDialog : public CDialog {
+public:
+    explicit AskingDialog(CKvDbAbsDataMgr& manager) : CDialog(kTestTemplate), manager_(manager) {}
+    bool Cancelled() const { return cancelled_; }
+
+protected:
+    BOOL OnInitDialog() override {
+        CDialog::OnInitDialog();
+        try {
+            manager_.Select("select a from endless");
+        } catch (const CKvCancelled&) {
+            cancelled_ = true;
+        }
+        EndDialog(IDCANCEL);
+        return TRUE;
+    }
+
+private:
+    CKvDbAbsDataMgr& manager_;
+    bool cancelled_ = false;
+};
+
+TEST_F(StatementWaits, ADialogThatAsksWhileItStartsCanBeCancelledBeforeItIsSeen) {
+    const TestTemplate form({Row(IDCANCEL, kv::ControlKind::kPushButton, "Cancel")});
+    manager_.Connect();
+    AskingDialog dialog(manager_);
+    ExpectCancel();
+    dialog.DoModal();
+    EXPECT_TRUE(dialog.Cancelled());
+    EXPECT_TRUE(frame_.IsWindowEnabled());
+}
+
 TEST_F(StatementWaits, WhereNoWindowIsInSightNoneComesUp) {
     frame_.ShowWindow(SW_HIDE);
     Limit("?statement_timeout=200");

@@ -136,7 +136,7 @@ public:
         if (!quoted) return false;
         const std::string sql = std::string("select 1 from pg_namespace where nspname = ") + quoted;
         PQfreemem(quoted);
-        const std::vector<Result> results = Batch({Run(sql)});
+        const std::vector<Result> results = Batch({Run(sql)}, isOver_);
         if (!Succeeded(results[0])) return false;
         return schemas_[name] = PQntuples(results[0].get()) > 0;
     }
@@ -146,7 +146,7 @@ public:
         const std::string name = schema + "." + table;
         if (const auto known = columns_.find(name); known != columns_.end()) return &known->second;
         std::vector<Result> results =
-            Batch({Run(ColumnsQuery(dialect::Target::kPostgres, schema, table))});
+            Batch({Run(ColumnsQuery(dialect::Target::kPostgres, schema, table))}, isOver_);
         if (!Succeeded(results[0])) {
             failure = Words(results[0]);
             return nullptr;
@@ -288,7 +288,7 @@ private:
 
     /// False, with the words of the first that failed.
     bool RunAll(std::vector<Command> commands, std::string& failure) {
-        const std::vector<Result> results = Batch(commands);
+        const std::vector<Result> results = Batch(commands, isOver_);
         for (const Result& result : results) {
             if (Succeeded(result)) continue;
             failure = Words(result);

@@ -12,6 +12,7 @@
 #include <string>
 #include <string_view>
 #include <system_error>
+#include <thread>
 
 #include "base/paths.h"
 #include "base/text.h"
@@ -29,7 +30,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::string_view kPrefix = "sqlite:";
-constexpr int kBusyMilliseconds = 5000;
+constexpr std::chrono::milliseconds kLongestLock{5000};
 /// Steps of SQLite's machine after which it asks whether a statement is to go on: they take far
 /// less than a millisecond.
 constexpr int kStepsBetweenQuestions = 4000;
@@ -62,7 +63,7 @@ public:
         AddSqliteFunctions(database_.get());
         Run("pragma case_sensitive_like=on");
         LookAtFile();
-        sqlite3_busy_timeout(database_.get(), kBusyMilliseconds);
+        sqlite3_busy_handler(database_.get(), &WaitForLock, this);
     }
 
     dialect::Target Target() const override { return dialect::Target::kSqlite; }
@@ -205,6 +206,18 @@ private:
         return session.tooLong_ || (isQuery && StatementWait::IsOver());
     }
 
+    /// Not 0 to try again what another process holds up, a query only for as long as somebody wants
+    /// it.
+    static int WaitForLock(void* self, int attempt) {
+        auto& session = *static_cast<SqliteSession*>(self);
+        if (attempt == 0) session.lockedSince_ = Clock::now();
+        const auto limit = session.limit_.count() > 0 ? session.limit_ : kLongestLock;
+        const auto waited = Clock::now() - session.lockedSince_;
+        if (waited > std::min(limit, kLongestLock) || StatementWait::IsOver()) return 0;
+        std::this_thread::sleep_for(std::chrono::milliseconds(std::min(attempt + 1, 25)));
+        return 1;
+    }
+
     static bool DescribesOnly(std::string_view pragma) {
         return pragma.ends_with("_info") || pragma.ends_with("_list");
     }
@@ -328,6 +341,7 @@ private:
     /// When the caller's statement began, and whether it was stopped for taking too long.
     Clock::time_point begun_;
     bool tooLong_ = false;
+    Clock::time_point lockedSince_;
     /// The one used last stands last.
     std::deque<Prepared> prepared_;
 };

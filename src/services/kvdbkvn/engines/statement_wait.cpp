@@ -14,6 +14,15 @@ constexpr std::chrono::milliseconds kBetweenLooks{25};
 
 StatementWait* g_current = nullptr;
 
+/// A dialog that asks while it starts is not seen yet: then its owner is what a person looks at.
+Node* VisibleWindow() {
+    Node* active = WindowSystem::Get().ActiveWindow();
+    Node* window = active ? active->Root() : nullptr;
+    while (window && !window->Visible())
+        window = window->Owner();
+    return window;
+}
+
 }  // namespace
 
 struct StatementWait::Shown {
@@ -32,7 +41,7 @@ bool StatementWait::IsOver() noexcept {
     StatementWait* wait = g_current;
     if (!wait || wait->outer_) return false;
     if (!wait->blind_ && Clock::now() >= wait->nextLook_) {
-        wait->blind_ = !WindowSystem::Get().Guarded([wait] { wait->LookOn(); });
+        if (!WindowSystem::Get().Guarded([wait] { wait->LookOn(); })) wait->blind_ = true;
         wait->nextLook_ = Clock::now() + kBetweenLooks;
     }
     return wait->cancelled_;
@@ -51,12 +60,10 @@ void StatementWait::LookOn() {
 }
 
 void StatementWait::Show() {
-    Node* asking = WindowSystem::Get().ActiveWindow();
-    blind_ = !asking || !asking->Visible();
-    if (blind_) return;
-    CWnd* owner = asking->Root()->AnyHandle();
+    Node* asking = VisibleWindow();
+    if (!asking) return;
     auto shown = std::make_unique<Shown>();
-    blind_ = !shown->dialog.Create(owner);
+    blind_ = !shown->dialog.Create(asking->AnyHandle());
     if (blind_) return;
     shown->windows.Except(*shown->dialog.m_hWnd);
     shown_ = std::move(shown);

@@ -141,12 +141,11 @@ TEST_F(SqliteEngine, WhatIsNoPlainFileIsNamedForWhatItIs) {
 
 TEST_F(SqliteEngine, WhoOnlyConnectsDoesNotWaitForALock) {
     // Who waited would be refused in the end.
-    sqlite3* other = nullptr;
-    sqlite3_open(path_.c_str(), &other);
-    ASSERT_EQ(sqlite3_exec(other, "begin exclusive", nullptr, nullptr, nullptr), SQLITE_OK);
-    EXPECT_EQ(FailureOf([&] { manager_.Connect(); }), "");
-    EXPECT_TRUE(manager_.IsConnected());
-    sqlite3_close(other);
+    {
+        const SqliteLock other(path_);
+        EXPECT_EQ(FailureOf([&] { manager_.Connect(); }), "");
+        EXPECT_TRUE(manager_.IsConnected());
+    }
     EXPECT_EQ(manager_.Select("select a from kvt"), 0);
 }
 
