@@ -144,17 +144,23 @@ int RunCheck(const Options& options) {
 
 /// Runs what was asked for, and sees that what it prints arrives.
 int RunWhole(int (*run)(const Options&), const Options& options, const char* undone) {
+    int code = kFailed;
     try {
-        const int code = run(options);
-        if (std::fflush(stdout) != 0) throw std::runtime_error("The output cannot be written");
-        return code;
+        code = run(options);
     } catch (const Cancelled&) {
         std::fprintf(stderr, "kvload: Cancelled.%s\n", undone);
         return kCancelled;
+    } catch (const CommitUnanswered& error) {
+        std::fprintf(stderr, "kvload: %s\n", error.what());
+        return kFailed;
     } catch (const std::exception& error) {
         std::fprintf(stderr, "kvload: %s%s%s\n", error.what(), *undone ? "." : "", undone);
         return kFailed;
     }
+    if (std::fflush(stdout) == 0) return code;
+    std::fprintf(stderr, "kvload: The output cannot be written%s\n",
+                 *undone ? ". The rows are loaded" : "");
+    return kFailed;
 }
 
 }  // namespace

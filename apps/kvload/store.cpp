@@ -16,7 +16,8 @@ std::string Store::Named(std::string_view table) const {
 
 void Store::Begin(const kv::sample::Table& table) {
     table_ = &table;
-    indexAfterwards_ = Query("select 1 from " + Named(table.name) + " limit 1").empty();
+    indexAfterwards_ =
+        MayDropIndexes(table) && Query("select 1 from " + Named(table.name) + " limit 1").empty();
     if (indexAfterwards_) {
         for (size_t i = 0; i < table.indexes.size(); ++i)
             Run("drop index if exists " + Named(kv::sample::IndexName(table, i)));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -9,8 +10,14 @@
 
 namespace kvload {
 
+/// What `Commit` throws where nobody knows whether the database keeps the rows.
+class CommitUnanswered : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
 /// A database that holds the dataset, or is to hold it, within one transaction: until `Commit`, all
-/// is as it was. What fails throws std::runtime_error.
+/// is as it was, also for those who read it meanwhile. What fails throws std::runtime_error.
 class Store : public kv::sample::Sink {
 public:
     /// What a query gives, as text; null is "".
@@ -24,8 +31,8 @@ public:
     /// The name of a table in a statement.
     std::string Named(std::string_view table) const;
 
-    /// Begins to add rows behind those that a table has. A table without rows gets its indexes at
-    /// the end of it.
+    /// Begins to add rows behind those that a table has. One without rows gets its indexes at the
+    /// end of it, where nobody waits for it meanwhile.
     void Begin(const kv::sample::Table& table) final;
     void End() final;
 
@@ -34,6 +41,8 @@ protected:
     const std::string& Owner() const { return owner_; }
     const kv::sample::Table& Filled() const { return *table_; }
 
+    /// Whether a table can be without its indexes for a while and nobody has to wait for it.
+    virtual bool MayDropIndexes(const kv::sample::Table& table) = 0;
     virtual void BeginRows() = 0;
     virtual void EndRows() = 0;
 

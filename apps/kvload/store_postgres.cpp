@@ -2,6 +2,7 @@
 
 #include <libpq-fe.h>
 
+#include <set>
 #include <stdexcept>
 
 #include "base/text.h"
@@ -67,6 +68,7 @@ public:
 
     void Create(const Table& table) override {
         Run(kv::sample::CreateTable(table, Owner(), kv::sample::PostgresType));
+        created_.insert(table.name);
     }
 
     void Add(const Row& row) override {
@@ -79,13 +81,16 @@ public:
         const std::string_view answer = PQcmdStatus(result.get());
         if (PQresultStatus(result.get()) == PGRES_COMMAND_OK && answer == "COMMIT") return;
         if (PQstatus(connection_.get()) != CONNECTION_OK)
-            throw std::runtime_error(
+            throw CommitUnanswered(
                 "The server went away before it had answered whether it keeps the rows: look for "
                 "them");
         Fail();
     }
 
 private:
+    /// To drop one keeps all readers of its table out until the commit.
+    bool MayDropIndexes(const Table& table) override { return created_.contains(table.name); }
+
     void BeginRows() override {
         std::string names;
         for (const kv::sample::Column& column : Filled().columns)
@@ -120,6 +125,8 @@ private:
 
     Connection connection_;
     std::string pending_;
+    /// Tables that nobody else sees yet.
+    std::set<std::string_view> created_;
 };
 
 }  // namespace

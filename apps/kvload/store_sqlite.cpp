@@ -110,6 +110,7 @@ public:
     }
 
 private:
+    bool MayDropIndexes(const Table&) override { return true; }
     void BeginRows() override {
         std::string names, places;
         for (const kv::sample::Column& column : Filled().columns) {

@@ -21,10 +21,10 @@ protected:
         folder.Write("blocks.csv", std::string("area,block,WKT\n43602,1A,") + kSquare + "\n");
     }
 
-    std::vector<kvload::Outcome> LoadBoth(const kvload::Watcher& watcher) {
+    std::vector<kvload::Outcome> LoadBoth(const kvload::Watcher& watcher, bool replace = false) {
         const auto store = OpenStore(database.Url(), Purpose::kLoad);
         return kvload::Load({JobOf("areas.csv", kAreas), JobOf("blocks.csv", kBlocks)}, *store,
-                            false, watcher);
+                            replace, watcher);
     }
 
     PostgresDatabase database;
@@ -123,6 +123,29 @@ TEST_F(LoadOnPostgres, LeavesNothingWhereCtrlCIsPressed) {
     EXPECT_EQ(folder.Read("said"), "kvload: Cancelled. Nothing was loaded\n");
     EXPECT_EQ(database.Run("select count(*) from norvadon.gulf_mexico_lbi"), "0");
     EXPECT_EQ(database.Run("select count(*) from norvadon.gulf_mexico_lbv"), "0");
+}
+
+TEST_F(LoadOnPostgres, KeepsNobodyFromReadingWhatItReplaces) {
+    LoadBoth(Nobody());
+    const char* const kIndexes =
+        "select count(*) from pg_indexes where schemaname = 'norvadon' and tablename = "
+        "'gulf_mexico_lbi'";
+    const std::string indexes = database.Run(kIndexes);
+    int read = 0;
+    kvload::Watcher watcher = Nobody();
+    watcher.progress = [&](const std::string& step, long long, long long) {
+        if (step != "writing gulf_mexico_lbv") return;
+        for (const char* table : {"connam2", "lbi", "lbv"}) {
+            EXPECT_NE(database.Run(std::string("set lock_timeout = 1000; select count(*) from "
+                                               "norvadon.gulf_mexico_") +
+                                   table),
+                      "0");
+            ++read;
+        }
+    };
+    LoadBoth(watcher, true);
+    EXPECT_GE(read, 3);
+    EXPECT_EQ(database.Run(kIndexes), indexes);
 }
 
 TEST_F(LoadOnPostgres, LeavesNothingWhereTheServerGoesAway) {

@@ -18,8 +18,8 @@ protected:
 
     /// Exit code of the program, run in the folder. What it says is then in `said`.
     int Run(const std::string& arguments) {
-        const std::string command = "cd \"" + folder.Native() + "\" && \"" KVLOAD_PROGRAM "\" " +
-                                    arguments + " >said 2>&1 </dev/null";
+        const std::string command = "cd \"" + folder.Native() + "\" && \"" KVLOAD_PROGRAM "\"" +
+                                    " >said 2>&1 </dev/null " + arguments;
         const int status = std::system(command.c_str());
         said = folder.Read("said");
         return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
@@ -32,6 +32,14 @@ TEST_F(LoadProgram, LoadsAndSaysWhat) {
     EXPECT_EQ(Run("areas.csv --map areas.json --db sqlite:data.db"), 0) << said;
     EXPECT_EQ(said, "areas.csv: 1 of 1 rows loaded as areas\n");
     EXPECT_EQ(Rows("select stcode from gulf_mexico_connam2"), "43602\n");
+}
+
+TEST_F(LoadProgram, WhereItsWordsAreLostTheRowsAreLoadedAllTheSame) {
+    EXPECT_EQ(Run("areas.csv --map areas.json --db sqlite:data.db >/dev/full"), 1);
+    EXPECT_EQ(said, "kvload: The output cannot be written. The rows are loaded\n");
+    EXPECT_EQ(Rows("select stcode from gulf_mexico_connam2"), "43602\n");
+    EXPECT_EQ(Run("guess areas.csv >/dev/full"), 1);
+    EXPECT_EQ(said, "kvload: The output cannot be written\n");
 }
 
 TEST_F(LoadProgram, EndsWithThreeWhereRowsAreLeftOutAndListsThem) {
