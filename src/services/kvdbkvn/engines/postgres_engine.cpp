@@ -1,8 +1,11 @@
 #include <libpq-fe.h>
 #include <poll.h>
+#include <sys/socket.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <charconv>
 #include <chrono>
 #include <cstring>
@@ -35,6 +38,7 @@ constexpr std::pair<const char*, const char*> kDefaults[] = {
 /// has stopped one.
 constexpr std::chrono::milliseconds kBetweenQuestions{20};
 constexpr std::chrono::seconds kMostToStop{2};
+constexpr std::chrono::milliseconds kMostToConnect{1000};
 
 /// What a server that follows another refuses a change with.
 constexpr const char* kStandby =
@@ -54,6 +58,24 @@ struct Clear {
 };
 using Result = std::unique_ptr<PGresult, Clear>;
 using Connection = std::unique_ptr<PGconn, Clear>;
+
+/// Whether the host at the other end of a socket takes another connection in time.
+bool TakesConnections(int connected) {
+    sockaddr_storage host{};
+    socklen_t length = sizeof host;
+    auto* address = reinterpret_cast<sockaddr*>(&host);
+    if (getpeername(connected, address, &length) != 0) return false;
+    if (host.ss_family == AF_UNIX) return true;
+    const int probe = socket(host.ss_family, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0);
+    if (probe < 0) return false;
+    bool taken = connect(probe, address, length) == 0;
+    pollfd ready{probe, POLLOUT, 0};
+    if (!taken && errno == EINPROGRESS)
+        taken = poll(&ready, 1, static_cast<int>(kMostToConnect.count())) > 0 &&
+                (ready.revents & (POLLERR | POLLHUP)) == 0;
+    close(probe);
+    return taken;
+}
 
 class PostgresRows final : public Rows {
 public:
@@ -249,14 +271,22 @@ private:
             const int ready = poll(&socket, 1, static_cast<int>(kBetweenQuestions.count()));
             if (ready > 0 && PQconsumeInput(connection_.get()) != 1) return;
             if (!isOver()) continue;
-            if (!stopped) StopQuery();
-            if (!stopped) stopped = Clock::now();
-            if (Clock::now() - *stopped > kMostToStop) connection_.reset();
+            if (!stopped) {
+                stopped = Clock::now();
+                StopQuery();
+            } else if (Clock::now() - *stopped > kMostToStop) {
+                connection_.reset();
+            }
         }
     }
 
-    /// Where it fails, the query comes to its own end, or is given up.
+    /// Where it fails, the query comes to its own end, or is given up; at once where the host has
+    /// gone, since the client library would wait long for it.
     void StopQuery() {
+        if (!TakesConnections(PQsocket(connection_.get()))) {
+            connection_.reset();
+            return;
+        }
         const std::unique_ptr<PGcancel, Clear> cancel{PQgetCancel(connection_.get())};
         std::array<char, 256> ignored{};
         if (cancel) PQcancel(cancel.get(), ignored.data(), static_cast<int>(ignored.size()));
