@@ -5,6 +5,7 @@
 
 #include "base/numbers.h"
 #include "base/text.h"
+#include "drawing/counting.h"
 #include "drawing/row_scan.h"
 #include "drawing/vertex_row.h"
 #include "drawing/vertice_builder_ids.h"
@@ -30,18 +31,6 @@ constexpr const char* kNoMinutes = "0";
 bool HasPoint(const std::string& text) {
     return text.find('.') != std::string::npos;
 }
-
-/// Counts as long as it lives.
-class Counting {
-public:
-    explicit Counting(int& count) : count_(count) { ++count_; }
-    ~Counting() { --count_; }
-    Counting(const Counting&) = delete;
-    Counting& operator=(const Counting&) = delete;
-
-private:
-    int& count_;
-};
 
 }  // namespace
 
@@ -98,7 +87,7 @@ bool CKvGuiVerticeBuilder::DecodePts(std::string& strIn, std::string& strOut, bo
     } else {
         const Pair angles = kv::vertices::ScanLatLon(strIn);
         const auto refuse = [this](const std::string& words) {
-            const Counting moves(m_nMovesFocus);
+            const kv::drawing::Counting moves(m_nMovesFocus);
             AfxMessageBox(words.c_str());
             return false;
         };
@@ -168,7 +157,7 @@ bool CKvGuiVerticeBuilder::Convert(Mode mode, std::vector<std::string>& rows) {
         if (!ConvertRow(mode, row, converted)) {
             const std::string words =
                 "The projection has no answer for the row\n" + row + "\nNo row is converted.";
-            const Counting moves(m_nMovesFocus);
+            const kv::drawing::Counting moves(m_nMovesFocus);
             AfxMessageBox(words.c_str());
             return false;
         }
@@ -265,7 +254,7 @@ std::string CKvGuiVerticeBuilder::InsertedRow() const {
 void CKvGuiVerticeBuilder::OnButtonInsertPt() {
     const int selected = m_listXY.GetCurSel();
     if (selected < 0) {
-        const Counting moves(m_nMovesFocus);
+        const kv::drawing::Counting moves(m_nMovesFocus);
         AfxMessageBox("Must highlight a row for insert");
         return;
     }
@@ -302,7 +291,7 @@ void CKvGuiVerticeBuilder::OnButtonDeletePt() {
         EnableButton(kAccept, TRUE);
         Changed();
     } else {
-        const Counting moves(m_nMovesFocus);
+        const kv::drawing::Counting moves(m_nMovesFocus);
         AfxMessageBox("Nothing selected");
     }
     EnableButton(kSave, HasRows());
@@ -562,7 +551,7 @@ bool CKvGuiVerticeBuilder::OnKillfocus() {
 }
 
 void CKvGuiVerticeBuilder::MoveFocusTo(CEdit& box, bool highlight) {
-    const Counting moves(m_nMovesFocus);
+    const kv::drawing::Counting moves(m_nMovesFocus);
     box.SetFocus();
     if (highlight) SetHightLight(&box);
 }

@@ -4,6 +4,7 @@
 
 #include "base/text.h"
 #include "controls/file_pick_ctrl.h"
+#include "drawing/counting.h"
 #include "drawing/vertex_row.h"
 #include "drawing/vertice_builder.h"
 #include "drawing/vertice_builder_ids.h"
@@ -49,19 +50,18 @@ bool CKvGuiVerticeBuilder::ReadRows(CFile& file) {
 }
 
 void CKvGuiVerticeBuilder::OnButtonLoadFile() {
-    ++m_nMovesFocus;
     CFilePickCtrl picker(this);
     picker.SetStartPath("C:\\");
-    const bool picked = picker.DoModal("Select Source Folder") == IDOK;
-    --m_nMovesFocus;
-    if (!picked) return;
+    {
+        const kv::drawing::Counting moves(m_nMovesFocus);
+        if (picker.DoModal("Select Source Folder") != IDOK) return;
+    }
     std::array<char, kv::file_pick::kPathSize> path{};
     picker.GetSelectedItem(path.data());
     CFile file;
     if (!file.Open(path.data(), CFile::modeRead) || !ReadRows(file)) {
-        ++m_nMovesFocus;
+        const kv::drawing::Counting moves(m_nMovesFocus);
         AfxMessageBox(CString(path.data()) + "\nThis file cannot be read.");
-        --m_nMovesFocus;
         return;
     }
     file.Close();
@@ -81,7 +81,7 @@ bool CKvGuiVerticeBuilder::WriteRows(const CString& path) {
 }
 
 void CKvGuiVerticeBuilder::OnButtonSaveFile() {
-    ++m_nMovesFocus;
+    const kv::drawing::Counting moves(m_nMovesFocus);
     CFileDialog dialog(FALSE, nullptr, nullptr, OFN_HIDEREADONLY | OFN_FILEMUSTEXIST,
                        "Text File |*.txt||", this);
     dialog.m_ofn.lpstrTitle = "Custom File";
@@ -96,7 +96,6 @@ void CKvGuiVerticeBuilder::OnButtonSaveFile() {
             AfxMessageBox(path + "\nThis file cannot be written.");
         }
     }
-    --m_nMovesFocus;
 }
 
 // The clipboard.
@@ -141,10 +140,10 @@ bool CKvGuiVerticeBuilder::AskForRows(const std::vector<std::string>& lines) {
         question += "\n" + std::to_string(lines.size() - rows.size()) +
                     " of the lines are no coordinates and are left out.";
     }
-    ++m_nMovesFocus;
-    const bool wanted = AfxMessageBox(question.c_str(), MB_YESNO) == IDYES;
-    --m_nMovesFocus;
-    if (!wanted) return true;
+    {
+        const kv::drawing::Counting moves(m_nMovesFocus);
+        if (AfxMessageBox(question.c_str(), MB_YESNO) != IDYES) return true;
+    }
     bool added = false;
     for (const std::string& row : rows)
         added = AddIfNew(row) || added;

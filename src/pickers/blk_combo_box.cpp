@@ -4,6 +4,7 @@
 
 #include "frame/kvcom/misc.h"
 #include "frame/kvdbkvn/db_dataset_set.h"
+#include "frame/kvdbkvn/sql_literal.h"
 #include "frame/kvdbkvn/tell_failure.h"
 #include "window/dialog_keys.h"
 
@@ -40,7 +41,7 @@ std::string CKvBlkComboBox::BlockQuery(std::string_view select, const std::strin
 
     const auto areaCodes = [&](const char* column) {
         return std::string("(select ") + catalogue::kColumnAreaCode + " from " + m_sAreaTable +
-               " where " + column + " = '" + area + "')";
+               " where " + column + " = " + kv::db::SqlLiteral(area) + ")";
     };
     switch (m_nMode) {
         case catalogue::kAreaName:
@@ -48,7 +49,8 @@ std::string CKvBlkComboBox::BlockQuery(std::string_view select, const std::strin
             return query + " where areacode = " + areaCodes(catalogue::kColumnAreaName) +
                    condition + "order by\t2";
         case catalogue::kAreaCode:
-            return query + " where areacode = '" + area + "'" + condition + "order by 2";
+            return query + " where areacode = " + kv::db::SqlLiteral(area) + condition +
+                   "order by 2";
         default:
             // An MMS code may stand for several.
             return query + " where areacode in " + areaCodes(catalogue::kColumnMmsCode) +

@@ -7,6 +7,7 @@
 #include "frame/kvdbkvn/db_abs_data_mgr.h"
 #include "frame/kvdbkvn/db_dataset_set.h"
 #include "frame/kvdbkvn/db_util.h"
+#include "frame/kvdbkvn/sql_literal.h"
 #include "frame/kvdbkvn/tell_failure.h"
 #include "pickers/inside_map.h"
 
@@ -46,7 +47,7 @@ std::string CKvBuiltMapAreaComboBox::AreasInside() const {
     std::string list;
     for (const std::string& code : ColumnOf(AreaCodesInside("select distinct"))) {
         const std::string area = CKvDbUtil::S_GetAreaName(code, abbreviated);
-        list += (list.empty() ? "'" : ",'") + kv::ReplaceAll(area, "'", "''") + "'";
+        list += (list.empty() ? "" : ",") + kv::db::SqlLiteral(area);
     }
     return list;
 }

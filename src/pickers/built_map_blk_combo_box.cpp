@@ -1,6 +1,5 @@
 #include "pickers/built_map_blk_combo_box.h"
 
-#include "base/text.h"
 #include "frame/kvdbkvn/db_dataset_set.h"
 #include "pickers/inside_map.h"
 
@@ -9,8 +8,7 @@ std::string CKvBuiltMapBlkComboBox::BlockQuery() const {
                                  CKvDbDatasetSet::S_GetGlobalDataset() +
                                  kv::catalogue::kVertexTable;
     return BlockQuery(
-        "select distinct decode(", m_sBlockTable + " I, " + vertices + " V ",
-        kv::ReplaceAll(m_sArea, "'", "''"),
+        "select distinct decode(", m_sBlockTable + " I, " + vertices + " V ", m_sArea,
         " and (I.refnum = V.refnum)" +
             kv::pickers::InsideMap(GetMinLat(), GetMaxLat(), GetMinLon(), GetMaxLon()));
 }

@@ -3,8 +3,8 @@
 #include <cstddef>
 #include <map>
 
-#include "base/text.h"
 #include "frame/kvdbkvn/db_abs_data_mgr.h"
+#include "frame/kvdbkvn/sql_literal.h"
 #include "frame/kvdbkvn/table_owner.h"
 #include "frame/kvdbkvn/tell_failure.h"
 #include "pickers/custom_order_dlg_ids.h"
@@ -74,8 +74,8 @@ void WriteArea(const std::string& area, int position, CKvDbAbsDataMgr& manager) 
         throw CKvException("\"" + area + "\" cannot have the position " + seq +
                            ": not one area, but none or several have it in the table " + Table());
     }
-    manager.Insert("insert into " + Table() + " values ('" + kv::ReplaceAll(area, "'", "''") +
-                   "', " + seq + "," + std::to_string(PositionIn(s_mapDefSeq, area) + 1) + ")");
+    manager.Insert("insert into " + Table() + " values (" + kv::db::SqlLiteral(area) + ", " + seq +
+                   "," + std::to_string(PositionIn(s_mapDefSeq, area) + 1) + ")");
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include "base/text.h"
 #include "frame/kvcom/misc.h"
 #include "frame/kvdbkvn/db_abs_data_mgr.h"
+#include "frame/kvdbkvn/sql_literal.h"
 #include "frame/kvdbkvn/tell_failure.h"
 #include "records/create_user_table_ids.h"
 
@@ -89,8 +90,8 @@ CKvDbInfo CKvCreateUserTable::Login() const {
 bool CKvCreateUserTable::IsTableExisted(std::string table) {
     UseLogin(Login());
     bool exists = false;
-    Ask("select table_name from all_tables where table_name = '" +
-            kv::ReplaceAll(table, "'", "''") + "' and owner='NORVADON'",
+    Ask("select table_name from all_tables where table_name = " + kv::db::SqlLiteral(table) +
+            " and owner='NORVADON'",
         [&](const CKvDbAbsDataMgr& tables) { exists = tables.NumberOfRows() > 0; });
     return exists;
 }

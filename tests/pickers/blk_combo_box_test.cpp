@@ -85,6 +85,12 @@ TEST_F(BlkComboBox, AnAreaWithoutBlocksGivesOnlyTheRowForAllOrNothing) {
     EXPECT_THAT(RowsOf(0, "EM"), IsEmpty());
 }
 
+TEST_F(BlkComboBox, AQuoteInAnAreaIsPartOfIt) {
+    EXPECT_THAT(RowsOf(1, "O'HARA"), ElementsAre("ALL"));
+    EXPECT_THAT(statements.back(), testing::HasSubstr("where areaname = 'O''HARA')order by\t2"));
+    EXPECT_THAT(RowsOf(2, "0'7"), ElementsAre("ALL"));
+}
+
 TEST_F(BlkComboBox, SettersAloneChangeNoList) {
     RowsOf(2, "017");
     const auto before = user->Rows(kBlock);

@@ -13,6 +13,7 @@
 #include "frame/kvcom/projected_bounds.h"
 #include "frame/kvdbkvn/db_abs_data_mgr.h"
 #include "frame/kvdbkvn/db_dataset_set.h"
+#include "frame/kvdbkvn/sql_literal.h"
 #include "frame/kvdbkvn/table_owner.h"
 #include "frame/kvlogs/log.h"
 
@@ -22,6 +23,7 @@ using kv::catalogue::kAllBlocks;
 using kv::catalogue::kAreaTable;
 using kv::catalogue::kBlockTable;
 using kv::catalogue::kVertexTable;
+using kv::db::SqlLiteral;
 
 constexpr int kLogLevel = 101;
 /// Units of X and Y, as the coordinate driver has them.
@@ -54,15 +56,11 @@ Answer LookUp(Answer otherwise, const Work& work) {
     return otherwise;
 }
 
-std::string Quoted(const std::string& text) {
-    return "'" + kv::ReplaceAll(text, "'", "''") + "'";
-}
-
 /// Bracketed, for "in"; the list is not empty.
 std::string QuotedList(const std::vector<std::string>& texts) {
     std::string list;
     for (const std::string& text : texts)
-        list += (list.empty() ? "(" : ",") + Quoted(text);
+        list += (list.empty() ? "(" : ",") + SqlLiteral(text);
     return list + ")";
 }
 
@@ -96,7 +94,7 @@ std::vector<std::string> AreaCells(CKvDbAbsDataMgr& manager, const std::string& 
                                    const std::string& value) {
     return ColumnOf(manager, std::string("select ") + wanted + " from " +
                                  TableOf(dataset, kAreaTable) + " where " + known + " = " +
-                                 Quoted(value) + " order by " + wanted);
+                                 SqlLiteral(value) + " order by " + wanted);
 }
 
 /// The area codes that an area code, an MMS code or an area name stands for.
@@ -315,7 +313,7 @@ private:
 std::string CountyQuery(const char* columns, const std::string& county) {
     return std::string("select ") + columns + " from " +
            CKvTableOwner().GetTableOwner().GetString() + kCountyTable +
-           " where county_id = " + Quoted(county);
+           " where county_id = " + SqlLiteral(county);
 }
 
 }  // namespace

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "base/text.h"
+#include "frame/kvdbkvn/sql_literal.h"
 #include "services/kvdbkvn/engines/column_types.h"
 #include "services/kvdbkvn/engines/engine_module.h"
 #include "services/kvdbkvn/engines/file_identity.h"
@@ -345,9 +346,8 @@ private:
     bool HasPostgresSchema(const std::string& name) {
         if (const auto known = schemas_.find(name); known != schemas_.end()) return known->second;
         std::string ignored;
-        const auto rows = Fetch(
-            "select 1 from pg_namespace where nspname = '" + ReplaceAll(name, "'", "''") + "'",
-            ignored);
+        const auto rows =
+            Fetch("select 1 from pg_namespace where nspname = " + SqlLiteral(name), ignored);
         if (!inTransaction_) EndTransaction(SQL_ROLLBACK, ignored);
         return rows && (schemas_[name] = rows->Count() > 0);
     }
