@@ -3,6 +3,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <exception>
 #include <string_view>
 #include <utility>
 
@@ -30,6 +31,7 @@ unsigned char AttributesOf(const std::string& name, const std::string& native,
 }  // namespace
 
 CFile::~CFile() {
+    if (std::uncaught_exceptions() > m_nExceptions) m_pWriter.reset();
     Close();
 }
 
@@ -48,6 +50,7 @@ bool CFile::OpenNew(std::string_view path) {
     auto writer = std::make_unique<kv::FileWriter>();
     if (!writer->Open(path)) return false;
     m_pWriter = std::move(writer);
+    m_nExceptions = std::uncaught_exceptions();
     return true;
 }
 

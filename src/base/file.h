@@ -46,7 +46,7 @@ public:
     CFile() = default;
     CFile(const CFile&) = delete;
     CFile& operator=(const CFile&) = delete;
-    /// Closes.
+    /// Closes. While an exception passes by, what was being written is dropped.
     ~CFile();
 
     /// `modeRead` alone opens a file that is there; `modeCreate` with a writing mode makes one, and
@@ -70,6 +70,8 @@ private:
 
     std::FILE* m_pRead = nullptr;
     std::unique_ptr<kv::FileWriter> m_pWriter;
+    /// How many passed by when it was opened.
+    int m_nExceptions = 0;
     std::uint64_t m_length = 0;
     CString m_path;
 };

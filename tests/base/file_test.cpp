@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 
 #include <filesystem>
+#include <stdexcept>
 
 #include "support/file_size_limit.h"
 #include "support/temp_folder.h"
@@ -75,6 +76,29 @@ TEST(CFile, ClosesWhenItIsDestroyed) {
         EXPECT_TRUE(file.Write("x", 1));
     }
     EXPECT_EQ(folder.Read("a"), "x");
+}
+
+TEST(CFile, DropsWhatAnExceptionLeavesHalfWritten) {
+    const TempFolder folder;
+    folder.Write("a", "old");
+    const auto write = [&](bool fails) {
+        CFile file;
+        ASSERT_TRUE(file.Open(folder.Dialog("a").c_str(), CFile::modeCreate | CFile::modeWrite));
+        ASSERT_TRUE(file.Write("new", 3));
+        if (fails) throw std::runtime_error("no more memory");
+    };
+    EXPECT_THROW(write(true), std::runtime_error);
+    EXPECT_EQ(folder.Read("a"), "old");
+    struct WritesWhileItGoes {
+        decltype(write)& work;
+        ~WritesWhileItGoes() { work(false); }
+    };
+    EXPECT_THROW(([&] {
+                     const WritesWhileItGoes last{write};
+                     throw std::runtime_error("something else");
+                 })(),
+                 std::runtime_error);
+    EXPECT_EQ(folder.Read("a"), "new") << "whole, though an exception passes by further out";
 }
 
 TEST(CFile, DoesNotOpenWhatIsNotThereOrIsAFolder) {
