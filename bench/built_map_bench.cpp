@@ -104,12 +104,15 @@ void Peer(benchmark::State& state) {
 }
 
 const bench::Subject kAreasOfTheGulf("built map/areas of the whole Gulf", 1.2, Ours<AreaBox, kGulf>,
-                                     Peer<AreaBox, kGulf>);
+                                     Peer<AreaBox, kGulf>, bench::Clock::kCpu,
+                                     bench::Turns::kShort);
 const bench::Subject kAreasOfABox("built map/areas of a small box", 1.2, Ours<AreaBox, kSmall>,
-                                  Peer<AreaBox, kSmall>);
+                                  Peer<AreaBox, kSmall>, bench::Clock::kCpu, bench::Turns::kShort);
 const bench::Subject kBlocksOfTheGulf("built map/blocks of the whole Gulf", 1.2,
-                                      Ours<BlockBox, kGulf>, Peer<BlockBox, kGulf>);
+                                      Ours<BlockBox, kGulf>, Peer<BlockBox, kGulf>,
+                                      bench::Clock::kCpu, bench::Turns::kShort);
 const bench::Subject kBlocksOfABox("built map/blocks of a small box", 1.2, Ours<BlockBox, kSmall>,
-                                   Peer<BlockBox, kSmall>);
+                                   Peer<BlockBox, kSmall>, bench::Clock::kCpu,
+                                   bench::Turns::kShort);
 
 }  // namespace

@@ -116,6 +116,11 @@ void ComputePeer(benchmark::State& state) {
     if (bounds.XY().minX >= bounds.XY().maxX) state.SkipWithError("no bounds");
 }
 
-const bench::Subject kSubject{"map bounds/500 picked blocks", 1.2, ComputeOurs, ComputePeer};
+const bench::Subject kSubject{"map bounds/500 picked blocks",
+                              1.2,
+                              ComputeOurs,
+                              ComputePeer,
+                              bench::Clock::kCpu,
+                              bench::Turns::kShort};
 
 }  // namespace

@@ -9,9 +9,14 @@
 namespace bench {
 namespace {
 
-/// Ours and the peer's take turns so often, so that what slows the machine for a while slows both.
-constexpr int kTurns = 21;
-constexpr double kSecondsPerTurn = 0.1;
+/// Ours and the peer's take turns, so that what slows the machine for a while slows both.
+struct Division {
+    int turns;
+    double secondsPerTurn;
+};
+constexpr Division DivisionInto(Turns turns) {
+    return turns == Turns::kLong ? Division{7, 0.3} : Division{21, 0.1};
+}
 
 const std::string kOurs = "/ours";
 const std::string kPeer = "/peer";
@@ -20,6 +25,7 @@ struct Pair {
     std::string name;
     double bound;
     Clock clock;
+    std::size_t turns;
     std::vector<double> ours{};  ///< nanoseconds, by turn
     std::vector<double> peer{};
 };
@@ -55,6 +61,10 @@ std::string Duration(double nanoseconds) {
     char text[32];
     std::snprintf(text, sizeof text, "%.3g %s", nanoseconds / unit->size, unit->name);
     return text;
+}
+
+bool IsWhole(const Pair& pair) {
+    return pair.ours.size() == pair.turns && pair.peer.size() == pair.turns;
 }
 
 bool IsAbove(const Pair& pair) {
@@ -101,7 +111,7 @@ private:
             if (run.run_name.function_name == pair.name + kOurs) pair.ours.push_back(time);
             if (run.run_name.function_name != pair.name + kPeer) continue;
             pair.peer.push_back(time);
-            if (pair.peer.size() == kTurns && pair.ours.size() == kTurns) Print(pair);
+            if (IsWhole(pair)) Print(pair);
         }
     }
 
@@ -116,19 +126,20 @@ private:
 
 /// Whether each pair that was run is within its bound.
 bool AllWithin() {
-    return std::ranges::none_of(Pairs(), [](const Pair& pair) {
-        return pair.ours.size() == kTurns && pair.peer.size() == kTurns && IsAbove(pair);
-    });
+    return std::ranges::none_of(Pairs(),
+                                [](const Pair& pair) { return IsWhole(pair) && IsAbove(pair); });
 }
 
 }  // namespace
 
-Subject::Subject(const std::string& name, double bound, Body ours, Body peer, Clock clock) {
-    Pairs().push_back({name, bound, clock});
-    for (int turn = 0; turn < kTurns; ++turn) {
+Subject::Subject(const std::string& name, double bound, Body ours, Body peer, Clock clock,
+                 Turns turns) {
+    const Division division = DivisionInto(turns);
+    Pairs().push_back({name, bound, clock, static_cast<std::size_t>(division.turns)});
+    for (int turn = 0; turn < division.turns; ++turn) {
         for (const auto& [half, body] : {std::pair{kOurs, ours}, {kPeer, peer}}) {
             auto* run = benchmark::RegisterBenchmark((name + half).c_str(), body);
-            run->MinTime(kSecondsPerTurn);
+            run->MinTime(division.secondsPerTurn);
             if (clock == Clock::kWall) run->UseRealTime();
         }
     }
