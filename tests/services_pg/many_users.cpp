@@ -10,6 +10,7 @@
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
+#include <iterator>
 #include <map>
 #include <memory>
 #include <sstream>
@@ -220,8 +221,6 @@ void LookAtServer(PostgresClient& client, int sessions, std::vector<std::string>
                             const char* fault) {
         if (client.Run(sql) != expected) all.faults.emplace_back(fault);
     };
-    const std::string ofOthers =
-        " from pg_stat_activity where datname = current_database() and pid <> pg_backend_pid()";
     expect(
         "select string_agg(comments, chr(10) order by comments collate \"C\") from "
         "norvadon.gulf_mexico_well_comment",
@@ -230,13 +229,25 @@ void LookAtServer(PostgresClient& client, int sessions, std::vector<std::string>
         "select count(*) from (select 1 from norvadon.gulf_mexico_well_comment group by id "
         "having count(*) <> max(rec_seq)) gaps",
         "0", "the comments on a well are not numbered through");
-    expect("select count(*)" + ofOthers + " and state <> 'idle'", "0",
-           "a session was left within a transaction");
-    expect("select count(*)" + ofOthers, std::to_string(sessions),
-           "a session was not given back to its pool");
+    std::ranges::copy(FaultsOfSessions(client, sessions), std::back_inserter(all.faults));
 }
 
 }  // namespace
+
+std::vector<std::string> FaultsOfSessions(PostgresClient& client, int open) {
+    const std::string ofOthers =
+        " from pg_stat_activity where datname = current_database() and pid <> pg_backend_pid() "
+        "and backend_type = 'client backend'";
+    std::vector<std::string> faults;
+    const std::string within = client.Run("select string_agg(state || ', ' || query, '; ')" +
+                                          ofOthers + " and state <> 'idle'");
+    if (!within.empty()) faults.push_back("a session was left within a transaction: " + within);
+    const std::string found = client.Run("select count(*)" + ofOthers);
+    if (found != std::to_string(open))
+        faults.push_back("a session was not given back to its pool: " + found + " are open, " +
+                         std::to_string(open) + " in pools");
+    return faults;
+}
 
 double ManyUsers::Percentile95() const {
     return picks.empty() ? 0 : picks[(picks.size() - 1) * 19 / 20];
