@@ -9,8 +9,10 @@
 #include <algorithm>
 
 #include "base/text.h"
+#include "frame/kvcom/cancelled.h"
 #include "frame/kvcom/misc.h"
 #include "frame/kvcom/profile.h"
+#include "frame/kvdbkvn/db_util.h"
 #include "qt/qt_desktop.h"
 #include "window/window_system.h"
 #include "workbench/dataset.h"
@@ -64,6 +66,16 @@ public:
 private:
     std::function<void()> painted_;
 };
+
+/// None where the person cancelled the look-up, of which nothing is told.
+std::optional<std::string> AreaCodesOf(const CVZABEBar& bar, bool quoted) {
+    try {
+        const kv::db::CancelledLookUpsThrow asked;
+        return bar.GetAreacode(quoted);
+    } catch (const CKvCancelled&) {
+        return {};
+    }
+}
 
 QString Described(const Pick& pick) {
     if (pick.block) {
@@ -311,12 +323,13 @@ void Workbench::OnRun() {
 }
 
 void Workbench::RunMap() {
-    const std::string codes = frame_.m_bar.GetAreacode(false);
-    if (codes.empty()) {
+    const std::optional<std::string> codes = AreaCodesOf(frame_.m_bar, false);
+    if (!codes) return;
+    if (codes->empty()) {
         Fail(UnknownArea());
         return;
     }
-    ShowOnMap(kv::Split(codes, ','), frame_.m_bar.GetBlk(true));
+    ShowOnMap(kv::Split(*codes, ','), frame_.m_bar.GetBlk(true));
 }
 
 QString Workbench::UnknownArea() const {
@@ -346,9 +359,10 @@ void Workbench::RunReport() {
         Fail(tr("There is no report of this layer."));
         return;
     }
+    const std::optional<std::string> codes = AreaCodesOf(frame_.m_bar, true);
+    if (!codes) return;
     std::vector<std::string> conditions;
-    for (const std::string& area :
-         records_->InOrder(AreaLiterals(frame_.m_bar.GetAreacode(true)))) {
+    for (const std::string& area : records_->InOrder(AreaLiterals(*codes))) {
         conditions.push_back(BlockCondition(*layer, area, frame_.m_bar.GetBlk(true)));
     }
     if (conditions.empty()) {
@@ -379,6 +393,7 @@ Workbench::BarPick Workbench::PickOfBar() const {
 /// The area by its name, where the bar's text means one alone, and the block if it is one.
 std::string Workbench::WordsOfPick() const {
     std::string words = frame_.m_bar.GetArea();
+    const kv::db::CancelledLookUpsThrow asked;
     const std::vector<std::string> areas = AreaLiterals(frame_.m_bar.GetAreacode(true));
     if (areas.size() == 1) {
         const Rows names(std::string("select ") + kv::catalogue::kColumnAreaName + " from " +

@@ -7,6 +7,7 @@
 #include "blocks/import_format.h"
 #include "frame/catalogue.h"
 #include "frame/graphics.h"
+#include "frame/kvcom/cancelled.h"
 #include "frame/kvcom/misc.h"
 #include "frame/kvdbkvn/db_util.h"
 #include "frame/kvdbkvn/table_owner.h"
@@ -48,12 +49,17 @@ void CKvGuiBlkExtDlg::OnButtonImportmap() {
     // Each area is looked up once, however many of its blocks were picked.
     std::map<std::string, std::string> areas;
     std::vector<kv::ImportedBlock> entries;
-    while (rest.size() > 1) {
-        const std::string name = CutField(rest);
-        const std::string block = CutField(rest);
-        const auto [area, isNew] = areas.try_emplace(name);
-        if (isNew) area->second = AreaOfName(name);
-        entries.push_back({area->second, block + CutField(rest)});
+    try {
+        const kv::db::CancelledLookUpsThrow asked;
+        while (rest.size() > 1) {
+            const std::string name = CutField(rest);
+            const std::string block = CutField(rest);
+            const auto [area, isNew] = areas.try_emplace(name);
+            if (isNew) area->second = AreaOfName(name);
+            entries.push_back({area->second, block + CutField(rest)});
+        }
+    } catch (const CKvCancelled&) {
+        return;
     }
     AddEntries(std::move(entries));
     RefreshSelectedListBox();

@@ -6,6 +6,10 @@
 
 #include "blocks/block_fixture.h"
 #include "frame/graphics.h"
+#include "support/endless_view.h"
+#include "support/sqlite_file.h"
+#include "window/acting/wait_scene.h"
+#include "window/blocked_windows.h"
 
 namespace {
 
@@ -89,6 +93,29 @@ TEST_F(BlkExtMap, AMapThatFailsIsLogged) {
     EXPECT_THAT(Entries(), IsEmpty());
     EXPECT_THAT(folder.Read("log.txt"),
                 HasSubstr("No blocks were picked on the map: no such projection"));
+}
+
+TEST_F(BlkExtMap, OfAPickWhoseLookUpIsCancelledNothingIsAdded) {
+    Given({{"PLAIN", "55"}});
+    dialog.SetFieldString("stcode");
+    kv::SetGraphics([](const auto&...) { return ",,GRAND ISLE,9,A,"; });
+    kv::SetPatience(std::chrono::milliseconds(50));
+    const std::string file = folder.Native("blocks.db");
+    Run(dialog, [&](kv::User& user) {
+        test::RunOnSqliteFile(
+            file, "alter table gulf_mexico_connam2 rename to kept;" +
+                      test::EndlessView("gulf_mexico_connam2", "areaname, stcode, area_abbr",
+                                        test::kTextCell));
+        kv::ExpectWait(desktop, [](kv::User& wait) { wait.Click(IDCANCEL); });
+        user.Click(kFromMap);
+        EXPECT_THAT(user.Rows(kSelected), ElementsAre("PLAIN\t55"));
+
+        test::RunOnSqliteFile(file,
+                              "drop view gulf_mexico_connam2;"
+                              "alter table kept rename to gulf_mexico_connam2");
+        user.Click(kFromMap);
+        EXPECT_THAT(user.Rows(kSelected), SizeIs(2));
+    });
 }
 
 }  // namespace

@@ -1,7 +1,11 @@
+#include "frame/kvdbkvn/tell_failure.h"
 #include "pickers/built_map_area_combo_box.h"
 #include "pickers/built_map_blk_combo_box.h"
 #include "support/built_map_database.h"
+#include "support/endless_view.h"
 #include "support/statement_test.h"
+#include "window/acting/wait_scene.h"
+#include "window/blocked_windows.h"
 #include "window/frames/frame_wnd.h"
 
 namespace {
@@ -9,6 +13,7 @@ namespace {
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::Not;
 
 constexpr int kArea = 10;
 constexpr int kBlock = 11;
@@ -249,6 +254,21 @@ TEST_F(BuiltMapBoxes, ASetterRefillsNothing) {
     const auto before = RowsIn(area);
     SetBounds(1, 2, 1, 2);
     EXPECT_EQ(RowsIn(area), before);
+}
+
+TEST_F(BuiltMapBoxes, ACancelledLookUpOfOneAreaLeavesTheListEmptyAndNotWithoutThatArea) {
+    Change(
+        "alter table gulf_mexico_connam2 rename to kept;" +
+        test::EndlessView("gulf_mexico_connam2", "areaname, stcode, area_abbr", test::kTextCell));
+    kv::SetPatience(std::chrono::milliseconds(50));
+    kv::ExpectWait(desktop, [](kv::User& wait) { wait.Click(IDCANCEL); });
+    Fill(1);
+    EXPECT_THAT(RowsIn(area), IsEmpty());
+    EXPECT_TRUE(kv::db::SaysCancelled(area));
+
+    Change("drop view gulf_mexico_connam2; alter table kept rename to gulf_mexico_connam2");
+    Person().Drop(kArea);
+    EXPECT_THAT(RowsIn(area), Not(IsEmpty()));
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include <chrono>
 #include <utility>
 
+#include "frame/kvcom/cancelled.h"
 #include "print/print_control.h"
 #include "qt/qt_desktop.h"
 #include "window/dialogs/file_dialog.h"
@@ -169,7 +170,12 @@ std::optional<Printing::Subject> Printing::FindSubject() {
 std::optional<PrintPlan> Printing::Ask(DEVMODE* paper) {
     // What has not been read yet cannot be printed.
     runner_.Finish();
-    const auto subject = FindSubject();
+    std::optional<Subject> subject;
+    try {
+        subject = FindSubject();
+    } catch (const CKvCancelled&) {
+        // The person knows.
+    }
     if (!subject) return {};
     CKvGuiPrintControl dialog(paper, &frame_);
     dialog.SetUnit(0);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "frame/kvcom/cancelled.h"
 #include "frame/kvcom/projection_code.h"
 #include "frame/kvcom/util_lldrv.h"
 #include "frame/kvdbkvn/db_util.h"
@@ -31,7 +32,13 @@ int MapPositions::ProjectionAt(const Place& place) {
 int MapPositions::ProjectionOf(const std::string& areaCode) {
     const auto known = projections_.find(areaCode);
     if (known != projections_.end()) return known->second;
-    return projections_[areaCode] = CKvDbUtil::S_GetProjectionByArea(areaCode, "");
+    try {
+        const kv::db::CancelledLookUpsThrow asked;
+        return projections_[areaCode] = CKvDbUtil::S_GetProjectionByArea(areaCode, "");
+    } catch (const CKvCancelled&) {
+        // Nothing is known of it, so that it is asked for again.
+        return kv::projection::kNone;
+    }
 }
 
 Point MapPositions::InProjection(const Place& place, int projection) const {

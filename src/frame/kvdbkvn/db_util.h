@@ -19,12 +19,23 @@ public:
     LookUpsThrow& operator=(const LookUpsThrow&) = delete;
 };
 
+/// The same of a look-up that the person cancels, which throws `CKvCancelled`, and of no other. It
+/// is for whoever would keep the answer, or tell the person that there is no such place.
+class KVGUICTL_API CancelledLookUpsThrow {
+public:
+    CancelledLookUpsThrow();
+    ~CancelledLookUpsThrow();
+    CancelledLookUpsThrow(const CancelledLookUpsThrow&) = delete;
+    CancelledLookUpsThrow& operator=(const CancelledLookUpsThrow&) = delete;
+};
+
 }  // namespace kv::db
 
 /// Look-ups in the dataset's tables. Each opens a short connection of its own.
 ///
 /// None throws, unless a `kv::db::LookUpsThrow` lives: a failure of the database goes to the log,
-/// and the look-up answers as for a place that is not there.
+/// and the look-up answers as for a place that is not there. So does one that the person cancels,
+/// unless a `kv::db::CancelledLookUpsThrow` lives.
 class KVGUICTL_API CKvDbUtil {
 public:
     /// Area code of an area name; with `abbreviated` its MMS code. Empty when the name is unknown.

@@ -10,6 +10,7 @@
 #include "base/numbers.h"
 #include "base/text.h"
 #include "frame/catalogue.h"
+#include "frame/kvcom/cancelled.h"
 #include "frame/kvcom/projected_bounds.h"
 #include "frame/kvdbkvn/db_abs_data_mgr.h"
 #include "frame/kvdbkvn/db_dataset_set.h"
@@ -32,26 +33,35 @@ constexpr int kMeters = 1;
 constexpr const char* kProjectionTable = "_area_projection";
 constexpr const char* kCountyTable = ".nvd2000_county";
 
-/// How many `LookUpsThrow` live.
-int s_nThrowing = 0;
+constexpr const char* kCancelled =
+    "The person cancelled a look-up, which answers as for a place that is not there.";
 
-/// Runs `work` with a connected manager. Its answer, or, when the database fails, which goes to the
-/// log unless somebody wants to hear of it, `otherwise`.
+/// How many `LookUpsThrow` and `CancelledLookUpsThrow` live.
+int s_nThrowing = 0;
+int s_nCancelledThrowing = 0;
+
+/// Runs `work` with a connected manager. Its answer, or, when the database fails or the person
+/// cancels, which goes to the log unless somebody wants to hear of it, `otherwise`.
 template <class Answer, class Work>
 Answer LookUp(Answer otherwise, const Work& work) {
     CKvDbAbsDataMgr manager(KV_CONNECT_DEFAULT);
     std::exception_ptr thrown;
     std::string words;
+    bool isHeard = s_nThrowing > 0;
     try {
         manager.Connect();
         otherwise = work(manager);
+    } catch (const CKvCancelled&) {
+        thrown = std::current_exception();
+        words = kCancelled;
+        isHeard = isHeard || s_nCancelledThrowing > 0;
     } catch (const CKvException& failure) {
         thrown = std::current_exception();
         words = failure.GetErrorMessage(true, true);
     }
     manager.FreeData();
     manager.Disconnect();
-    if (thrown && s_nThrowing > 0) std::rethrow_exception(thrown);
+    if (thrown && isHeard) std::rethrow_exception(thrown);
     if (thrown) CKvLog::Output(words, kLogLevel, false);
     return otherwise;
 }
@@ -324,6 +334,14 @@ kv::db::LookUpsThrow::LookUpsThrow() {
 
 kv::db::LookUpsThrow::~LookUpsThrow() {
     --s_nThrowing;
+}
+
+kv::db::CancelledLookUpsThrow::CancelledLookUpsThrow() {
+    ++s_nCancelledThrowing;
+}
+
+kv::db::CancelledLookUpsThrow::~CancelledLookUpsThrow() {
+    --s_nCancelledThrowing;
 }
 
 std::string CKvDbUtil::S_GetArea(const std::string& areaName, bool abbreviated) {

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "frame/kvcom/cancelled.h"
+#include "frame/kvdbkvn/db_util.h"
 #include "frame/kvdbkvn/tell_failure.h"
 #include "services/kvdbkvn/engines/time_limit.h"
 #include "support/endless_view.h"
@@ -14,8 +15,10 @@
 namespace test {
 namespace {
 
+using testing::AllOf;
 using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::Not;
 
 constexpr const char* kTables = "create table kvt (a text); insert into kvt values ('x');";
 
@@ -136,6 +139,23 @@ TEST_F(StatementWaits, OfACancelledQueryNoMessageTells) {
     EXPECT_THAT(desktop.Messages(), IsEmpty());
     desktop.ExpectMessage("Database error: no such thing\n\nselect 1");
     kv::db::TellFailure(CKvException("no such thing", "select 1"));
+}
+
+TEST_F(StatementWaits, ACancelledLookUpIsLoggedAsSuchAndAnswersAsForNoPlace) {
+    Change(EndlessView("gulf_mexico_connam2", "areaname, stcode, area_abbr", kTextCell));
+    ExpectCancel();
+    EXPECT_EQ(CKvDbUtil::S_GetArea("GREEN CANYON", false), "");
+    EXPECT_THAT(folder.Read("log.txt"),
+                AllOf(HasSubstr("The person cancelled a look-up"), Not(HasSubstr("rror"))));
+}
+
+TEST_F(StatementWaits, ACancelledLookUpThrowsForWhoeverWouldKeepItsAnswerAndAFailedOneDoesNot) {
+    Change(EndlessView("gulf_mexico_connam2", "areaname, stcode, area_abbr", kTextCell));
+    const kv::db::CancelledLookUpsThrow asked;
+    ExpectCancel();
+    EXPECT_THROW(CKvDbUtil::S_GetArea("GREEN CANYON", false), CKvCancelled);
+    CMinMax2Dd_t bounds;
+    EXPECT_FALSE(CKvDbUtil::S_GetLLBoundsOnshore("22109", bounds)) << "there is no such table";
 }
 
 TEST_F(StatementWaits, ATimeLimitStopsAQueryAndTheSessionGoesOn) {
