@@ -2,6 +2,11 @@
 
 #include <QImage>
 #include <QPainter>
+#ifdef __SANITIZE_ADDRESS__
+#include <sanitizer/allocator_interface.h>
+#else
+#include <malloc.h>
+#endif
 #include <cmath>
 #include <memory>
 #include <random>
@@ -10,6 +15,7 @@
 #include "support/small_database.h"
 #include "workbench/map/angle_text.h"
 #include "workbench/map/graticule.h"
+#include "workbench/map/label_art.h"
 #include "workbench/map/label_board.h"
 #include "workbench/map/map_painter.h"
 #include "workbench/map_search.h"
@@ -446,6 +452,29 @@ TEST(MapPainter, PutsANameWhereItCoversNoWell) {
     const ScreenPoint at = view.ToScreen(middle);
     EXPECT_TRUE(Difference(Drawn(model, view, layers), bare)
                     .contains(static_cast<int>(at.x), static_cast<int>(at.y)));
+}
+
+/// Memory that is in use, in bytes.
+double Held() {
+#ifdef __SANITIZE_ADDRESS__
+    return static_cast<double>(__sanitizer_get_current_allocated_bytes());
+#else
+    const auto memory = mallinfo2();
+    return static_cast<double>(memory.uordblks + memory.hblkhd);
+#endif
+}
+
+TEST(LabelArt, KeepsOfALabelLittleMoreThanItsPixels) {
+    LabelArt art;
+    art.SetStyle(QApplication::font(), Qt::black, Qt::white, 1);
+    art.Of("the first one, for which fonts are read");
+    const double before = Held();
+    double pixels = 0;
+    for (int label = 0; label < 200; ++label) {
+        const QSizeF size = art.SizeOf("EUGENE ISLAND " + std::to_string(label));
+        pixels += 4 * size.width() * size.height();
+    }
+    EXPECT_LT(Held() - before, 1.5 * pixels);
 }
 
 TEST_F(SampleMapTest, FromAfarTheLegendTellsTheColorsOfTheWaters) {

@@ -58,7 +58,9 @@ QPixmap LabelArt::Draw(const QString& label) const {
         painter.drawText(at, line);
         baseline += lineHeight;
     }
-    return pixmap;
+    painter.end();
+    // What was painted on keeps all that the painter needed, which is many times its pixels.
+    return pixmap.copy();
 }
 
 }  // namespace workbench

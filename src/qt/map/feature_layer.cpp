@@ -26,6 +26,11 @@ void FeatureLayer::Add(const Point& point) {
 
 void FeatureLayer::Finish() {
     points_.shrink_to_fit();
+    pointStarts_.shrink_to_fit();
+    labels_.shrink_to_fit();
+    labelStarts_.shrink_to_fit();
+    kinds_.shrink_to_fit();
+    boxes_.shrink_to_fit();
     bounds_ = {};
     for (const Box& box : boxes_)
         bounds_.Include(box);
