@@ -28,8 +28,9 @@ const Column kOperator = Text("operator", 60);
 const Column kLeaseNumber = Text("lease_no", 12);
 const Column kApiNumber = Text("api_no", 12);
 const Column kWaterDepth = Whole("water_depth");
-/// The block's label as the block queries look it up.
-constexpr const char* kByLabel = "(coalesce(lbnum, '') || coalesce(lbext, ''))";
+/// The area and the block's label as the block queries look it up: a label alone stands for more
+/// blocks, the more areas there are.
+constexpr const char* kByLabel = "areacode, (coalesce(lbnum, '') || coalesce(lbext, ''))";
 constexpr const char* kByBlock = "areacode, lbnum, lbext";
 
 const std::vector<Table>& All() {
