@@ -34,6 +34,10 @@ constexpr std::chrono::milliseconds kLongestLock{5000};
 /// Steps of SQLite's machine after which it asks whether a statement is to go on: they take far
 /// less than a millisecond.
 constexpr int kStepsBetweenQuestions = 4000;
+/// A list of distinct values is read from one page for each of them, and the two megabytes that are
+/// usual do not hold those of a large table. With more than this, what is sorted at a stretch would
+/// take too long for a person who cancels.
+constexpr const char* kKeepPages = "pragma cache_size=-4096";
 constexpr std::size_t kMostKept = 8;
 constexpr std::size_t kLongestKept = 4096;
 
@@ -179,6 +183,7 @@ private:
     void LookAtFile() {
         try {
             Run("select 1 from sqlite_master limit 1");
+            Run(kKeepPages);
         } catch (const CKvException&) {
             if (sqlite3_errcode(database_.get()) != SQLITE_BUSY) throw;
         }
