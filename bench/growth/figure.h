@@ -45,14 +45,18 @@ inline double Median(std::vector<double> values) {
     return *middle;
 }
 
-/// What the work takes, in seconds; the first time is left out.
+/// What the work takes, in seconds; the first time is left out. Work that is short is done more
+/// often, so that a moment in which the machine is busy with something else counts for nothing.
 template <typename Work>
-double Time(int times, const Work& work) {
+double Time(int least, const Work& work) {
+    constexpr double kLeastTime = 0.3;
+    work();
     std::vector<double> taken;
-    for (int i = 0; i <= times; ++i) {
+    const Watch all;
+    while (static_cast<int>(taken.size()) < least || all.Seconds() < kLeastTime) {
         const Watch watch;
         work();
-        if (i > 0) taken.push_back(watch.Seconds());
+        taken.push_back(watch.Seconds());
     }
     return Median(std::move(taken));
 }

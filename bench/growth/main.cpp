@@ -5,11 +5,13 @@
 #include <unistd.h>
 
 #include <array>
+#include <cmath>
 #include <cstdlib>
 #include <filesystem>
-#include <memory>
+#include <limits>
 #include <sstream>
 #include <stdexcept>
+#include <utility>
 
 #include "growth/dialogs.h"
 #include "growth/figure.h"
@@ -38,10 +40,18 @@ fs::path Program(const char* name) {
 
 /// The same figure at each size.
 struct Row {
+    explicit Row(Figure figure) : first(std::move(figure)) {
+        values.fill(std::numeric_limits<double>::quiet_NaN());
+        answers = values;
+    }
     Figure first;
+    /// Not a number where it could not be measured.
     std::array<double, kScales.size()> values{};
     std::array<double, kScales.size()> answers{};
 
+    bool IsWhole() const {
+        return std::ranges::none_of(values, [](double value) { return std::isnan(value); });
+    }
     double Growth() const { return values.back() / values.front(); }
     double MostGrowth() const {
         return kMostGrowth * std::max(1.0, answers.back() / answers.front());
@@ -59,11 +69,11 @@ public:
     void Add(std::size_t scale, const Figure& figure) {
         const auto at = std::find_if(rows_.begin(), rows_.end(),
                                      [&](const Row& row) { return row.first.name == figure.name; });
-        Row& row = at == rows_.end() ? rows_.emplace_back(Row{figure}) : *at;
+        Row& row = at == rows_.end() ? rows_.emplace_back(figure) : *at;
         row.values[scale] = figure.value;
         row.answers[scale] = figure.answer;
     }
-    /// False where something is above its bound.
+    /// False where something is above its bound, or was not measured.
     bool Print() const {
         bool within = true;
         std::printf("%-52s%11s%11s%11s%9s%12s\n", "", "1", "3", "10", "growth", "bound");
@@ -71,6 +81,11 @@ public:
             std::printf("%-52s", row.first.name.c_str());
             for (const double value : row.values)
                 std::printf("%11s", Text(row, value).c_str());
+            if (!row.IsWhole()) {
+                std::printf("%9s%12s  NOT MEASURED\n", "", "");
+                within = false;
+                continue;
+            }
             const bool isAbove = row.IsAbove();
             std::printf("%9.2f%12s%s\n", row.Growth(), BoundOf(row).c_str(),
                         isAbove ? "  ABOVE" : "");
@@ -81,6 +96,7 @@ public:
 
 private:
     static std::string Text(const Row& row, double value) {
+        if (std::isnan(value)) return "-";
         std::array<char, 32> text{};
         std::snprintf(text.data(), text.size(), row.first.isMemory ? "%.0f MiB" : "%.4g ms",
                       row.first.isMemory ? value : value * 1000);
@@ -96,17 +112,18 @@ private:
     std::vector<Row> rows_;
 };
 
-/// Runs a program whose lines are figures.
-void TakeFigures(const std::string& command, std::size_t scale, Table& table) {
-    const std::unique_ptr<FILE, int (*)(FILE*)> lines(popen(command.c_str(), "r"), pclose);
+/// Runs a program whose lines are figures. False where it failed.
+bool TakeFigures(const std::string& command, std::size_t scale, Table& table) {
+    FILE* lines = popen(command.c_str(), "r");
     std::array<char, 512> text{};
-    while (lines && std::fgets(text.data(), text.size(), lines.get())) {
+    while (lines && std::fgets(text.data(), text.size(), lines)) {
         std::istringstream line(text.data());
         Figure figure;
         std::getline(line, figure.name, '\t');
         if (line >> figure.value >> figure.isMemory >> figure.answer >> figure.most)
             table.Add(scale, figure);
     }
+    return lines && pclose(lines) == 0;
 }
 
 void RunFailing(const std::string& command) {
@@ -135,13 +152,17 @@ void Build(std::size_t scale, const fs::path& file, Table& table) {
               {"sampledata: memory", static_cast<double>(usage.ru_maxrss) / 1024, true, answer});
 }
 
-void MeasureSize(std::size_t scale, const fs::path& folder, Table& table) {
+/// False where some of it failed.
+bool MeasureSize(std::size_t scale, const fs::path& folder, Table& table) {
     const fs::path file = folder / (std::to_string(kScales[scale]) + ".db");
     Build(scale, file, table);
     const std::string server = " 'sqlite:" + file.string() + "'";
-    TakeFigures("'" + Program("kv_growth").string() + "' --measure" + server, scale, table);
-    TakeFigures("'" + Program("kv_growth_workbench").string() + "'" + server, scale, table);
+    const bool dialogs =
+        TakeFigures("'" + Program("kv_growth").string() + "' --measure" + server, scale, table);
+    const bool workbench =
+        TakeFigures("'" + Program("kv_growth_workbench").string() + "'" + server, scale, table);
     fs::remove(file);
+    return dialogs && workbench;
 }
 
 void Print(const char* who, const test::ManyUsers& users, std::chrono::seconds time) {
@@ -172,10 +193,11 @@ bool MeasureManyUsers() {
 bool Compare(const fs::path& folder) {
     fs::create_directories(folder);
     Table table;
+    bool whole = true;
     for (std::size_t scale = 0; scale < kScales.size(); ++scale)
-        MeasureSize(scale, fs::absolute(folder), table);
+        whole = MeasureSize(scale, fs::absolute(folder), table) && whole;
     const bool within = table.Print();
-    return MeasureManyUsers() && within;
+    return MeasureManyUsers() && within && whole;
 }
 
 }  // namespace
@@ -184,8 +206,7 @@ int main(int count, char** arguments) {
     const std::string first = count > 1 ? arguments[1] : "";
     try {
         if (count == 3 && first == "--measure") {
-            growth::MeasureDialogs(arguments[2]);
-            return 0;
+            return growth::MeasureDialogs(arguments[2]) ? 0 : 1;
         }
         if (count == 2) return Compare(first) ? 0 : 1;
         std::fputs("usage: kv_growth FOLDER\n       kv_growth --measure SERVER\n", stderr);
