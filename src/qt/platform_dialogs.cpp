@@ -7,8 +7,10 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPageSetupDialog>
+#include <QPlainTextEdit>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -16,6 +18,7 @@
 #include "qt/drawing/text.h"
 #include "qt/peers/acting.h"
 #include "qt/peers/peer.h"
+#include "qt/peers/window_peers.h"
 #include "window/dialogs/file_dialog.h"
 #include "window/dialogs/print_dialog.h"
 #include "window/window_system.h"
@@ -26,6 +29,7 @@ namespace kv::qt {
 namespace {
 
 constexpr double kTenthMmPerMm = 10;
+constexpr int kLongTextWidth = 500;
 
 /// The window that a dialog opens over.
 QWidget* ParentFor(const CWnd* parent) {
@@ -72,6 +76,25 @@ QMessageBox::Icon IconOfType(UINT type) {
         default:
             return QMessageBox::NoIcon;
     }
+}
+
+/// A text that may leave no room for the buttons, such as a statement that failed, scrolls.
+void LetLongTextScroll(QMessageBox& box) {
+    auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+    if (!label || !box.layout()) return;
+    const QSize room = RoomOn(*box.screen()).size();
+    const QSize most(std::min(kLongTextWidth, room.width() / 2), room.height() / 2);
+    const QRect wanted =
+        label->fontMetrics().boundingRect(QRect(0, 0, most.width(), QWIDGETSIZE_MAX),
+                                          Qt::TextWordWrap | Qt::TextWrapAnywhere, box.text());
+    if (wanted.height() <= most.height()) return;
+    auto* text = new QPlainTextEdit(box.text(), &box);
+    text->setReadOnly(true);
+    text->setTabChangesFocus(true);
+    text->setAccessibleName(box.windowTitle());
+    text->setMinimumSize(most);
+    delete box.layout()->replaceWidget(label, text);
+    label->hide();
 }
 
 /// A line of the list of types in Qt's form: the words, and the patterns in brackets.
@@ -165,6 +188,7 @@ int ShowMessageBox(const MessageBoxRequest& request) {
     box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     box.setIcon(IconOfType(request.type));
     box.setStandardButtons(ButtonsOf(request.type));
+    LetLongTextScroll(box);
     const int pressed = box.exec();
     for (const auto& [button, id] : kButtons) {
         if (button == pressed) return id;

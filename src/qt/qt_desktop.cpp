@@ -9,7 +9,6 @@
 #include <QMainWindow>
 #include <QPrinterInfo>
 #include <QScreen>
-#include <algorithm>
 #include <cmath>
 #include <vector>
 
@@ -92,16 +91,8 @@ public:
     }
 
     CRect ScreenAround(CPoint at) const override {
-        const QPoint place = CurrentScale().ToScreen(at);
-        const auto farFrom = [&place](const QScreen* screen) {
-            const QRect area = screen->geometry();
-            const int across = std::max({area.left() - place.x(), place.x() - area.right(), 0});
-            const int down = std::max({area.top() - place.y(), place.y() - area.bottom(), 0});
-            return across + down;
-        };
-        const QList<QScreen*> screens = QGuiApplication::screens();
-        const auto nearest = std::ranges::min_element(screens, {}, farFrom);
-        return nearest == screens.end() ? CRect{} : CurrentScale().ToLogical(RoomOn(**nearest));
+        const QScreen* screen = qt::ScreenAround(CurrentScale().ToScreen(at));
+        return screen ? CurrentScale().ToLogical(RoomOn(*screen)) : CRect{};
     }
 
     void RunUntilEnded(Node& window) {

@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QImage>
 #include <QLabel>
+#include <QScreen>
 
 #include "controls/static.h"
 #include "drawing/new_line_ctrl_dlg.h"
@@ -11,6 +12,7 @@
 #include "drawing/swatches/palette_ids.h"
 #include "drawing/swatches/symbol_button.h"
 #include "frame/module.h"
+#include "larger_font.h"
 #include "qt_fixture.h"
 #include "window/controls/edit.h"
 #include "window/mnemonics.h"
@@ -151,6 +153,40 @@ TEST_F(DrawingView, ThePaletteShowsFortyColorsAndBehindMoreAllOfThem) {
     });
     Click(11);
     EXPECT_EQ(swatch.GetCWTValue(), 40);
+}
+
+TEST_F(DrawingView, APaletteLargerThanTheScreenScrollsToTheCellThatTheArrowsReach) {
+    const test::LargerFont larger(3);
+    ShowSwatch();
+    const auto look = [](const char* when, int cell) {
+        const kv::Node& palette = *kv::WindowSystem::Get().Modals().back();
+        const QWidget* window = kv::qt::WidgetOf(palette);
+        const QWidget* shown = kv::qt::WidgetOf(*palette.FindChild(kv::palettes::kGridCell + cell));
+        EXPECT_TRUE(window->screen()->availableGeometry().contains(window->frameGeometry()))
+            << when;
+        EXPECT_EQ(QApplication::focusWidget(), shown) << when;
+        EXPECT_EQ(shown->visibleRegion().boundingRect(), shown->rect()) << when;
+    };
+    const auto press = [](Qt::Key key) {
+        QTest::keyClick(QApplication::focusWidget(), key);
+        Process();
+    };
+    Then([&] {
+        kv::Node& more = *kv::WindowSystem::Get().Modals().back()->FindChild(kv::palettes::kMore);
+        QTest::mouseClick(kv::qt::WidgetOf(more), Qt::LeftButton);
+        Process();
+        look("at the start", 9);
+        press(Qt::Key_End);
+        look("at the end", 255);
+        for (int i = 0; i < 15; ++i)
+            press(Qt::Key_Left);
+        look("in the last row", 240);
+        press(Qt::Key_Up);
+        look("in the row above", 224);
+        press(Qt::Key_Return);
+    });
+    Click(11);
+    EXPECT_EQ(swatch.GetCWTValue(), 224);
 }
 
 TEST_F(DrawingView, ASwatchIsReadOutByItsLabelAndTellsItsColor) {

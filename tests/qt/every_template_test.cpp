@@ -6,6 +6,7 @@
 #include <set>
 
 #include "dark_palette.h"
+#include "larger_font.h"
 #include "qt_fixture.h"
 #include "window/controls/button_node.h"
 #include "window/dialog_keys.h"
@@ -65,7 +66,7 @@ int ChangedPixels(const QImage& before, const QImage& after) {
     return changed;
 }
 
-/// The application's palette or font as long as it lives.
+/// The application's palette as long as it lives.
 class OtherPalette {
 public:
     explicit OtherPalette(const QPalette& palette) { QApplication::setPalette(palette); }
@@ -73,18 +74,6 @@ public:
 
 private:
     QPalette former_ = QApplication::palette();
-};
-class LargerFont {
-public:
-    explicit LargerFont(double factor) {
-        QFont larger = former_;
-        larger.setPointSizeF(former_.pointSizeF() * factor);
-        QApplication::setFont(larger);
-    }
-    ~LargerFont() { QApplication::setFont(former_); }
-
-private:
-    QFont former_ = QApplication::font();
 };
 
 /// A dialog of the library, or of its bars, with nothing in it but its template.
@@ -206,13 +195,13 @@ TEST_P(EveryTemplate, ShowsWhereTheFocusIsAfterEachTab) {
         const OtherPalette dark(test::DarkPalette());
         ExpectToSeeEachTab("dark");
     }
-    const LargerFont twice(2);
+    const test::LargerFont twice(2);
     ExpectToSeeEachTab("twice the size");
 }
 
 TEST_P(EveryTemplate, IsNotLargerThanTheScreenAndTabBringsEachControlIntoSight) {
     for (const double factor : {1.0, 2.0, 4.0}) {
-        const LargerFont font(factor);
+        const test::LargerFont font(factor);
         Process();
         const QSize screen = Window()->screen()->availableSize();
         EXPECT_LE(Window()->frameSize().width(), screen.width()) << factor;

@@ -1,5 +1,6 @@
 #include <QLabel>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
@@ -134,6 +135,25 @@ TEST_F(Windows, TheTextOfAMessageBoxCanBeSelected) {
     AfxMessageBox("Copy me");
 }
 
+TEST_F(Windows, ATextLongerThanTheScreenScrollsInItsMessageBox) {
+    std::string words = "Not found";
+    for (int i = 0; i < 3000; ++i)
+        words += (i % 50 ? "," : "\n") + std::to_string(i);
+    Then([&] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        Process();
+        EXPECT_TRUE(box->screen()->availableGeometry().contains(box->frameGeometry()));
+        const auto* text = box->findChild<QPlainTextEdit*>();
+        EXPECT_TRUE(text && text->verticalScrollBar()->isVisible());
+        EXPECT_EQ(text ? text->toPlainText().toStdString() : "", words);
+        QAbstractButton* ok = box->button(QMessageBox::Ok);
+        EXPECT_EQ(ok->visibleRegion().boundingRect(), ok->rect());
+        EXPECT_TRUE(ok->hasFocus()) << "Enter ends it at once";
+        QTest::keyClick(ok, Qt::Key_Return);
+    });
+    EXPECT_EQ(AfxMessageBox(words.c_str()), IDOK);
+}
+
 TEST_F(Windows, AMessageBoxInAFocusLostHandlerSwallowsTheClickThatCausedIt) {
     Show({At(11, kEdit, 7), At(12, kEdit, 24), At(20, kPushButton, 41, "Go")});
     int shown = 0;
@@ -249,6 +269,58 @@ TEST_F(Windows, MovingTheWindowIsKnownToTheNode) {
     dialog.SetWindowPos(nullptr, 10, 10, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
     EXPECT_NE(Window()->pos(), at);
     EXPECT_EQ(dialog.m_hWnd->Rect().left, 10);
+}
+
+// Windows at the edges of the screen.
+
+class AtTheEdge : public test::QtDialogTest {
+protected:
+    bool IsOnScreen() {
+        const QRect screen = Window()->screen()->availableGeometry();
+        return screen.contains(Window()->frameGeometry());
+    }
+    void MoveTo(CPoint at) {
+        dialog.SetWindowPos(nullptr, at.x, at.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+        Process();
+    }
+};
+
+TEST_F(AtTheEdge, AWindowThatTheProgramMovesBeyondItStaysOnTheScreen) {
+    Show({At(11, kEdit, 7)});
+    for (const CPoint far : {CPoint{-5000, 100}, CPoint{100, -5000}, CPoint{5000, 100},
+                             CPoint{100, 5000}, CPoint{0, 0}}) {
+        SCOPED_TRACE(testing::Message() << far.x << ", " << far.y);
+        MoveTo(far);
+        EXPECT_TRUE(IsOnScreen());
+        EXPECT_EQ(dialog.m_hWnd->Rect().TopLeft(), far) << "to the layer it is as it was told";
+    }
+}
+
+TEST_F(AtTheEdge, AWindowThatGrowsThereStaysOnTheScreen) {
+    Show({At(11, kEdit, 7)});
+    MoveTo({5000, 5000});
+    const QSize before = Window()->size();
+    CRect place = dialog.m_hWnd->Rect();
+    place.right += 100;
+    place.bottom += 100;
+    dialog.MoveWindow(place);
+    Process();
+    EXPECT_GT(Window()->width(), before.width());
+    EXPECT_TRUE(IsOnScreen());
+}
+
+TEST_F(AtTheEdge, AWindowThatAPersonDraggedBeyondItIsLeftThereUntilItIsShownAgain) {
+    Show({At(11, kEdit, 7)});
+    const QPoint far = Window()->screen()->availableGeometry().bottomRight() - QPoint(20, 10);
+    Window()->move(far);
+    Process();
+    EXPECT_EQ(Window()->pos(), far);
+    EXPECT_EQ(dialog.m_hWnd->Rect().TopLeft(),
+              kv::qt::CurrentScale().ToLogical(Window()->geometry().topLeft()));
+    dialog.ShowWindow(SW_HIDE);
+    dialog.ShowWindow(SW_SHOW);
+    Process();
+    EXPECT_TRUE(IsOnScreen());
 }
 
 TEST_F(Windows, AnyPlaceHasAScreenAroundIt) {
@@ -397,6 +469,16 @@ TEST_F(LargeDialogs, IsAsLargeAsTheScreenAndScrolls) {
     EXPECT_EQ(dialog.m_hWnd->Rect().Width(), 3000) << "to the layer it is as large as ever";
 }
 
+TEST_F(LargeDialogs, StandsOnTheScreenWhereverItIsMoved) {
+    ShowLarge(2000, 2000);
+    for (const CPoint at : {CPoint{100, 100}, CPoint{-1000, -1000}, CPoint{1000, 1000}}) {
+        dialog.SetWindowPos(nullptr, at.x, at.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+        Process();
+        const QRect screen = Window()->screen()->availableGeometry();
+        EXPECT_TRUE(screen.contains(Window()->frameGeometry())) << at.x;
+    }
+}
+
 TEST_F(LargeDialogs, OneThatIsOnlyTooHighGrowsByTheScrollBar) {
     ShowLarge(200, 2000);
     EXPECT_NE(Bar(Qt::Vertical), nullptr);
@@ -462,6 +544,34 @@ TEST_F(LargeDialogs, ItsPictureIsThatOfTheWhole) {
     const QImage picture(QString::fromStdString(path));
     EXPECT_EQ(picture.width(), kv::qt::CurrentScale().ToScreen(CSize{3000, 0}).width() *
                                    Window()->devicePixelRatio());
+}
+
+/// With a smaller screen to the right, as `two_screens.json` has it.
+class OnTwoScreens : public LargeDialogs {
+protected:
+    void SetUp() override {
+        if (QGuiApplication::screens().size() < 2) GTEST_SKIP() << "there is one screen";
+    }
+    /// Moves the dialog to the left top of that screen.
+    void MoveTo(const QScreen& screen) {
+        const CPoint at = kv::qt::CurrentScale().ToLogical(screen.geometry().topLeft());
+        dialog.SetWindowPos(nullptr, at.x + 50, at.y + 50, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+        Process();
+    }
+};
+
+TEST_F(OnTwoScreens, ADialogScrollsWhereItsScreenIsTooSmall) {
+    const QScreen& large = *QGuiApplication::screens().at(0);
+    const QScreen& small = *QGuiApplication::screens().at(1);
+    ShowLarge(200, 250);
+    MoveTo(large);
+    EXPECT_EQ(Bar(Qt::Vertical), nullptr);
+    MoveTo(small);
+    EXPECT_NE(Bar(Qt::Vertical), nullptr);
+    EXPECT_TRUE(small.availableGeometry().contains(Window()->frameGeometry()));
+    MoveTo(large);
+    EXPECT_EQ(Bar(Qt::Vertical), nullptr);
+    EXPECT_TRUE(large.availableGeometry().contains(Window()->frameGeometry()));
 }
 
 // Texts of labels and frames.

@@ -12,6 +12,7 @@
 #include <QStyle>
 #include <QToolBar>
 #include <algorithm>
+#include <utility>
 
 #include "qt/drawing/paint.h"
 #include "qt/drawing/text.h"
@@ -56,6 +57,13 @@ void BringIntoView(QScrollArea& area, const QWidget* widget) {
     area.ensureVisible(place.left(), place.top(), kSightMargin, kSightMargin);
 }
 
+/// Where the corner of a window lies for all of it to be in the room, or at least that corner.
+QPoint KeptIn(const QRect& room, const QRect& window) {
+    const QPoint farthest = room.bottomRight() - window.bottomRight() + window.topLeft();
+    return {std::max(room.left(), std::min(window.left(), farthest.x())),
+            std::max(room.top(), std::min(window.top(), farthest.y()))};
+}
+
 void FollowFocus(QScrollArea& area) {
     QObject::connect(qApp, &QApplication::focusChanged, &area,
                      [&area](QWidget*, const QWidget* now) { BringIntoView(area, now); });
@@ -67,28 +75,35 @@ class WindowView : public Base {
 public:
     WindowView(Node& node, QWidget* owner) : Base(owner), node_(node.weak_from_this()) {}
 
+    /// Takes the node's place, as far as it lies on a screen. A place that the window was dragged
+    /// to is left alone.
     void Place(const CRect& rect, bool fixedSize) {
-        mirroring_ = true;
+        const bool dragged = std::exchange(mirroring_, true);
         const Scale scale = CurrentScale();
-        const QRect place(scale.ToScreen(rect).topLeft(), SizeFor(scale.ToScreen(rect).size()));
+        const QRect contents = scale.ToScreen(rect);
+        const QScreen* screen = ScreenAround(contents.center());
+        const QRect room = screen ? RoomOn(*screen) : contents;
+        const QSize size = SizeFor(contents.size(), room.size());
         // A place that is only rounded otherwise is the same one.
         const CRect stands = scale.ToLogical(ClientPlace());
         if (fixedSize) {
-            this->setFixedSize(place.size());
+            this->setFixedSize(size);
         } else if (!placed_ || stands.Size() != rect.Size()) {
-            this->resize(place.size());
+            this->resize(size);
         }
-        if (!placed_ || stands.TopLeft() != rect.TopLeft()) {
-            const QPoint frame = this->geometry().topLeft() - this->pos();
-            this->move(place.topLeft() - frame);
-        }
+        const QPoint inFrame = this->geometry().topLeft() - this->pos();
+        const QPoint corner = KeptIn(room, QRect(contents.topLeft() - inFrame, size));
+        const bool moved = stands.TopLeft() != scale.ToLogical(corner + inFrame);
+        if (!placed_ || (moved && !dragged)) this->move(corner);
         placed_ = true;
-        mirroring_ = false;
+        mirroring_ = dragged;
     }
 
 protected:
-    /// The window's size for contents of that size.
-    virtual QSize SizeFor(const QSize& contents) const { return contents; }
+    /// The window's size for contents of that size, on a screen with that room.
+    virtual QSize SizeFor(const QSize& contents, const QSize& room) const {
+        return contents.boundedTo(room);
+    }
     /// What the contents lie on.
     virtual QWidget* Body() { return this; }
 
@@ -209,8 +224,7 @@ public:
 
 protected:
     /// With room for the scroll bar of the other direction.
-    QSize SizeFor(const QSize& contents) const override {
-        const QSize room = RoomOn(*screen()).size();
+    QSize SizeFor(const QSize& contents, const QSize& room) const override {
         const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
         QSize size = contents;
         if (contents.height() > room.height()) size.rwidth() += bar;
@@ -327,6 +341,18 @@ Qt::ToolBarAreas AreasOf(DWORD sides) {
 
 }  // namespace
 
+const QScreen* ScreenAround(const QPoint& at) {
+    const auto farFrom = [&at](const QScreen* screen) {
+        const QRect area = screen->geometry();
+        const int across = std::max({area.left() - at.x(), at.x() - area.right(), 0});
+        const int down = std::max({area.top() - at.y(), at.y() - area.bottom(), 0});
+        return across + down;
+    };
+    const QList<QScreen*> screens = QGuiApplication::screens();
+    const auto nearest = std::ranges::min_element(screens, {}, farFrom);
+    return nearest == screens.end() ? nullptr : *nearest;
+}
+
 QRect RoomOn(const QScreen& screen) {
     const QStyle& style = *QApplication::style();
     const int title = style.pixelMetric(QStyle::PM_TitleBarHeight);
@@ -351,6 +377,8 @@ QWidget* DialogPeer::ChildHost() {
 void DialogPeer::ShowVisible() {
     const bool visible = GetNode().Visible();
     if (visible == Widget()->isVisible()) return;
+    // It may have been dragged beyond an edge, or the screen is another one.
+    if (visible) ShowRect();
     Widget()->setVisible(visible);
     if (visible) ComeUp(GetNode(), *Widget());
 }

@@ -8,6 +8,8 @@ class QScreen;
 
 namespace kv::qt {
 
+/// The screen that a place lies on, or else the nearest one; null where there is none.
+const QScreen* ScreenAround(const QPoint& at);
 /// What a screen has for the contents of a window, whose frame is around them.
 QRect RoomOn(const QScreen& screen);
 
