@@ -8,6 +8,7 @@
 #include "window/controls/edit.h"
 #include "window/controls/list_box.h"
 #include "window/dialogs/dialog.h"
+#include "window/named.h"
 
 namespace kv::vertices {
 struct Pair;
@@ -112,6 +113,12 @@ protected:
         LRESULT OnPaste(WPARAM wParam, LPARAM lParam);
     };
 
+    /// Read out as what its rows are: the labels ahead of it are those of the boxes.
+    class List : public CListBox, public kv::Named {
+    public:
+        std::string SpokenName() const override { return "Vertices"; }
+    };
+
     Box m_editLonSecond;
     Box m_editLonMinute;
     Box m_editLonDegree;
@@ -120,7 +127,7 @@ protected:
     Box m_editLatDegree;
     Box m_editY;
     Box m_editX;
-    CListBox m_listXY;
+    List m_listXY;
     double m_dX = 0.0;
     double m_dY = 0.0;
     double m_dLatDegree = 0.0;

@@ -44,14 +44,18 @@ std::size_t PlaceAmongSiblings(const Node& node) {
     return static_cast<std::size_t>(at - siblings.begin());
 }
 
-/// Whether a label stands close behind a spin button.
+/// Whether a label stands close behind a spin button, or as a letter, such as D for degrees, closer
+/// behind an edit.
 bool IsUnit(const Node& label, const Node& ahead) {
     constexpr int kMostGap = 12;
-    const CRect& spin = ahead.Rect();
+    constexpr int kMostGapOfLetter = 4;
+    const bool letter = ahead.Class() == NodeClass::kEdit && label.Text().size() == 1;
+    if (ahead.Class() != NodeClass::kSpin && !letter) return false;
+    const CRect& number = ahead.Rect();
     const CRect& text = label.Rect();
-    const int gap = text.left - spin.right;
-    return ahead.Class() == NodeClass::kSpin && gap >= 0 && gap <= kMostGap &&
-           text.top < spin.bottom && text.bottom > spin.top;
+    const int gap = text.left - number.right;
+    return gap >= 0 && gap <= (letter ? kMostGapOfLetter : kMostGap) && text.top < number.bottom &&
+           text.bottom > number.top;
 }
 
 /// Of what is seen, or hidden, together with a label. Null where the label is no name of a field: a
@@ -145,9 +149,9 @@ Node* FieldOf(const Node& label) {
     if (label.Class() != NodeClass::kStatic || !label.Parent()) return nullptr;
     const auto& siblings = label.Parent()->Children();
     const std::size_t own = PlaceAmongSiblings(label);
-    const bool unit = own > 1 && IsUnit(label, *siblings[own - 1]);
-    if (unit) return IsField(*siblings[own - 2]) ? siblings[own - 2].get() : nullptr;
-    return FieldBehind(label);
+    if (own == 0 || !IsUnit(label, *siblings[own - 1])) return FieldBehind(label);
+    if (siblings[own - 1]->Class() != NodeClass::kSpin) return siblings[own - 1].get();
+    return own > 1 && IsField(*siblings[own - 2]) ? siblings[own - 2].get() : nullptr;
 }
 
 void GiveMnemonics(Node& dialog) {

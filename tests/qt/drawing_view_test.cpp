@@ -11,6 +11,8 @@
 #include "drawing/swatches/line_button.h"
 #include "drawing/swatches/palette_ids.h"
 #include "drawing/swatches/symbol_button.h"
+#include "drawing/vertice_builder.h"
+#include "drawing/vertice_builder_ids.h"
 #include "frame/module.h"
 #include "larger_font.h"
 #include "qt_fixture.h"
@@ -196,6 +198,14 @@ TEST_F(DrawingView, ASwatchIsReadOutByItsLabelAndTellsItsColor) {
     swatch.SetEventType(E_EVENT_CELL);
     swatch.SetChange(0);
     EXPECT_EQ(WidgetOf(11)->accessibleName(), QStringLiteral("Color 1, black"));
+}
+
+TEST_F(DrawingView, TheListOfVerticesGoesByWhatItsRowsAre) {
+    CKvGuiVerticeBuilder builder;
+    ASSERT_TRUE(builder.Create(kv::vertice_builder::kTemplate));
+    const QWidget* list = kv::qt::WidgetOf(*builder.m_hWnd->FindChild(kv::vertice_builder::kRows));
+    EXPECT_EQ(list->accessibleName(), QStringLiteral("Vertices"));
+    builder.DestroyWindow();
 }
 
 TEST_F(DrawingView, AControlThatJoinsItsLabelLaterGoesByIt) {

@@ -99,6 +99,22 @@ TEST_F(Mnemonics, AUnitIsNoLabelOfTheFieldBehindIt) {
     });
 }
 
+TEST_F(Mnemonics, ALetterCloseBehindANumberIsItsUnit) {
+    const std::vector<kv::ControlRow> rows{
+        {40, kLabel, "Latitude", {0, 0, 40, 8}}, {11, kEdit, "", {44, 0, 20, 12}},
+        {41, kLabel, "D", {66, 0, 8, 8}},        {12, kEdit, "", {76, 0, 20, 12}},
+        {42, kLabel, "M", {98, 0, 8, 8}},        {43, kLabel, "X", {0, 20, 8, 8}},
+        {13, kEdit, "", {10, 20, 20, 12}},       {44, kLabel, "Y", {40, 20, 8, 8}},
+        {14, kEdit, "", {50, 20, 20, 12}}};
+    EXPECT_THAT(LettersOf(rows), ElementsAre(Pair(40, 'L'), Pair(43, 'X'), Pair(44, 'Y')));
+    Open(rows, [&](kv::User&) {
+        EXPECT_EQ(kv::FieldOf(NodeOf(40)), &NodeOf(11));
+        EXPECT_EQ(kv::FieldOf(NodeOf(41)), &NodeOf(11));
+        EXPECT_EQ(kv::FieldOf(NodeOf(42)), &NodeOf(12));
+        EXPECT_EQ(kv::FieldOf(NodeOf(44)), &NodeOf(14));
+    });
+}
+
 TEST_F(Mnemonics, LettersThatBeginWordsComeFirst) {
     EXPECT_THAT(LettersOf({Row(20, kPushButton, "Add ->"), Row(21, kPushButton, "Apply Now"),
                            Row(22, kPushButton, "<- about")}),

@@ -65,19 +65,21 @@ auto PlaceOf(const Node& node) {
                         [&](const auto& each) { return each.get() == &node; });
 }
 
-/// Whether a label is the unit of the number that the spin button ahead of it steps.
+/// Whether a label is the unit of the number ahead of it, or of what the spin button there steps.
 bool IsUnit(const Node& label, const Node& ahead) {
+    if (ahead.Class() == NodeClass::kEdit) return FieldOf(label) == &ahead;
     return ahead.Class() == NodeClass::kSpin && TextBeside(ahead) == &label;
 }
 
-/// The unit behind a spin button, or behind a control that has one; null for none.
+/// The unit behind a number or a spin button; null for none.
 const Node* UnitOf(const Node& node) {
     const auto end = node.Parent()->Children().end();
     auto at = PlaceOf(node);
     if (at != end && node.Class() != NodeClass::kSpin) ++at;
-    const Node* spin = at == end ? nullptr : at->get();
-    if (!spin || spin->Class() != NodeClass::kSpin) return nullptr;
-    const Node* unit = TextBeside(*spin);
+    const Node* behind = at == end ? nullptr : at->get();
+    if (behind && IsLabel(*behind) && IsUnit(*behind, node)) return behind;
+    if (!behind || behind->Class() != NodeClass::kSpin) return nullptr;
+    const Node* unit = TextBeside(*behind);
     return unit && IsLabel(*unit) ? unit : nullptr;
 }
 

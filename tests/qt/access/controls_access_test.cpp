@@ -163,6 +163,19 @@ TEST_F(ControlsAccess, AFieldGoesByItsUnitAndACheckByTheTextBesideIt) {
     EXPECT_THAT(Related(*Of(20), QAccessible::Labelled), ElementsAre(Of(30)));
 }
 
+TEST_F(ControlsAccess, TheBoxesOfAnAngleGoByItsLabelAndTheLettersBehindThem) {
+    Show({{10, kLabel, "Latitude:", {7, 7, 40, 8}},
+          {11, kEdit, "", {50, 5, 30, 12}},
+          {12, kLabel, "D", {82, 7, 7, 8}},
+          {13, kEdit, "", {90, 5, 30, 12}},
+          {14, kLabel, "M", {122, 7, 7, 8}},
+          {15, kEdit, "", {130, 5, 30, 12}},
+          {16, kLabel, "S", {162, 7, 7, 8}}});
+    EXPECT_EQ(Of(11)->text(QAccessible::Name), "Latitude D");
+    EXPECT_EQ(Of(13)->text(QAccessible::Name), "Latitude M");
+    EXPECT_EQ(Of(15)->text(QAccessible::Name), "Latitude S");
+}
+
 TEST_F(ControlsAccess, TheEditOfAComboBoxGoesByTheLabelOfTheBox) {
     Show({At(10, kLabel, 7, "&Area:"), At(12, kDropDown, 20)});
     QAccessibleInterface* edit = test::ChildOfRole(Of(12), QAccessible::EditableText);
