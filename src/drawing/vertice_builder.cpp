@@ -268,6 +268,7 @@ void CKvGuiVerticeBuilder::OnButtonInsertPt() {
     ResetXYContent();
     MoveFocusTo(m_editX, false);
     OnSelchangeLISTXYPos();
+    SetHightLight(&m_editX);
     EnableButton(kAdd, FALSE);
     EnableButton(kInsert, FALSE);
 }
@@ -277,7 +278,7 @@ void CKvGuiVerticeBuilder::OnButtonEditPt() {
     if (m_bEditing) {
         OnButtonAddPt();
     } else {
-        MoveFocusTo(m_bXYMode ? m_editX : m_editLatDegree, false);
+        MoveFocusTo(m_bXYMode ? m_editX : m_editLatDegree, true);
     }
     // What an added row has cleared is set again.
     m_bEditing = !m_bEditing;
@@ -462,7 +463,7 @@ void CKvGuiVerticeBuilder::OnRadioXyMode() {
     m_bXYMode = m_bXYMode || converted;
     ShowMode();
     if (!converted) return;
-    MoveFocusTo(m_editX, false);
+    MoveFocusTo(m_editX, true);
     PutRows(rows);
 }
 

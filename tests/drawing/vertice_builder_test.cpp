@@ -184,6 +184,23 @@ TEST_F(VerticeBuilder, EnterWalksFromXToYAndAdds) {
     });
 }
 
+TEST_F(VerticeBuilder, WhatIsTypedTakesThePlaceOfTheNumberInTheFirstBox) {
+    Begin({"1,2", "3,4"});
+    Run(dialog, [&](kv::User& user) {
+        user.Key(0, "7");
+        EXPECT_EQ(user.Text(kX), "7") << "at the start";
+        user.Select(kRows, 0);
+        user.Click(kEditRow);
+        user.Key(0, "8");
+        EXPECT_EQ(user.Text(kX), "8") << "of a row that is edited";
+        user.Click(kAdd);
+        user.Select(kRows, 1);
+        user.Click(kInsert);
+        user.Key(0, "9");
+        EXPECT_EQ(user.Text(kX), "9") << "for one more row";
+    });
+}
+
 TEST_F(VerticeBuilder, InsertWritesOtherDecimalsAheadOfTheSelectedRow) {
     Begin({"1,2", "3,4"});
     Run(dialog, [&](kv::User& user) {
