@@ -463,8 +463,10 @@ void CKvGuiVerticeBuilder::OnRadioXyMode() {
     m_bXYMode = m_bXYMode || converted;
     ShowMode();
     if (!converted) return;
-    MoveFocusTo(m_editX, true);
+    MoveFocusTo(m_editX, false);
     PutRows(rows);
+    // The box may show another row.
+    SetHightLight(&m_editX);
 }
 
 void CKvGuiVerticeBuilder::OnRadioLatlonMode() {
@@ -473,9 +475,10 @@ void CKvGuiVerticeBuilder::OnRadioLatlonMode() {
     m_bXYMode = m_bXYMode && !converted;
     ShowMode();
     if (!converted) return;
-    MoveFocusTo(m_editLatDegree, true);
+    MoveFocusTo(m_editLatDegree, false);
     EnableMinutesAndSeconds(!m_bDegDeg, !m_bDegDeg);
     PutRows(rows);
+    SetHightLight(&m_editLatDegree);
 }
 
 void CKvGuiVerticeBuilder::OnRadioDegdeg() {

@@ -185,10 +185,16 @@ TEST_F(VerticeBuilder, EnterWalksFromXToYAndAdds) {
 }
 
 TEST_F(VerticeBuilder, WhatIsTypedTakesThePlaceOfTheNumberInTheFirstBox) {
-    Begin({"1,2", "3,4"});
+    Begin({XyOf(28.5, -91.25), XyOf(28.6, -91.5)});
     Run(dialog, [&](kv::User& user) {
         user.Key(0, "7");
         EXPECT_EQ(user.Text(kX), "7") << "at the start";
+        user.Click(kLatLonMode);
+        user.Key(0, "2");
+        EXPECT_EQ(user.Text(kLatDegree), "2") << "where the list shows angles";
+        user.Click(kXyMode);
+        user.Key(0, "3");
+        EXPECT_EQ(user.Text(kX), "3") << "where it shows X and Y again";
         user.Select(kRows, 0);
         user.Click(kEditRow);
         user.Key(0, "8");
