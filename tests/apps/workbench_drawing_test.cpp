@@ -615,10 +615,26 @@ TEST_F(WorkbenchDrawing, SearchAndReplaceActsOnTextsAndOnTheLabelsOfTheLayer) {
     EXPECT_EQ(Drawn().texts[0].text, "Block OURS");
     EXPECT_EQ(TextOf(Drawn().labels, LabelLayer::kLeases, kArea, kBlock), "OURS");
     EXPECT_NE(canvas->grab().toImage(), before);
-    EXPECT_THAT(Said(), testing::StartsWith("Replaced in 1 texts and "));
+    EXPECT_THAT(Said(), testing::StartsWith("Replaced in 1 text and "));
     Undo();
     EXPECT_THAT(Drawn().labels, IsEmpty());
     EXPECT_EQ(Drawn().texts[0].text, "Block 391");
+}
+
+TEST_F(WorkbenchDrawing, ItIsToldInHowManyTextsAndLabelsAWordWasReplaced) {
+    const auto replace = [&](const char* word) {
+        Expect([word](kv::User& at) {
+            at.Select(kv::search_replace::kLayer, "LEASES");
+            at.Type(kv::search_replace::kSearch, word);
+            at.Click(IDOK);
+        });
+        Choose("Search and Replace...");
+        return Said();
+    };
+    WriteText("ONE OLD WORD", middle);
+    WriteText("ANOTHER OLD WORD", middle + QPoint(0, 40));
+    EXPECT_EQ(replace("ANOTHER"), "Replaced in 1 text and 0 labels");
+    EXPECT_EQ(replace("OLD WORD"), "Replaced in 2 texts and 0 labels");
 }
 
 TEST_F(WorkbenchDrawing, AnEmptySearchTextIsRefusedAndAskedForAgain) {

@@ -44,6 +44,14 @@ QString Label(const char* deed, const DrawingRef& ref) {
                                        QLatin1String(kKinds[static_cast<std::size_t>(ref.kind)]));
 }
 
+QString InWords(const ReplaceCount& count) {
+    const QString texts = count.texts == 1 ? DrawingTools::tr("1 text")
+                                           : DrawingTools::tr("%1 texts").arg(count.texts);
+    const QString labels = count.labels == 1 ? DrawingTools::tr("1 label")
+                                             : DrawingTools::tr("%1 labels").arg(count.labels);
+    return DrawingTools::tr("Replaced in %1 and %2").arg(texts, labels);
+}
+
 }  // namespace
 
 DrawingTools::DrawingTools(DrawingDesk desk)
@@ -641,8 +649,7 @@ void DrawingTools::SearchAndReplace() {
             ReplaceEverywhere(drawings, desk_.model, LayerOf(dialog.GetLayerSelect()), search,
                               dialog.GetReplaceContent());
         Do(std::move(drawings), tr("replace texts"));
-        desk_.status.Say(
-            tr("Replaced in %1 texts and %2 labels").arg(count.texts).arg(count.labels));
+        desk_.status.Say(InWords(count));
         return;
     }
 }
