@@ -108,8 +108,7 @@ bool CKvCreateUserTable::Create_Comment_Table() {
         return false;
     }
 
-    UseLogin(Login());
-    // One for the process.
+    // With the login that was asked just now. One for the process.
     static std::unique_ptr<CKvDbAbsDataMgr> manager;
     manager = std::make_unique<CKvDbAbsDataMgr>(1);
     try {

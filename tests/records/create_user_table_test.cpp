@@ -6,6 +6,7 @@
 
 #include "frame/kvcom/misc.h"
 #include "records/create_user_table_ids.h"
+#include "support/exchanging_dialog.h"
 #include "support/plain_user.h"
 #include "support/statement_test.h"
 
@@ -55,6 +56,14 @@ protected:
     }
 
     CKvCreateUserTable dialog;
+};
+
+/// What a host that derives may call.
+class OpenTable : public CKvCreateUserTable {
+public:
+    using CKvCreateUserTable::Create_Comment_Table;
+    using CKvCreateUserTable::IsTableExisted;
+    using CKvCreateUserTable::PopulateTableName;
 };
 
 TEST_F(CreateUserTable, ListsDatasetsByWhatStandsAheadOfTheLastNineCharacters) {
@@ -142,6 +151,62 @@ TEST_F(CreateUserTable, TheTypedLoginIsTheOneInForceAfterwards) {
         user.Click(IDOK);
     });
     EXPECT_EQ(InForce(), (Login{"scott", "t1ger", Server()}));
+}
+
+TEST_F(CreateUserTable, TheTypedLoginIsAlsoTheOneThatTheTableIsLookedForBy) {
+    Change("create table OTHER_WELL_COMMENT (a text)");
+    desktop.ExpectMessage("OTHER_WELL_COMMENT - Table already existed");
+    Run(dialog, [](kv::User& user) {
+        user.Select(kDataset, "OTHER");
+        user.Type(kUser, "scott");
+        user.Click(IDOK);
+    });
+    EXPECT_EQ(InForce().user, "scott");
+}
+
+TEST_F(CreateUserTable, AHostMayListTheDatasetsAnew) {
+    OpenTable open;
+    Run(open, [&](kv::User& user) {
+        const auto datasets = user.Rows(kDataset);
+        user.Select(kDataset, 1);
+        open.PopulateTableName();
+        EXPECT_EQ(user.Rows(kDataset), datasets);
+        EXPECT_THAT(user.Selected(kDataset), ElementsAre(0));
+        EXPECT_THAT(user.Rows(kTable), ElementsAre("WELL_COMMENT"));
+    });
+}
+
+TEST_F(CreateUserTable, AHostIsToldWhetherThereIsATableAndThatNoneWasMade) {
+    OpenTable open;
+    Run(open, [&](kv::User& user) {
+        user.Select(kDataset, "OTHER");
+        EXPECT_FALSE(open.IsTableExisted("OTHER_WELL_COMMENT"));
+        open.Create_Comment_Table();
+        EXPECT_TRUE(open.IsTableExisted("OTHER_WELL_COMMENT"));
+        desktop.ExpectMessage("OTHER_WELL_COMMENT - Table already existed");
+        EXPECT_FALSE(open.Create_Comment_Table());
+
+        open.Control<CComboBox>(kDataset).SetCurSel(-1);
+        desktop.ExpectMessage("There is no dataset with wells to make a table of comments for.");
+        EXPECT_FALSE(open.Create_Comment_Table());
+
+        user.Select(kDataset, "GULF_MEXICO");
+        std::filesystem::rename(path, path + ".away");
+        desktop.ExpectMessage("");
+        EXPECT_FALSE(open.IsTableExisted("OTHER_WELL_COMMENT"));
+        desktop.ExpectMessage("");
+        desktop.ExpectMessage("");
+        EXPECT_FALSE(open.Create_Comment_Table());
+    });
+}
+
+TEST_F(CreateUserTable, ADerivedOneExchangesItsDataAtTheStartAndAtOk) {
+    test::Exchanging<CKvCreateUserTable> own;
+    Run(own, [&](kv::User& user) {
+        EXPECT_EQ(own.shown, 1);
+        user.Click(IDOK);
+    });
+    EXPECT_EQ(own.taken, 1);
 }
 
 TEST_F(CreateUserTable, TheAliasHidesASecretThatTheServersTextKeeps) {

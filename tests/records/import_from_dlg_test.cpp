@@ -3,7 +3,7 @@
 #include "frame/kvcom/ut_registry.h"
 #include "frame/module.h"
 #include "records/import_from_dlg_ids.h"
-#include "support/dialog_fixture.h"
+#include "support/exchanging_dialog.h"
 #include "support/temp_folder.h"
 
 namespace {
@@ -59,6 +59,15 @@ TEST_F(ImportFrom, CancelKeepsTheAnswer) {
                   }),
               IDCANCEL);
     EXPECT_TRUE(dialog.IsUserFolder());
+}
+
+TEST_F(ImportFrom, ADerivedOneExchangesItsDataAtTheStartAndAtOk) {
+    test::Exchanging<CKvImportFromDlg> own;
+    Run(own, [&](kv::User& user) {
+        EXPECT_EQ(own.shown, 1);
+        user.Click(IDOK);
+    });
+    EXPECT_EQ(own.taken, 1);
 }
 
 TEST_F(ImportFrom, BothFoldersAreOneWhereTheRegistrySaysSo) {

@@ -2,6 +2,7 @@
 
 #include "records/well_search_ids.h"
 #include "support/built_map_database.h"
+#include "support/exchanging_dialog.h"
 #include "support/listening_desktop.h"
 #include "support/statement_test.h"
 
@@ -228,11 +229,34 @@ TEST_F(WellSearch, AHostsOwnRoutesOfTheAreaBoxFillAndEnableTheBlockBox) {
     }
 }
 
-TEST_F(WellSearch, TheHiddenControlsCannotBeReached) {
+TEST_F(WellSearch, TheHiddenControlsAreThereAndCannotBeReached) {
     Run(dialog, [](kv::User& user) {
-        for (const int id : {kAreaList, kBlockList, kFirstCheck, kFirstCheck + 3})
+        for (const int id : {1170, 1171, 1146, 1147, 1148, 1149}) {
+            ASSERT_TRUE(user.HasControl(id)) << id;
             EXPECT_FALSE(user.Visible(id)) << id;
+        }
     });
+}
+
+TEST_F(WellSearch, WithNeitherKindOfSearchNothingIsValid) {
+    Run(dialog, [&](kv::User& user) {
+        dialog.CheckDlgButton(kByApi, BST_UNCHECKED);
+        user.Window().SetDlgItemText(kApi, "608110000100");
+        user.Window().SetDlgItemText(kWell, "1");
+        EXPECT_FALSE(dialog.CheckForValidEntry());
+        user.Click(IDOK);
+        EXPECT_TRUE(user.Open());
+    });
+}
+
+TEST_F(WellSearch, ADerivedOneExchangesItsDataAtTheStartAndAtOk) {
+    test::Exchanging<CKvGuiWellSearch> own;
+    own.AddApiNum("608110000100");
+    Run(own, [&](kv::User& user) {
+        EXPECT_EQ(own.shown, 1);
+        user.Click(IDOK);
+    });
+    EXPECT_EQ(own.taken, 1);
 }
 
 TEST_F(WellSearch, WhicheverCallFailsAtTheStartItIsToldAndTheDialogCanBeUsed) {
