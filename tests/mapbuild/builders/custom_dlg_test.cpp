@@ -4,7 +4,9 @@
 
 #include "mapbuild/builders/custom_ids.h"
 #include "mapbuild/builders/map_fixture.h"
+#include "print/sizing_dlg.h"
 #include "print/sizing_ids.h"
+#include "support/exchanging_dialog.h"
 
 using namespace kv::custom_bld;
 using test::ExpectNear;
@@ -95,6 +97,44 @@ TEST_F(CustomDlg, BeginsWithAnOriginAndAnUpperRightCornerInXY) {
     });
     EXPECT_EQ(dialog.GetMapName(), "2000JAN14_09H30M15S");
     EXPECT_TRUE(dialog.GetXYBounded());
+}
+
+TEST_F(CustomDlg, BeginsSoAgain) {
+    Run(dialog, [&](kv::User& user) {
+        TypeXY(user, {"3000000", "500000", "3100000", "600000"});
+        user.Click(kOriginLatLon);
+        user.Click(kWidthAndHeight);
+        user.Click(IDCANCEL);
+    });
+    Run(dialog, [&](kv::User& user) {
+        ExpectShown(user, true, false);
+        TypeXY(user, {"3000000", "500000", "3100000", "600000"});
+        user.Click(kOriginXY);
+        EXPECT_EQ(user.Text(kX), "3000000");
+        user.Click(kWidthAndHeight);
+        EXPECT_EQ(user.Text(kFarX), "100000.00");
+        ExpectShown(user, true, true);
+    });
+}
+
+TEST_F(CustomDlg, ADerivedOneExchangesItsDataAtTheStartAndAtOk) {
+    test::Exchanging<CKvGuiCustomDlg> own(nullptr);
+    Run(own, [&](kv::User& user) {
+        EXPECT_EQ(own.shown, 1);
+        TypeXY(user, {"3000000", "500000", "3100000", "600000"});
+        user.Click(IDOK);
+    });
+    EXPECT_EQ(own.taken, 1);
+}
+
+TEST_F(CustomDlg, OKTakesTheUnitThatIsSeen) {
+    dialog.m_tBounds.SetFeet(false);
+    Run(dialog, [&](kv::User& user) {
+        EXPECT_TRUE(user.Checked(kFeet));
+        TypeXY(user, {"600000", "100000", "700000", "200000"});
+        user.Click(IDOK);
+    });
+    EXPECT_TRUE(dialog.GetBounds().GetFeet());
 }
 
 TEST_F(CustomDlg, ItsScreenAndItsRecordBeginWithTheSameKindOfBounds) {
@@ -260,7 +300,122 @@ TEST_F(CustomDlg, AScaleOfOnesOwnIsKept) {
     EXPECT_EQ(dialog.GetScale(), 3000);
 }
 
+TEST_F(CustomDlg, ASizingThatFoundNoBoundsLeavesTheScaleToOK) {
+    Run(dialog, [&](kv::User& user) {
+        desktop.ExpectMessage(kInvalid);
+        user.Click(kSizingOptions);
+        TypeXY(user, {"3000000", "500000", "3100000", "600000"});
+        user.Click(IDOK);
+    });
+    EXPECT_EQ(dialog.GetScale(), 4000);
+}
+
+TEST_F(CustomDlg, TheSizingBeginsWithTheBoundsTheScaleAndTheUnit) {
+    Run(dialog, [&](kv::User& user) {
+        TypeXY(user, {"500000", "3000000", "530000", "3020000"});
+        user.Select(kProjection, "115 UTM");
+        user.Click(kMeters);
+        desktop.ExpectWindow("CKvGuiSizingDlg", [](kv::User& sizing) {
+            EXPECT_EQ(sizing.Text(kv::sizing::kScaleUnit), "Meters");
+            sizing.Type(kv::sizing::kScale, "3000");
+            sizing.Click(IDOK);
+        });
+        user.Click(kSizingOptions);
+        desktop.ExpectWindow("CKvGuiSizingDlg", [](kv::User& sizing) {
+            EXPECT_EQ(sizing.Text(kv::sizing::kScale), "3000");
+            EXPECT_EQ(sizing.Text(kv::sizing::kWidth), "393.7");
+            EXPECT_EQ(sizing.Text(kv::sizing::kHeight), "262.467");
+            sizing.Click(IDCANCEL);
+        });
+        user.Click(kSizingOptions);
+        user.Click(IDOK);
+    });
+    EXPECT_EQ(dialog.GetScale(), 3000);
+}
+
+TEST_F(CustomDlg, TheScaleOfOKIsOneOfTheUnit) {
+    for (const bool meters : {true, false}) {
+        CustomDialog it(nullptr);
+        Run(it, [&](kv::User& user) {
+            TypeXY(user, {"500000", "3000000", "530000", "3020000"});
+            user.Select(kProjection, "115 UTM");
+            if (meters) user.Click(kMeters);
+            user.Click(IDOK);
+        });
+        CKvGuiSizingDlg sizing(nullptr);
+        sizing.SetBounds({500'000, 530'000, 3'000'000, 3'020'000});
+        sizing.SetUnit(meters);
+        EXPECT_EQ(it.GetScale(), sizing.CalculateScaleClosed()) << meters;
+    }
+}
+
 // The far side.
+
+TEST_F(CustomDlg, EachFormOfTheFarSideGivesBothKindsOfBoundsToTheRecord) {
+    const auto xyOf = [](double lat, double lon, double farLat, double farLon) {
+        const auto low = test::Projected(lat, lon, 115, kFeetUnits);
+        const auto high = test::Projected(farLat, farLon, 115, kFeetUnits);
+        return CMinMax2Dd_t{low.first, high.first, low.second, high.second};
+    };
+    Run(dialog, [&](kv::User& user) {
+        TypeXY(user, {"500000", "3000000", "600000", "3100000"});
+        user.Select(kProjection, "115 UTM");
+        // The boxes of X/Y go with the person.
+        for (const int id : kXYBoxes)
+            user.Window().SetDlgItemText(id, "");
+        user.Click(kOriginLatLon);
+        TypeOrigin(user, "28", "-96");
+        TypeFar(user, "29", "-95");
+        user.Click(kWidthAndHeight);
+        ExpectNear(test::AnglesOf(dialog.GetBounds()), {28, 29, -96, -95}, 1e-9);
+        ExpectNear(test::XYOf(dialog.GetBounds()), xyOf(28, -96, 29, -95), 1e-6);
+        // A height and a width that are typed count from the origin.
+        TypeOrigin(user, "27", "-95");
+        TypeFar(user, "2", "3");
+        user.Click(kUpperRight);
+        ExpectNear(test::AnglesOf(dialog.GetBounds()), {27, 29, -95, -92}, 1e-9);
+        ExpectNear(test::XYOf(dialog.GetBounds()), xyOf(27, -95, 29, -92), 1e-6);
+        EXPECT_EQ(user.Text(kFarLat), "29");
+        EXPECT_EQ(user.Text(kFarLon), "-92");
+    });
+}
+
+TEST_F(CustomDlg, EachFormOfAFarXYGivesItsAngles) {
+    const auto expectAngles = [&](double x, double y, double farX, double farY) {
+        double lat = 0.0;
+        double lon = 0.0;
+        CKvUtilLLdrv::XYdrv(x, y, &lat, &lon, 1, kFeetUnits, 1, 100.0, 0.0, 0.0);
+        EXPECT_NEAR(dialog.GetBounds().GetLatMin(), lat, 1e-9);
+        EXPECT_NEAR(dialog.GetBounds().GetLonMin(), lon, 1e-9);
+        CKvUtilLLdrv::XYdrv(farX, farY, &lat, &lon, 1, kFeetUnits, 1, 100.0, 0.0, 0.0);
+        EXPECT_NEAR(dialog.GetBounds().GetLatMax(), lat, 1e-9);
+        EXPECT_NEAR(dialog.GetBounds().GetLonMax(), lon, 1e-9);
+    };
+    Run(dialog, [&](kv::User& user) {
+        TypeXY(user, {"3000000", "500000", "3100000", "620000"});
+        user.Click(kWidthAndHeight);
+        expectAngles(3'000'000, 500'000, 3'100'000, 620'000);
+        TypeXY(user, {"2900000", "400000", "50000", "60000"});
+        user.Click(kUpperRight);
+        expectAngles(2'900'000, 400'000, 2'950'000, 460'000);
+    });
+}
+
+TEST_F(CustomDlg, ATypedHeightAndWidthAreTheMapsFarSide) {
+    for (const bool throughXY : {false, true}) {
+        CustomDialog it(nullptr);
+        Run(it, [&](kv::User& user) {
+            user.Click(kOriginLatLon);
+            user.Click(kWidthAndHeight);
+            TypeOrigin(user, "28", "-96");
+            TypeFar(user, "0", "1");
+            user.Type(kFarLatMin, "30");
+            if (throughXY) user.Click(kOriginXY);
+            user.Click(IDOK);
+        });
+        ExpectNear(test::AnglesOf(it.GetBounds()), {28, 28.5, -96, -95}, throughXY ? 1e-6 : 1e-12);
+    }
+}
 
 TEST_F(CustomDlg, TheUpperRightCornerBecomesAWidthAndHeightAndBack) {
     Run(dialog, [&](kv::User& user) {
@@ -325,6 +480,38 @@ TEST_F(CustomDlg, APredefinedSizeIsAHeightAndAWidth) {
         ExpectNear(test::AnglesOf(it.GetBounds()), {29, 29 + each.degrees, -96, -96 + each.degrees},
                    1e-12);
     }
+}
+
+TEST_F(CustomDlg, APredefinedSizeGivesTheOriginToTheRecord) {
+    Run(dialog, [&](kv::User& user) {
+        user.Click(kOriginLatLon);
+        TypeOrigin(user, "28", "-96");
+        TypeFar(user, "29", "-95");
+        user.Click(kWidthAndHeight);
+        TypeOrigin(user, "29", "-96");
+        user.Select(kSize, "1   Degree");
+        ExpectNear(test::AnglesOf(dialog.GetBounds()), {29, 30, -96, -95}, 1e-12);
+        const auto [x, y] = test::Projected(29, -96, 1, kFeetUnits);
+        EXPECT_EQ(dialog.GetBounds().GetXMin(), x);
+        EXPECT_EQ(dialog.GetBounds().GetYMin(), y);
+    });
+}
+
+TEST_F(CustomDlg, NoLineOfTheSizesChangesNothing) {
+    Run(dialog, [&](kv::User& user) {
+        user.Click(kOriginLatLon);
+        user.Click(kWidthAndHeight);
+        TypeOrigin(user, "29", "-96");
+        TypeFar(user, "1", "2");
+        auto& sizes = dialog.Control<CComboBox>(kSize);
+        sizes.AddString("a line of the host's");
+        for (const int line : {-1, 6}) {
+            sizes.SetCurSel(line);
+            dialog.OnCmdMsg(kSize, CBN_SELCHANGE, nullptr, nullptr);
+            EXPECT_EQ(user.Text(kFarLat), "1") << line;
+            EXPECT_EQ(user.Text(kFarLon), "2") << line;
+        }
+    });
 }
 
 TEST_F(CustomDlg, UserDefinedLeavesZerosAndTheRecord) {
@@ -442,6 +629,11 @@ TEST_F(CustomDlg, APickedProjectionIsTheRecords) {
         // The middle of what the projection before made of it.
         EXPECT_NEAR(dialog.m_tBounds.GetRectifyingLat(),
                     (dialog.m_tBounds.GetLatMin() + dialog.m_tBounds.GetLatMax()) / 2, 1e-12);
+        EXPECT_NEAR(dialog.m_tBounds.GetRectifyingLon(),
+                    (dialog.m_tBounds.GetLonMin() + dialog.m_tBounds.GetLonMax()) / 2, 1e-12);
+        // It is the driver's at once.
+        test::ExpectRectifyingPoint(dialog.m_tBounds.GetRectifyingLat(),
+                                    dialog.m_tBounds.GetRectifyingLon());
     });
 }
 
@@ -464,6 +656,8 @@ TEST_F(CustomDlg, ARectifyingPointOfTheUsersIsTheRecords) {
         });
         user.Select(kProjection, "More...");
         EXPECT_EQ(user.Text(kProjection), "199 Straight Mercator");
+        // It is the driver's at once.
+        test::ExpectRectifyingPoint(27, -91);
         user.Click(kOriginLatLon);
         TypeOrigin(user, "27", "-91");
         TypeFar(user, "28", "-90");
@@ -498,18 +692,28 @@ TEST_F(CustomDlg, TheBoxAroundTheWholeRectangleHoldsItsCorners) {
     map.SetYMin(3'000'000);
     map.SetYMax(4'000'000);
     dialog.m_nProjection = 115;
-    dialog.PopulateIsbLL(map);
-    for (const double x : {map.GetXMin(), map.GetXMax()}) {
-        for (const double y : {map.GetYMin(), map.GetYMax()}) {
-            double lat = 0.0;
-            double lon = 0.0;
-            CKvUtilLLdrv::XYdrv(x, y, &lat, &lon, 115, kMeterUnits, 1, 100.0, 0.0, 0.0);
-            EXPECT_GE(lat, map.GetLatMin());
-            EXPECT_LE(lat, map.GetLatMax());
-            EXPECT_GE(lon, map.GetLonMin());
-            EXPECT_LE(lon, map.GetLonMax());
+    const auto expectAround = [&](int units) {
+        CMinMax2Dd_t around{HUGE_VAL, -HUGE_VAL, HUGE_VAL, -HUGE_VAL};
+        for (const double x : {map.GetXMin(), map.GetXMax()}) {
+            for (const double y : {map.GetYMin(), map.GetYMax()}) {
+                double lat = 0.0;
+                double lon = 0.0;
+                CKvUtilLLdrv::XYdrv(x, y, &lat, &lon, 115, units, 1, 100.0, 0.0, 0.0);
+                around = {std::min(around.minX, lat), std::max(around.maxX, lat),
+                          std::min(around.minY, lon), std::max(around.maxY, lon)};
+            }
         }
-    }
+        dialog.PopulateIsbLL(map);
+        ExpectNear(test::AnglesOf(map), around, 1e-12);
+    };
+    // Without a window, and so without a mark at "Feet".
+    expectAround(kMeterUnits);
+    map.SetYMin(9'000'000);
+    map.SetYMax(9'900'000);
+    Run(dialog, [&](kv::User&) {
+        dialog.m_nProjection = 115;
+        expectAround(kFeetUnits);
+    });
 }
 
 // Every order of choosing, against a plain model of what a person sees.

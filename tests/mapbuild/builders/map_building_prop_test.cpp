@@ -88,6 +88,42 @@ TEST_F(MapBuildingProp, ShowsTheStoredMapUntilSomethingIsChanged) {
     EXPECT_TRUE(dialog.GetTermination());
 }
 
+TEST_F(MapBuildingProp, AMapOfOneBlockAndOfSeveralCountsAsOneOfSeveral) {
+    Set(kBlocks, true);
+    dialog.m_tBounds.SetPickOneFlag(true);
+    CKvGuiQuickOffBldDlg::m_nDefWidth = 4;
+    CKvGuiQuickOffBldDlg::m_nDefHeight = 2;
+    Run(dialog, [](kv::User& user) {
+        // Its width and height are none that were stored.
+        EXPECT_EQ(user.Text(kWidth), "4");
+        EXPECT_EQ(user.Text(kHeight), "2");
+        EXPECT_FALSE(user.Enabled(kWidth));
+        EXPECT_FALSE(user.Enabled(kHeight));
+        EXPECT_TRUE(user.Enabled(kPercent));
+    });
+}
+
+TEST_F(MapBuildingProp, AMapThatNobodyPickedCanBeWidenedByAPercentage) {
+    Set(kCustom, true);
+    dialog.m_tBounds.SetCustomMapFlag(false);
+    Run(dialog, [](kv::User& user) {
+        EXPECT_FALSE(user.Enabled(kWidth));
+        EXPECT_FALSE(user.Enabled(kHeight));
+        EXPECT_TRUE(user.Enabled(kPercent));
+    });
+}
+
+TEST_F(MapBuildingProp, OKKeepsHowTheMapWasPicked) {
+    for (const Kind kind : {kBlock, kBlocks, kAll, kCustom}) {
+        Set(kind, true);
+        Run(dialog, [](kv::User& user) { user.Click(IDOK); });
+        EXPECT_EQ(dialog.GetBounds().GetPickOneFlag(), kind == kBlock);
+        EXPECT_EQ(dialog.GetBounds().GetPickMultFlag(), kind == kBlocks);
+        EXPECT_EQ(dialog.GetBounds().GetPickWinFlag(), kind == kAll);
+        EXPECT_EQ(dialog.GetBounds().GetCustomMapFlag(), kind == kCustom);
+    }
+}
+
 TEST_F(MapBuildingProp, UnitsAndKindOfBoundsDoNotChangeHere) {
     for (const Kind kind : {kBlock, kBlocks, kAll, kCustom}) {
         Set(kind, true);
@@ -195,6 +231,9 @@ TEST_F(MapBuildingProp, TypedXYGiveTheAngles) {
         EXPECT_NEAR(ShownAngles(user).minX, lat, kShownAngle);
         EXPECT_NEAR(ShownAngles(user).minY, lon, kShownAngle);
         EXPECT_NE(ShownAngles(user).maxY, before.maxY);
+        const CKvMapBounds& map = dialog.m_tBounds;
+        EXPECT_NEAR(map.GetRectifyingLat(), (map.GetLatMin() + map.GetLatMax()) / 2, 1e-12);
+        EXPECT_NEAR(map.GetRectifyingLon(), (map.GetLonMin() + map.GetLonMax()) / 2, 1e-12);
         for (const int id : {kYMin, kXMax, kYMax})
             user.Type(id, id == kXMax ? "2300000" : "9990000");
         user.Focus(kMapName);

@@ -77,6 +77,17 @@ inline std::pair<double, double> Projected(double lat, double lon, int projectio
     return {x, y};
 }
 
+/// The rectifying point that the driver has, and has behind this call, too, is that one.
+inline void ExpectRectifyingPoint(double lat, double lon) {
+    constexpr int kStraightMercator = 199;
+    const auto found = Projected(28, -90, kStraightMercator, kFeetUnits);
+    CKvUtilLLdrv::SetRectLat(lat);
+    CKvUtilLLdrv::SetRectLon(lon);
+    const auto expected = Projected(28, -90, kStraightMercator, kFeetUnits);
+    EXPECT_NEAR(found.first, expected.first, 1e-3);
+    EXPECT_NEAR(found.second, expected.second, 1e-3);
+}
+
 /// Bounds in X/Y around the corners of a box.
 inline CMinMax2Dd_t Around(const Box& box, int projection, int units) {
     CMinMax2Dd_t bounds{HUGE_VAL, -HUGE_VAL, HUGE_VAL, -HUGE_VAL};

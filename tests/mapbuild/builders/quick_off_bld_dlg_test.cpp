@@ -3,6 +3,7 @@
 #include "frame/kvdbkvn/database_fault.h"
 #include "mapbuild/builders/map_fixture.h"
 #include "print/sizing_ids.h"
+#include "support/exchanging_dialog.h"
 #include "window/controls/edit.h"
 
 using namespace kv::quick_bld;
@@ -28,6 +29,8 @@ public:
     using CKvGuiQuickOffBldDlg::EditBoxSetReadOnly;
     using CKvGuiQuickOffBldDlg::GetComboSelValue;
     using CKvGuiQuickOffBldDlg::m_bScaleSet;
+    using CKvGuiQuickOffBldDlg::m_nFeetScale;
+    using CKvGuiQuickOffBldDlg::m_nMeterScale;
     using CKvGuiQuickOffBldDlg::m_nSnapRange;
     using CKvGuiQuickOffBldDlg::m_pProjCtrl;
     using CKvGuiQuickOffBldDlg::m_strMapPercent;
@@ -36,6 +39,8 @@ public:
     using CKvGuiQuickOffBldDlg::m_vAreas;
     using CKvGuiQuickOffBldDlg::m_vBlocks;
     using CKvGuiQuickOffBldDlg::m_vExts;
+    using CKvGuiQuickOffBldDlg::OnRadioFeet;
+    using CKvGuiQuickOffBldDlg::OnRadioMeters;
 };
 
 enum Mode { kOne, kSeveral, kWindow };
@@ -218,6 +223,65 @@ TEST_F(QuickOffBldDlg, AWindowWithoutPicksKeepsTheBoundsThatItWasGiven) {
     EXPECT_EQ(dialog.GetProjection(), 116);
 }
 
+TEST_F(QuickOffBldDlg, AWindowOfXYWithoutPicksOpensOnTheXYThatItWasGiven) {
+    CKvMapBounds map;
+    map.SetXMin(2'000'000);
+    map.SetXMax(2'100'000);
+    map.SetYMin(9'900'000);
+    map.SetYMax(10'000'000);
+    map.SetLatMin(20);
+    map.SetLatMax(21);
+    map.SetLonMin(-91);
+    map.SetLonMax(-90);
+    dialog.ResetABEVec();
+    dialog.SetMode(0, 0, 1);
+    dialog.SetProj(115);
+    dialog.SetBounds(map);
+    Run(dialog, [&](kv::User& user) {
+        ExpectNear(ShownXY(user), {2'000'000, 2'100'000, 9'900'000, 10'000'000}, kShownXY);
+        double lat = 0.0;
+        double lon = 0.0;
+        CKvUtilLLdrv::XYdrv(2'000'000, 9'900'000, &lat, &lon, 115, kFeetUnits, 1, 100.0, 0.0, 0.0);
+        EXPECT_NEAR(ShownAngles(user).minX, lat, kShownAngle);
+        EXPECT_NEAR(ShownAngles(user).minY, lon, kShownAngle);
+    });
+}
+
+TEST_F(QuickOffBldDlg, OpensInTheUnitOfItsRecord) {
+    Set(dialog, {"GC#500", "GC#501"}, kSeveral, true);
+    CKvMapBounds map;
+    map.SetFeet(false);
+    dialog.SetBounds(map);
+    Accept(dialog, [&](kv::User& user) {
+        EXPECT_FALSE(user.Checked(kFeet));
+        EXPECT_TRUE(user.Checked(kMeters));
+        const Box both = Joined(gc500, kPlaces.at("GC#501"));
+        ExpectNear(ShownXY(user), Around(both, 115, kMeterUnits), kShownXY);
+    });
+    EXPECT_FALSE(dialog.GetBounds().GetFeet());
+}
+
+TEST_F(QuickOffBldDlg, AFailureAtTheStartIsToldForEachQuestionOnce) {
+    Set(dialog, {"GC#500"}, kOne, true);
+    // The catalogue of projections has been read.
+    Run(dialog, [](kv::User&) {});
+    QuickDlg next(nullptr);
+    Set(next, {"GC#501"}, kSeveral, true);
+    kv::db::SetDatabaseFault([](std::string_view call) { return call == "step"; });
+    // Of the projection of the area, the bounds and the name.
+    for (int question = 0; question < 3; ++question)
+        desktop.ExpectMessage("");
+    Run(next, [](kv::User& user) { EXPECT_TRUE(user.Open()); });
+    kv::db::SetDatabaseFault(nullptr);
+}
+
+TEST_F(QuickOffBldDlg, ADerivedOneExchangesItsDataAtTheStartAndAtOk) {
+    test::Exchanging<CKvGuiQuickOffBldDlg> own(nullptr);
+    Set(own, {"GC#500"}, kOne, true);
+    Accept(own, [&](kv::User&) { EXPECT_EQ(own.shown, 1); });
+    EXPECT_EQ(own.taken, 1);
+}
+
 TEST_F(QuickOffBldDlg, EachDialogBeginsWithThreeBlocksAgain) {
     Accept(dialog, [](kv::User& user) { user.Type(kWidth, "5"); });
     EXPECT_EQ(CKvGuiQuickOffBldDlg::m_nDefWidth, 5);
@@ -357,6 +421,149 @@ TEST_F(QuickOffBldDlg, WithoutAModeThereAreNoBounds) {
     EXPECT_THAT(statements, IsEmpty());
 }
 
+TEST_F(QuickOffBldDlg, BoundsOfPicksHaveNoHeightAndNoDepth) {
+    CKvMapBounds map;
+    map.SetZMin(1);
+    map.SetZMax(2);
+    map.SetDepthMin(3);
+    map.SetDepthMax(4);
+    dialog.SetProj(115);
+    EXPECT_TRUE(dialog.ComputeBounds(map));
+    EXPECT_EQ(map.GetZMin(), 0.0);
+    EXPECT_EQ(map.GetZMax(), 0.0);
+    EXPECT_EQ(map.GetDepthMin(), 0.0);
+    EXPECT_EQ(map.GetDepthMax(), 0.0);
+}
+
+// Each operation by itself, as a host calls it.
+
+class QuickOffBldDlgWindow : public QuickOffBldDlg {
+protected:
+    QuickOffBldDlgWindow() {
+        CKvMapBounds map;
+        map.SetLatMin(27);
+        map.SetLatMax(28);
+        map.SetLonMin(-91);
+        map.SetLonMax(-90);
+        dialog.ResetABEVec();
+        dialog.SetMode(0, 0, 1);
+        dialog.SetProj(199);
+        dialog.SetBounds(map);
+        dialog.SetXYBounded(false);
+    }
+    /// Another dialog of the program has used the driver since.
+    static void MoveThePointOfTheDriver() {
+        CKvUtilLLdrv::SetRectLat(10);
+        CKvUtilLLdrv::SetRectLon(10);
+    }
+    void ExpectTheDriverAtTheMiddle(double lat, double lon) {
+        test::ExpectRectifyingPoint(lat, lon);
+        EXPECT_NEAR(dialog.GetBounds().GetRectifyingLat(), lat, 1e-9);
+        EXPECT_NEAR(dialog.GetBounds().GetRectifyingLon(), lon, 1e-9);
+    }
+};
+
+TEST_F(QuickOffBldDlgWindow, TheProjectionAloneBeginsAgainAtTheAnglesOfTheStart) {
+    Run(dialog, [&](kv::User& user) {
+        user.Select(kPercent, "50");
+        ExpectNear(test::AnglesOf(dialog.GetBounds()), {26.5, 28.5, -91.5, -89.5}, 1e-9);
+        CKvMapBounds& map = dialog.GetBounds();
+        map.SetZMin(1);
+        map.SetZMax(2);
+        map.SetDepthMin(3);
+        map.SetDepthMax(4);
+        dialog.ComputeProjection();
+        ExpectNear(test::AnglesOf(map), {27, 28, -91, -90}, 1e-9);
+        const auto [x, y] = test::Projected(27, -91, 199, kFeetUnits);
+        EXPECT_NEAR(map.GetXMin(), x, 1e-6);
+        EXPECT_NEAR(map.GetYMin(), y, 1e-6);
+        EXPECT_EQ(map.GetZMin(), 0.0);
+        EXPECT_EQ(map.GetZMax(), 0.0);
+        EXPECT_EQ(map.GetDepthMin(), 0.0);
+        EXPECT_EQ(map.GetDepthMax(), 0.0);
+    });
+}
+
+TEST_F(QuickOffBldDlgWindow, EachGivesTheRectifyingPointToTheDriver) {
+    Run(dialog, [&](kv::User&) {
+        for (const auto operation : {+[](QuickDlg& it) { it.ComputeProjection(); },
+                                     +[](QuickDlg& it) { it.ComputePercentage(); },
+                                     +[](QuickDlg& it) { it.ComputeWidthHeight(); },
+                                     +[](QuickDlg& it) { it.UpdateCoordinates(); }}) {
+            dialog.GetBounds().SetLatMax(28);
+            MoveThePointOfTheDriver();
+            operation(dialog);
+            ExpectTheDriverAtTheMiddle(27.5, -90.5);
+        }
+        // The X/Y that they compute is that of the point.
+        for (const auto operation : {+[](QuickDlg& it) { it.ComputeProjection(); },
+                                     +[](QuickDlg& it) { it.ComputePercentage(); },
+                                     +[](QuickDlg& it) { it.ComputeWidthHeight(); }}) {
+            MoveThePointOfTheDriver();
+            operation(dialog);
+            EXPECT_NEAR(dialog.GetBounds().GetXMin() + dialog.GetBounds().GetXMax(), 0.0, 1e-3);
+        }
+    });
+}
+
+TEST_F(QuickOffBldDlgWindow, TheDialogItselfBeginsWithItsPoint) {
+    MoveThePointOfTheDriver();
+    Run(dialog, [&](kv::User& user) {
+        ExpectTheDriverAtTheMiddle(27.5, -90.5);
+        const auto [x, y] = test::Projected(27, -91, 199, kFeetUnits);
+        EXPECT_NEAR(ShownXY(user).minX, x, kShownXY);
+        EXPECT_NEAR(ShownXY(user).minY, y, kShownXY);
+    });
+}
+
+TEST_F(QuickOffBldDlgWindow, AGridOf0ChangesNothing) {
+    CKvMapBounds& map = dialog.GetBounds();
+    map.SetXMin(1234.5);
+    map.SetXMax(5678.9);
+    const CKvMapBounds before = map;
+    for (const int range : {0, -100}) {
+        dialog.m_nSnapRange = range;
+        dialog.CoumputeSnapRange();
+        EXPECT_EQ(map, before) << range;
+    }
+    dialog.m_nSnapRange = 1000;
+    dialog.CoumputeSnapRange();
+    EXPECT_EQ(map.GetXMin(), 1000.0);
+    EXPECT_EQ(map.GetXMax(), 6000.0);
+    EXPECT_NE(test::AnglesOf(map), test::AnglesOf(before));
+}
+
+TEST_F(QuickOffBldDlgWindow, WhatTheBoundsWereAheadOfThePercentageHasBothKinds) {
+    dialog.SetProj(115);
+    Run(dialog, [&](kv::User& user) {
+        dialog.m_strMapPercent = "50";
+        CKvMapBounds& map = dialog.GetBounds();
+        dialog.GetOriginalLLBounds();
+        ExpectNear(test::AnglesOf(dialog.m_tOrigBounds), {27.25, 27.75, -90.75, -90.25}, 1e-9);
+        const auto [x, y] = test::Projected(27.25, -90.75, 115, kFeetUnits);
+        EXPECT_NEAR(dialog.m_tOrigBounds.GetXMin(), x, 1e-6);
+        EXPECT_NEAR(dialog.m_tOrigBounds.GetYMin(), y, 1e-6);
+
+        map.SetXMin(1'900'000);
+        map.SetXMax(2'100'000);
+        map.SetYMin(9'900'000);
+        map.SetYMax(10'100'000);
+        dialog.GetOriginalXYBounds();
+        ExpectNear(test::XYOf(dialog.m_tOrigBounds), {1'950'000, 2'050'000, 9'950'000, 10'050'000},
+                   1e-6);
+        double lat = 0.0;
+        double lon = 0.0;
+        CKvUtilLLdrv::XYdrv(1'950'000, 9'950'000, &lat, &lon, 115, kFeetUnits, 1, 100.0, 0.0, 0.0);
+        EXPECT_NEAR(dialog.m_tOrigBounds.GetLatMin(), lat, 1e-9);
+        EXPECT_NEAR(dialog.m_tOrigBounds.GetLonMin(), lon, 1e-9);
+        // The boxes show the bounds that there are.
+        EXPECT_EQ(user.Text(kXMin), "1900000.00");
+        map.SetXMin(1'800'000);
+        dialog.GetOriginalLLBounds();
+        EXPECT_EQ(user.Text(kXMin), "1800000.00");
+    });
+}
+
 // What changes the bounds.
 
 TEST_F(QuickOffBldDlg, WidthsBelowTwoLeaveTheBlock) {
@@ -432,6 +639,17 @@ TEST_F(QuickOffBldDlg, AnotherUnitOrProjectionGivesItsOwnNumbers) {
     EXPECT_FALSE(dialog.GetBounds().GetFeet());
     EXPECT_EQ(dialog.GetBounds().GetPrimeProj(), 116);
     ExpectNear(test::XYOf(dialog.GetBounds()), Around(both, 116, kMeterUnits), 1e-6);
+}
+
+TEST_F(QuickOffBldDlg, AHostThatTakesTheMarkOffAUnitGetsTheOther) {
+    Run(dialog, [&](kv::User& user) {
+        dialog.CheckDlgButton(kFeet, BST_UNCHECKED);
+        dialog.OnRadioFeet();
+        EXPECT_TRUE(user.Checked(kMeters));
+        dialog.CheckDlgButton(kMeters, BST_UNCHECKED);
+        dialog.OnRadioMeters();
+        EXPECT_TRUE(user.Checked(kFeet));
+    });
 }
 
 TEST_F(QuickOffBldDlg, BoundsAreSnappedToAGridWhereXYBoundsTheMap) {
@@ -586,6 +804,18 @@ TEST_F(QuickOffBldDlg, TheControlLearnsTheKindOfMapOnlyBehindThePick) {
     EXPECT_GT(dialog.GetBounds().GetXMin(), 0.0);
     const double width = dialog.GetBounds().GetXMax() - dialog.GetBounds().GetXMin();
     EXPECT_NEAR(width, 0.15 * 111'320 * std::cos(27 * 3.14159265 / 180) / 0.3048, 500);
+}
+
+TEST_F(QuickOffBldDlg, AMapOfXYRefusesStraightMercatorFromTheStart) {
+    Accept(dialog, [&](kv::User& user) {
+        ExpectPick(kv::proj_sel::kStraightMercator, "Clarke 1866");
+        ExpectZone();
+        desktop.ExpectMessage(
+            "Invalid Entry!\n Straight Mercator is not valid for an XY-bounded map!\n");
+        user.Select(kProjection, "More...");
+        EXPECT_EQ(user.Text(kProjection), "115 UTM");
+    });
+    EXPECT_EQ(dialog.GetProjection(), 115);
 }
 
 TEST_F(QuickOffBldDlg, AProjectionWithoutAnAnswerLeavesTheBoxesOfXYEmpty) {
@@ -784,6 +1014,21 @@ TEST_F(QuickOffBldDlg, ThePersonsScaleIsKept) {
     EXPECT_EQ(dialog.GetBounds().GetScale(), 3000);
 }
 
+TEST_F(QuickOffBldDlg, TheScaleThatWasChosenLastIsKeptByItsUnit) {
+    Run(dialog, [&](kv::User& user) {
+        for (const auto& [unit, scale] : {std::pair{kFeet, "3000"}, std::pair{kMeters, "25000"}}) {
+            user.Click(unit);
+            desktop.ExpectWindow("CKvGuiSizingDlg", [scale = scale](kv::User& sizing) {
+                sizing.Type(kv::sizing::kScale, scale);
+                sizing.Click(IDOK);
+            });
+            user.Click(kSizingOptions);
+        }
+    });
+    EXPECT_EQ(dialog.m_nFeetScale, 3000);
+    EXPECT_EQ(dialog.m_nMeterScale, 25000);
+}
+
 TEST_F(QuickOffBldDlg, AScaleIsForgottenByTheNextChange) {
     Accept(dialog, [&](kv::User& user) {
         desktop.ExpectWindow("CKvGuiSizingDlg", [](kv::User& sizing) {
@@ -860,6 +1105,31 @@ TEST_F(QuickOffBldDlg, OKStoresNoPicksOfAWindow) {
     EXPECT_THAT(map.GetPickArea(), IsEmpty());
     EXPECT_THAT(map.GetPickBlock(), IsEmpty());
     EXPECT_EQ(map.GetPickMapPercent(), "30");
+}
+
+TEST_F(QuickOffBldDlg, OKTellsHowThisMapWasPickedWhateverTheRecordSaid) {
+    CKvMapBounds map;
+    map.SetPickOneFlag(true);
+    map.SetPickMultFlag(true);
+    map.SetPickWinFlag(true);
+    map.SetCustomMapFlag(true);
+    map.SetSnapBoundsRange(7);
+    for (const Mode mode : {kOne, kSeveral, kWindow}) {
+        dialog.SetBounds(map);
+        Set(dialog, {"GC#500"}, mode, true);
+        Accept(dialog);
+        EXPECT_EQ(dialog.GetBounds().GetPickOneFlag(), mode == kOne);
+        EXPECT_EQ(dialog.GetBounds().GetPickMultFlag(), mode == kSeveral);
+        EXPECT_EQ(dialog.GetBounds().GetPickWinFlag(), mode == kWindow);
+        EXPECT_FALSE(dialog.GetBounds().GetCustomMapFlag());
+        EXPECT_EQ(dialog.GetBounds().GetSnapBoundsRange(), 0);
+    }
+}
+
+TEST_F(QuickOffBldDlg, OKStoresNoBlockThatMeansTheWholeArea) {
+    Accept(dialog, [&](kv::User&) { dialog.m_vBlocks = {"ALL"}; });
+    EXPECT_THAT(dialog.GetBounds().GetPickArea(), ElementsAre("GC"));
+    EXPECT_THAT(dialog.GetBounds().GetPickBlock(), IsEmpty());
 }
 
 TEST_F(QuickOffBldDlg, OKLeavesNoPicksOfAnEarlierMap) {

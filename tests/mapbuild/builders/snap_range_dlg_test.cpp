@@ -2,7 +2,7 @@
 
 #include "frame/module.h"
 #include "mapbuild/builders/quick_off_bld_ids.h"
-#include "support/dialog_fixture.h"
+#include "support/exchanging_dialog.h"
 
 using namespace kv::snap_range;
 using testing::ElementsAre;
@@ -39,6 +39,15 @@ TEST_F(SnapRangeDlg, OpensOnItsRangeReadyToBeTypedOver) {
         EXPECT_EQ(user.Text(kRange), "10000");
         EXPECT_THAT(user.Selected(kRange), ElementsAre(4));
     });
+}
+
+TEST_F(SnapRangeDlg, ADerivedOneExchangesItsDataAtTheStartAndAtOk) {
+    test::Exchanging<CKvGuiSnapRangeDlg> own;
+    Run(own, [&](kv::User& user) {
+        EXPECT_EQ(own.shown, 1);
+        user.Click(IDOK);
+    });
+    EXPECT_EQ(own.taken, 1);
 }
 
 TEST_F(SnapRangeDlg, ShowsARangeThatIsNoLine) {
