@@ -1,7 +1,7 @@
 #include <string_view>
 
 #include "controls/file_pick_ids.h"
-#include "window/drawing/image_resource.h"
+#include "window/drawing/whole_image.h"
 #include "window/templates/resources.h"
 
 /// Folder, file and drive, each with a rim that a dark ground leaves to be seen.
@@ -36,6 +36,7 @@ constexpr std::string_view kSmallFolderRows[] = {
 };
 
 constexpr ImageResource kSmallFolder{kSmallFolderIcon, 16, 16, kSmallFolderRows, kFolderPalette};
+static_assert(IsWhole(kSmallFolder));
 const RegisterImage kSmallFolderRegistered(kSmallFolder);
 
 constexpr std::string_view kLargeFolderRows[] = {
@@ -74,6 +75,7 @@ constexpr std::string_view kLargeFolderRows[] = {
 };
 
 constexpr ImageResource kLargeFolder{kLargeFolderIcon, 32, 32, kLargeFolderRows, kFolderPalette};
+static_assert(IsWhole(kLargeFolder));
 const RegisterImage kLargeFolderRegistered(kLargeFolder);
 
 constexpr PaletteEntry kFilePalette[] = {
@@ -103,6 +105,7 @@ constexpr std::string_view kSmallFileRows[] = {
 };
 
 constexpr ImageResource kSmallFile{kSmallFileIcon, 16, 16, kSmallFileRows, kFilePalette};
+static_assert(IsWhole(kSmallFile));
 const RegisterImage kSmallFileRegistered(kSmallFile);
 
 constexpr std::string_view kLargeFileRows[] = {
@@ -141,6 +144,7 @@ constexpr std::string_view kLargeFileRows[] = {
 };
 
 constexpr ImageResource kLargeFile{kLargeFileIcon, 32, 32, kLargeFileRows, kFilePalette};
+static_assert(IsWhole(kLargeFile));
 const RegisterImage kLargeFileRegistered(kLargeFile);
 
 constexpr PaletteEntry kDrivePalette[] = {
@@ -167,6 +171,7 @@ constexpr std::string_view kSmallDriveRows[] = {
 };
 
 constexpr ImageResource kSmallDrive{kSmallDriveIcon, 16, 16, kSmallDriveRows, kDrivePalette};
+static_assert(IsWhole(kSmallDrive));
 const RegisterImage kSmallDriveRegistered(kSmallDrive);
 
 constexpr std::string_view kLargeDriveRows[] = {
@@ -205,6 +210,7 @@ constexpr std::string_view kLargeDriveRows[] = {
 };
 
 constexpr ImageResource kLargeDrive{kLargeDriveIcon, 32, 32, kLargeDriveRows, kDrivePalette};
+static_assert(IsWhole(kLargeDrive));
 const RegisterImage kLargeDriveRegistered(kLargeDrive);
 
 }  // namespace

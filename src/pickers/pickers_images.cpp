@@ -1,7 +1,7 @@
 #include <string_view>
 
 #include "pickers/abe_bar_ids.h"
-#include "window/drawing/image_resource.h"
+#include "window/drawing/whole_image.h"
 #include "window/templates/resources.h"
 
 namespace {
@@ -34,6 +34,7 @@ constexpr std::string_view kRunRows[] = {
 };
 
 constexpr kv::ImageResource kRunImage{kv::abe_bar::kRunIcon, 16, 16, kRunRows, kRunPalette};
+static_assert(kv::IsWhole(kRunImage));
 const kv::RegisterImage kRegistered(kRunImage);
 
 }  // namespace

@@ -1,7 +1,9 @@
+#include <algorithm>
 #include <string_view>
 
 #include "drawing/swatches/palette_ids.h"
 #include "window/drawing/fine_image.h"
+#include "window/drawing/whole_image.h"
 #include "window/templates/resources.h"
 
 /// The signs that numbers stand in, and each in twice the pixels.
@@ -607,6 +609,9 @@ constexpr ImageResource kFineImages[] = {
     {kFirstNumberImage + 6, 68, 44, kFlagFine, kInk},
     {kFirstNumberImage + 7, 68, 44, kBareFine, kInk},
 };
+
+static_assert(std::ranges::all_of(kImages, IsWhole));
+static_assert(std::ranges::all_of(kFineImages, IsWhole));
 
 const bool kRegistered = [] {
     for (const ImageResource& image : kImages)

@@ -1,7 +1,9 @@
+#include <algorithm>
 #include <string_view>
 
 #include "drawing/swatches/palette_ids.h"
 #include "window/drawing/fine_image.h"
+#include "window/drawing/whole_image.h"
 #include "window/templates/resources.h"
 
 /// The signs of wells and other points, in the usual forms of oil and gas maps, and each in twice
@@ -1080,6 +1082,9 @@ constexpr ImageResource kFineImages[] = {
     {kFirstPointImage + 17, 42, 32, kPlatformFine, kInk},
     {kFirstPointImage + 18, 42, 32, kObservationFine, kInk},
 };
+
+static_assert(std::ranges::all_of(kImages, IsWhole));
+static_assert(std::ranges::all_of(kFineImages, IsWhole));
 
 const bool kRegistered = [] {
     for (const ImageResource& image : kImages)
