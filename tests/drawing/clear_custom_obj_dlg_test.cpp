@@ -4,7 +4,7 @@
 
 #include "drawing/clear_custom_obj_ids.h"
 #include "frame/module.h"
-#include "support/dialog_fixture.h"
+#include "support/exchanging_dialog.h"
 
 using namespace kv::clear_custom_obj;
 using testing::ElementsAre;
@@ -62,6 +62,15 @@ TEST_F(ClearCustomObjDlg, WithNothingCheckedOkIsStillOk) {
     });
     EXPECT_EQ(result, IDOK);
     EXPECT_THAT(Flags(), ElementsAre(false, false, false));
+}
+
+TEST_F(ClearCustomObjDlg, ADerivedOneExchangesItsDataAtTheStartAndAtOk) {
+    test::Exchanging<CKvGuiClearCustomObjDlg> own;
+    Run(own, [&](kv::User& user) {
+        EXPECT_EQ(own.shown, 1);
+        user.Click(IDOK);
+    });
+    EXPECT_EQ(own.taken, 1);
 }
 
 TEST_F(ClearCustomObjDlg, CancelLeavesTheFlags) {

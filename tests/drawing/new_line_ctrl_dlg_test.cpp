@@ -6,8 +6,9 @@
 #include "drawing/new_line_ctrl_ids.h"
 #include "drawing/swatches/palette_ids.h"
 #include "drawing/vertice_builder_ids.h"
+#include "frame/kvcom/util_lldrv.h"
 #include "frame/module.h"
-#include "support/dialog_fixture.h"
+#include "support/exchanging_dialog.h"
 #include "window/controls/button.h"
 
 using namespace kv::new_line_ctrl;
@@ -187,6 +188,52 @@ TEST_F(NewLineCtrlDlg, OkTakesTheLookWhereAnyOfItChanged) {
     EXPECT_EQ(dialog.GetOptionFlag().bModify, 1u);
 }
 
+TEST_F(NewLineCtrlDlg, OkTakesEachPartOfTheLookThatChangedAlone) {
+    struct Change {
+        int button;
+        const char* palette;
+        int cell;
+    };
+    for (const Change& change : {Change{kWidth, "Line Widths", kFirstCell + 3},
+                                 {kType, "Line Types", kFirstCell + 1},
+                                 {kColor, "Color Fill Palette", kFirstShortCell + 9},
+                                 {kFillColor, "Color Fill Palette", kFirstShortCell + 2}}) {
+        SCOPED_TRACE(change.button);
+        CKvNewLineCtrlDlg line;
+        line.SetWaitMode(true);
+        line.SetModifyMode(true);
+        line.SetPolygonFlag(true);
+        line.SetFilledFlag(true);
+        Run(line, [&](kv::User& user) {
+            desktop.ExpectWindow(change.palette,
+                                 [&](kv::User& palette) { palette.Click(change.cell); });
+            user.Click(change.button);
+            user.Click(IDOK);
+        });
+        EXPECT_EQ(line.GetOptionFlag().bModify, 1u);
+        EXPECT_EQ(line.GetWidth(), change.button == kWidth ? 3 : 0);
+        EXPECT_EQ(line.GetType(), change.button == kType ? 1 : 0);
+        EXPECT_EQ(line.GetLineColor(), change.button == kColor ? 9 : 6);
+        EXPECT_EQ(line.GetFillColor(), change.button == kFillColor ? 2 : 6);
+        EXPECT_EQ(line.GetOptionFlag().bPolygon, 1u);
+        EXPECT_EQ(line.GetOptionFlag().bFilled, 1u);
+    }
+    for (const int box : {kClose, kFill}) {
+        SCOPED_TRACE(box);
+        CKvNewLineCtrlDlg line;
+        line.SetWaitMode(true);
+        line.SetModifyMode(true);
+        line.SetPolygonFlag(true);
+        Run(line, [&](kv::User& user) {
+            user.Click(box);
+            user.Click(IDOK);
+        });
+        EXPECT_EQ(line.GetOptionFlag().bModify, 1u);
+        EXPECT_EQ(line.GetOptionFlag().bPolygon, box == kFill ? 1u : 0u);
+        EXPECT_EQ(line.GetOptionFlag().bFilled, box == kFill ? 1u : 0u);
+    }
+}
+
 TEST_F(NewLineCtrlDlg, OkWithNothingChangedSaysSo) {
     Modify(true, false);
     const int result = Run(dialog, [](kv::User& user) { user.Click(IDOK); });
@@ -256,6 +303,80 @@ TEST_F(NewLineCtrlDlg, AnObjectThatIsToBeChangedHandsItsVerticesToTheBuilder) {
     EXPECT_THAT(Points(), ElementsAre(CKvDispPoint{1, 2}, CKvDispPoint{3, 4}, CKvDispPoint{5, 6}));
 }
 
+TEST_F(NewLineCtrlDlg, TheBuilderWorksInTheProjectionAndTheUnitOfTheObject) {
+    for (const bool imperial : {true, false}) {
+        E_KV_LINE_OPTION option;
+        option.nProjection = 115;
+        option.bImperial = imperial;
+        option.bWait = 1;
+        dialog.SetOptionFlag(option);
+        dialog.SetModifyMode(true);
+        double x = 0.0;
+        double y = 0.0;
+        CKvUtilLLdrv::LLdrv(28.5, -91.25, &x, &y, 115, imperial ? 0 : 1, 1, 100.0F, 0.0F, 0.0F);
+        dialog.SetUserInputPts({{x, y}});
+        Run(dialog, [&](kv::User& user) {
+            ExpectBuilder({}, IDCANCEL, [](kv::User& rows) {
+                rows.Click(builder::kLatLonMode);
+                EXPECT_THAT(rows.Rows(builder::kRows), ElementsAre("28.500000 , -91.250000"));
+            });
+            user.Click(kVertices);
+        });
+    }
+}
+
+TEST_F(NewLineCtrlDlg, WhatTheBuilderChangedIsToldAheadOfOk) {
+    Modify(false, false);
+    Run(dialog, [&](kv::User& user) {
+        ExpectBuilder({}, builder::kAccept, [](kv::User& rows) {
+            rows.Select(builder::kRows, 0);
+            rows.Click(builder::kDelete);
+        });
+        user.Click(kVertices);
+        EXPECT_EQ(dialog.GetOptionFlag().bModify, 1u);
+        EXPECT_EQ(dialog.GetOptionFlag().bNewVertices, 1u);
+        EXPECT_EQ(Points().size(), 2u);
+        // The next look at them begins without a change, and ends so where it is left.
+        ExpectBuilder({}, IDCANCEL, [](kv::User& rows) {
+            EXPECT_THAT(rows.Rows(builder::kRows), ElementsAre("3.000000 , 4.000000"));
+        });
+        user.Click(kVertices);
+        EXPECT_EQ(dialog.GetOptionFlag().bModify, 0u);
+        user.Click(IDOK);
+    });
+    EXPECT_THAT(Points(), ElementsAre(CKvDispPoint{3, 4}));
+}
+
+TEST_F(NewLineCtrlDlg, BehindCancelAModelessOneBeginsWithANewLine) {
+    Modify(true, false);
+    ASSERT_TRUE(dialog.Create(nullptr));
+    dialog.MoveTo({50, 60});
+    kv::User user(*dialog.m_hWnd, [this](const std::string& words) { desktop.Fail(words); });
+    user.Click(IDCANCEL);
+    dialog.MoveTo({50, 60});
+    ExpectBuilder({}, IDCANCEL,
+                  [](kv::User& rows) { EXPECT_THAT(rows.Rows(builder::kRows), IsEmpty()); });
+    user.Click(kVertices);
+    dialog.DestroyWindow();
+}
+
+TEST_F(NewLineCtrlDlg, TheRubberBandIsTheHostsToSwitch) {
+    Run(dialog, [&](kv::User&) {
+        for (const bool on : {false, true}) {
+            dialog.CheckDlgButton(kRubberBand, on);
+            dialog.SendMessage(WM_COMMAND, MAKEWPARAM(kRubberBand, BN_CLICKED));
+            EXPECT_EQ(dialog.GetOptionFlag().bRubberBand, on);
+        }
+    });
+    E_KV_LINE_OPTION option;
+    option.bRubberBand = 0;
+    dialog.SetOptionFlag(option);
+    Run(dialog, [](kv::User& user) {
+        EXPECT_FALSE(user.Checked(kRubberBand));
+        EXPECT_FALSE(user.Enabled(kRubberBand));
+    });
+}
+
 TEST_F(NewLineCtrlDlg, PointsAreAddedBehindThoseThatAreThereUnlessTheseAreToGo) {
     std::vector<CKvDispPoint> points{{9, 9}};
     EXPECT_EQ(dialog.GetUserInputPts(points, true), 0);
@@ -268,10 +389,38 @@ TEST_F(NewLineCtrlDlg, PointsAreAddedBehindThoseThatAreThereUnlessTheseAreToGo) 
 }
 
 /// Its rows can be set as they are.
-class OpenDialog : public CKvNewLineCtrlDlg {
+class OpenDialog : public test::Exchanging<CKvNewLineCtrlDlg> {
 public:
+    using CKvNewLineCtrlDlg::m_pColorBtn;
+    using CKvNewLineCtrlDlg::m_pFillColorBtn;
+    using CKvNewLineCtrlDlg::m_pParent;
+    using CKvNewLineCtrlDlg::m_pTypeBtn;
+    using CKvNewLineCtrlDlg::m_pWidthBtn;
     using CKvNewLineCtrlDlg::m_vecVertices;
 };
+
+TEST_F(NewLineCtrlDlg, ADerivedOneExchangesItsDataAtTheStartAndAtOk) {
+    OpenDialog own;
+    own.SetWaitMode(true);
+    Run(own, [&](kv::User& user) {
+        EXPECT_EQ(own.shown, 1);
+        EXPECT_TRUE(own.m_pWidthBtn && own.m_pColorBtn && own.m_pTypeBtn && own.m_pFillColorBtn);
+        user.Click(IDOK);
+    });
+    EXPECT_EQ(own.taken, 1);
+    EXPECT_FALSE(own.m_pWidthBtn || own.m_pColorBtn || own.m_pTypeBtn || own.m_pFillColorBtn);
+}
+
+TEST_F(NewLineCtrlDlg, AModelessOneKeepsItsParent) {
+    test::TestTemplate parentTemplate({});
+    test::RecordingDialog parent;
+    ASSERT_TRUE(parent.Create(test::kTestTemplate));
+    OpenDialog own;
+    ASSERT_TRUE(own.Create(&parent));
+    EXPECT_EQ(own.m_pParent, &parent);
+    own.DestroyWindow();
+    parent.DestroyWindow();
+}
 
 TEST_F(NewLineCtrlDlg, RowsAreReadWithACommaBehindTheFirstPlaceOrWithout) {
     OpenDialog open;
@@ -288,6 +437,7 @@ TEST_F(NewLineCtrlDlg, ByKeyboardAddsTheBuildersRows) {
         ExpectBuilder({{"3", "4"}}, builder::kAccept);
         dialog.OnRadioByKeyboard();
         EXPECT_EQ(dialog.GetOptionFlag().bByKeyboard, 1u);
+        EXPECT_EQ(dialog.GetOptionFlag().bByMouse, 0u);
         dialog.OnRadioByMouse();
         EXPECT_EQ(dialog.GetOptionFlag().bByKeyboard, 0u);
         EXPECT_EQ(dialog.GetOptionFlag().bByMouse, 1u);

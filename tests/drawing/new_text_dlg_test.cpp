@@ -92,6 +92,31 @@ TEST_F(NewTextDlg, CancelTakesNothing) {
     EXPECT_EQ(dialog.GetHeight(), 0.05F);
 }
 
+TEST_F(NewTextDlg, CancelBehindAnOkTakesItsFlagBack) {
+    Run(dialog, [](kv::User& user) { user.Click(IDOK); });
+    EXPECT_TRUE(dialog.GetOkFlag());
+    Run(dialog, [](kv::User& user) { user.Click(IDCANCEL); });
+    EXPECT_FALSE(dialog.GetOkFlag());
+}
+
+/// Shows what a host that derives sees.
+class OpenText : public CKvNewTextDlg {
+public:
+    bool HoldsControls() const {
+        return m_pColorBtn || m_pWidthBtn || m_pHeightEdit || m_pHeightSpin || m_pAngleEdit ||
+               m_pAngleSpin;
+    }
+};
+
+TEST_F(NewTextDlg, ItsControlsGoWithTheWindow) {
+    OpenText open;
+    Run(open, [&](kv::User& user) {
+        EXPECT_TRUE(open.HoldsControls());
+        user.Click(IDCANCEL);
+    });
+    EXPECT_FALSE(open.HoldsControls());
+}
+
 TEST_F(NewTextDlg, SpinsStepHeightAndAngleWithinTheirRanges) {
     dialog.SetHeight(0.95F);
     dialog.SetAngle(359.0);
@@ -109,6 +134,17 @@ TEST_F(NewTextDlg, SpinsStepHeightAndAngleWithinTheirRanges) {
     });
     EXPECT_FLOAT_EQ(dialog.GetHeight(), 0.95F);
     EXPECT_EQ(dialog.GetAngle(), 360.0);
+    dialog.SetHeight(0.05F);
+    dialog.SetAngle(-359.0);
+    Run(dialog, [](kv::User& user) {
+        kv::Node& window = user.WindowNode();
+        for (int step = 0; step < 3; ++step) {
+            kv::input::StepSpin(*window.FindChild(kHeightSpin), false);
+            kv::input::StepSpin(*window.FindChild(kAngleSpin), false);
+        }
+        EXPECT_EQ(user.Text(kHeight), "0");
+        EXPECT_EQ(user.Text(kAngle), "-360");
+    });
 }
 
 TEST_F(NewTextDlg, AHeightOutOfRangeIsJudgedAtEnterAsAtLeaving) {

@@ -5,6 +5,7 @@
 #include "support/file_faults.h"
 #include "support/temp_folder.h"
 #include "vertice_builder_fixture.h"
+#include "window/controls/edit.h"
 
 using namespace kv::vertice_builder;
 using testing::ElementsAre;
@@ -181,6 +182,37 @@ TEST_F(VerticeBuilder, EnterWalksFromXToYAndAdds) {
         user.Key(0, "Enter");
         EXPECT_THAT(user.Rows(kRows), ElementsAre("1.00   ,   2.00"));
         EXPECT_TRUE(user.Open());
+    });
+}
+
+TEST_F(VerticeBuilder, TheBoxThatAWalkLeadsToIsReadyToBeTypedOver) {
+    Run(dialog, [](kv::User& user) {
+        const auto expectSelected = [&](int id) {
+            EXPECT_EQ(test::FocusedId(), id);
+            int start = 0;
+            int end = 0;
+            user.Window().Control<CEdit>(id).GetSel(start, end);
+            EXPECT_EQ(start, 0) << id;
+            EXPECT_EQ(end, static_cast<int>(user.Text(id).size())) << id;
+        };
+        user.Focus(kX);
+        user.Key(0, "Enter");
+        expectSelected(kY);
+        user.Click(kLatLonMode);
+        expectSelected(kLatDegree);
+        user.Click(kDms);
+        user.Type(kLatDegree, "28");
+        for (const int next : {kLatMinute, kLatSecond}) {
+            user.Key(0, "Enter");
+            expectSelected(next);
+        }
+        user.Focus(kRows);
+        expectSelected(kLonDegree);
+        user.Type(kLonDegree, "-91");
+        for (const int next : {kLonMinute, kLonSecond}) {
+            user.Key(0, "Enter");
+            expectSelected(next);
+        }
     });
 }
 
@@ -561,6 +593,8 @@ TEST_F(VerticeBuilder, APastedCoordinateFillsTheBoxes) {
         user.Paste(kLatDegree, "28.504236, -89.125");
         EXPECT_EQ(user.Text(kLatMinute), "30");
         EXPECT_EQ(user.Text(kLonSecond), "30.000000");
+        for (const int id : {kLatMinute, kLatSecond, kLonMinute, kLonSecond})
+            EXPECT_TRUE(user.Enabled(id)) << id;
     });
 }
 
@@ -571,11 +605,49 @@ TEST_F(VerticeBuilder, APastedListAddsItsRowsAfterAsking) {
             "Add 3 points to the list?\n1 of the lines are no coordinates and are left out.", IDNO);
         user.Paste(kX, list);
         EXPECT_THAT(user.Rows(kRows), IsEmpty());
+        EXPECT_EQ(user.Text(kX), "0.00");
+        EXPECT_FALSE(dialog.GetModifyVertices());
         desktop.ExpectMessage("", IDYES);
         user.Paste(kX, list);
         EXPECT_THAT(user.Rows(kRows), ElementsAre("1.000000 , 2.000000", "3.000000 , 4.000000"));
+        EXPECT_EQ(user.Text(kX), "0.00");
         EXPECT_TRUE(dialog.GetModifyVertices());
         EXPECT_TRUE(user.Enabled(kAccept));
+    });
+}
+
+TEST_F(VerticeBuilder, APastedListOfRowsThatAreThereAlreadyChangesNothing) {
+    Begin({"1,2", "3,4"});
+    Run(dialog, [&](kv::User& user) {
+        desktop.ExpectMessage("Add 2 points to the list?", IDYES);
+        user.Paste(kX, "1\t2\n3\t4\n");
+        EXPECT_EQ(user.Rows(kRows).size(), 2u);
+        EXPECT_FALSE(dialog.GetModifyVertices());
+    });
+}
+
+TEST_F(VerticeBuilder, PastedPositionsGetTheFormOfTheRows) {
+    Run(dialog, [&](kv::User& user) {
+        user.Click(kLatLonMode);
+        desktop.ExpectMessage("Add 2 points to the list?", IDYES);
+        user.Paste(kLatDegree, "28.5, -91.25\n29N 92W");
+        EXPECT_THAT(user.Rows(kRows),
+                    ElementsAre("28.500000 , -91.250000", "29.000000 , -92.000000"));
+        user.Click(kDms);
+        desktop.ExpectMessage("Add 2 points to the list?", IDYES);
+        user.Paste(kLatDegree, "27.5, -90.25\n26.5, -89.25");
+        EXPECT_THAT(
+            user.Rows(kRows),
+            ElementsAre("28 30 0.000000 , -91 15 0.000000", "29 0 0.000000 , -92 0 0.000000",
+                        "27 30 0.000000 , -90 15 0.000000", "26 30 0.000000 , -89 15 0.000000"));
+    });
+}
+
+TEST_F(VerticeBuilder, LinesThatAreNoCoordinatesArePastedAsTheyAre) {
+    Run(dialog, [](kv::User& user) {
+        user.Paste(kX, "abc\ndef");
+        EXPECT_TRUE(user.Text(kX).starts_with("abc"));
+        EXPECT_THAT(user.Rows(kRows), IsEmpty());
     });
 }
 

@@ -152,7 +152,8 @@ void CKvColorPaletteDlg::OnMore() {
     HideShortList();
     GrowToGrid();
     ShowGrid();
-    if (CWnd* cell = GetDlgItem(kGridCell + m_nValue); cell && m_nValue >= 0) cell->SetFocus();
+    if (m_nValue >= 0 && m_nValue < kGridCells)
+        (*m_grid)[static_cast<std::size_t>(m_nValue)].button.SetFocus();
     ShowHeader(true);
 }
 

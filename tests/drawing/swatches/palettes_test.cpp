@@ -4,6 +4,7 @@
 #include "drawing/swatches/kv_color_button.h"
 #include "drawing/swatches/symbol_palettes.h"
 #include "frame/kvcom/color.h"
+#include "support/exchanging_dialog.h"
 #include "support/two_screens.h"
 #include "swatch_fixture.h"
 
@@ -137,6 +138,81 @@ TEST_F(Palettes, TheCellOfTheValueHasTheFocusAndArrowsMoveFromThere) {
     });
 }
 
+TEST_F(Palettes, EndLeadsToTheLastCellAndHomeToTheFirst) {
+    struct Ends {
+        int swatch;
+        int first;
+        int last;
+    };
+    for (const Ends& ends : {Ends{test::kWidth, 2003, 2012},
+                             {test::kType, 2003, 2007},
+                             {test::kBasic, 12036, 12075},
+                             {test::kFull, 17408, 17663},
+                             {test::kNumber, 13079, 13086},
+                             {test::kPoint, 13060, 13078}}) {
+        SCOPED_TRACE(ends.swatch);
+        Open(ends.swatch, "", [&](kv::User& palette) {
+            for (const char* key : {"End", "Right"}) {
+                palette.Key(0, key);
+                EXPECT_EQ(test::FocusedId(), ends.last) << key;
+            }
+            for (const char* key : {"Home", "Left"}) {
+                palette.Key(0, key);
+                EXPECT_EQ(test::FocusedId(), ends.first) << key;
+            }
+            palette.Key(0, "Escape");
+        });
+    }
+    RECT place{10, 10, 20, 20};
+    CClrDlg colors(&place, nullptr);
+    colors.SetValue(3);
+    Run(colors, [](kv::User& palette) {
+        palette.Key(0, "End");
+        EXPECT_EQ(test::FocusedId(), 2018);
+    });
+}
+
+TEST_F(Palettes, TheLastColorOfTheGridCanBePicked) {
+    Run(host, [&](kv::User& user) {
+        desktop.ExpectWindow("Color Fill Palette", [](kv::User& palette) {
+            palette.Key(0, "End");
+            palette.Key(0, "Enter");
+        });
+        user.Click(test::kFull);
+        EXPECT_EQ(host.full.GetCWTValue(), 255);
+    });
+}
+
+TEST_F(Palettes, HomeAndEndWithAnotherKeyMoveNothing) {
+    Open(test::kWidth, "Line Widths", [](kv::User& palette) {
+        for (const char* key : {"Shift+End", "Ctrl+End"}) {
+            palette.Key(0, key);
+            EXPECT_EQ(test::FocusedId(), 2003) << key;
+        }
+        palette.Key(0, "Escape");
+    });
+}
+
+TEST_F(Palettes, ACellIsCalledByItsValue) {
+    Open(test::kWidth, "Line Widths", [](kv::User& palette) {
+        EXPECT_EQ(palette.WindowNode().FindChild(2003)->ToolTip(), "Line width 1");
+        EXPECT_EQ(palette.WindowNode().FindChild(2012)->ToolTip(), "Line width 10");
+        palette.Key(0, "Escape");
+    });
+}
+
+TEST_F(Palettes, ADerivedOneExchangesItsDataAtTheStart) {
+    RECT place{10, 10, 20, 20};
+    test::Exchanging<CClrDlg> colors(&place, nullptr);
+    Run(colors, [&](kv::User&) { EXPECT_EQ(colors.shown, 1); });
+    test::Exchanging<CKvColorFillCtrlDlg> fill;
+    Run(fill, [&](kv::User& user) {
+        EXPECT_EQ(fill.shown, 1);
+        user.Click(IDOK);
+    });
+    EXPECT_EQ(fill.taken, 1);
+}
+
 TEST_F(Palettes, ArrowsGoInRowsAndColumns) {
     Run(host, [&](kv::User& user) {
         host.point.SetChange(13023 + 6);
@@ -157,6 +233,19 @@ TEST_F(Palettes, ArrowsGoInRowsAndColumns) {
         });
         user.Click(test::kPoint);
         EXPECT_EQ(host.point.m_nSymbolId, 13039);
+        // Of the last row there is no fifth, and above the second row the first begins.
+        host.point.SetChange(13023 + 14);
+        desktop.ExpectWindow("Point Symbols", [](kv::User& palette) {
+            palette.Key(0, "Down");
+            EXPECT_EQ(test::FocusedId(), 13074);
+            palette.Key(0, "Home");
+            palette.Key(0, "Down");
+            EXPECT_EQ(test::FocusedId(), 13065);
+            palette.Key(0, "Up");
+            EXPECT_EQ(test::FocusedId(), 13060);
+            palette.Key(0, "Escape");
+        });
+        user.Click(test::kPoint);
     });
 }
 
@@ -214,6 +303,12 @@ TEST_F(Palettes, APointThatIsNoneOfItsSymbolsCountsAsTheSecond) {
         Run(palette, [](kv::User&) { EXPECT_EQ(test::FocusedId(), 13061); });
     }
     RECT place{};
+    for (const unsigned id : {13023u, 13041u}) {
+        CKvGui3DPointSymbolDlg palette(&place, nullptr);
+        palette.SetButtonID(id);
+        Run(palette,
+            [&](kv::User&) { EXPECT_EQ(test::FocusedId(), 13060 + static_cast<int>(id) - 13023); });
+    }
     CKvGui3DLineNumSymbolDlg numbers(&place, nullptr);
     numbers.SetButtonID(1);
     Run(numbers, [](kv::User&) { EXPECT_EQ(test::FocusedId(), 0); });
@@ -251,6 +346,9 @@ TEST_F(Palettes, AStyleIsPickedByAClickOrByArrowsAndEnter) {
         user.Click(test::kTextStyle);
         EXPECT_EQ(host.style.GetCWTValue(), 1);
         EXPECT_EQ(std::ranges::count(host.told, "104 clicked"), 3);
+        desktop.ExpectWindow("Style", [](kv::User& palette) { palette.Select(kStyles, 0); });
+        user.Click(test::kTextStyle);
+        EXPECT_EQ(host.style.GetCWTValue(), 0);
     });
 }
 
@@ -295,8 +393,24 @@ TEST_F(Palettes, AColorThatIsNotOnTheListIsNamedAndHasNoCell) {
     });
 }
 
+TEST_F(Palettes, OfAllColorsTheOneThatThereIsHasTheFocus) {
+    for (const auto& [color, cell] :
+         {std::pair{0, kGridCell}, {255, kGridCell + 255}, {-1, 0}, {256, 0}}) {
+        Run(host, [&](kv::User& user) {
+            host.full.SetChange(color);
+            desktop.ExpectWindow("Color Fill Palette", [cell = cell](kv::User& palette) {
+                EXPECT_TRUE(palette.Visible(kHeader));
+                EXPECT_EQ(test::FocusedId(), cell);
+                palette.Key(0, "Escape");
+            });
+            user.Click(test::kFull);
+        });
+    }
+}
+
 TEST_F(Palettes, LabelsStandCenteredUnderTheirCells) {
     Open(test::kBasic, "", [](kv::User& palette) {
+        EXPECT_GE(palette.WindowNode().FindChild(kHeader)->Rect().left, 0);
         for (int i = 0; i < 40; ++i) {
             const CRect cell = palette.WindowNode().FindChild(12036 + i)->Rect();
             const CRect label = palette.WindowNode().FindChild(29196 + i)->Rect();
@@ -385,6 +499,26 @@ TEST_F(Palettes, AHostOpensABasicColorsPaletteByItself) {
         EXPECT_EQ(host.basic.GetCWTValue(), 0);
         EXPECT_TRUE(Told(test::kBasic));
     });
+}
+
+/// Notes when it is enabled and disabled.
+class NotesEnabling : public CKvGuiBasicColorButton {
+public:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        if (message == WM_ENABLE) told.push_back(wParam != 0);
+        return CKvGuiBasicColorButton::WindowProc(message, wParam, lParam);
+    }
+    std::vector<bool> told;
+};
+
+TEST_F(Palettes, ASwatchThatChangesIsDisabledAndEnabledOnce) {
+    test::RecordingDialog parent;
+    NotesEnabling swatch;
+    Run(parent, [&](kv::User&) {
+        swatch.AutoLoad(test::kBasic, &parent);
+        swatch.SetChange(3);
+    });
+    EXPECT_THAT(swatch.told, testing::ElementsAre(false, true));
 }
 
 TEST_F(Palettes, ADisabledSwatchStaysDisabledWhenItChanges) {
@@ -502,6 +636,38 @@ TEST_F(PalettePlaces, AtTheBottomTypesAndStylesBecomeAsWideAsTheScreen) {
         EXPECT_EQ(place.Width(), kScreen.cx) << swatch;
         EXPECT_EQ(place.TopLeft(), (CPoint{swatchRect.left, swatchRect.bottom})) << swatch;
     }
+}
+
+TEST_F(PalettePlaces, WhatJustFitsStaysBelowItsSwatch) {
+    for (const int swatch : {test::kWidth, test::kType, test::kTextStyle, test::kFull}) {
+        SCOPED_TRACE(swatch);
+        const CRect place = Opened(swatch, {100, 50}, {1600, 1000});
+        const int below = swatch == test::kFull ? 35 : 0;
+        EXPECT_EQ(Opened(swatch, {100, 50}, {place.right, place.bottom + below}), place);
+    }
+    const CRect colors = Opened(test::kBasic, {100, 400}, {1600, 1000});
+    const int height = colors.Height();
+    host.onInit = [&] {
+        CRect swatch;
+        host.GetDlgItem(test::kBasic)->GetWindowRect(&swatch);
+        CRect frame;
+        host.GetWindowRect(&frame);
+        host.SetWindowPos(nullptr, 0, 0, 600, swatch.bottom + height - frame.top,
+                          SWP_NOMOVE | SWP_NOZORDER);
+        return TRUE;
+    };
+    const CRect place = Opened(test::kBasic, {100, 20}, {1600, 1000});
+    EXPECT_EQ(place.TopLeft(), (CPoint{swatchRect.left, swatchRect.bottom}));
+    EXPECT_EQ(place.bottom, hostRect.bottom);
+}
+
+TEST_F(PalettePlaces, AllColorsStandToTheLeftOfTheSwatchAlsoWhereTheyJustFit) {
+    const CRect first = Opened(test::kFull, {100, 50}, {1600, 1000});
+    const int ahead = swatchRect.left - hostRect.left;
+    const CRect place =
+        Opened(test::kFull, {first.Width() - ahead, 50}, {first.Width() + 100, 1000});
+    EXPECT_EQ(place.left, 0);
+    EXPECT_EQ(place.right, swatchRect.left);
 }
 
 TEST_F(PalettePlaces, ColorsStandAboveTheSwatchWhereTheyWouldPassTheParent) {

@@ -286,8 +286,10 @@ TEST_F(SwatchPixels, AGridCellTakesItsColorWhenItIsShown) {
     GridButton cell(host, kv::palettes::kGridCell + 9);
     EXPECT_EQ(Painted(cell).Pixel({4, 4}), Face());
     EXPECT_EQ(cell.GetButtonStyle(), BS_OWNERDRAW);
+    cell.SetButtonStyle(BS_PUSHBUTTON);
     cell.ShowWindow(SW_HIDE);
     cell.ShowWindow(SW_SHOW);
+    EXPECT_EQ(cell.GetButtonStyle(), BS_OWNERDRAW);
     const kv::Raster picture = Painted(cell);
     EXPECT_EQ(picture.Pixel({4, 4}), RGB(255, 0, 0));
     EXPECT_GT(std::ranges::count(picture.Pixels(), kv::ToArgb(RGB(255, 255, 255))), 2);
@@ -310,6 +312,12 @@ TEST_F(SwatchPixels, AGridCellHasSevenColorsOfItsOwn) {
     EXPECT_EQ(down.Pixel({0, 0}), RGB(7, 0, 0));
     EXPECT_EQ(down.Pixel({24, 24}), RGB(5, 0, 0));
     EXPECT_EQ(down.Pixel({1, 1}), RGB(6, 0, 0));
+    // On the ground of the button there is its text, and nothing else.
+    for (int y = 3; y < 22; ++y) {
+        for (int x = 3; x < 22; ++x) {
+            EXPECT_TRUE(up.Pixel({x, y}) == RGB(1, 0, 0) || up.Pixel({x, y}) == RGB(2, 0, 0));
+        }
+    }
     // The text moves with the button.
     for (int y = 4; y < 21; ++y) {
         for (int x = 4; x < 21; ++x) {
@@ -317,6 +325,14 @@ TEST_F(SwatchPixels, AGridCellHasSevenColorsOfItsOwn) {
         }
     }
     cell.SetState(FALSE);
+    cell.SetColor(RGB(8, 0, 0), RGB(9, 0, 0));
+    const kv::Raster two = Painted(cell);
+    EXPECT_EQ(two.Pixel({3, 3}), RGB(9, 0, 0));
+    EXPECT_GT(std::ranges::count(two.Pixels(), kv::ToArgb(RGB(8, 0, 0))), 2);
+    EXPECT_EQ(two.Pixel({0, 0}), RGB(5, 0, 0));
+    cell.EnableWindow(FALSE);
+    EXPECT_GT(std::ranges::count(Painted(cell).Pixels(), kv::ToArgb(RGB(3, 0, 0))), 2);
+    cell.EnableWindow(TRUE);
     cell.SetColorToWindowsDefault();
     EXPECT_EQ(Painted(cell).Pixel({3, 3}), Face());
 }
