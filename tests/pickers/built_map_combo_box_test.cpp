@@ -217,6 +217,7 @@ TEST_F(BuiltMapBoxes, AFailureOfTheFillingStepGoesToTheLog) {
     Change("drop table gulf_mexico_connam2");
     Fill(2);
     EXPECT_THAT(RowsIn(area), ElementsAre(" -AREA NAME-", " -MMS CODE-"));
+    EXPECT_THAT(folder.Read("log.txt"), HasSubstr("Database error: "));
     EXPECT_THAT(folder.Read("log.txt"), HasSubstr("no such table"));
 }
 

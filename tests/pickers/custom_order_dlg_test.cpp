@@ -143,6 +143,17 @@ TEST_F(CustomOrder, MovesDoNothingWithoutACurrentRow) {
     });
 }
 
+TEST_F(CustomOrder, AButtonThatIsDisabledTakesTheFocusFromNoOther) {
+    OpenOrder moves;
+    Run(moves, [&](kv::User& user) {
+        user.Select(kAreas, 1);
+        user.Focus(kReset);
+        moves.OnBtnTop();
+        EXPECT_FALSE(user.Enabled(kTop));
+        EXPECT_EQ(test::FocusedId(), kReset);
+    });
+}
+
 TEST_F(CustomOrder, MovesBeyondTheEndsDoNothing) {
     OpenOrder moves;
     Run(moves, [&](kv::User& user) {
