@@ -5,7 +5,6 @@
 #include <charconv>
 #include <chrono>
 #include <cmath>
-#include <optional>
 
 #include "base/text.h"
 #include "kvload/refused.h"
@@ -33,15 +32,6 @@ std::string TextValue(const Column& column, std::string_view text) {
         throw Refused("holds a sign that is no letter: " + Quoted(text));
     if (Characters(value) > static_cast<size_t>(column.length))
         throw Refused(Quoted(text) + " is longer than " + std::to_string(column.length));
-    return value;
-}
-
-/// None where the text is no number, or has anything behind it.
-std::optional<double> NumberIn(std::string_view text) {
-    double value = 0.0;
-    const char* end = text.data() + text.size();
-    const auto read = std::from_chars(text.data(), end, value);
-    if (read.ec != std::errc() || read.ptr != end || !std::isfinite(value)) return std::nullopt;
     return value;
 }
 
@@ -142,6 +132,14 @@ std::optional<std::string> ReadDay(std::string_view text, std::string_view forma
 
 }  // namespace
 
+std::optional<double> NumberIn(std::string_view text) {
+    double value = 0.0;
+    const char* end = text.data() + text.size();
+    const auto read = std::from_chars(text.data(), end, value);
+    if (read.ec != std::errc() || read.ptr != end || !std::isfinite(value)) return std::nullopt;
+    return value;
+}
+
 std::string DegreesText(double value) {
     char text[64];
     const auto written =
@@ -158,6 +156,12 @@ std::string_view WithoutZeroFraction(std::string_view text) {
     const bool isZero = point != std::string_view::npos && point + 1 < text.size() &&
                         text.find_first_not_of('0', point + 1) == std::string_view::npos;
     return isZero ? text.substr(0, point) : text;
+}
+
+std::string WholeAmount(const std::string& text) {
+    const std::optional<double> value = NumberIn(WithoutThousands(text));
+    if (!value || *value == std::round(*value)) return text;
+    return kv::FormatText("%.0f", std::round(*value));
 }
 
 bool IsDay(std::string_view text, const std::string& format) {
@@ -208,6 +212,7 @@ std::string CellValue(const Column& column, std::string_view text, const std::st
     if (value.empty()) return {};
     const std::string_view name = column.name;
     if (name == "api_no") return ApiNumber(value);
+    if (name == "stcode") return TextValue(column, WithoutZeroFraction(value));
     if (name == "lbnum" || name == "to_lbnum" || name == "lbext" || name == "to_lbext")
         throw std::logic_error("The parts of a label are split by its rule");
     switch (column.kind) {

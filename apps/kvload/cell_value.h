@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -17,6 +18,9 @@ std::string CellValue(const kv::sample::Column& column, std::string_view text,
 /// hyphens, also where a table calculation took its leading zero. Throws Refused.
 std::string ApiNumber(std::string_view text);
 
+/// None where the text is no number, or has anything behind it.
+std::optional<double> NumberIn(std::string_view text);
+
 /// Year-month-day. Throws Refused.
 std::string DayOf(std::string_view text, const std::string& format);
 
@@ -25,6 +29,9 @@ std::string DegreesText(double value);
 
 /// A table calculation writes a whole number with a fraction of nothing: "12.0" is "12".
 std::string_view WithoutZeroFraction(std::string_view text);
+
+/// A number that has a fraction, rounded; any other text as it stands.
+std::string WholeAmount(const std::string& text);
 
 /// Whether a text is a date by that format.
 bool IsDay(std::string_view text, const std::string& format);

@@ -115,7 +115,7 @@ double Number(const std::string& text) {
 }
 
 bool IsPlace(const Spot& spot) {
-    return std::abs(spot.y) <= 90.0 && std::abs(spot.x) <= 360.0;
+    return std::abs(spot.y) <= 90.0 && std::abs(spot.x) <= 180.0;
 }
 
 /// What the corners of outlines tell.

@@ -11,11 +11,13 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "base/export.h"
 #include "base/text.h"
 #include "geofiles/gdal_handles.h"
 #include "kvload/source.h"
+#include "kvload/text_table.h"
 
 namespace kvload {
 namespace {
@@ -35,31 +37,75 @@ Dataset OpenDataset(const std::string& path, const char* const* options) {
                               options, nullptr));
 }
 
-/// What lies in an archive, or in the one folder of it that holds tables; none where two do.
-Dataset OpenArchive(const std::string& path, const char* const* options) {
-    const std::string root = "/vsizip/" + path;
-    if (Dataset whole = OpenDataset(root, options)) return whole;
-    char** names = VSIReadDirRecursive(root.c_str());
-    Dataset found;
-    bool several = false;
-    for (int i = 0; i < CSLCount(names); ++i) {
-        std::string name = names[i];
-        if (!name.ends_with('/')) continue;
-        name.pop_back();
-        Dataset inside = OpenDataset(root + "/" + name, options);
-        several = several || (inside && found);
-        if (inside) found = std::move(inside);
+/// What lies in an archive, by names within it.
+struct Content {
+    std::vector<std::string> folders;
+    std::vector<std::string> texts;
+
+    explicit Content(const std::string& root) {
+        char** names = VSIReadDirRecursive(root.c_str());
+        for (int i = 0; i < CSLCount(names); ++i) {
+            std::string name = names[i];
+            // Where one system keeps what only it knows of the files.
+            if (name.starts_with("__MACOSX")) continue;
+            if (name.ends_with('/')) {
+                name.pop_back();
+                folders.push_back(name);
+            } else if (IsTextByName(name)) {
+                texts.push_back(name);
+            }
+        }
+        CSLDestroy(names);
     }
-    CSLDestroy(names);
-    return several ? nullptr : std::move(found);
+};
+
+/// The one of those names that holds tables; null, with a reason, where several do.
+template <typename OpenNamed>
+Dataset OpenTheOne(const std::vector<std::string>& names, const OpenNamed& open,
+                   std::string& failure) {
+    Dataset found;
+    std::string where;
+    for (const std::string& name : names) {
+        Dataset inside = open(name);
+        if (!inside || GDALDatasetGetLayerCount(inside.get()) == 0) continue;
+        if (found) {
+            failure = "Tables lie in " + where + " and in " + name + ": unpack it first";
+            return nullptr;
+        }
+        found = std::move(inside);
+        where = name;
+    }
+    return found;
 }
 
-/// An archive is what lies in it, where it is no format of its own.
-Dataset OpenDatasetOrArchive(const std::string& path, const char* const* options) {
+/// What lies in an archive, or in the one folder or else text of it that holds tables.
+Dataset OpenArchive(const std::string& path, const char* const* options, std::string& failure) {
+    const std::string root = "/vsizip/" + path;
+    if (Dataset whole = OpenDataset(root, options)) return whole;
+    const Content content(root);
+    const auto full = [&](const std::string& name) { return root + "/" + name; };
+    Dataset found = OpenTheOne(
+        content.folders, [&](const std::string& name) { return OpenDataset(full(name), options); },
+        failure);
+    if (found || !failure.empty()) return found;
+    return OpenTheOne(
+        content.texts, [&](const std::string& name) { return OpenTextTable(full(name)); }, failure);
+}
+
+/// An archive is what lies in it, where it is no format of its own, and a text a table.
+Dataset OpenAny(const std::string& path, const char* const* options, std::string& failure) {
     if (kv::ToLower(path).ends_with(".zip")) {
-        if (Dataset inside = OpenArchive(path, options)) return inside;
+        Dataset inside = OpenArchive(path, options, failure);
+        if (inside || !failure.empty()) return inside;
     }
-    return OpenDataset(path, options);
+    if (!IsTextByName(path)) return OpenDataset(path, options);
+    if (HasFixedColumns(path)) {
+        failure =
+            "Its columns are of a fixed width, which it does not tell: part them by commas first";
+        return nullptr;
+    }
+    Dataset known = OpenDataset(path, options);
+    return known ? std::move(known) : OpenTextTable(path);
 }
 
 OGRLayerH FindLayer(GDALDatasetH dataset, const SourceName& source, std::string& failure) {
@@ -319,9 +365,9 @@ private:
 std::unique_ptr<GdalLayer> OpenWith(const SourceName& source, const char* const* options,
                                     std::string& failure) {
     const Complaints complaints;
-    Dataset dataset = OpenDatasetOrArchive(source.path, options);
+    Dataset dataset = OpenAny(source.path, options, failure);
     if (!dataset) {
-        failure = complaints.Words("It is of no format that can be read");
+        if (failure.empty()) failure = complaints.Words("It is of no format that can be read");
         return nullptr;
     }
     OGRLayerH layer = FindLayer(dataset.get(), source, failure);
@@ -331,11 +377,11 @@ std::unique_ptr<GdalLayer> OpenWith(const SourceName& source, const char* const*
 
 bool IsShapefileOfUnknownLetters(const SourceName& source) {
     const Complaints complaints;
-    const Dataset dataset = OpenDatasetOrArchive(source.path, nullptr);
+    std::string ignored;
+    const Dataset dataset = OpenAny(source.path, nullptr, ignored);
     if (!dataset) return false;
     GDALDriverH driver = GDALGetDatasetDriver(dataset.get());
     if (std::string_view(GDALGetDriverShortName(driver)) != "ESRI Shapefile") return false;
-    std::string ignored;
     OGRLayerH layer = FindLayer(dataset.get(), source, ignored);
     return layer && LettersAreUnknown(layer);
 }

@@ -2,11 +2,17 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <nlohmann/json.hpp>
+#include <optional>
+#include <set>
 #include <stdexcept>
 
 #include "base/text.h"
 #include "kvload/cell_value.h"
+#include "kvload/column_names.h"
+#include "kvload/label.h"
+#include "kvload/refused.h"
 #include "kvload/targets.h"
 
 namespace kvload {
@@ -16,62 +22,14 @@ using nlohmann::ordered_json;
 
 constexpr int kRowsLookedAt = 200;
 
-/// Names under which a column goes elsewhere, in capitals and without signs; the likeliest first.
-struct Names {
-    const char* column;
-    std::vector<const char*> names;
+/// What stands behind the name of a coordinate that tells its datum.
+struct DatumMark {
+    const char* mark;
+    const char* crs;
 };
-
-const std::vector<Names>& NamesOfColumns() {
-    static const std::vector<Names> names = {
-        {"areaname", {"AREANAME", "AREANM", "PROTNAME", "NAME", "AREA"}},
-        {"stcode", {"STCODE", "AREACODE", "AREACD", "PROTNUMBER", "CODE"}},
-        {"area_abbr", {"AREAABBR", "ABBR", "MMSCODE", "ACLAB", "AREAABBREV"}},
-        {"projection", {"PROJECTION", "PROJCODE"}},
-        {"areacode",
-         {"AREACODE", "AREACD", "STCODE", "ACLAB", "AREAABBR", "SURFAREA", "SURFAREACODE",
-          "ORIGAREA", "AREA", "AREANAME"}},
-        {"lbnum", {"LBNUM"}},
-        {"lbext", {"LBEXT"}},
-        {"label",
-         {"LABEL", "BLOCKLAB", "BLOCKLABEL", "BLOCKNUMBER", "BLOCKNUM", "BLOCKNO", "BLOCK", "BLKNO",
-          "BLKNUM", "BLK", "SURFBLOCK", "SURFBLOCKNUMBER", "BLOCKNBR"}},
-        {"company_no", {"COMPANYNO", "COMPANYNUMBER", "COMPANYNUM", "MMSCOMPANYNUM"}},
-        {"company", {"COMPANY", "COMPANYNAME", "BUSASCNAME", "OWNER", "LESSEE"}},
-        {"percent", {"PERCENT", "ASSIGNMENTPCT", "SHARE"}},
-        {"lease_no", {"LEASENO", "LEASENUMBER", "LEASENUM", "LEASE", "SURFLEASENUMBER"}},
-        {"lplana", {"LPLANA", "PLANAREA", "MMSPLANAREACD"}},
-        {"status",
-         {"STATUS", "LEASESTATUSCD", "LEASESTATUS", "STATUSCODE", "STATUSCD", "BOREHOLESTATCD",
-          "SEGSTATUS"}},
-        {"lessee", {"LESSEE", "LESSEENAME"}},
-        {"operator", {"OPERATOR", "OPERATORNAME", "COMPANYNAME", "BUSASCNAME", "OPNAME"}},
-        {"lease_date", {"LEASEDATE", "LEASEEFFDATE", "EFFECTIVEDATE", "EFFDATE"}},
-        {"expire_date", {"EXPIREDATE", "LEASEEXPIRDATE", "EXPIRATIONDATE", "EXPDATE"}},
-        {"acres", {"ACRES", "CURRAREA", "ACREAGE"}},
-        {"royalty_pct", {"ROYALTYPCT", "ROYALTYRATE", "ROYALTY"}},
-        {"bonus", {"BONUS", "BIDAMOUNT"}},
-        {"api_no", {"APINO", "APINUMBER", "APIWELLNUMBER", "API", "APINUM", "APIWELLNO", "UWI"}},
-        {"well_name", {"WELLNAME", "WELLNO", "WELLNUMBER"}},
-        {"total_depth", {"TOTALDEPTH", "BHTOTALMD", "TD"}},
-        {"water_depth", {"WATERDEPTH", "WTRDEPTH"}},
-        {"spud_date", {"SPUDDATE", "WELLSPUDDATE", "SPUD"}},
-        {"complex_id", {"COMPLEXID", "COMPLEXIDNUM"}},
-        {"structure", {"STRUCTURE", "STRUCTURENAME", "STRUCNAME"}},
-        {"install_date", {"INSTALLDATE", "INSTDATE"}},
-        {"removal_date", {"REMOVALDATE", "REMOVDATE"}},
-        {"segment_no", {"SEGMENTNO", "SEGMENTNUM", "SEGMENTNUMBER", "SEGNO"}},
-        {"product", {"PRODUCT", "PRODCODE", "PRODUCTCODE", "PRODCD"}},
-        {"size_in", {"SIZEIN", "PPLSIZECODE", "SIZE", "DIAMETER"}},
-        {"approval_date", {"APPROVALDATE", "APRVCODE", "APRVDATE"}},
-        {"x", {"LONGITUDE", "LON", "LONG", "SURFLONGITUDE", "SURFLON", "LNG", "X", "XCOORD"}},
-        {"y", {"LATITUDE", "LAT", "SURFLATITUDE", "SURFLAT", "Y", "YCOORD"}},
-        {"bottom x", {"BOTTLONGITUDE", "BOTTLON", "BOTLON", "BHLON", "BOTTOMLONGITUDE"}},
-        {"bottom y", {"BOTTLATITUDE", "BOTTLAT", "BOTLAT", "BHLAT", "BOTTOMLATITUDE"}},
-        {"wkt", {"WKT", "GEOM", "GEOMETRY", "THEGEOM", "SHAPE"}},
-    };
-    return names;
-}
+constexpr DatumMark kDatumMarks[] = {{"NAD27", "EPSG:4267"}, {"27", "EPSG:4267"},
+                                     {"NAD83", "EPSG:4269"}, {"83", "EPSG:4269"},
+                                     {"WGS84", "EPSG:4326"}, {"84", "EPSG:4326"}};
 
 std::string Plain(std::string_view name) {
     std::string plain;
@@ -79,6 +37,10 @@ std::string Plain(std::string_view name) {
         if (kv::IsDigit(ch) || (ch >= 'A' && ch <= 'Z')) plain += ch;
     return plain;
 }
+
+constexpr size_t kLongestCode = 5;
+/// What counts in a guess, beside the number of columns.
+constexpr int kGood = 5, kVital = 20;
 
 class Guesser {
 public:
@@ -92,13 +54,17 @@ public:
     Guess Make() {
         const Target& target = Likeliest();
         json_["table"] = target.name;
-        if (const bool places = target.places != Places::kNone;
-            places && layer_.ReferenceSystem().empty()) {
+        const Pair place = PlaceOf(target), bottom = BottomOf(target);
+        const bool isTold = place.Tells() && (!bottom.IsThere() || bottom.Tells());
+        if (target.places != Places::kNone && layer_.ReferenceSystem().empty() && !isTold) {
             json_["crs"] = "";
             Note("the source does not tell its reference system: name it as \"crs\", as EPSG:4267");
         }
         json_["fields"] = Fields(target);
-        AddPlaces(target);
+        if (place.IsThere()) json_["place"] = RuleOf(place);
+        if (target.vertices && IsBare() && FieldNamed("wkt") >= 0)
+            json_["place"] = {{"wkt", NameOf(FieldNamed("wkt"))}};
+        if (bottom.IsThere()) json_["bottom"] = RuleOf(bottom);
         return {json_.dump(4) + "\n", notes_};
     }
 
@@ -119,34 +85,116 @@ private:
         }
     }
 
-    /// -1 where there is none.
-    int FieldFor(std::string_view column) const {
-        const auto names = std::ranges::find(NamesOfColumns(), column, &Names::column);
-        if (names == NamesOfColumns().end()) return -1;
-        for (const char* name : names->names)
-            if (const auto found = std::ranges::find(plain_, name); found != plain_.end())
-                return static_cast<int>(found - plain_.begin());
+    /// The fields of two coordinates, and the system that their names tell.
+    struct Pair {
+        int x = -1, y = -1;
+        const char* crs = "";
+        bool IsThere() const { return x >= 0 && y >= 0; }
+        bool Tells() const { return IsThere() && *crs; }
+    };
+
+    /// A shapefile keeps ten characters of a name.
+    bool IsNamed(size_t field, std::string_view name) const {
+        constexpr size_t kOfAShapefile = 10;
+        return plain_[field] == name || (layer_.Fields()[field].size() == kOfAShapefile &&
+                                         !plain_[field].empty() && name.starts_with(plain_[field]));
+    }
+
+    /// The fields that may be a column by their names, the likeliest first.
+    std::vector<int> FieldsNamed(std::string_view column) const {
+        std::vector<int> fields;
+        for (const char* name : NamesOfColumn(column))
+            for (size_t i = 0; i < plain_.size(); ++i)
+                if (IsNamed(i, name) &&
+                    std::ranges::find(fields, static_cast<int>(i)) == fields.end())
+                    fields.push_back(static_cast<int>(i));
+        return fields;
+    }
+    int FieldNamed(std::string_view column) const {
+        const std::vector<int> fields = FieldsNamed(column);
+        return fields.empty() ? -1 : fields.front();
+    }
+
+    /// The first of them whose values a column can take; -1 where there is none.
+    int FieldFor(const Target& target, const std::string& column) const {
+        for (const int field : FieldsNamed(column))
+            if (WhyUnfit(target, column, field).empty()) return field;
         return -1;
     }
 
-    /// What a row must have counts most, and that the geometry is of its kind.
-    int Likelihood(const Target& target) const {
-        int score = 0;
-        for (const std::string& column : FillableNames(target))
-            if (FieldFor(column) >= 0) ++score;
-        for (const char* column : target.required) {
-            const bool label = std::string_view(column) == "lbnum" && FieldFor(kLabel) >= 0;
-            if (label || FieldFor(column) >= 0)
-                score += 10;
-            else
-                score -= 20;
+    /// Why a column cannot take most of a field's values; "" where it can.
+    std::string WhyUnfit(const Target& target, const std::string& column, int field) const {
+        const auto& values = values_[static_cast<size_t>(field)];
+        const std::string format = DateFormatOf(values);
+        size_t unfit = 0;
+        std::string why;
+        for (const std::string& value : values) {
+            try {
+                Try(target, column, value, format);
+            } catch (const Refused& reason) {
+                ++unfit;
+                why = reason.what();
+            }
         }
+        return 2 * unfit > values.size() ? why : "";
+    }
+
+    /// Throws Refused where the value is none for the column.
+    static void Try(const Target& target, const std::string& column, const std::string& value,
+                    const std::string& dateFormat) {
+        const kv::sample::Table& table = TableOf(target);
+        const int at = ColumnIndex(table, column);
+        const bool hasLetters = std::ranges::any_of(
+            kv::ToUpper(value), [](char ch) { return (ch >= 'A' && ch <= 'Z') || (ch & 0x80); });
+        if (column == kLabel || column == kToLabel) {
+            LabelRule().Split(value, "");
+        } else if (column.ends_with("lbnum")) {
+            BlockNumber(value);
+        } else if (column.ends_with("lbext")) {
+            BlockExtension(value);
+        } else if (column == kProjection) {
+            CellValue({kProjection, kv::sample::CellKind::kWhole}, value, "");
+        } else if (NamesArea(column) || column == "areaname") {
+            const bool isCode =
+                column != "areaname" && WithoutZeroFraction(value).size() <= kLongestCode;
+            if (!hasLetters && !isCode) throw Refused("\"" + value + "\" is no name");
+        } else if (at >= 0) {
+            const kv::sample::Column& taken = table.columns[static_cast<size_t>(at)];
+            const bool isAmount = taken.kind == kv::sample::CellKind::kWhole;
+            CellValue(taken, isAmount ? WholeAmount(value) : value, dateFormat);
+        }
+    }
+
+    bool IsBare() const { return layer_.Kind() == ShapeKind::kNone; }
+
+    /// How well the geometry is that of the target: below 0 where it cannot be.
+    int FitOfShapes(const Target& target) const {
         static constexpr std::array kFits = {std::pair{ShapeKind::kPolygon, Places::kOutline},
                                              std::pair{ShapeKind::kLine, Places::kLine},
                                              std::pair{ShapeKind::kPoint, Places::kPoint},
                                              std::pair{ShapeKind::kNone, Places::kNone}};
-        if (std::ranges::find(kFits, std::pair{layer_.Kind(), target.places}) != kFits.end())
-            score += 5;
+        const std::pair kinds{layer_.Kind(), target.places};
+        const bool byFields =
+            IsBare() && (target.vertices ? FieldNamed("wkt") >= 0 : PlaceOf(target).IsThere());
+        if (byFields || std::ranges::find(kFits, kinds) != kFits.end()) return kGood;
+        const bool mayBeAny = target.places == Places::kNone ||
+                              layer_.Kind() == ShapeKind::kOther || (IsBare() && !target.vertices);
+        return mayBeAny ? 0 : -kVital;
+    }
+
+    /// How many of its columns there are. What a row must have counts most, and that the geometry
+    /// is of its kind.
+    int Likelihood(const Target& target) const {
+        int score = FitOfShapes(target);
+        for (const std::string& column : FillableNames(target))
+            if (FieldFor(target, column) >= 0) ++score;
+        for (const std::string column : target.required) {
+            const bool isLabel = column == "lbnum" && FieldFor(target, kLabel) >= 0;
+            if (!isLabel && FieldFor(target, column) < 0)
+                score -= kVital;
+            else if (target.required.size() == 1)
+                score += kGood;  // a number that nothing else has
+        }
         return score;
     }
 
@@ -156,16 +204,24 @@ private:
     }
 
     ordered_json Fields(const Target& target) {
+        const bool byParts = FieldFor(target, "lbnum") >= 0;
         ordered_json fields = ordered_json::object();
+        std::set<int> taken;
+        std::vector<std::string> unfilled;
         for (const std::string& column : FillableNames(target)) {
-            if (column.starts_with("lb") && FieldFor("lbnum") < 0) continue;
-            if (column == kLabel && FieldFor("lbnum") >= 0) continue;
-            if (const int field = FieldFor(column); field >= 0)
-                fields[column] = RuleFor(target, column, field);
+            if (byParts ? column == kLabel : column.starts_with("lb")) continue;
+            const int field = FieldFor(target, column);
+            if (field < 0) {
+                unfilled.push_back(column);
+                continue;
+            }
+            taken.insert(field);
+            fields[column] = RuleFor(target, column, field);
         }
-        for (const char* column : target.required) {
-            const std::string name =
-                std::string_view(column) == "lbnum" && FieldFor("lbnum") < 0 ? kLabel : column;
+        for (const std::string& column : unfilled)
+            NoteUnfit(target, column, taken);
+        for (const std::string column : target.required) {
+            const std::string name = column == "lbnum" && !byParts ? kLabel : column;
             if (fields.contains(name)) continue;
             fields[name] = "";
             Note("no field was found for \"" + name + "\", which " + target.name +
@@ -174,23 +230,34 @@ private:
         return fields;
     }
 
+    /// Tells of a field that by its name were the column, unless it is another one.
+    void NoteUnfit(const Target& target, const std::string& column, const std::set<int>& taken) {
+        const int field = FieldNamed(column);
+        if (field >= 0 && !taken.contains(field))
+            Note(NameOf(field) + " is not taken for \"" + column +
+                 "\": " + WhyUnfit(target, column, field));
+    }
+
     ordered_json RuleFor(const Target& target, const std::string& column, int field) {
-        const std::string& name = layer_.Fields()[static_cast<size_t>(field)];
+        const std::string& name = NameOf(field);
         const auto& values = values_[static_cast<size_t>(field)];
         const int at = ColumnIndex(TableOf(target), column);
-        if (column == "areacode") {
+        if (NamesArea(column)) {
             if (const char* by = AreaColumnOf(values)) return {{"field", name}, {"by", by}};
         } else if (at >= 0 && TableOf(target).columns[static_cast<size_t>(at)].kind ==
                                   kv::sample::CellKind::kDate) {
-            if (const std::string format = DateFormatOf(column, values); !format.empty())
-                return {{"field", name}, {"format", format}};
+            const std::string format = DateFormatOf(values);
+            if (AreDays(values, "MM/DD/YYYY") && AreDays(values, "DD/MM/YYYY"))
+                Note("the dates of \"" + column + "\" may be read in two ways; " + format +
+                     " is a guess");
+            if (!format.empty()) return {{"field", name}, {"format", format}};
         }
         return name;
     }
 
     /// Two letters are an MMS code, what is too long for a code a name.
     static const char* AreaColumnOf(const std::vector<std::string>& values) {
-        constexpr size_t kLongestMmsCode = 2, kLongestCode = 5;
+        constexpr size_t kLongestMmsCode = 2;
         size_t longest = 0;
         for (const std::string& value : values)
             longest = std::max(longest, value.size());
@@ -199,40 +266,68 @@ private:
         return longest > kLongestCode ? "areaname" : nullptr;
     }
 
+    /// Whether all are days of that form; one of zeros alone is none at all.
+    static bool AreDays(const std::vector<std::string>& values, const char* form) {
+        return !values.empty() && std::ranges::all_of(values, [&](const std::string& value) {
+            return value.find_first_not_of('0') == std::string::npos || IsDay(value, form);
+        });
+    }
+
     /// "" where dates can be read in one way only.
-    std::string DateFormatOf(const std::string& column, const std::vector<std::string>& values) {
-        static constexpr std::array kForms = {"MM/DD/YYYY", "DD/MM/YYYY", "MM/DD/YY",
-                                              "DD-MON-YY",  "DD.MM.YYYY", "MM-DD-YYYY"};
-        const auto all = [&](const char* form) {
-            return !values.empty() && std::ranges::all_of(values, [&](const std::string& value) {
-                return IsDay(value, form);
-            });
-        };
+    static std::string DateFormatOf(const std::vector<std::string>& values) {
+        static constexpr std::array kForms = {"MM/DD/YYYY", "DD/MM/YYYY", "MM/DD/YY",  "DD-MON-YY",
+                                              "DD.MM.YYYY", "MM-DD-YYYY", "YYYY.MM.DD"};
         for (const char* plain : {"YYYY-MM-DD", "YYYY/MM/DD", "YYYYMMDD", "DD-MON-YYYY"})
-            if (all(plain)) return {};
-        for (const char* form : kForms) {
-            if (!all(form)) continue;
-            if (all("MM/DD/YYYY") && all("DD/MM/YYYY"))
-                Note("the dates of \"" + column + "\" may be read in two ways; " + form +
-                     " is a guess");
-            return form;
-        }
+            if (AreDays(values, plain)) return {};
+        for (const char* form : kForms)
+            if (AreDays(values, form)) return form;
         return {};
     }
 
-    void AddPlaces(const Target& target) {
-        const auto name = [&](const char* column) {
-            const int field = FieldFor(column);
-            return field < 0 ? "" : layer_.Fields()[static_cast<size_t>(field)];
+    const std::string& NameOf(int field) const {
+        return layer_.Fields()[static_cast<size_t>(field)];
+    }
+
+    /// The two fields by names with that mark behind them.
+    Pair PairNamed(std::string_view x, std::string_view y, const DatumMark& mark) const {
+        const auto marked = [&](std::string_view column) {
+            for (const char* name : NamesOfColumn(column)) {
+                const auto found = std::ranges::find(plain_, std::string(name) + mark.mark);
+                if (found != plain_.end()) return static_cast<int>(found - plain_.begin());
+            }
+            return -1;
         };
-        const bool isBare = layer_.Kind() == ShapeKind::kNone;
-        if (target.places == Places::kPoint && isBare && FieldFor("x") >= 0 && FieldFor("y") >= 0)
-            json_["place"] = {{"x", name("x")}, {"y", name("y")}};
-        if (target.vertices && isBare && FieldFor("wkt") >= 0)
-            json_["place"] = {{"wkt", name("wkt")}};
-        if (ColumnIndex(TableOf(target), "bot_lat") >= 0 && FieldFor("bottom x") >= 0 &&
-            FieldFor("bottom y") >= 0)
-            json_["bottom"] = {{"x", name("bottom x")}, {"y", name("bottom y")}};
+        const Pair pair{marked(x), marked(y), mark.crs};
+        return AreDegrees(pair.x, 360.0) && AreDegrees(pair.y, 90.0) ? pair : Pair{};
+    }
+
+    /// What its name tells is a datum of degrees alone.
+    bool AreDegrees(int field, double most) const {
+        return field >= 0 && std::ranges::all_of(values_[static_cast<size_t>(field)],
+                                                 [&](const std::string& value) {
+                                                     const std::optional<double> number =
+                                                         NumberIn(value);
+                                                     return number && std::abs(*number) <= most;
+                                                 });
+    }
+
+    Pair PairFor(std::string_view x, std::string_view y) const {
+        for (const DatumMark& mark : kDatumMarks)
+            if (const Pair pair = PairNamed(x, y, mark); pair.IsThere()) return pair;
+        return {FieldNamed(x), FieldNamed(y), ""};
+    }
+    Pair PlaceOf(const Target& target) const {
+        return target.places == Places::kPoint && IsBare() ? PairFor("x", "y") : Pair{};
+    }
+    Pair BottomOf(const Target& target) const {
+        return ColumnIndex(TableOf(target), "bot_lat") >= 0 ? PairFor("bottom x", "bottom y")
+                                                            : Pair{};
+    }
+
+    ordered_json RuleOf(const Pair& pair) const {
+        ordered_json rule = {{"x", NameOf(pair.x)}, {"y", NameOf(pair.y)}};
+        if (pair.Tells()) rule["crs"] = pair.crs;
+        return rule;
     }
 
     void Note(std::string words) { notes_.push_back(std::move(words)); }

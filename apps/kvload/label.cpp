@@ -25,7 +25,8 @@ bool Separates(char ch) {
 
 [[noreturn]] void Refuse(std::string_view label) {
     throw Refused("the label \"" + std::string(label) +
-                  "\" does not split into a number and an extension");
+                  "\" does not split into a number and an extension; where all are of one form, "
+                  "tell it as \"split\" in the mapping");
 }
 
 /// Takes what `belongs` from the front of the text.
@@ -47,7 +48,9 @@ BlockLabel SplitPlain(std::string_view label, std::string_view areaCode) {
     TakeRun(rest, Separates);
     const std::string behind = TakeRun(rest, IsLetter);
     TakeRun(rest, Separates);
-    if (number.empty() || !rest.empty() || (!ahead.empty() && !behind.empty())) Refuse(label);
+    // Two letters ahead are an area's, as in GC 123.
+    if (number.empty() || !rest.empty() || ahead.size() > 1 || (!ahead.empty() && !behind.empty()))
+        Refuse(label);
     return {number, ahead + behind};
 }
 

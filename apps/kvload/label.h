@@ -12,9 +12,9 @@ struct BlockLabel {
     bool operator==(const BlockLabel&) const = default;
 };
 
-/// How the labels of a source split. Without a pattern: digits with letters ahead of or behind
-/// them, of which blanks, hyphens and slashes are no part ("123A", "123 A", "A-12"), and behind it
-/// all the suffix of the area's water, if any.
+/// How the labels of a source split. Without a pattern: digits with a letter ahead of them or
+/// letters behind, of which blanks, hyphens and slashes are no part ("123A", "123 A", "A-12"), and
+/// behind it all the suffix of the area's water, if any.
 class LabelRule {
 public:
     LabelRule() = default;

@@ -17,6 +17,7 @@ namespace {
 using kv::sample::Row;
 using kv::sample::TableNamed;
 
+constexpr std::string_view kBlockTable = "gulf_mexico_lbi";
 constexpr const char* kProjectionTable = "gulf_mexico_area_projection";
 constexpr const char* kOrderTable = "nvd2000_area_order";
 constexpr const char* kZoneTable = "gulf_mexico_zone_code";
@@ -93,7 +94,22 @@ private:
         watcher_.progress(step, done, of);
     }
 
+    /// Areas that share a name are told apart by their blocks. Those that a run brings are written
+    /// before what lies in them is read.
+    void KnowBlocks(const Mapping& mapping) {
+        const bool areNeeded = mapping.target->table != kBlockTable &&
+                               std::ranges::any_of(mapping.fields, [](const FieldRule& rule) {
+                                   return !rule.by.empty();
+                               });
+        if (!areNeeded || knowsBlocks_) return;
+        for (const Row& block :
+             store_.Query("select areacode, lbnum, lbext from " + store_.Named(kBlockTable)))
+            areas_.AddBlock(block[0], block[1], block[2]);
+        knowsBlocks_ = true;
+    }
+
     Batch Read(const Job& job, Outcome& outcome) {
+        KnowBlocks(job.mapping);
         const auto layer = Open({job.path, job.mapping.layer, job.mapping.place.wkt});
         const RowMaker maker(job.mapping, *layer, areas_);
         outcome.system = maker.System();
@@ -195,6 +211,7 @@ private:
     Store& store_;
     const Watcher& watcher_;
     AreaIndex areas_;
+    bool knowsBlocks_ = false;
 };
 
 }  // namespace

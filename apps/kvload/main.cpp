@@ -154,7 +154,9 @@ int RunWhole(int (*run)(const Options&), const Options& options, const char* und
         std::fprintf(stderr, "kvload: %s\n", error.what());
         return kFailed;
     } catch (const std::exception& error) {
-        std::fprintf(stderr, "kvload: %s%s%s\n", error.what(), *undone ? "." : "", undone);
+        std::string words = error.what();
+        if (*undone && !words.ends_with('.')) words += '.';
+        std::fprintf(stderr, "kvload: %s%s\n", words.c_str(), undone);
         return kFailed;
     }
     if (std::fflush(stdout) == 0) return code;

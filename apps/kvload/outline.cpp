@@ -80,6 +80,12 @@ std::optional<Spot> Crossing(const Spots& ring) {
     return std::nullopt;
 }
 
+bool IsTorn(const Spots& run) {
+    constexpr double kHalfTurn = 180.0;
+    const auto leaps = [](const Spot& a, const Spot& b) { return std::abs(b.x - a.x) > kHalfTurn; };
+    return std::ranges::adjacent_find(run, leaps) != run.end();
+}
+
 double LengthOf(const Spots& line) {
     double length = 0.0;
     for (size_t i = 0; i + 1 < line.size(); ++i)

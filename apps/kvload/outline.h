@@ -18,6 +18,10 @@ double TwiceArea(const Spots& ring);
 /// to cross.
 std::optional<Spot> Crossing(const Spots& ring);
 
+/// Whether an outline or a line goes over the meridian of 180 degrees, on the far side of which
+/// longitudes begin anew.
+bool IsTorn(const Spots& run);
+
 /// A line of several parts made one: parts whose ends meet are joined. What does not meet the rest
 /// stays apart; the longest comes first.
 std::vector<Spots> Joined(std::vector<Spots> parts);

@@ -101,7 +101,8 @@ void RowMaker::Bind() {
     std::string words = "The source has no field ";
     for (size_t i = 0; i < missing_.size(); ++i)
         words += (i ? ", " : "") + missing_[i];
-    words += "; it has";
+    words +=
+        layer_.Fields().empty() ? "; it has none (a shapefile's are in its .dbf file)" : "; it has";
     for (const std::string& field : layer_.Fields())
         words += " \"" + field + "\"";
     throw BadMapping(words);
@@ -122,17 +123,19 @@ void RowMaker::BindPlaces() {
             "It does not tell its reference system, as a .prj file does: name it "
             "as \"crs\" in the mapping, as EPSG:4267 for degrees on NAD27");
     };
-    if (hasPlaces) system_.emplace(systemOf(mapping_.place.crs));
+    if (hasPlaces) {
+        system_.emplace(systemOf(mapping_.place.crs));
+        way_ = system_->Description();
+        const std::string own = system_->NameIfOther(layer_.ReferenceSystem());
+        if (!own.empty() && x_ < 0) way_ += ", by the mapping; the source itself names " + own;
+    }
     if (bottomX_ >= 0) bottomSystem_.emplace(systemOf(mapping_.bottom.crs));
 }
 
 std::string RowMaker::NameOf(const Feature& feature, long long number) const {
     std::string name = "row " + std::to_string(number);
     for (const Bound& bound : bound_) {
-        const bool tells =
-            IsLabelPart(bound.rule->column) ||
-            std::ranges::find(mapping_.target->required, std::string_view(bound.rule->column)) !=
-                mapping_.target->required.end();
+        const bool tells = IsLabelPart(bound.rule->column) || IsRequired(bound.rule->column);
         if (!tells || bound.field < 0) continue;
         const Cell& cell = feature.cells[static_cast<size_t>(bound.field)];
         if (cell && !cell->empty()) name += ", " + cell->substr(0, 40);
@@ -140,11 +143,21 @@ std::string RowMaker::NameOf(const Feature& feature, long long number) const {
     return name;
 }
 
+bool RowMaker::IsRequired(std::string_view column) const {
+    return std::ranges::find(mapping_.target->required, column) != mapping_.target->required.end();
+}
+
+/// Some programs write a word for a value that is not there.
+std::string RowMaker::TextIn(const Feature& feature, int field) {
+    std::string text = kv::TrimSpace(feature.cells[static_cast<size_t>(field)].value_or(""));
+    const bool isNull = kv::EqualsNoCase(text, "<null>") || kv::EqualsNoCase(text, "null");
+    return isNull ? "" : text;
+}
+
 /// What the source says of a column, or the mapping in its place.
 std::string RowMaker::TextOf(const Bound& bound, const Feature& feature) const {
     if (bound.field < 0) return bound.rule->value;
-    const Cell& cell = feature.cells[static_cast<size_t>(bound.field)];
-    std::string text = kv::TrimSpace(cell.value_or(""));
+    std::string text = TextIn(feature, bound.field);
     const auto& codes = bound.rule->codes;
     if (codes.empty()) return text;
     const auto coded = codes.find(kv::ToUpper(text));
@@ -154,32 +167,74 @@ std::string RowMaker::TextOf(const Bound& bound, const Feature& feature) const {
     throw Refused(bound.rule->column + ": \"" + text.substr(0, 40) + "\" is none of the codes");
 }
 
+/// Of areas that share a name, as additions do with what they add to, the one that has the row's
+/// block; "" where that tells none of them.
+std::string RowMaker::AreaOfBlock(const std::vector<std::string>& codes, std::string_view column,
+                                  const Feature& feature) const {
+    const std::string ahead = column.starts_with("to_") ? "to_" : "";
+    std::string found;
+    for (const std::string& code : codes) {
+        Made made;
+        made.row.resize(table_.columns.size());
+        const auto cell = [&](const char* name) -> std::string& {
+            return made.row[static_cast<size_t>(ColumnIndex(table_, ahead + name))];
+        };
+        cell("areacode") = code;
+        for (const Bound& bound : bound_)
+            if (IsLabelPart(bound.rule->column) &&
+                bound.rule->column.starts_with("to_") == !ahead.empty())
+                SplitLabel(bound, feature, made);
+        if (!areas_.HasBlock(code, cell("lbnum"), cell("lbext"))) continue;
+        if (!found.empty()) return {};
+        found = code;
+    }
+    return found;
+}
+
 /// An area that only tells where something else lies may be unknown.
-std::string RowMaker::AreaCode(const Bound& bound, const std::string& text, Made& made) const {
-    const bool required =
-        std::ranges::find(mapping_.target->required, std::string_view(bound.rule->column)) !=
-        mapping_.target->required.end();
+std::string RowMaker::AreaCode(const Bound& bound, const Feature& feature, Made& made) const {
+    const std::string text = TextOf(bound, feature);
+    if (text.empty()) return {};
     const std::string by = bound.rule->by.empty() ? "stcode" : bound.rule->by;
+    const std::vector<std::string> codes = areas_.CodesBy(by, text);
+    if (codes.size() > 1) {
+        const std::string code = AreaOfBlock(codes, bound.rule->column, feature);
+        if (!code.empty()) return code;
+    }
     try {
-        return text.empty() ? "" : areas_.CodeBy(by, kv::ToUpper(text));
+        return areas_.CodeBy(by, text);
     } catch (const Refused& reason) {
-        if (required) throw;
+        if (IsRequired(bound.rule->column)) throw;
         made.notes.push_back(std::string(reason.what()) + ": " + bound.rule->column +
                              " stays empty");
         return {};
     }
 }
 
+/// Amounts are rounded where the dataset has whole ones; what tells rows apart never is.
+std::string RowMaker::Rounded(const kv::sample::Column& column, const std::string& text,
+                              Made& made) const {
+    if (column.kind != kv::sample::CellKind::kWhole || IsRequired(column.name)) return text;
+    const std::string whole = WholeAmount(text);
+    if (whole != text)
+        made.notes.push_back(std::string(column.name) + ": " + text + " is taken as " + whole);
+    return whole;
+}
+
 void RowMaker::FillColumn(const Bound& bound, const Feature& feature, Made& made) const {
-    const std::string text = TextOf(bound, feature);
     if (bound.rule->column == kProjection) {
-        made.projection = CellValue({kProjection, kv::sample::CellKind::kWhole}, text, "");
+        made.projection =
+            CellValue({kProjection, kv::sample::CellKind::kWhole}, TextOf(bound, feature), "");
         return;
     }
-    const size_t column = static_cast<size_t>(bound.column);
-    made.row[column] = NamesArea(bound.rule->column)
-                           ? AreaCode(bound, text, made)
-                           : CellValue(table_.columns[column], text, bound.rule->format);
+    const size_t at = static_cast<size_t>(bound.column);
+    const kv::sample::Column& column = table_.columns[at];
+    if (NamesArea(column.name)) {
+        made.row[at] = AreaCode(bound, feature, made);
+        return;
+    }
+    const std::string text = Rounded(column, TextOf(bound, feature), made);
+    made.row[at] = CellValue(column, text, bound.rule->format);
 }
 
 void RowMaker::SplitLabel(const Bound& bound, const Feature& feature, Made& made) const {
@@ -239,12 +294,9 @@ Made RowMaker::Make(const Feature& feature) const {
     return made;
 }
 
-std::optional<Spot> RowMaker::PlaceIn(const Feature& feature, int x, int y) const {
-    const auto text = [&](int field) {
-        return kv::TrimSpace(feature.cells[static_cast<size_t>(field)].value_or(""));
-    };
-    const std::string east = text(x), north = text(y);
-    if (east.empty() && north.empty()) return std::nullopt;
+std::optional<Spot> RowMaker::PlaceIn(const Feature& feature, int x, int y) {
+    const std::string east = TextIn(feature, x), north = TextIn(feature, y);
+    if (east.empty() || north.empty()) return std::nullopt;
     return Spot{NumberOf(east), NumberOf(north)};
 }
 
@@ -279,13 +331,19 @@ void RowMaker::TakePoint(const Feature& feature, Made& made) const {
         PutPlace(PlaceIn(feature, bottomX_, bottomY_), *bottomSystem_, "bot_lat", "bot_lon", made);
 }
 
+void RowMaker::PutVertices(const Spots& places, Made& made) const {
+    for (const Spot& place : places)
+        made.vertices.push_back(system_->Place(place));
+    if (IsTorn(made.vertices))
+        throw Refused("it goes over the meridian of 180 degrees, where it would be torn");
+}
+
 void RowMaker::TakeOutline(const Shape& shape, Made& made) const {
     RequireKind(shape, ShapeKind::kPolygon);
     double share = 1.0;
     const std::vector<Spots>& part = Largest(shape, share);
     if (part.empty()) throw Refused("its outline has no corners");
-    for (const Spot& corner : part.front())
-        made.vertices.push_back(system_->Place(corner));
+    PutVertices(part.front(), made);
     made.vertices = Tidied(std::move(made.vertices));
     if (made.vertices.empty()) throw Refused("its outline has no area");
     if (shape.parts.size() > 1)
@@ -305,8 +363,7 @@ void RowMaker::TakeLine(const Shape& shape, Made& made) const {
         parts.push_back(part.front());
     const std::vector<Spots> lines = Joined(std::move(parts));
     if (lines.empty()) throw Refused("its line has no length");
-    for (const Spot& place : lines.front())
-        made.vertices.push_back(system_->Place(place));
+    PutVertices(lines.front(), made);
     if (lines.size() > 1)
         made.notes.push_back("of " + Counted(lines.size(), "part") +
                              " that do not meet the longest is taken");

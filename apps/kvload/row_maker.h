@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "kvload/area_index.h"
@@ -38,7 +39,7 @@ public:
     std::string NameOf(const Feature& feature, long long number) const;
 
     /// Where the places come from; "" where there are none.
-    std::string System() const { return system_ ? system_->Description() : ""; }
+    const std::string& System() const { return way_; }
 
 private:
     /// A rule with the places of its field and its column; -1 for none.
@@ -51,16 +52,23 @@ private:
     void Bind();
     void BindPlaces();
     int FieldNamed(const std::string& name);
+    bool IsRequired(std::string_view column) const;
+    static std::string TextIn(const Feature& feature, int field);
     std::string TextOf(const Bound& bound, const Feature& feature) const;
-    std::string AreaCode(const Bound& bound, const std::string& text, Made& made) const;
+    std::string AreaCode(const Bound& bound, const Feature& feature, Made& made) const;
+    std::string AreaOfBlock(const std::vector<std::string>& codes, std::string_view column,
+                            const Feature& feature) const;
+    std::string Rounded(const kv::sample::Column& column, const std::string& text,
+                        Made& made) const;
     void FillColumn(const Bound& bound, const Feature& feature, Made& made) const;
     void SplitLabel(const Bound& bound, const Feature& feature, Made& made) const;
     void Fill(const Bound& bound, const Feature& feature, Made& made) const;
     void Require(const Made& made) const;
 
-    std::optional<Spot> PlaceIn(const Feature& feature, int x, int y) const;
+    static std::optional<Spot> PlaceIn(const Feature& feature, int x, int y);
     void PutPlace(const std::optional<Spot>& place, const ToDataset& system, const char* lat,
                   const char* lon, Made& made) const;
+    void PutVertices(const Spots& places, Made& made) const;
     void TakePoint(const Feature& feature, Made& made) const;
     void TakeOutline(const Shape& shape, Made& made) const;
     void TakeLine(const Shape& shape, Made& made) const;
@@ -73,6 +81,7 @@ private:
     std::vector<std::string> missing_;
     int x_ = -1, y_ = -1, bottomX_ = -1, bottomY_ = -1;
     std::optional<ToDataset> system_;
+    std::string way_;
     std::optional<ToDataset> bottomSystem_;
 };
 

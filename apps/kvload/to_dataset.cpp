@@ -1,6 +1,7 @@
 #include "kvload/to_dataset.h"
 
 #include <proj.h>
+#include <proj_experimental.h>
 
 #include <array>
 #include <cmath>
@@ -57,18 +58,20 @@ Object Horizontal(PJ_CONTEXT* context, Object system) {
                 system.reset(proj_get_source_crs(context, system.get()));
                 break;
             default:
-                return system;
+                return Object(proj_crs_demote_to_2D(context, nullptr, system.get()));
         }
         if (!system) return system;
     }
 }
 
-/// Where PROJ says that a system is used.
+/// Where PROJ says that a system is used, or else its datum.
 struct Region {
     double west = -1000.0, south = -1000.0, east = -1000.0, north = -1000.0;
 
-    Region(PJ_CONTEXT* context, const Object& system) {
-        proj_get_area_of_use(context, system.get(), &west, &south, &east, &north, nullptr);
+    Region(PJ_CONTEXT* context, const Object& system, const Object& datum) {
+        for (const Object* object : {&system, &datum})
+            if (west == -1000.0)
+                proj_get_area_of_use(context, object->get(), &west, &south, &east, &north, nullptr);
     }
     /// One that holds the meridian of 180 degrees has its west in the east.
     bool IsFar(const Spot& place) const {
@@ -83,6 +86,18 @@ std::string Text(const Spot& spot) {
     return kv::FormatText("%.8g, %.8g", spot.x, spot.y);
 }
 
+/// No system that is flat has its origin in reach of a block, so what could be degrees is.
+bool LooksLikeDegrees(const Spot& spot) {
+    return std::abs(spot.x) <= 360.0 && std::abs(spot.y) <= 90.0;
+}
+
+/// Longitudes are counted from Greenwich to either side, also where a source goes round to the
+/// east.
+double WithinHalfTurn(double longitude) {
+    if (longitude > 180.0) return longitude - 360.0;
+    return longitude < -180.0 ? longitude + 360.0 : longitude;
+}
+
 }  // namespace
 
 struct ToDataset::Way {
@@ -90,6 +105,8 @@ struct ToDataset::Way {
     Object toDegrees;
     /// From NAD27 to NAD83, taken backwards; null where none is needed.
     Object grid;
+    Object system;
+    bool isFlat = false;
     std::string name;
     std::string description;
     std::unique_ptr<Region> region;
@@ -103,7 +120,7 @@ ToDataset::ToDataset(const std::string& text) : way_(std::make_unique<Way>()) {
     Object given(proj_create(context, text.c_str()));
     if (!IsSystem(given))
         throw BadSource("\"" + text.substr(0, 60) + "\" is no reference system that PROJ knows");
-    const Object system = Horizontal(context, std::move(given));
+    Object system = Horizontal(context, std::move(given));
     const Object degrees(system ? proj_crs_get_geodetic_crs(context, system.get()) : nullptr);
     if (!degrees)
         throw BadSource(
@@ -131,8 +148,12 @@ ToDataset::ToDataset(const std::string& text) : way_(std::make_unique<Way>()) {
                     "From " + way_->name + " to NAD27 it goes by the datum grid " + kGrid +
                     ", which is not installed. It is fetched by: " + "projsync --file " + kGrid);
         }
-        way_->region = std::make_unique<Region>(context, system);
+        way_->region = std::make_unique<Region>(context, system, target);
+        if (way_->name == "unnamed" || way_->name == "unknown")
+            way_->name = "a system of " + NameOf(target);
         way_->description = way_->name + ", " + datum.way;
+        way_->isFlat = proj_get_type(system.get()) == PJ_TYPE_PROJECTED_CRS;
+        way_->system = std::move(system);
         return;
     }
     throw BadSource("It is in " + way_->name + ", on the datum of " + NameOf(degrees) +
@@ -148,12 +169,25 @@ const std::string& ToDataset::Description() const {
     return way_->description;
 }
 
+std::string ToDataset::NameIfOther(const std::string& text) const {
+    PJ_CONTEXT* context = way_->context.get();
+    Object given(proj_create(context, text.c_str()));
+    if (!IsSystem(given)) return {};
+    const Object other = Horizontal(context, std::move(given));
+    const bool isSame =
+        other && proj_is_equivalent_to_with_ctx(context, way_->system.get(), other.get(),
+                                                PJ_COMP_EQUIVALENT_EXCEPT_AXIS_ORDER_GEOGCRS);
+    return other && !isSame ? NameOf(other) : "";
+}
+
 Spot ToDataset::Place(const Spot& spot) const {
     if (!std::isfinite(spot.x) || !std::isfinite(spot.y))
         throw Refused("a coordinate is no number");
+    if (way_->isFlat && LooksLikeDegrees(spot))
+        throw Refused(Text(spot) + " are degrees, it seems, and no place in " + way_->name);
     const PJ_COORD degrees =
         proj_trans(way_->toDegrees.get(), PJ_FWD, proj_coord(spot.x, spot.y, 0.0, 0.0));
-    const Spot place{degrees.xy.x, degrees.xy.y};
+    const Spot place{WithinHalfTurn(degrees.xy.x), degrees.xy.y};
     if (!std::isfinite(place.x) || !std::isfinite(place.y) || std::abs(place.y) > 90.0 ||
         std::abs(place.x) > 360.0)
         throw Refused(Text(spot) + " is no place in " + way_->name);

@@ -28,6 +28,10 @@ public:
     /// The system, and the way from it, in a few words.
     const std::string& Description() const;
 
+    /// The name of a system that a source tells itself, where it is another one; "" where it is
+    /// not, or is none.
+    std::string NameIfOther(const std::string& system) const;
+
 private:
     struct Way;
     std::unique_ptr<Way> way_;

@@ -37,6 +37,19 @@ TEST(CellValues, OfNumbersAreRead) {
         EXPECT_THROW(As(CellKind::kWhole, bad), Refused) << bad;
 }
 
+TEST(CellValues, OfAreaCodesLoseTheZeroFractionOfATableCalculation) {
+    const Column code{"stcode", CellKind::kText, 5};
+    EXPECT_EQ(CellValue(code, "43602.0", ""), "43602");
+    EXPECT_EQ(CellValue(code, "gc", ""), "GC");
+}
+
+TEST(WholeAmounts, AreRoundedWhereTheyHaveAFraction) {
+    EXPECT_EQ(WholeAmount("4,994.55"), "4995");
+    EXPECT_EQ(WholeAmount("-0.6"), "-1");
+    for (const char* kept : {"5760", "5760.00", "5,760", "", "soon", "12.5 ft"})
+        EXPECT_EQ(WholeAmount(kept), kept);
+}
+
 TEST(CellValues, OfDatesAreReadWhereThereIsOneWay) {
     EXPECT_EQ(DayOf("1998-03-04", ""), "1998-03-04");
     EXPECT_EQ(DayOf("1998-03-04 00:00:00", ""), "1998-03-04");

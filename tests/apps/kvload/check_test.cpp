@@ -106,14 +106,15 @@ TEST_F(CheckedDataset, ShowsLabelsThatOneMmsCodeHasInTwoAreas) {
 
 TEST_F(CheckedDataset, ShowsOutlinesThatAreNone) {
     Run("insert into gulf_mexico_lbi values ('43602', '2', null, 2), ('43602', '3', null, 3), "
-        "('43602', '4', null, 4)");
+        "('43602', '4', null, 4), ('43602', '5', null, 5)");
     Outline(2, "0 0, 2 2, 2 0, 0 3");
     Outline(3, "0 0, 1 1");
     Outline(4, "0 0, 0 95, 1 1");
+    Outline(5, "270 27, 270 28, 271 27");
     Outline(9, "0 0, 0 1, 1 1");
     EXPECT_THAT(Found(),
                 ElementsAre("Outlines of no block: 9;",
-                            "Outlines with a corner that is no place on earth: 43602 4;",
+                            "Outlines with a corner that is no place on earth: 43602 4; 43602 5;",
                             "Outlines without an area: 43602 3;",
                             HasSubstr("Outlines that cross themselves: 43602 2 near 1.2")));
 }

@@ -75,5 +75,99 @@ TEST_F(Guesses, TellAreasLeasesAndPipelinesApart) {
     EXPECT_EQ(GuessOfCsv("Complex_ID,Structure_Name,X,Y\n1,A,-90,28\n")["table"], "platforms");
 }
 
+/// A shapefile with one row: its fields as they come out of a table with long names, and what they
+/// hold.
+class GuessesOfShapefiles : public Guesses {
+protected:
+    json GuessOfShapefile(const std::string& shape, const std::vector<std::string>& fields,
+                          const std::vector<std::string>& cells) {
+        WriteOgrFile({.path = folder.Native("rows.shp"),
+                      .driver = "ESRI Shapefile",
+                      .system = "EPSG:4267",
+                      .fields = fields,
+                      .rows = {{shape, cells}},
+                      .type = shape.substr(0, shape.find(' '))});
+        guess = GuessOf("rows.shp");
+        return json::parse(guess.json);
+    }
+
+    static constexpr const char* kOutline = "POLYGON ((-90 27,-90 28,-89 28,-89 27,-90 27))";
+    static constexpr const char* kPoint = "POINT (-90 27)";
+};
+
+TEST_F(GuessesOfShapefiles, KnowWellsByNamesThatWereCutShort) {
+    const json mapping = GuessOfShapefile(
+        kPoint,
+        {"API_WELL_N", "WELL_NAME", "COMPANY_NA", "SURF_LEASE", "SURF_AREA_", "SURF_BLOCK",
+         "WATER_DEPT", "WELL_SPUD_", "BH_TOTAL_M", "BOREHOLE_S", "SURF_LONGI", "SURF_LATIT"},
+        {"608114012300", "001", "Some Oil", "G01234", "GC", "12", "1200", "3/25/1998", "12000",
+         "COM", "-90", "27"});
+    EXPECT_EQ(mapping["table"], "wells");
+    const json& fields = mapping["fields"];
+    EXPECT_EQ(fields["api_no"], "API_WELL_N");
+    EXPECT_EQ(fields["lease_no"], "SURF_LEASE");
+    EXPECT_EQ(fields["areacode"]["field"], "SURF_AREA_");
+    EXPECT_EQ(fields["label"], "SURF_BLOCK");
+    EXPECT_EQ(fields["status"], "BOREHOLE_S");
+    EXPECT_EQ(fields["spud_date"]["format"], "MM/DD/YYYY");
+    EXPECT_FALSE(mapping.contains("place")) << "the points are in the file";
+}
+
+TEST_F(GuessesOfShapefiles, KnowPlatformsLeasesAndPipelinesByNamesThatWereCutShort) {
+    EXPECT_EQ(GuessOfShapefile(kPoint, {"COMPLEX_ID", "AREA_CODE", "BLOCK_NUM", "INSTALL_DA"},
+                               {"23", "GC", "12", "1998-03-25"})["table"],
+              "platforms");
+    const json leases = GuessOfShapefile(
+        kOutline,
+        {"LEASE_NUMB", "LEASE_EFF_", "LEASE_EXPI", "LEASE_STAT", "AREA_CODE", "BLOCK_NUM",
+         "ROYALTY_RA", "OPERATOR"},
+        {"G01234", "1998-03-25", "2003-03-25", "PROD", "GC", "12", "12.5", "Some Oil"});
+    EXPECT_EQ(leases["table"], "leases");
+    EXPECT_EQ(leases["fields"]["lease_date"], "LEASE_EFF_");
+    const json lines = GuessOfShapefile("LINESTRING (-90 27,-90 28)",
+                                        {"SEGMENT_NU", "STATUS_COD", "PPL_SIZE_C", "ORIG_AREA_",
+                                         "ORIG_BLOCK", "DEST_AREA_", "DEST_BLOCK"},
+                                        {"12345", "ACT", "08", "GC", "12", "EI", "13"});
+    EXPECT_EQ(lines["table"], "pipelines");
+    EXPECT_EQ(lines["fields"]["to_areacode"]["by"], "area_abbr");
+    EXPECT_EQ(lines["fields"]["to_label"], "DEST_BLOCK");
+}
+
+TEST_F(GuessesOfShapefiles, TakeNoAreaOfAnOutlineForItsName) {
+    const json mapping = GuessOfShapefile(kOutline, {"AREA", "PERIMETER", "AREA_NAME", "BLK"},
+                                          {"23304900.00000", "19200.0", "Green Canyon", "12"});
+    EXPECT_EQ(mapping["fields"]["areacode"]["field"], "AREA_NAME");
+}
+
+TEST_F(Guesses, LeaveOutFieldsWhoseValuesTheDatasetCannotTake) {
+    const json mapping =
+        GuessOfCsv("Complex_ID,Structure_Name,X,Y\n1,A-CAISSON,-90,28\n2,B-CAISSON,-90,28\n");
+    EXPECT_FALSE(mapping["fields"].contains("structure"));
+    EXPECT_THAT(guess.notes, testing::Contains(HasSubstr(
+                                 "Structure_Name is not taken for \"structure\": \"B-CAISSON\" "
+                                 "is longer than 4")));
+}
+
+TEST_F(Guesses, OfAreasTakeTheLettersForACodeWhereThereIsNoOther) {
+    const json mapping = GuessOfCsv("PROT_NAME,PROT_NUMBER,AREA_CODE\nGreen Canyon,NG15-03,GC\n");
+    EXPECT_EQ(mapping["table"], "areas");
+    EXPECT_EQ(mapping["fields"]["stcode"], "AREA_CODE");
+    EXPECT_EQ(mapping["fields"]["area_abbr"], "AREA_CODE");
+}
+
+TEST_F(Guesses, KnowTheDatumOfCoordinatesThatNameIt) {
+    const json mapping =
+        GuessOfCsv("API,LONG83,LAT83,LONG27,LAT27\n6033000101,-90.1,28.1,-90,28\n");
+    EXPECT_THAT(guess.notes, IsEmpty());
+    EXPECT_EQ(mapping["place"], (json{{"x", "LONG27"}, {"y", "LAT27"}, {"crs", "EPSG:4267"}}));
+    Load("some.csv", guess.json);
+    EXPECT_EQ(Rows("select surf_lat, surf_lon from gulf_mexico_well_hdr"), "28|-90\n");
+}
+
+TEST_F(Guesses, DoNotTakeFeetForDegreesOfADatum) {
+    const json mapping = GuessOfCsv("API,X_NAD27,Y_NAD27\n6033000101,3000000,100000\n");
+    EXPECT_FALSE(mapping.contains("place"));
+}
+
 }  // namespace
 }  // namespace test

@@ -47,7 +47,8 @@ TEST(BlockLabels, LoseTheSuffixOfTheirAreasWater) {
 }
 
 TEST(BlockLabels, ThatDoNotSplitAreRefused) {
-    for (const char* label : {"", "  ", "A", "A12B", "12-34", "12ABC", "123456", "12#", "N1/2 12"})
+    for (const char* label : {"", "  ", "A", "A12B", "12-34", "12ABC", "123456", "12#", "N1/2 12",
+                              "GC 12", "GC12", "BLK 12"})
         EXPECT_THROW(Split(label), Refused) << label;
     EXPECT_THROW(Split(std::string(100'000, '9')), Refused);
 }

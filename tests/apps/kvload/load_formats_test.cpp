@@ -155,6 +155,75 @@ TEST_F(LoadFormats, TakeWhatLiesInAnArchiveOrInAFolderOfIt) {
     EXPECT_THAT(Complaint("noise.zip", kAreas), HasSubstr("noise.zip cannot be read"));
 }
 
+TEST_F(LoadFormats, TakeTablesInTextByAnyName) {
+    const std::string commas = "name,code,abbr\nWalker Ridge,43610,WR\n";
+    for (const char* name : {"areas.txt", "areas.dat", "AREAS.TXT"}) {
+        folder.Write(name, commas);
+        EXPECT_EQ(Load(name, kAreas, true).loaded, 1) << name;
+    }
+    folder.Write("tabs.txt", "name\tcode\tabbr\nWalker Ridge\t43610\tWR\n");
+    EXPECT_EQ(Load("tabs.txt", kAreas, true).loaded, 1);
+    for (const char* name : {"strokes.txt", "strokes.csv"}) {
+        folder.Write(name, "\"name\"|code|abbr\n\"Walker, Ridge\"|43610|WR\n");
+        EXPECT_EQ(Load(name, kAreas, true).loaded, 1) << name;
+        EXPECT_EQ(Rows("select areaname from gulf_mexico_connam2"), "WALKER, RIDGE\n");
+    }
+}
+
+TEST_F(LoadFormats, TakeTablesInUtf16) {
+    std::string bytes = "\xFF\xFE";
+    for (const char ch : std::string("name,code,abbr\r\nWalker Ridge,43610,WR\r\n"))
+        bytes.append(1, ch).append(1, '\0');
+    folder.Write("areas.csv", bytes);
+    EXPECT_EQ(Load("areas.csv", kAreas, true).loaded, 1);
+}
+
+TEST_F(LoadFormats, RefuseColumnsOfAFixedWidth) {
+    for (const char* name : {"areas.csv", "areas.dat"}) {
+        folder.Write(name, "name          code  abbr\nWalker Ridge  43610 WR\n");
+        EXPECT_THAT(Complaint(name, kAreas), HasSubstr("columns are of a fixed width")) << name;
+    }
+}
+
+TEST_F(LoadFormats, TakeTheOneTextOfAnArchive) {
+    WriteArchive(folder.Native("areas.zip"), "data/areas.txt",
+                 "name,code,abbr\nWalker Ridge,43610,WR\n");
+    EXPECT_EQ(Load("areas.zip", kAreas, true).loaded, 1);
+}
+
+TEST_F(LoadFormats, PassOverWhatASystemKeepsInArchivesForItself) {
+    OgrFile file = File("blocks.shp", "ESRI Shapefile");
+    WriteOgrFile(file);
+    for (const char* ending : {".shp", ".shx", ".dbf", ".prj"}) {
+        WriteArchive(folder.Native("blocks.zip"), std::string("blocks/blocks") + ending,
+                     folder.Read(std::string("blocks") + ending));
+        WriteArchive(folder.Native("blocks.zip"), std::string("__MACOSX/blocks/._blocks") + ending,
+                     std::string(100, '\0'));
+    }
+    ExpectTheBlock(Load("blocks.zip", kBlocksByFields));
+}
+
+TEST_F(LoadFormats, TellWhereTablesLieInAnArchiveThatHasSeveral) {
+    for (const char* name : {"one/areas.csv", "two/areas.csv"})
+        WriteArchive(folder.Native("areas.zip"), name, "name,code,abbr\nA,1,\n");
+    EXPECT_THAT(Complaint("areas.zip", kAreas), HasSubstr("Tables lie in one and in two"));
+}
+
+TEST_F(LoadFormats, TellThatAShapefileLacksItsTable) {
+    WriteOgrFile(File("blocks.shp", "ESRI Shapefile"));
+    std::filesystem::remove(folder.Native("blocks.dbf"));
+    EXPECT_THAT(Complaint("blocks.shp", kBlocksByFields), HasSubstr("it has none"));
+}
+
+TEST_F(LoadFormats, TellThatTheMappingNamesAnotherSystemThanTheSource) {
+    OgrFile file = File("blocks.gpkg", "GPKG");
+    file.system = "EPSG:4269";
+    WriteOgrFile(file);
+    const std::string named = std::string("{\"crs\": \"EPSG:4267\", ") + (kBlocksByFields + 1);
+    EXPECT_EQ(Load("blocks.gpkg", named).system,
+              "NAD27, the dataset's own datum, by the mapping; the source itself names NAD83");
+}
+
 TEST_F(LoadFormats, TellWhichFieldIsNotThere) {
     folder.Write("areas.csv", "name,CODE\nA,1\n");
     EXPECT_THAT(Complaint("areas.csv", kAreas),

@@ -93,6 +93,23 @@ TEST_F(LoadRows, OfAnMmsCodeThatSeveralAreasHaveAreLeftOut) {
                 ElementsAre(HasSubstr("several areas are called \"GC\": 43602, 43603")));
 }
 
+TEST_F(LoadRows, OfAnMmsCodeThatSeveralAreasHaveAreOfTheOneThatHasTheirBlock) {
+    folder.Write("more.csv", "name,code,abbr\nGreen Canyon South,43603,GC\n");
+    Load("more.csv", kAreas);
+    LoadBlocks(std::string("43602,1,") + kSquare + "\n43603,2A," + kSquare + "\n43602,3," +
+               kSquare + "\n43603,3," + kSquare + "\n");
+    folder.Write("lines.csv",
+                 "seg,area,blk,to,toblk,WKT\n1,GC,1,gc,A-2,\"LINESTRING (-90 28,-89 28)\"\n"
+                 "2,GC,3,GC,,\"LINESTRING (-90 28,-89 28)\"\n");
+    const auto outcome = Load("lines.csv", R"({"table": "pipelines", "crs": "EPSG:4267", "fields": {
+        "segment_no": "seg", "areacode": {"field": "area", "by": "area_abbr"}, "label": "blk",
+        "to_areacode": {"field": "to", "by": "area_abbr"}, "to_label": "toblk"}})");
+    EXPECT_EQ(Rows("select segment_no, areacode, to_areacode from gulf_mexico_pipeline order by 1"),
+              "1|43602|43603\n2||\n");
+    EXPECT_THAT(outcome.notes, testing::SizeIs(2));
+    EXPECT_THAT(outcome.notes, testing::Each(HasSubstr("several areas are called \"GC\"")));
+}
+
 TEST_F(LoadRows, TakeTheCodeThatStandsForTheirText) {
     folder.Write("wells.csv", "api,st,area\n1771140123,Completed,43602\n1771140124,odd,SHORE\n");
     const auto outcome = Load("wells.csv", R"({"table": "wells", "fields": {"api_no": "api",
@@ -108,6 +125,54 @@ TEST_F(LoadRows, WithAnUnknownAreaThatNothingNeedsAreTakenWithoutIt) {
         Load("wells.csv", R"({"table": "wells", "fields": {"api_no": "api", "areacode": "area"}})");
     EXPECT_EQ(outcome.loaded, 1);
     EXPECT_THAT(outcome.notes, ElementsAre(HasSubstr("areacode stays empty")));
+}
+
+TEST_F(LoadRows, OfAnAreaAreFoundWithTheirNamesBlanksAndCodesFractions) {
+    folder.Write("leases.csv", "area,blk\n Green   Canyon ,1\ngreen canyon,2\nGC,3\n");
+    const auto byName = Load("leases.csv", R"({"table": "leases", "fields": {
+        "areacode": {"field": "area", "by": "areaname"}, "label": "blk"}})");
+    EXPECT_EQ(byName.loaded, 2);
+    EXPECT_THAT(byName.leftOut, ElementsAre(HasSubstr("no area is called \"GC\"")));
+    folder.Write("codes.csv", "area,blk\n43602.0,4\n");
+    EXPECT_EQ(Load("codes.csv", R"({"table": "leases", "fields": {"areacode": "area",
+        "label": "blk"}})")
+                  .loaded,
+              1);
+}
+
+TEST_F(LoadRows, WithAmountsThatTheDatasetHasWholeAreRoundedAndSaySo) {
+    folder.Write("leases.csv", "area,blk,acres\n43602,1,4994.55\n43602,2,5760.00\n");
+    const auto outcome = Load("leases.csv", R"({"table": "leases", "fields": {"areacode": "area",
+        "label": "blk", "acres": "acres"}})");
+    EXPECT_EQ(Rows("select lbnum, acres from gulf_mexico_lease"), "1|4995\n2|5760\n");
+    EXPECT_THAT(outcome.notes, ElementsAre("row 1, 43602, 1: acres: 4994.55 is taken as 4995"));
+}
+
+TEST_F(LoadRows, WithANumberOfTheirOwnAreNeverRounded) {
+    folder.Write("platforms.csv", "id,op\n23.5,X\n");
+    const auto outcome =
+        Load("platforms.csv", R"({"table": "platforms", "fields": {"complex_id": "id"}})");
+    EXPECT_THAT(outcome.leftOut, ElementsAre(HasSubstr("\"23.5\" is no whole number")));
+}
+
+TEST_F(LoadRows, TakeTheWordsForNothingAsNothing) {
+    folder.Write("wells.csv",
+                 "api,x,y,depth,op\n1771140123,-90,28,<Null>,NULL\n1771140124,NULL,NULL,1,X\n"
+                 "1771140125,-90,,1,X\n");
+    const auto outcome = Load("wells.csv", R"({"table": "wells", "crs": "EPSG:4267",
+        "place": {"x": "x", "y": "y"},
+        "fields": {"api_no": "api", "total_depth": "depth", "operator": "op"}})");
+    EXPECT_EQ(Rows("select api_no, surf_lat, surf_lon, total_depth, operator from "
+                   "gulf_mexico_well_hdr order by 1"),
+              "177114012300|28|-90||\n177114012400|||1|X\n177114012500|||1|X\n");
+    EXPECT_THAT(outcome.notes, ElementsAre(HasSubstr("row 2, 1771140124: it has no place"),
+                                           HasSubstr("row 3, 1771140125: it has no place")));
+}
+
+TEST_F(LoadRows, OverTheMeridianOf180DegreesAreLeftOut) {
+    const auto outcome =
+        LoadBlocks("43602,1,\"POLYGON ((179.9 52,179.9 53,180.1 53,180.1 52,179.9 52))\"\n");
+    EXPECT_THAT(outcome.leftOut, ElementsAre(HasSubstr("goes over the meridian of 180 degrees")));
 }
 
 TEST_F(LoadRows, OfWellsHaveTheirBottomToo) {

@@ -23,6 +23,12 @@ TEST(Outlines, WithoutAnAreaAreNone) {
     EXPECT_EQ(Tidied({{0, 0}, {1, 1}, {2, 2}, {0, 0}}), Spots{});
 }
 
+TEST(Outlines, OverTheMeridianOf180DegreesAreTorn) {
+    EXPECT_TRUE(IsTorn({{179.9, 52}, {179.9, 53}, {-179.9, 53}, {-179.9, 52}}));
+    EXPECT_FALSE(IsTorn({{179.8, 52}, {179.8, 53}, {179.9, 53}, {179.9, 52}}));
+    EXPECT_FALSE(IsTorn({}));
+}
+
 TEST(Outlines, ThatCrossThemselvesTellWhere) {
     const auto crossing = Crossing({{0, 0}, {2, 2}, {2, 0}, {0, 2}});
     ASSERT_TRUE(crossing);

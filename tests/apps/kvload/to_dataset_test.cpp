@@ -77,14 +77,57 @@ TEST(PlacesOnNad27, InAProjectionGoBackToDegrees) {
     EXPECT_NEAR(inFeet.y, meters.y, 1e-7);
 }
 
+TEST(PlacesOnNad27, CountedOnlyToTheEastAreTheSame) {
+    const ToDataset way("EPSG:4267");
+    EXPECT_NEAR(way.Place({269.5, 28.5}).x, -90.5, kClose);
+    EXPECT_NEAR(way.Place({180.0, 52.0}).x, 180.0, kClose);
+    EXPECT_NEAR(way.Place({-180.5, 52.0}).x, 179.5, kClose);
+}
+
 TEST(PlacesElsewhere, AreRefused) {
     const ToDataset degrees("EPSG:4267");
     EXPECT_THAT(Complaint(degrees, {500'000.0, 3'100'000.0}), HasSubstr("no place in NAD27"));
     EXPECT_THAT(Complaint(degrees, {90.5, 28.5}), HasSubstr("far from where NAD27 is used"));
     EXPECT_THAT(Complaint(degrees, {NAN, 28.5}), HasSubstr("no number"));
     EXPECT_THAT(Complaint(degrees, {HUGE_VAL, 28.5}), HasSubstr("no number"));
-    EXPECT_THAT(Complaint(ToDataset("EPSG:26715"), {-90.5, 28.5}),
+    EXPECT_THAT(Complaint(ToDataset("EPSG:26715"), {500'000.0, 31'000.0}),
                 HasSubstr("far from where NAD27 / UTM zone 15N is used"));
+}
+
+/// A Lambert projection of NAD27 that nobody has a code for, in US survey feet.
+constexpr const char* kLambert =
+    R"(PROJCS["Texas_Louisiana_Lambert",GEOGCS["GCS_North_American_1927",)"
+    R"(DATUM["D_North_American_1927",SPHEROID["Clarke_1866",6378206.4,294.9786982]],)"
+    R"(PRIMEM["Greenwich",0.0],UNIT["Degree",0.0174532925199433]],)"
+    R"(PROJECTION["Lambert_Conformal_Conic"],PARAMETER["False_Easting",2000000.0],)"
+    R"(PARAMETER["False_Northing",0.0],PARAMETER["Central_Meridian",-93.0],)"
+    R"(PARAMETER["Standard_Parallel_1",28.0],PARAMETER["Standard_Parallel_2",30.0],)"
+    R"(PARAMETER["Latitude_Of_Origin",25.0],UNIT["Foot_US",0.3048006096012192]])";
+
+TEST(PlacesElsewhere, InDegreesAreNoneOfAProjection) {
+    for (const char* flat : {"EPSG:26715", "EPSG:26782", "EPSG:32040", kLambert})
+        EXPECT_THAT(Complaint(ToDataset(flat), {-90.5, 28.5}), HasSubstr("are degrees, it seems"))
+            << flat;
+}
+
+TEST(PlacesElsewhere, InAProjectionWithoutACodeAreTheFarOnesOfItsDatum) {
+    const ToDataset way(kLambert);
+    EXPECT_NEAR(way.Place({2'000'000.0, 0.0}).x, -93.0, kClose);
+    EXPECT_NEAR(way.Place({2'000'000.0, 0.0}).y, 25.0, kClose);
+    EXPECT_THAT(Complaint(way, {30'000'000.0, 9'000'000.0}), HasSubstr("far from where"));
+}
+
+TEST(ReferenceSystems, WithoutANameAreCalledByTheirDatum) {
+    EXPECT_EQ(ToDataset("+proj=longlat +datum=NAD27 +type=crs").Description(),
+              "a system of NAD27, the dataset's own datum");
+}
+
+TEST(ReferenceSystems, AreToldApartByWhatTheyAre) {
+    const ToDataset way("EPSG:4267");
+    EXPECT_EQ(way.NameIfOther("EPSG:4269"), "NAD83");
+    EXPECT_EQ(way.NameIfOther("EPSG:4267"), "");
+    EXPECT_EQ(way.NameIfOther("+proj=longlat +datum=NAD27 +type=crs"), "");
+    EXPECT_EQ(way.NameIfOther(""), "");
 }
 
 TEST(ReferenceSystems, WithoutAnExactWayAreRefused) {
@@ -120,6 +163,15 @@ TEST_F(DatumGrid, TakesWgs84ForNad83AndSaysSo) {
     const ToDataset nad83("EPSG:4269"), wgs84("EPSG:4326");
     EXPECT_NEAR(wgs84.Place({-90.0, 28.0}).y, nad83.Place({-90.0, 28.0}).y, kClose);
     EXPECT_THAT(wgs84.Description(), HasSubstr("taken for NAD83"));
+}
+
+TEST_F(DatumGrid, TakesSystemsWithHeightsForWhatTheyAreWithoutThem) {
+    const Spot flat = ToDataset("EPSG:4269").Place({-90.0, 28.0});
+    for (const char* high : {"EPSG:4979", "EPSG:4269+5703"}) {
+        const Spot place = ToDataset(high).Place({-90.0, 28.0});
+        EXPECT_NEAR(place.x, flat.x, kClose) << high;
+        EXPECT_NEAR(place.y, flat.y, kClose) << high;
+    }
 }
 
 TEST_F(DatumGrid, TakesProjectionsOfNad83) {
