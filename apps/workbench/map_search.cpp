@@ -1,13 +1,12 @@
 #include "workbench/map_search.h"
 
 #include "base/text.h"
+#include "frame/catalogue.h"
 #include "frame/coordinate_text.h"
 
 namespace workbench {
 
 namespace {
-
-constexpr const char* kAllBlocks = "ALL";
 
 std::optional<Place> PlaceIn(std::string_view text) {
     const auto found = kv::ParseCoordinate(text);
@@ -50,7 +49,7 @@ std::optional<SearchHit> Search(const MapModel& model, std::string_view text) {
     const std::string wanted = WithoutWords(kv::ToUpper(kv::TrimSpace(text)));
     if (wanted.empty()) return {};
     if (auto codes = AreasCalled(model, wanted); !codes.empty()) {
-        return SearchHit{{}, model.FindPick(codes, kAllBlocks)};
+        return SearchHit{{}, model.FindPick(codes, kv::catalogue::kAllBlocks)};
     }
     if (const std::size_t gap = wanted.find_last_of(" #"); gap != std::string::npos) {
         const auto codes = AreasCalled(model, kv::TrimSpace(wanted.substr(0, gap)));

@@ -20,6 +20,7 @@
 #include "workbench/document/map_shape.h"
 #include "workbench/document/report_coordinates.h"
 #include "workbench/failure_words.h"
+#include "workbench/file_name.h"
 
 namespace workbench {
 
@@ -52,14 +53,6 @@ void GivePicks(CKvGuiQuickOffBldDlg& dialog, const Picks& picks) {
         dialog.SetArea(pick.area);
         dialog.SetExt(pick.ext);
     }
-}
-
-/// A name as that of a file.
-std::string FileName(std::string name) {
-    for (char& ch : name) {
-        if (std::string_view("\\/:*?\"<>|").find(ch) != std::string_view::npos) ch = '_';
-    }
-    return name;
 }
 
 }  // namespace
@@ -258,7 +251,7 @@ void DocumentTools::BeginWith(BuiltMap map) {
 // The map there is.
 
 void DocumentTools::Properties() {
-    const BuiltMap& map = *Document().map;
+    const BuiltMap map = *Document().map;
     CKvMapBounds bounds = map.bounds;
     CKvGuiMapBuildingProp dialog(&host_.frame);
     dialog.SetBounds(bounds);
@@ -305,7 +298,7 @@ void DocumentTools::ExportBoundary() {
                                         {bounds.GetLatMin(), bounds.GetLonMax()},
                                         {bounds.GetLatMax(), bounds.GetLonMax()},
                                         {bounds.GetLatMax(), bounds.GetLonMin()}};
-    CFileDialog file(FALSE, "txt", FileName(boundary->name).c_str(),
+    CFileDialog file(FALSE, "txt", FileNameOf(boundary->name).c_str(),
                      OFN_OVERWRITEPROMPT | OFN_HIDEREADONLY, kBoundaryFilter, &host_.frame);
     if (file.DoModal() != IDOK) return;
     const std::string path = file.GetPathName().str();
@@ -349,7 +342,7 @@ bool DocumentTools::Save() {
 
 bool DocumentTools::SaveAs() {
     const std::string name = Document().map ? Document().map->name : "Untitled";
-    CFileDialog file(FALSE, kExtension, FileName(name).c_str(),
+    CFileDialog file(FALSE, kExtension, FileNameOf(name).c_str(),
                      OFN_OVERWRITEPROMPT | OFN_HIDEREADONLY, kFilter, &host_.frame);
     return file.DoModal() == IDOK && SaveTo(file.GetPathName().str());
 }

@@ -12,14 +12,6 @@ namespace workbench {
 
 namespace {
 
-constexpr std::array kRows{"ABOVE", "ON", "BELOW"};
-constexpr std::array kParts{"LEFT", "CENTER", "RIGHT"};
-
-template <typename Word>
-const char* TextOf(const std::array<const char*, 3>& words, Word word) {
-    return words[static_cast<std::size_t>(word)];
-}
-
 /// The last of the words for a text that is none of them.
 template <typename Word>
 Word WordOf(const std::array<const char*, 3>& words, const std::string& text) {
@@ -101,8 +93,8 @@ TextDialog::TextDialog(CWnd* parent, const DrawnText& text, DialogHost host)
     SetAngle(text.angle);
     SetColor(static_cast<KVColor>(text.color));
     SetWeight(static_cast<BYTE>(text.weight));
-    SetVertJust(TextOf(kRows, text.row));
-    SetHorzJust(TextOf(kParts, text.part));
+    SetVertJust(WordFor(kTextRows, text.row));
+    SetHorzJust(WordFor(kTextParts, text.part));
 }
 
 void TextDialog::OnOK() {
@@ -123,8 +115,8 @@ DrawnText TextDialog::Shown() const {
     text.angle = m_pAngleSpin->GetPos();
     text.color = m_pColorBtn->GetCWTValue();
     text.weight = m_pWidthBtn->GetLineWidth();
-    text.row = WordOf<TextRow>(kRows, DlgItemText(kv::new_text::kVertical));
-    text.part = WordOf<TextPart>(kParts, DlgItemText(kv::new_text::kHorizontal));
+    text.row = WordOf<TextRow>(kTextRows, DlgItemText(kv::new_text::kVertical));
+    text.part = WordOf<TextPart>(kTextParts, DlgItemText(kv::new_text::kHorizontal));
     return text;
 }
 

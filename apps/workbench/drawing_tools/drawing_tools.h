@@ -86,7 +86,6 @@ private:
     void OpenText(const DrawnText& text);
     void OpenFill();
     DialogHost HostOf(std::function<bool()> mayEnd, std::function<void()> accepted);
-    void PutBeside(CDialog& dialog);
 
     void Clicked(const Place& place);
     void ClickedToSelect(const Place& place, bool twice);

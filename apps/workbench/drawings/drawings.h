@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <map>
 #include <string>
@@ -35,8 +36,16 @@ struct DrawnLine {
 
 /// Where a text stands: above its place, on it, or below it.
 enum class TextRow : std::uint8_t { kAbove, kOn, kBelow };
+inline constexpr std::array kTextRows{"ABOVE", "ON", "BELOW"};
 /// Which part of a text stands at its place: its beginning, its middle, or its end.
 enum class TextPart : std::uint8_t { kLeft, kCenter, kRight };
+inline constexpr std::array kTextParts{"LEFT", "CENTER", "RIGHT"};
+
+/// The word for a value, of a list in the order of the values.
+template <typename Word, std::size_t Count>
+const char* WordFor(const std::array<const char*, Count>& words, Word word) {
+    return words[static_cast<std::size_t>(word)];
+}
 
 /// A line of text.
 struct DrawnText {

@@ -18,8 +18,6 @@ constexpr double kMostLongitude = 180;
 constexpr double kMostHeight = 1;
 constexpr double kMostAngle = 360;
 
-constexpr std::array kRows{"ABOVE", "ON", "BELOW"};
-constexpr std::array kParts{"LEFT", "CENTER", "RIGHT"};
 constexpr std::array kLayers{"LEASES", "WELLS", "PIPELINES"};
 
 /// A value of the file, and where it stands there.
@@ -95,11 +93,6 @@ private:
     std::string where_;
 };
 
-template <typename Word, std::size_t Count>
-const char* TextOf(const std::array<const char*, Count>& words, Word word) {
-    return words[static_cast<std::size_t>(word)];
-}
-
 Json PairOf(const Place& place) {
     return {place.lon, place.lat};
 }
@@ -120,8 +113,8 @@ Json InJson(const DrawnText& text) {
             {"angle", text.angle},
             {"color", text.color},
             {"weight", text.weight},
-            {"vertical", TextOf(kRows, text.row)},
-            {"horizontal", TextOf(kParts, text.part)}};
+            {"vertical", WordFor(kTextRows, text.row)},
+            {"horizontal", WordFor(kTextParts, text.part)}};
 }
 
 DrawnLine ReadLine(const Value& value) {
@@ -151,8 +144,8 @@ DrawnText ReadText(const Value& value) {
     text.angle = value["angle"].Number(-kMostAngle, kMostAngle);
     text.color = value["color"].Index(kColors);
     text.weight = value["weight"].Index(kLineWidths);
-    text.row = value["vertical"].WordOf<TextRow>(kRows);
-    text.part = value["horizontal"].WordOf<TextPart>(kParts);
+    text.row = value["vertical"].WordOf<TextRow>(kTextRows);
+    text.part = value["horizontal"].WordOf<TextPart>(kTextParts);
     return text;
 }
 
@@ -187,7 +180,7 @@ Json ToJson(const Drawings& drawings) {
     for (const auto& [key, color] : drawings.fills)
         json["blocks"].push_back({{"area", key.area}, {"block", key.block}, {"color", color}});
     for (const auto& [key, text] : drawings.labels) {
-        json["labels"].push_back({{"layer", TextOf(kLayers, key.layer)},
+        json["labels"].push_back({{"layer", WordFor(kLayers, key.layer)},
                                   {"area", key.area},
                                   {"label", key.label},
                                   {"text", text}});

@@ -5,6 +5,8 @@
 #include <limits>
 #include <utility>
 
+#include "frame/catalogue.h"
+
 namespace workbench {
 
 namespace {
@@ -17,8 +19,6 @@ Kind KindOf(const std::array<std::pair<std::string_view, Kind>, Count>& kinds,
     }
     return other;
 }
-
-constexpr const char* kAllBlocks = "ALL";
 
 /// The middle of the blocks, each by the area it covers.
 Point Middle(const FeatureLayer& blocks) {
@@ -167,7 +167,7 @@ Pick MapModel::FindPick(const std::vector<std::string>& codes, std::string_view 
     for (const std::string& code : codes) {
         const AreaMap* area = FindArea(code);
         if (!area) continue;
-        if (block == kAllBlocks) {
+        if (block == kv::catalogue::kAllBlocks) {
             pick.areas.push_back(area);
         } else if (const int found = area->blocks.Find(block); found >= 0) {
             pick.block = BlockRef{area, static_cast<std::size_t>(found)};

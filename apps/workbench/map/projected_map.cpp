@@ -5,6 +5,8 @@
 #include <utility>
 #include <vector>
 
+#include "workbench/map/projected_points.h"
+
 namespace workbench {
 
 namespace {
@@ -39,44 +41,18 @@ private:
     std::unordered_map<Point, std::optional<Point>, Hash> known_;
 };
 
-/// The points; none where one of them has no answer.
-template <typename Project>
-std::vector<Point> AllOf(std::span<const Point> points, Project&& project) {
-    std::vector<Point> projected;
-    projected.reserve(points.size());
-    for (const Point& point : points) {
-        const std::optional<Point> at = project(point);
-        if (!at) return {};
-        projected.push_back(*at);
-    }
-    return projected;
-}
-
 /// How many things have no answer.
 template <typename Project>
 std::int64_t ProjectLayer(const FeatureLayer& layer, FeatureLayer& projected, Project&& project) {
     std::int64_t leftOut = 0;
     for (std::size_t number = 0; number < layer.Size(); ++number) {
         projected.Begin(layer.Label(number), layer.Kind(number));
-        const std::vector<Point> points = AllOf(layer.Points(number), project);
+        const std::vector<Point> points = AllProjected(layer.Points(number), project);
         if (points.empty()) ++leftOut;
         for (const Point& point : points)
             projected.Add(point);
     }
     return leftOut;
-}
-
-Outline ProjectOutline(const Outline& outline, SharedCorners& corners) {
-    Outline projected;
-    for (const auto& ring : outline.rings)
-        projected.rings.push_back(AllOf(ring, corners));
-    projected.inner.reserve(outline.inner.size());
-    for (const Segment& line : outline.inner) {
-        const std::optional<Point> from = corners(line.from);
-        const std::optional<Point> to = corners(line.to);
-        if (from && to) projected.inner.push_back({*from, *to});
-    }
-    return projected;
 }
 
 std::unique_ptr<AreaMap> ProjectArea(const AreaMap& area, const MapProjection& projection,
@@ -92,7 +68,7 @@ std::unique_ptr<AreaMap> ProjectArea(const AreaMap& area, const MapProjection& p
     for (const auto layer : {&AreaMap::wells, &AreaMap::platforms, &AreaMap::pipelines})
         leftOut += ProjectLayer(area.*layer, (*projected).*layer, each);
     // Without some of its blocks the area looks otherwise.
-    projected->Finish(blocks == 0 ? ProjectOutline(area.outline, corners)
+    projected->Finish(blocks == 0 ? OutlineProjected(area.outline, corners)
                                   : Unite(projected->blocks));
     return projected;
 }

@@ -6,6 +6,7 @@
 
 #include "frame/kvcom/util_lldrv.h"
 #include "frame/kvdbkvn/db_util.h"
+#include "workbench/map/projected_points.h"
 
 namespace workbench {
 
@@ -16,23 +17,12 @@ constexpr int kSteps = 16;
 /// What a box reaches beyond what was found by steps, in parts of its own size.
 constexpr double kBeyond = 0.02;
 
-/// The corners of an outline; none where one of them has no X and Y.
-std::vector<Point> Projected(std::span<const Point> points, const PaperProjection& projection) {
-    std::vector<Point> projected;
-    projected.reserve(points.size());
-    for (const Point& point : points) {
-        const auto at = projection.FromMap(point);
-        if (!at) return {};
-        projected.push_back(*at);
-    }
-    return projected;
-}
-
 FeatureLayer Projected(const FeatureLayer& layer, const PaperProjection& projection,
                        std::int64_t& leftOut) {
     FeatureLayer projected;
     for (std::size_t number = 0; number < layer.Size(); ++number) {
-        const std::vector<Point> points = Projected(layer.Points(number), projection);
+        const std::vector<Point> points = AllProjected(
+            layer.Points(number), [&](const Point& point) { return projection.FromMap(point); });
         if (points.empty()) {
             ++leftOut;
             continue;
@@ -42,21 +32,6 @@ FeatureLayer Projected(const FeatureLayer& layer, const PaperProjection& project
             projected.Add(point);
     }
     projected.Finish();
-    return projected;
-}
-
-/// Lines between blocks that have no X and Y go with those.
-Outline Projected(const Outline& outline, const PaperProjection& projection) {
-    Outline projected;
-    for (const auto& ring : outline.rings) {
-        std::vector<Point> points = Projected(ring, projection);
-        if (!points.empty()) projected.rings.push_back(std::move(points));
-    }
-    for (const Segment& line : outline.inner) {
-        const auto from = projection.FromMap(line.from);
-        const auto to = projection.FromMap(line.to);
-        if (from && to) projected.inner.push_back({*from, *to});
-    }
     return projected;
 }
 
@@ -78,7 +53,8 @@ AreaMap Projected(const AreaMap& area, const PaperProjection& projection, std::i
     for (const auto layer :
          {&AreaMap::blocks, &AreaMap::wells, &AreaMap::platforms, &AreaMap::pipelines})
         projected.*layer = Projected(area.*layer, projection, leftOut);
-    projected.outline = Projected(area.outline, projection);
+    projected.outline = OutlineProjected(
+        area.outline, [&](const Point& point) { return projection.FromMap(point); });
     const double feet = FeetAt(area.labelAt, projection);
     projected.blockSize = area.blockSize * feet;
     projected.labelAt = projection.FromMap(area.labelAt).value_or(Point{});

@@ -15,6 +15,7 @@
 #include "window/dialogs/file_dialog.h"
 #include "window/window_system.h"
 #include "workbench/document/map_shape.h"
+#include "workbench/file_name.h"
 #include "workbench/printing/page_painter.h"
 #include "workbench/printing/print_job.h"
 #include "workbench/printing/print_preview.h"
@@ -40,14 +41,6 @@ QString NamesOf(const std::vector<const AreaMap*>& areas) {
     if (areas.size() > kMostNames)
         text += QStringLiteral(" and %1 more").arg(areas.size() - kMostNames);
     return text;
-}
-
-/// A title as the name of a file: without what a path is made of.
-std::string FileName(const QString& title) {
-    QString name = title;
-    for (const QChar ch : QStringLiteral("\\/:*?\"<>|"))
-        name.replace(ch, u' ');
-    return name.toStdString();
 }
 
 QString Today() {
@@ -270,7 +263,7 @@ void Printing::Export(const Format& format, const MakeSink& makeSink) {
     exportPaper_ = kv::ToDevMode(settings);
     auto plan = Ask(&exportPaper_);
     if (!plan) return;
-    CFileDialog file(FALSE, format.extension, FileName(plan->title).c_str(),
+    CFileDialog file(FALSE, format.extension, FileNameOf(plan->title.toStdString()).c_str(),
                      OFN_OVERWRITEPROMPT | OFN_HIDEREADONLY, format.filter, &frame_);
     if (file.DoModal() != IDOK) return;
     const std::string path = file.GetPathName().str();
