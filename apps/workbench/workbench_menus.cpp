@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "qt/qt_desktop.h"
+#include "qt/replace_question.h"
 #include "window/window_system.h"
 #include "workbench/command_palette.h"
 #include "workbench/exports/exports.h"
@@ -392,9 +393,12 @@ void Workbench::SaveResults() {
                                                     : QStringLiteral("csv"));
     });
     dialog.selectFile(name);
-    if (dialog.exec() != QDialog::Accepted) return;
+    QString path;
+    do {
+        if (dialog.exec() != QDialog::Accepted) return;
+        path = dialog.selectedFiles().constFirst();
+    } while (!kv::qt::MayReplace(dialog, path));
     LastFolder() = dialog.directory().absolutePath();
-    const QString path = dialog.selectedFiles().constFirst();
     QString error;
     if (results_->Save(path, error)) {
         status_->Say(tr("Saved %1").arg(path));

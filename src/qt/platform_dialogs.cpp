@@ -19,6 +19,7 @@
 #include "qt/peers/acting.h"
 #include "qt/peers/peer.h"
 #include "qt/peers/window_peers.h"
+#include "qt/replace_question.h"
 #include "window/dialogs/file_dialog.h"
 #include "window/dialogs/print_dialog.h"
 #include "window/window_system.h"
@@ -200,8 +201,13 @@ int ShowFileDialog(const FileDialogRequest& request, std::string& path) {
     QFileDialog dialog(ParentFor(request.parent));
     if (!request.title.empty()) dialog.setWindowTitle(ToQString(request.title));
     SetUp(dialog, request);
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return IDCANCEL;
-    path = FromNative(ToBytes(dialog.selectedFiles().constFirst()));
+    const bool asks = !request.open && (request.flags & OFN_OVERWRITEPROMPT);
+    QString chosen;
+    do {
+        if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return IDCANCEL;
+        chosen = dialog.selectedFiles().constFirst();
+    } while (asks && !MayReplace(dialog, chosen));
+    path = FromNative(ToBytes(chosen));
     return IDOK;
 }
 

@@ -370,6 +370,23 @@ TEST_F(WorkbenchExports, AReportIsSavedAsAWorkbookWhereItsNameSaysSo) {
     EXPECT_THAT(folder.Read("wells.csv"), testing::StartsWith("API number,"));
 }
 
+TEST_F(WorkbenchExports, AReportDoesNotReplaceAFileOfAnotherSpellingUnasked) {
+    host->PickInBar(*host->Canvas().GetPick().block);
+    Report("Wells");
+    folder.Write("Wells.csv", "good");
+    const auto giveUp = [] {
+        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        if (dialog) dialog->reject();
+        return dialog != nullptr;
+    };
+    Trigger("Save results...", {NameFile(Path("wells.csv")), giveUp});
+    EXPECT_THAT(boxes, ElementsAre(HasSubstr("Wells.csv already exists")));
+    EXPECT_EQ(folder.Read("Wells.csv"), "good");
+    answer = QMessageBox::Yes;
+    Trigger("Save results...", {NameFile(Path("wells.csv"))});
+    EXPECT_THAT(folder.Read("Wells.csv"), testing::StartsWith("API number,"));
+}
+
 TEST(GeoTables, TakeForANumberOnlyWhatComesBackAsItStands) {
     for (const char* number : {"0", "-0.5", "12", "700.50", "28.123456789"})
         EXPECT_TRUE(geofiles::NumberOf(number)) << number;

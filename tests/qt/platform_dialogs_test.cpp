@@ -105,6 +105,30 @@ TEST_F(FileDialogs, SavingOverAFileAsksFirst) {
     EXPECT_EQ(save.GetPathName().str(), folder_.Dialog("wells.txt"));
 }
 
+TEST_F(FileDialogs, SavingOverAFileWhoseNameDiffersInCaseAloneAsksFirst) {
+    CFileDialog save(FALSE, "txt");
+    Prepare(save);
+    Then([] {
+        EnterName("WELLS.txt");
+        Then([] {
+            auto* question = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_NE(question, nullptr);
+            EXPECT_THAT(question->text().toStdString(), testing::HasSubstr("wells.txt already"));
+            QTest::mouseClick(question->button(QMessageBox::No), Qt::LeftButton);
+            Then([] {
+                ASSERT_NE(Box(), nullptr) << "it is open again";
+                EnterName("new.txt");
+            });
+        });
+    });
+    EXPECT_EQ(save.DoModal(), IDOK);
+    EXPECT_EQ(save.GetPathName().str(), folder_.Dialog("new.txt"));
+    CFileDialog silent(FALSE, "txt", nullptr, 0);
+    Prepare(silent);
+    Then([] { EnterName("WELLS.txt"); });
+    EXPECT_EQ(silent.DoModal(), IDOK) << "who does not want the question is not asked";
+}
+
 TEST_F(FileDialogs, OpenOverTheWindowThatAskedForThem) {
     Show({{11, kv::ControlKind::kEdit, "", {7, 7, 80, 12}}});
     CFileDialog open(TRUE, nullptr, nullptr, 0, nullptr, &dialog);
