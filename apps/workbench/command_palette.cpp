@@ -10,7 +10,6 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 #include <algorithm>
-#include <functional>
 
 namespace workbench {
 
@@ -29,15 +28,13 @@ QString Plain(QString text) {
     return text.replace(u'\n', u'&');
 }
 
-using Visit = std::function<void(QAction& action, const QString& where)>;
-
-void ForEachCommand(const QList<QAction*>& actions, const QString& where, const Visit& visit) {
+void ForEachIn(const QList<QAction*>& actions, const QString& where, const CommandVisit& visit) {
     for (QAction* action : actions) {
         if (action->isSeparator()) continue;
         if (const QMenu* menu = action->menu()) {
             const QString name = Plain(menu->title());
-            ForEachCommand(menu->actions(),
-                           where.isEmpty() ? name : where + QStringLiteral(" > ") + name, visit);
+            ForEachIn(menu->actions(),
+                      where.isEmpty() ? name : where + QStringLiteral(" > ") + name, visit);
         } else {
             visit(*action, where);
         }
@@ -54,6 +51,14 @@ bool HoldsAll(const QTreeWidgetItem& row, const QStringList& words) {
 
 }  // namespace
 
+void ForEachCommand(const QMenuBar& menus, const CommandVisit& visit) {
+    ForEachIn(menus.actions(), {}, visit);
+}
+
+QString CommandName(const QAction& action) {
+    return Plain(action.text());
+}
+
 CommandPalette::CommandPalette(const QMenuBar& menus, QWidget* parent)
     : QDialog(parent), words_(new QLineEdit(this)), list_(new QTreeWidget(this)) {
     setWindowTitle(tr("Find a Command"));
@@ -66,9 +71,9 @@ CommandPalette::CommandPalette(const QMenuBar& menus, QWidget* parent)
     list_->setRootIsDecorated(false);
     list_->setUniformRowHeights(true);
     list_->setFocusPolicy(Qt::NoFocus);
-    ForEachCommand(menus.actions(), {}, [this](QAction& action, const QString& where) {
+    ForEachCommand(menus, [this](QAction& action, const QString& where) {
         auto* row = new QTreeWidgetItem(list_);
-        row->setText(kName, Plain(action.text()));
+        row->setText(kName, CommandName(action));
         row->setSizeHint(kName, {0, fontMetrics().height() + kRowRoom});
         row->setText(kWhere, where);
         row->setText(kKey, action.shortcut().toString(QKeySequence::NativeText));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDialog>
+#include <functional>
 #include <vector>
 
 class QAction;
@@ -9,6 +10,12 @@ class QMenuBar;
 class QTreeWidget;
 
 namespace workbench {
+
+/// Visits each row of the menus that does something, with the menus that lead to it.
+using CommandVisit = std::function<void(QAction& action, const QString& where)>;
+void ForEachCommand(const QMenuBar& menus, const CommandVisit& visit);
+/// Its text without marks.
+QString CommandName(const QAction& action);
 
 /// Finds any command of the menus by some words of its name.
 class CommandPalette : public QDialog {

@@ -15,6 +15,7 @@
 #include "window/window_system.h"
 #include "workbench/command_palette.h"
 #include "workbench/exports/exports.h"
+#include "workbench/key_help.h"
 #include "workbench/open_database_dialog.h"
 #include "workbench/workbench.h"
 
@@ -298,57 +299,9 @@ std::vector<FocusPart> Workbench::FocusParts() {
 }
 
 void Workbench::ExplainKeys() {
-    const std::pair<QString, QString> rows[] = {
-        {tr("Type in the area box"),
-         tr("pick an area by its name or its code; the first rows of the list change which")},
-        {tr("Tab, then type"), tr("pick a block of it, or ALL")},
-        {tr("Run, F5, Enter in the block box"),
-         tr("show the pick on the map, or with Report list what is there")},
-        {tr("F6, Shift+F6"), tr("go round the bar, the map, the results and open tools")},
-        {tr("Ctrl+K"), tr("find any command or dialog by its name")},
-        {tr("Drag, middle button, arrow keys"), tr("move the map")},
-        {tr("Wheel, +, -"), tr("zoom in and out")},
-        {tr("Double click"), tr("zoom in; with Shift, out")},
-        {tr("Home"), tr("show all of the map")},
-        {tr("L, click on its heading"), tr("fold the legend")},
-        {tr("Click on a block"), tr("pick it in the bar")},
-        {tr("Click with a converter open"), tr("hand the place to the converter")},
-        {tr("Ctrl+T"), tr("read the coordinates under the mouse; a click holds them, the next one "
-                          "lets them go")},
-        {tr("Ctrl+D"), tr("measure distances: drag, or click twice; with Shift go on from the last "
-                          "point; Escape ends")},
-        {tr("Ctrl+Shift+L, G, T, B"), tr("draw a line or a polygon, write a text, fill blocks; "
-                                         "Space is a click in the middle of "
-                                         "the map, Enter accepts, Backspace takes a point back")},
-        {tr("Ctrl+E"),
-         tr("select what was drawn: drag or Ctrl+arrow keys move it, Enter or a double "
-            "click changes it, Delete deletes it")},
-        {tr("Ctrl+H"), tr("search and replace in texts and labels")},
-        {tr("Ctrl+Shift+C"), tr("copy the position that is read")},
-        {tr("Ctrl+G"), tr("go to an area, a block or a place, in the bar as well")},
-        {tr("Ctrl+Shift+F"), tr("find a well; Ctrl+I shows its record and the comments on it")},
-        {tr("Ctrl+L"), tr("go to the bar")},
-        {tr("Ctrl+P"), tr("print the map that was built, the pick, or what is seen")},
-        {tr("Ctrl+Shift+N, Ctrl+Shift+Y, Ctrl+Shift+M"),
-         tr("build a map of the picked blocks, of a county, of bounds of your own")},
-        {tr("Alt+Enter, Ctrl+2"), tr("change the map that was built; show all of it")},
-        {tr("Ctrl+Shift+S, Ctrl+Shift+O"), tr("save the map that was built; open another")},
-        {tr("Ctrl+Z, Ctrl+Shift+Z"), tr("undo a change of it; do it again")},
-        {tr("Click on a heading"), tr("sort the results")},
-        {tr("Click, arrow keys on a row"), tr("mark it on the map")},
-        {tr("Enter, double click on a row"), tr("show its block on the map")},
-        {tr("Shift+arrow keys, Ctrl+A"), tr("select rows")},
-        {tr("Ctrl+C"), tr("copy the selected rows with their headings")},
-        {tr("Ctrl+F"), tr("find in the results")},
-    };
-    QString text = QStringLiteral("<table cellspacing=4>");
-    for (const auto& [keys, does] : rows) {
-        text +=
-            QStringLiteral("<tr><td><b>%1</b>&nbsp;&nbsp;</td><td>%2</td></tr>").arg(keys, does);
-    }
     QMessageBox box(window_);
     box.setWindowTitle(tr("Mouse and Keys"));
-    box.setText(text + QStringLiteral("</table>"));
+    box.setText(KeyHelp(*window_->menuBar()));
     box.exec();
 }
 

@@ -12,6 +12,7 @@
 
 #include "window/window_system.h"
 #include "workbench/command_palette.h"
+#include "workbench/key_help.h"
 #include "workbench/map/angle_text.h"
 #include "workbench_window_fixture.h"
 
@@ -62,6 +63,23 @@ TEST_F(WorkbenchKeys, F6GoesRoundTheBarTheMapAndTheTable) {
     EXPECT_TRUE(BarHasFocus());
     PressKey(Qt::Key_F6, Qt::ShiftModifier);
     EXPECT_TRUE(host->Results().View().hasFocus());
+}
+
+TEST_F(WorkbenchKeys, TheHelpNamesEachKeyOfTheMenusWithWhatItDoes) {
+    QMenuBar& menus = *host->Window().menuBar();
+    const QString help = KeyHelp(menus);
+    int keys = 0;
+    ForEachCommand(menus, [&](QAction& action, const QString&) {
+        if (action.shortcut().isEmpty()) return;
+        ++keys;
+        const QString name = CommandName(action).remove(QStringLiteral("..."));
+        EXPECT_TRUE(help.contains(QStringLiteral("<b>%1</b>&nbsp;&nbsp;</td><td>%2</td>")
+                                      .arg(action.shortcut().toString(), name.toHtmlEscaped())))
+            << name.toStdString();
+    });
+    EXPECT_GT(keys, 20);
+    EXPECT_TRUE(
+        help.contains(QStringLiteral("<b>Ctrl+Shift+K</b>&nbsp;&nbsp;</td><td>Fill block")));
 }
 
 TEST_F(WorkbenchKeys, F6ComesByTheOpenTools) {
