@@ -11,6 +11,7 @@
 #include "base/text.h"
 #include "coordtools/coord_ids.h"
 #include "frame/kvcom/util_lldrv.h"
+#include "frame/kvdbkvn/database_fault.h"
 #include "frame/kvdbkvn/statement_trace.h"
 #include "mapbuild/builders/custom_ids.h"
 #include "mapbuild/builders/map_rpt_proj_chooser_ids.h"
@@ -485,6 +486,18 @@ TEST_F(WorkbenchDocument, TheBoundaryOfPicksIsExportedAsText) {
              }});
     ASSERT_THAT(failures, SizeIs(1));
     EXPECT_THAT(failures[0], HasSubstr("late.txt could not be saved.\nIt cannot be written."));
+}
+
+TEST_F(WorkbenchDocument, BoundsThatCouldNotBeReadAreNoBoundary) {
+    PickBlock();
+    kv::db::SetDatabaseFault([](std::string_view call) {
+        return call == "step" && !kv::WindowSystem::Get().Modals().empty();
+    });
+    Trigger("Export pick boundary...", {PressOk()});
+    kv::db::SetDatabaseFault(nullptr);
+    EXPECT_THAT(boxes, testing::Each(HasSubstr("Database error")));
+    EXPECT_THAT(failures, ElementsAre("The bounds of the picked blocks could not be read: there is "
+                                      "no boundary to save."));
 }
 
 TEST_F(WorkbenchDocument, TheBoundaryAsGeoJsonIsOnTheDatumOfGeoJson) {

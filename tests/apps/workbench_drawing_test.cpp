@@ -134,6 +134,16 @@ protected:
         QApplication::processEvents();
         return places;
     }
+    /// Puts points ahead of those of the line that was drawn, and behind them.
+    void Add(const std::vector<Place>& ahead, const std::vector<Place>& behind) {
+        MapDocument next = host->History().Current();
+        auto drawings = std::make_shared<Drawings>(*next.drawings);
+        std::vector<Place>& points = drawings->lines[0].points;
+        points.insert(points.begin(), ahead.begin(), ahead.end());
+        points.insert(points.end(), behind.begin(), behind.end());
+        next.drawings = drawings;
+        host->History().Do(next, "add points");
+    }
     Place WriteText(const char* words, QPoint at) {
         Choose("Text");
         InDialog().Type(text::kContent, words);
@@ -669,6 +679,59 @@ TEST_F(WorkbenchDrawing, AnotherDatabaseEndsTheTool) {
     EXPECT_EQ(host->Drawing().Dialog(), nullptr);
     EXPECT_EQ(Mode(), "");
     host->Runner().Finish();
+}
+
+TEST_F(WorkbenchDrawing, StepsOfTheKeysAreUndoneAsOneMove) {
+    const auto places = DrawLine({middle, middle + QPoint(80, 0)});
+    DrawLine({middle + QPoint(0, 60), middle + QPoint(80, 60)});
+    const Drawings before = Drawn();
+    Choose("Select");
+    Click(middle + QPoint(40, 0));
+    for (int step = 0; step < 3; ++step)
+        Press(Qt::Key_Up, Qt::ControlModifier);
+    EXPECT_GT(Drawn().lines[0].points[0].lat, places[0].lat);
+    Click(middle + QPoint(40, 60));
+    Press(Qt::Key_Down, Qt::ControlModifier);
+    Undo();
+    EXPECT_EQ(Drawn().lines[1], before.lines[1]);
+    EXPECT_NE(Drawn(), before) << "another drawing's move is another deed";
+    Undo();
+    EXPECT_EQ(Drawn(), before);
+}
+
+TEST_F(WorkbenchDrawing, ALineThatNoProjectionOfItsPointsHoldsIsNotOpenedWithoutThem) {
+    canvas->ShowPlace({31, -91});
+    const auto places = DrawLine({middle, middle + QPoint(80, 0)});
+    ASSERT_FALSE(host->Model().BlockAt(ToMap(places[0])));
+    // A quarter of the equator apart, neither zone has an answer for the other.
+    Add({}, {{0, -3}, {0, -93}});
+    const Drawings before = Drawn();
+    Choose("Select");
+    Click(middle + QPoint(40, 0));
+    ASSERT_TRUE(host->Drawing().Selected());
+    Choose("Change...");
+    EXPECT_THAT(failures, ElementsAre("No projection of this line's points has X and Y for all of "
+                                      "them, so that its vertices cannot be shown."));
+    EXPECT_EQ(host->Drawing().Dialog(), nullptr);
+    EXPECT_EQ(Drawn(), before);
+    EXPECT_EQ(Mode(), "Select: drag moves");
+}
+
+TEST_F(WorkbenchDrawing, ALineIsOpenedInTheProjectionOfAnyOfItsPointsThatHoldsAll) {
+    DrawLine({middle, middle + QPoint(80, 0)});
+    // The zone of the first has no answer for the last; that of the block has for both.
+    Add({{0, -93}}, {{0, -3}});
+    Choose("Select");
+    Click(middle + QPoint(40, 0));
+    Choose("Change...");
+    EXPECT_THAT(failures, IsEmpty());
+    ASSERT_TRUE(host->Drawing().Dialog());
+    Expect([](kv::User& at) {
+        EXPECT_THAT(at.Rows(builder::kRows), SizeIs(4));
+        at.Click(IDCANCEL);
+    });
+    InDialog().Click(line::kVertices);
+    EXPECT_THAT(deeds, IsEmpty());
 }
 
 TEST_F(WorkbenchDrawing, GoesWithTheMainWindow) {

@@ -84,6 +84,43 @@ TEST(DocumentHistory, KnowsWhichStateIsInTheFile) {
     EXPECT_FALSE(history.IsSaved()) << "what is in the file cannot be reached any more";
 }
 
+TEST(DocumentHistory, DeedsOfOneSeriesAreUndoneAsOne) {
+    DocumentHistory history;
+    history.Begin(Named("a"));
+    history.Do(Named("b"), "move", "1");
+    history.Do(Named("c"), "move", "1");
+    history.Do(Named("d"), "move", "2");
+    history.Do(Named("e"), "move", "2");
+    EXPECT_EQ(history.Current(), Named("e"));
+    history.Undo();
+    EXPECT_EQ(history.Current(), Named("c"));
+    history.Undo();
+    EXPECT_EQ(history.Current(), Named("a"));
+    history.Do(Named("f"), "move", "1");
+    history.MarkSaved();
+    history.Do(Named("g"), "move", "1");
+    history.Undo();
+    EXPECT_EQ(history.Current(), Named("f")) << "what is in the file is a state of its own";
+    EXPECT_TRUE(history.IsSaved());
+    history.Do(Named("h"), "draw");
+    history.Do(Named("i"), "draw");
+    history.Undo();
+    EXPECT_EQ(history.Current(), Named("h")) << "other deeds are each undone by themselves";
+}
+
+TEST(DocumentHistory, KeepsAHundredDeeds) {
+    DocumentHistory history;
+    history.Begin(Named("0"));
+    for (int deed = 1; deed <= 150; ++deed)
+        history.Do(Named(std::to_string(deed)), "deed");
+    int undone = 0;
+    for (; history.CanUndo(); ++undone)
+        history.Undo();
+    EXPECT_EQ(undone, 100);
+    EXPECT_EQ(history.Current(), Named("50"));
+    EXPECT_FALSE(history.IsSaved()) << "what is in the file was ahead of them";
+}
+
 /// Against a plain list of documents and a place in it.
 TEST(DocumentHistory, IsAListAndAPlaceInItWhateverIsDone) {
     std::mt19937 random(11);
@@ -100,6 +137,11 @@ TEST(DocumentHistory, IsAListAndAPlaceInItWhateverIsDone) {
                 if (saved > static_cast<int>(at)) saved = -1;
                 names.push_back(std::to_string(step));
                 ++at;
+                if (names.size() > 101) {
+                    names.erase(names.begin());
+                    --at;
+                    if (saved >= 0) --saved;
+                }
                 history.Do(Named(names.back()), QString::number(step));
                 break;
             case 2:

@@ -18,8 +18,9 @@ public:
 
     const MapDocument& Current() const { return states_[at_].document; }
     /// Makes `next` the current document; nothing where it is what there is. `label` says what was
-    /// done, as in "Undo move text".
-    void Do(MapDocument next, const QString& label);
+    /// done, as in "Undo move text". Deeds of one `series` behind each other, such as those of a
+    /// key that is held down, are undone as one. The oldest state goes when there are too many.
+    void Do(MapDocument next, const QString& label, const QString& series = {});
 
     bool CanUndo() const { return at_ > 0; }
     bool CanRedo() const { return at_ + 1 < states_.size(); }
@@ -43,8 +44,12 @@ private:
     struct State {
         MapDocument document;
         QString label;  ///< of what led here
+        QString series;
     };
+    static constexpr std::size_t kMostStates = 101;
     static constexpr std::size_t kNever = static_cast<std::size_t>(-1);
+
+    void Append(State state);
 
     std::vector<State> states_;
     std::size_t at_ = 0;

@@ -293,6 +293,12 @@ void DocumentTools::ExportBoundary() {
     dialog.SetXYBounded(false);
     const auto boundary = RunBuilder(dialog, picks);
     if (!boundary) return;
+    if (!MiddleOf(*boundary)) {
+        host_.fail(
+            tr("The bounds of the picked blocks could not be read: there is no boundary to "
+               "save."));
+        return;
+    }
     const CKvMapBounds& bounds = boundary->bounds;
     const std::vector<Place> corners = {{bounds.GetLatMin(), bounds.GetLonMin()},
                                         {bounds.GetLatMin(), bounds.GetLonMax()},

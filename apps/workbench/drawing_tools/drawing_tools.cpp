@@ -6,7 +6,9 @@
 #include <QMenu>
 #include <QStyleHints>
 #include <QTimer>
+#include <algorithm>
 #include <array>
+#include <set>
 #include <utility>
 
 #include "base/text.h"
@@ -27,12 +29,12 @@ constexpr double kStep = 4;
 /// Clicks that lie closer together are on one place.
 constexpr double kSamePlace = 4;
 
+/// The plane has X and Y for all of them.
 std::vector<CKvDispPoint> InPlane(const std::vector<Place>& places, const DriverPlane& plane) {
     std::vector<CKvDispPoint> points;
     for (const Place& place : places) {
-        const auto xy = plane.ToXY(place);
-        if (!xy) return {};
-        points.emplace_back(xy->x, xy->y);
+        const Point xy = plane.ToXY(place).value();
+        points.emplace_back(xy.x, xy.y);
     }
     return points;
 }
@@ -128,7 +130,8 @@ void DrawingTools::Begin(Tool tool) {
     switch (tool) {
         case Tool::kLine:
         case Tool::kPolygon:
-            OpenLine(lastLine_, false);
+            OpenLine(lastLine_, PlaneFor({MiddleOfMap().value_or(Place())}).value_or(DriverPlane()),
+                     false);
             break;
         case Tool::kText: {
             DrawnText text = lastText_;
@@ -198,11 +201,10 @@ DialogHost DrawingTools::HostOf(std::function<bool()> mayEnd, std::function<void
             }};
 }
 
-void DrawingTools::OpenLine(const DrawnLine& line, bool exists) {
+void DrawingTools::OpenLine(const DrawnLine& line, const DriverPlane& plane, bool exists) {
     line_ = std::make_shared<LineDialog>(
         line, HostOf([this] { return MayAcceptLine(); }, [this] { AcceptLine(); }));
-    const auto around = exists ? std::optional(line.points.front()) : MiddleOfMap();
-    plane_ = PlaneFor(around.value_or(Place()));
+    plane_ = plane;
     line_->SetPlane(plane_);
     if (exists) {
         line_->SetModifyMode(true);
@@ -461,21 +463,30 @@ void DrawingTools::MoveByKeys(int key) {
     const DrawingRef moved = *selected_;
     Drawings drawings = Current();
     Shift(drawings, moved, to->lat - middle->lat, to->lon - middle->lon);
-    Do(std::move(drawings), Label("move", moved));
+    const QString label = Label("move", moved);
+    Do(std::move(drawings), label, label + QString::number(moved.number));
     Select(moved);
 }
 
 // Lines.
 
-DriverPlane DrawingTools::PlaneFor(const Place& place) {
+/// A plane with X and Y for all of the places: that of the map, or else one of theirs. None where
+/// no such plane has them.
+std::optional<DriverPlane> DrawingTools::PlaneFor(const std::vector<Place>& places) {
+    const auto holdsAll = [&](const DriverPlane& plane) {
+        return std::ranges::all_of(places,
+                                   [&](const Place& at) { return plane.ToXY(at).has_value(); });
+    };
     const auto& map = desk_.history.Current().map;
-    if (map) {
-        const DriverPlane plane = PlaneOf(*map);
-        if (plane.ToXY(place)) return plane;
-    }
+    if (map && holdsAll(PlaneOf(*map))) return PlaneOf(*map);
     const Box& bounds = desk_.model.Bounds();
-    return {positions_.ProjectionAt(place), true,
-            bounds.Empty() ? Place() : ToPlace(bounds.Middle())};
+    const Place middle = bounds.Empty() ? Place() : ToPlace(bounds.Middle());
+    std::set<int> tried;
+    for (const Place& place : places) {
+        const DriverPlane plane{positions_.ProjectionAt(place), true, middle};
+        if (tried.insert(plane.code).second && holdsAll(plane)) return plane;
+    }
+    return {};
 }
 
 /// None where one of them is nowhere on the earth.
@@ -609,12 +620,21 @@ void DrawingTools::ChangeSelected() {
         desk_.status.Say(tr("Fill block gives the block another color."));
         return;
     }
-    changed_ = selected_;
-    if (selected_->kind == DrawingRef::kLine) {
-        OpenLine(Current().lines[selected_->number], true);
-    } else {
+    if (selected_->kind == DrawingRef::kText) {
+        changed_ = selected_;
         OpenText(Current().texts[selected_->number]);
+        return;
     }
+    const DrawnLine line = Current().lines[selected_->number];
+    const auto plane = PlaneFor(line.points);
+    if (!plane) {
+        desk_.fail(
+            tr("No projection of this line's points has X and Y for all of them, so that "
+               "its vertices cannot be shown."));
+        return;
+    }
+    changed_ = selected_;
+    OpenLine(line, *plane, true);
 }
 
 void DrawingTools::DeleteSelected() {
@@ -654,10 +674,10 @@ void DrawingTools::SearchAndReplace() {
     }
 }
 
-void DrawingTools::Do(Drawings drawings, const QString& label) {
+void DrawingTools::Do(Drawings drawings, const QString& label, const QString& series) {
     MapDocument next = desk_.history.Current();
     next.drawings = std::make_shared<const Drawings>(std::move(drawings));
-    desk_.history.Do(std::move(next), label);
+    desk_.history.Do(std::move(next), label, series);
 }
 
 }  // namespace workbench

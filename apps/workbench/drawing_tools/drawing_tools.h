@@ -82,7 +82,7 @@ private:
     MouseUse UseNow() const;
     QString ModeNow() const;
 
-    void OpenLine(const DrawnLine& line, bool exists);
+    void OpenLine(const DrawnLine& line, const DriverPlane& plane, bool exists);
     void OpenText(const DrawnText& text);
     void OpenFill();
     DialogHost HostOf(std::function<bool()> mayEnd, std::function<void()> accepted);
@@ -104,14 +104,14 @@ private:
     bool HasEnough() const;
     std::optional<std::vector<Place>> NewVertices() const;
     std::vector<Place> PointsNow() const;
-    DriverPlane PlaneFor(const Place& place);
+    std::optional<DriverPlane> PlaneFor(const std::vector<Place>& places);
 
     void Select(std::optional<DrawingRef> ref);
     void ChangeSelected();
     void DeleteSelected();
     void Clear();
     void SearchAndReplace();
-    void Do(Drawings drawings, const QString& label);
+    void Do(Drawings drawings, const QString& label, const QString& series = {});
     const Drawings& Current() const { return layer_.Shown(); }
 
     std::optional<DrawingRef> At(const Place& place) const;
