@@ -2,6 +2,7 @@
 
 #include "base/numbers.h"
 #include "base/text.h"
+#include "frame/kvcom/misc.h"
 #include "frame/kvdbkvn/db_dataset_set.h"
 
 namespace workbench {
@@ -13,6 +14,12 @@ std::string TableName(const std::string& suffix) {
 
 std::string Quoted(const std::string& text) {
     return "'" + kv::ReplaceAll(text, "'", "''") + "'";
+}
+
+CKvDbInfo LoginInForce() {
+    std::string user, password, server;
+    CKvMisc::GetParsedConnectString(user, password, server, true);
+    return {user.c_str(), password.c_str(), server.c_str()};
 }
 
 Rows::Rows(const std::string& statement) {

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "frame/kvdbkvn/db_abs_data_mgr.h"
+#include "frame/kvdbkvn/db_info.h"
 
 namespace workbench {
 
@@ -12,6 +13,9 @@ std::string TableName(const std::string& suffix);
 
 /// The text as an SQL literal.
 std::string Quoted(const std::string& text);
+
+/// The user, password and server of connections that are made now.
+CKvDbInfo LoginInForce();
 
 /// A connection that is given back at the end, whatever happens, and the rows of one statement.
 class Rows {

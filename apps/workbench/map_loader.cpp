@@ -5,14 +5,12 @@
 
 #include "frame/catalogue.h"
 #include "frame/kvcom/cancelled.h"
-#include "frame/kvlogs/log.h"
 #include "workbench/dataset.h"
+#include "workbench/failure_words.h"
 
 namespace workbench {
 
 namespace {
-
-constexpr int kLogLevel = 101;
 
 std::string OfArea(const AreaMap& area, const char* table) {
     return std::string(table) + ".areacode = " + Quoted(area.code);
@@ -70,8 +68,12 @@ void ReadPipelines(AreaMap& area) {
 
 }  // namespace
 
-MapLoader::MapLoader(MapModel& model, std::function<void()> areaAdded)
-    : model_(model), areaAdded_(std::move(areaAdded)) {}
+const MapLoader::Layer MapLoader::kLayers[] = {
+    {"wells", &ReadWells}, {"platforms", &ReadPlatforms}, {"pipelines", &ReadPipelines}};
+
+MapLoader::MapLoader(MapModel& model, std::function<void()> areaAdded,
+                     std::function<void(const QString&)> lacks)
+    : model_(model), areaAdded_(std::move(areaAdded)), lacks_(std::move(lacks)) {}
 
 bool MapLoader::Step() {
     if (!listRead_) {
@@ -112,29 +114,37 @@ void MapLoader::ReadBounds() {
 }
 
 void MapLoader::ReadArea(AreaRow& row) {
-    row.read = true;
-    ++done_;
     auto area = std::make_unique<AreaMap>();
     area->code = row.code, area->name = row.name, area->mmsCode = row.mmsCode;
     ReadBlocks(*area);
-    for (const Reader reader : {&ReadWells, &ReadPlatforms, &ReadPipelines}) {
-        ReadOptional(reader, *area);
-    }
+    for (const Layer& layer : kLayers)
+        ReadOptional(layer, *area);
     area->Finish();
     model_.Add(std::move(area));
+    row.read = true;
+    ++done_;
     areaAdded_();
 }
 
-void MapLoader::ReadOptional(Reader reader, AreaMap& area) {
-    if (failed_.count(reader)) return;
+void MapLoader::ReadOptional(const Layer& layer, AreaMap& area) {
+    if (failed_.count(&layer)) return;
     try {
-        reader(area);
+        layer.read(area);
     } catch (const CKvCancelled&) {
         throw;
     } catch (const CKvException& e) {
-        failed_.insert(reader);
-        CKvLog::Output("The map lacks a layer. " + e.GetErrorMessage(true, true), kLogLevel, false);
+        failed_.insert(&layer);
+        if (untold_.isEmpty()) why_ = FailureWords(e);
+        untold_ << QString::fromLatin1(layer.name);
     }
+}
+
+/// Of all that failed by now at once.
+void MapLoader::TellWhatLacks() {
+    const QStringList names = std::exchange(untold_, {});
+    if (names.isEmpty()) return;
+    lacks_(QStringLiteral("The map goes without %1, which could not be read.\n%2")
+               .arg(names.join(QStringLiteral(", ")), why_));
 }
 
 void MapLoader::Need(const std::vector<std::string>& areaCodes) {
@@ -144,6 +154,7 @@ void MapLoader::Need(const std::vector<std::string>& areaCodes) {
             std::find(areaCodes.begin(), areaCodes.end(), row.code) != areaCodes.end();
         if (asked && !row.read) ReadArea(row);
     }
+    TellWhatLacks();
 }
 
 }  // namespace workbench

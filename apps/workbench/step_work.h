@@ -15,8 +15,11 @@ public:
     virtual int Total() const = 0;
     /// Does the next step. False when there is none left. Throws CKvException.
     virtual bool Step() = 0;
-    /// All steps are done, or one failed, or the user cancelled; the last call.
-    virtual void Finished() {}
+    /// The last call: all steps are done (`whole`), or somebody ended it ahead of that. None
+    /// follows a step that has thrown a failure.
+    virtual void Finished([[maybe_unused]] bool whole) {}
+    /// Whether it makes a file or prints, of which nothing is left where it is ended early.
+    virtual bool Writes() const { return false; }
 };
 
 }  // namespace workbench

@@ -5,11 +5,13 @@
 #include <deque>
 #include <memory>
 
+#include "frame/kvdbkvn/db_info.h"
 #include "workbench/step_work.h"
 
 namespace workbench {
 
-/// Does long work in between the user's actions: some steps, then whatever waits, and on.
+/// Does long work in between the user's actions: some steps, then whatever waits, and on. While
+/// another login is in force than when it was begun, which a dialog may bring about, work waits.
 class WorkRunner : public QObject {
     Q_OBJECT
 public:
@@ -18,8 +20,12 @@ public:
     /// Begins the work; what is under way waits until it is done.
     void Begin(std::shared_ptr<StepWork> work);
     bool Busy() const { return !waiting_.empty(); }
+    /// The first work that writes something; null for none.
+    const StepWork* Writing() const;
     /// The work goes on no more.
     void Drop(const std::shared_ptr<StepWork>& work);
+    /// No work goes on any more. What writes something is told, as by `Cancel`.
+    void DropAll();
     /// Does all work now.
     void Finish();
 
@@ -35,12 +41,19 @@ signals:
     void Failed(const QString& message);
 
 private:
+    struct Job {
+        std::shared_ptr<StepWork> work;
+        CKvDbInfo login;
+    };
+
     void Continue();
-    bool StepOnce();
+    enum class Waits { kPerson, kNobody };
+    bool StepOnce(Waits waits);
+    void Remove(const std::shared_ptr<StepWork>& work);
     void EndCurrent();
 
     QTimer timer_;
-    std::deque<std::shared_ptr<StepWork>> waiting_;  ///< the first is under way
+    std::deque<Job> waiting_;  ///< the first is under way
     bool stepping_ = false;
 };
 

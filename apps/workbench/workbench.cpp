@@ -9,7 +9,6 @@
 #include <algorithm>
 
 #include "base/text.h"
-#include "frame/kvcom/cancelled.h"
 #include "frame/kvcom/misc.h"
 #include "frame/kvcom/profile.h"
 #include "frame/kvdbkvn/db_util.h"
@@ -67,16 +66,6 @@ private:
     std::function<void()> painted_;
 };
 
-/// None where the person cancelled the look-up, of which nothing is told.
-std::optional<std::string> AreaCodesOf(const CVZABEBar& bar, bool quoted) {
-    try {
-        const kv::db::CancelledLookUpsThrow asked;
-        return bar.GetAreacode(quoted);
-    } catch (const CKvCancelled&) {
-        return {};
-    }
-}
-
 QString Described(const Pick& pick) {
     if (pick.block) {
         return QStringLiteral("%1, block %2")
@@ -98,15 +87,15 @@ Workbench::Workbench(CKvDbInfo database) : database_(std::move(database)) {
     MakeRecordTools();
     status_ = new StatusLine(*window_->statusBar());
     commands_ = new Commands(*window_, *status_);
-    printing_ = new Printing(frame_, model_, *canvas_, runner_, *status_,
-                             [this](const QString& message) { Fail(message); });
+    const auto fail = [this](const QString& message) { Fail(message); };
+    printing_ = new Printing(frame_, model_, *canvas_, runner_, *status_, fail);
     printing_->setParent(window_);
     mouse_ = std::make_unique<MapMouse>(*canvas_, *status_);
-    readouts_ = std::make_unique<Readouts>(model_, tools_, *canvas_, *mouse_, *status_, *commands_);
+    readouts_ =
+        std::make_unique<Readouts>(model_, tools_, *canvas_, *mouse_, *status_, *commands_, fail);
     MakeDocumentTools();
-    drawing_ = std::make_unique<DrawingTools>(
-        DrawingDesk{frame_, model_, *canvas_, *mouse_, tools_, runner_, *status_, *commands_,
-                    history_, [this](const QString& message) { Fail(message); }});
+    drawing_ = std::make_unique<DrawingTools>(DrawingDesk{
+        frame_, model_, *canvas_, *mouse_, tools_, runner_, *status_, *commands_, history_, fail});
     printing_->SetDrawings([this] {
         const MapDocument& document = history_.Current();
         return MapDrawings{document.drawings, FeetPerInch(document)};
@@ -142,14 +131,15 @@ void Workbench::MakePanes() {
 void Workbench::MakeRecordTools() {
     well_ = new WellPane;
     QDockWidget* dock = MakePane(tr("Well"), "well", well_);
-    records_ = new RecordTools({frame_, *canvas_, *results_, runner_, database_, *dock, *well_,
-                                [this](ResultTable table) {
-                                    reported_ = PickOfBar();
-                                    ShowTable(std::move(table));
-                                },
-                                [this](const QString& words) { Fail(words); },
-                                [this](const QString& note) { Tell(note); }},
-                               window_);
+    records_ =
+        new RecordTools({frame_, *canvas_, *results_, runner_, database_, history_, *dock, *well_,
+                         [this](ResultTable table) {
+                             reported_ = PickOfBar();
+                             ShowTable(std::move(table));
+                         },
+                         [this](const QString& words) { Fail(words); },
+                         [this](const QString& note) { Tell(note); }},
+                        window_);
 }
 
 void Workbench::MakeDocumentTools() {
@@ -174,7 +164,7 @@ void Workbench::ConnectAll() {
         if (results_) results_->SetCurrent(PickOfBar() == reported_);
     };
     frame_.m_onClosing = [this] {
-        if (!documents_->MayLeave()) return false;
+        if (!MayLeave()) return false;
         Save();
         return true;
     };
@@ -250,11 +240,13 @@ void Workbench::LoadMap() {
     drawing_->MapGoes();
     canvas_->ModelGoes();
     model_.Clear();
-    loader_ = std::make_shared<MapLoader>(model_, [this] {
+    const auto areaAdded = [this] {
         if (!canvas_) return;
         canvas_->ModelChanged();
         if (model_.Areas().size() == 1) commands_->Refresh();
-    });
+    };
+    loader_ = std::make_shared<MapLoader>(model_, areaAdded,
+                                          [this](const QString& words) { Fail(words); });
     runner_.Begin(loader_);
     commands_->Refresh();
 }
@@ -284,6 +276,8 @@ bool Workbench::UseDatabase(const CKvDbInfo& info, QString& failure) {
         CKvDbAbsDataMgr(KV_CONNECT_DEFAULT).SetDbInfo(database_);
         return false;
     }
+    // What was begun would read on from this one.
+    runner_.DropAll();
     database_ = wanted;
     ShowTitle();
     frame_.m_bar.GetAreaCombo()->SetWindowText("");
@@ -294,6 +288,20 @@ bool Workbench::UseDatabase(const CKvDbInfo& info, QString& failure) {
     documents_->Reset();
     LoadMap();
     return true;
+}
+
+bool Workbench::MayLeave() {
+    return drawing_->MayLeave() && documents_->MayLeave() && MayEndWork();
+}
+
+/// Asks where a file or pages would be lost.
+bool Workbench::MayEndWork() {
+    const StepWork* writing = runner_.Writing();
+    if (!writing) return true;
+    const QString question = tr("%1 is not finished yet. End it, with nothing kept?")
+                                 .arg(QString::fromStdString(writing->Title()));
+    return frame_.MessageBox(question.toUtf8().constData(), "Workbench",
+                             MB_YESNO | MB_ICONQUESTION) == IDYES;
 }
 
 void Workbench::Fail(const QString& message) {
@@ -323,13 +331,23 @@ void Workbench::OnRun() {
 }
 
 void Workbench::RunMap() {
-    const std::optional<std::string> codes = AreaCodesOf(frame_.m_bar, false);
-    if (!codes) return;
-    if (codes->empty()) {
-        Fail(UnknownArea());
-        return;
+    if (const auto codes = CodesOfPick(false))
+        ShowOnMap(kv::Split(*codes, ','), frame_.m_bar.GetBlk(true));
+}
+
+/// The codes of the bar's area, as SQL where they are `quoted`. None, which is told, where there is
+/// no such area or block, or the database fails.
+std::optional<std::string> Workbench::CodesOfPick(bool quoted) {
+    QString failure = UnknownArea();
+    try {
+        const kv::db::LookUpsThrow failures;
+        std::string codes = frame_.m_bar.GetAreacode(quoted);
+        if (!codes.empty()) return codes;
+    } catch (const CKvException& e) {
+        failure = FailureWords(e);
     }
-    ShowOnMap(kv::Split(*codes, ','), frame_.m_bar.GetBlk(true));
+    Fail(failure);
+    return {};
 }
 
 QString Workbench::UnknownArea() const {
@@ -359,20 +377,16 @@ void Workbench::RunReport() {
         Fail(tr("There is no report of this layer."));
         return;
     }
-    const std::optional<std::string> codes = AreaCodesOf(frame_.m_bar, true);
+    const auto codes = CodesOfPick(true);
     if (!codes) return;
+    const std::vector<std::string> areas = AreaLiterals(*codes);
     std::vector<std::string> conditions;
-    for (const std::string& area : records_->InOrder(AreaLiterals(*codes))) {
+    for (const std::string& area : records_->InOrder(areas))
         conditions.push_back(BlockCondition(*layer, area, frame_.m_bar.GetBlk(true)));
-    }
-    if (conditions.empty()) {
-        Fail(UnknownArea());
-        return;
-    }
     const BarPick asked = PickOfBar();
     std::string words;
     try {
-        words = WordsOfPick();
+        words = WordsOfPick(areas);
     } catch (const CKvException& e) {
         Fail(FailureWords(e));
         return;
@@ -391,10 +405,8 @@ Workbench::BarPick Workbench::PickOfBar() const {
 }
 
 /// The area by its name, where the bar's text means one alone, and the block if it is one.
-std::string Workbench::WordsOfPick() const {
+std::string Workbench::WordsOfPick(const std::vector<std::string>& areas) const {
     std::string words = frame_.m_bar.GetArea();
-    const kv::db::CancelledLookUpsThrow asked;
-    const std::vector<std::string> areas = AreaLiterals(frame_.m_bar.GetAreacode(true));
     if (areas.size() == 1) {
         const Rows names(std::string("select ") + kv::catalogue::kColumnAreaName + " from " +
                          TableName(kv::catalogue::kAreaTable) + " where " +

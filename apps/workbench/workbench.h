@@ -132,7 +132,8 @@ private:
     void RunReport();
     QString UnknownArea() const;
     BarPick PickOfBar() const;
-    std::string WordsOfPick() const;
+    std::optional<std::string> CodesOfPick(bool quoted);
+    std::string WordsOfPick(const std::vector<std::string>& areas) const;
     void ShowTitle();
     void ShowChosenRow(int row);
     void OfferSample(const QString& path);
@@ -144,6 +145,9 @@ private:
     void MakeRecordTools();
     void MakeDocumentTools();
 
+    /// Whether the map and the database may go: what would be lost is asked about.
+    bool MayLeave();
+    bool MayEndWork();
     void OpenDatabase();
     void Run();
     void SaveResults();

@@ -76,7 +76,9 @@ void Workbench::MakeMenus() {
 void Workbench::MakeFileMenu() {
     QMenu& menu = *window_->menuBar()->addMenu(tr("&File"));
     commands_->Add(menu, tr("&Open database..."), QKeySequence::Open, [this] { OpenDatabase(); });
-    commands_->Add(menu, tr("&Read map again"), Qt::CTRL | Qt::Key_R, [this] { LoadMap(); });
+    commands_->Add(menu, tr("&Read map again"), Qt::CTRL | Qt::Key_R, [this] {
+        if (drawing_->MayLeave()) LoadMap();
+    });
     menu.addSeparator();
     commands_->Add(menu, tr("R&un"), Qt::Key_F5, [this] { Run(); });
     menu.addSeparator();
@@ -325,7 +327,7 @@ void Workbench::RecordDialogs() {
 }
 
 void Workbench::OpenDatabase() {
-    if (!documents_->MayLeave()) return;
+    if (!MayLeave()) return;
     OpenDatabaseDialog dialog(database_, window_);
     while (dialog.exec() == QDialog::Accepted) {
         QString failure;

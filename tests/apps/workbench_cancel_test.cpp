@@ -4,6 +4,7 @@
 
 #include <QSignalSpy>
 #include <memory>
+#include <optional>
 
 #include "frame/kvcom/cancelled.h"
 #include "workbench/failure_words.h"
@@ -19,9 +20,9 @@ public:
     int Done() const override { return 0; }
     int Total() const override { return 2; }
     bool Step() override { throw CKvCancelled(); }
-    void Finished() override { finished = true; }
+    void Finished(bool whole) override { ended = whole; }
 
-    bool finished = false;
+    std::optional<bool> ended;
 };
 
 TEST(CancelledQuery, EndsItsWorkWithWhatThereIsAndNothingIsTold) {
@@ -31,7 +32,7 @@ TEST(CancelledQuery, EndsItsWorkWithWhatThereIsAndNothingIsTold) {
     const auto work = std::make_shared<CancelledWork>();
     runner.Begin(work);
     runner.Finish();
-    EXPECT_TRUE(work->finished);
+    EXPECT_EQ(work->ended, false) << "it is not whole";
     EXPECT_TRUE(failed.isEmpty());
     EXPECT_EQ(idle.size(), 1);
     EXPECT_FALSE(runner.Busy());

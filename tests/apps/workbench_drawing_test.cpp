@@ -3,6 +3,8 @@
 
 #include <gmock/gmock.h>
 
+#include <QMessageBox>
+#include <QPushButton>
 #include <QTimer>
 #include <cmath>
 
@@ -121,6 +123,16 @@ protected:
         acting = nullptr;
     }
 
+    /// To the next question.
+    void Answer(QMessageBox::StandardButton button) {
+        QTimer::singleShot(0, &person, [this, button] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_TRUE(box) << "nobody asks";
+            questions.push_back(box->text().toStdString());
+            box->button(button)->click();
+        });
+    }
+
     static void ExpectNear(const Place& place, const Place& expected) {
         EXPECT_NEAR(place.lat, expected.lat, 1e-7);
         EXPECT_NEAR(place.lon, expected.lon, 1e-7);
@@ -159,6 +171,7 @@ protected:
     QTimer person;
     std::vector<std::function<void(kv::User&)>> deeds;
     kv::Node* acting = nullptr;
+    std::vector<std::string> questions;
 };
 
 // Lines by the mouse.
@@ -679,6 +692,44 @@ TEST_F(WorkbenchDrawing, AnotherDatabaseEndsTheTool) {
     EXPECT_EQ(host->Drawing().Dialog(), nullptr);
     EXPECT_EQ(Mode(), "");
     host->Runner().Finish();
+}
+
+TEST_F(WorkbenchDrawing, WhatIsHalfDrawnIsAskedAboutAheadOfItsEnd) {
+    Choose("Polyline");
+    Choose("Read map again");
+    EXPECT_EQ(Mode(), "") << "no point was there yet: nobody asks";
+    host->Runner().Finish();
+    Choose("Polyline");
+    Click(middle);
+    Answer(QMessageBox::No);
+    Choose("Read map again");
+    EXPECT_EQ(Mode(), "Draw: next point");
+    Answer(QMessageBox::No);
+    Choose("Open database...");
+    Answer(QMessageBox::No);
+    host->Window().close();
+    EXPECT_TRUE(host->Window().isVisible());
+    Answer(QMessageBox::Yes);
+    Choose("Read map again");
+    EXPECT_EQ(Mode(), "");
+    EXPECT_THAT(questions,
+                testing::AllOf(SizeIs(4), testing::Each("What is being drawn was not accepted yet, "
+                                                        "and goes. Go on?")));
+    host->Runner().Finish();
+}
+
+TEST_F(WorkbenchDrawing, ATextThatWasTypedOrWaitsForItsPlaceIsAskedAbout) {
+    Choose("Text");
+    InDialog().Type(text::kContent, "typed");
+    Answer(QMessageBox::No);
+    Choose("Read map again");
+    InDialog().Click(IDOK);
+    QApplication::processEvents();
+    Answer(QMessageBox::No);
+    Choose("Read map again");
+    EXPECT_THAT(questions, SizeIs(2));
+    Click(middle);
+    EXPECT_THAT(Drawn().texts, SizeIs(1));
 }
 
 TEST_F(WorkbenchDrawing, StepsOfTheKeysAreUndoneAsOneMove) {

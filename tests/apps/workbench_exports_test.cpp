@@ -2,10 +2,12 @@
 
 #include <gmock/gmock.h>
 
+#include <QPointer>
 #include <cmath>
 #include <filesystem>
 #include <map>
 
+#include "frame/kvcom/cancelled.h"
 #include "frame/kvcom/util_lldrv.h"
 #include "frame/kvdbkvn/database_fault.h"
 #include "geofiles/table.h"
@@ -95,6 +97,13 @@ protected:
     }
 
     std::string Path(const char* name) const { return folder.Native(name); }
+    /// Without a step of it done yet.
+    void Begin(const char* format, const char* name) {
+        deeds = {NameFile(Path(name))};
+        person.start(0);
+        MenuAction(QStringLiteral("Export %1...").arg(QLatin1String(format)))->trigger();
+        person.stop();
+    }
     void Export(const char* format, const char* name) {
         Trigger((std::string("Export ") + format + "...").c_str(), {NameFile(Path(name))});
     }
@@ -147,7 +156,9 @@ protected:
 class ExportJobs : public test::SampleTest {
 protected:
     ExportJobs() {
-        MapLoader(model, [] {}).Need({kArea});
+        MapLoader(
+            model, [] {}, test::LacksNothing)
+            .Need({kArea});
         seen = model.FindPick({kArea}, kBlock).Bounds();
     }
 
@@ -166,7 +177,7 @@ protected:
                       [&](const ExportEnd& end) { ended = end; });
         while (steps-- > 0 && job.Step()) {
         }
-        job.Finished();
+        job.Finished(false);
         return ended;
     }
 
@@ -335,6 +346,14 @@ TEST_F(ExportJobs, ADatabaseThatFailsOnTheWayIsTold) {
     EXPECT_EQ(folder.Read("map.gpkg"), "good");
 }
 
+TEST_F(ExportJobs, AQueryThatIsCancelledIsNoFailure) {
+    written = [] { throw CKvCancelled(); };
+    const ExportEnd end = Run(Path("map.gpkg"));
+    EXPECT_FALSE(end.whole);
+    EXPECT_EQ(end.failure, QString());
+    EXPECT_FALSE(folder.Has("map.gpkg"));
+}
+
 TEST_F(ExportJobs, AFullDiskIsTold) {
     folder.Write("map.gpkg", "good");
     std::optional<test::FileSizeLimit> limit;
@@ -358,6 +377,48 @@ TEST_F(ExportJobs, WhereNothingIsSeenThereIsNothingToExport) {
     EXPECT_EQ(Run(Path("map.gpkg")).failure.toStdString(),
               "There is nothing on this part of the map to export.");
     EXPECT_FALSE(folder.Has("map.gpkg"));
+}
+
+TEST_F(WorkbenchExports, AnotherDatabaseEndsAnExportAndSaysSo) {
+    Begin("GeoJSON", "map.geojson");
+    ASSERT_TRUE(host->Runner().Writing());
+    std::filesystem::copy_file(test::SampleServer().substr(7), Path("copy.db"));
+    QString failure;
+    ASSERT_TRUE(host->UseDatabase({"", "", ("sqlite:" + Path("copy.db")).c_str()}, failure));
+    EXPECT_EQ(Said(), "The export was cancelled.");
+    host->Runner().Finish();
+    EXPECT_FALSE(folder.Has("map.geojson")) << "it would hold rows of both";
+    EXPECT_FALSE(host->Model().Areas().empty());
+}
+
+TEST_F(WorkbenchExports, ADatabaseThatCannotBeOpenedLeavesAnExportGoingOn) {
+    if (!HasGrid()) GTEST_SKIP() << "The datum grid us_noaa_conus.tif is not installed here";
+    Begin("GeoJSON", "map.geojson");
+    QString failure;
+    EXPECT_FALSE(host->UseDatabase({"", "", "sqlite:/nowhere/any.db"}, failure));
+    host->Runner().Finish();
+    EXPECT_TRUE(folder.Has("map.geojson"));
+}
+
+TEST_F(WorkbenchExports, AnExportThatIsNotFinishedIsAskedAboutAtClosing) {
+    if (!HasGrid()) GTEST_SKIP() << "The datum grid us_noaa_conus.tif is not installed here";
+    Begin("GeoJSON", "map.geojson");
+    const QPointer<QMainWindow> window = &host->Window();
+    person.start(0);
+    window->close();
+    person.stop();
+    EXPECT_THAT(boxes,
+                ElementsAre("Exporting the map is not finished yet. End it, with nothing kept?"));
+    EXPECT_TRUE(window && window->isVisible()) << "the answer was no";
+    host->Runner().Finish();
+    EXPECT_TRUE(folder.Has("map.geojson"));
+    Begin("GeoJSON", "again.geojson");
+    answer = QMessageBox::Yes;
+    person.start(0);
+    window->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    person.stop();
+    EXPECT_FALSE(window && window->isVisible());
 }
 
 TEST_F(WorkbenchExports, AReportIsSavedAsAWorkbookWhereItsNameSaysSo) {

@@ -36,7 +36,12 @@ protected:
 inline void ReadAll(workbench::StepWork& work) {
     while (work.Step()) {
     }
-    work.Finished();
+    work.Finished(true);
+}
+
+/// What a map loader tells where nothing is to be lacking.
+inline void LacksNothing(const QString& words) {
+    ADD_FAILURE() << words.toStdString();
 }
 
 }  // namespace test

@@ -12,6 +12,8 @@
 #include <random>
 #include <set>
 
+#include "frame/kvdbkvn/database_fault.h"
+#include "frame/kvdbkvn/statement_trace.h"
 #include "support/small_database.h"
 #include "workbench/map/angle_text.h"
 #include "workbench/map/graticule.h"
@@ -252,7 +254,8 @@ TEST(ScaleBar, IsAsLongAsItSays) {
 class SampleMapTest : public test::SampleTest {
 protected:
     SampleMapTest() {
-        MapLoader loader(model, [this] { ++added; });
+        MapLoader loader(
+            model, [this] { ++added; }, test::LacksNothing);
         test::ReadAll(loader);
     }
     std::size_t Things(FeatureLayer AreaMap::*layer) const {
@@ -517,16 +520,60 @@ TEST(MapLoader, GoesWithoutLayersThatTheDatabaseLacks) {
     const test::TempFolder folder;
     test::ConnectTo({"", "", ("sqlite:" + test::MakeSmallDatabase(folder.Native("s.db"))).c_str()});
     MapModel model;
-    MapLoader loader(model, [] {});
+    std::vector<std::string> told;
+    MapLoader loader(
+        model, [] {}, [&](const QString& words) { told.push_back(words.toStdString()); });
     test::ReadAll(loader);
     EXPECT_EQ(model.Areas().size(), 8U);
-    EXPECT_THAT(folder.Read("log.txt"), testing::HasSubstr("no such table: GULF_MEXICO_well_hdr"));
+    EXPECT_THAT(told, ElementsAre(testing::AllOf(
+                          testing::StartsWith("The map goes without wells, platforms, pipelines, "
+                                              "which could not be read.\n"),
+                          testing::HasSubstr("no such table: GULF_MEXICO_well_hdr"))));
     test::ConnectTo({});
+}
+
+TEST_F(SampleMapTest, ALayerThatFailsWithAnAreaThatIsNeededIsToldThen) {
+    MapModel other;
+    std::vector<std::string> told;
+    MapLoader loader(
+        other, [] {}, [&](const QString& words) { told.push_back(words.toStdString()); });
+    ASSERT_TRUE(loader.Step());
+    bool ofWells = false;
+    kv::db::SetStatementTrace(
+        [&](const std::string& sql) { ofWells = sql.find("_well_hdr") != std::string::npos; });
+    kv::db::SetDatabaseFault([&](std::string_view) { return ofWells; });
+    loader.Need({"43113"});
+    kv::db::SetDatabaseFault(nullptr);
+    kv::db::SetStatementTrace(nullptr);
+    ASSERT_EQ(other.Areas().size(), 1U);
+    EXPECT_EQ(other.Areas()[0]->wells.Size(), 0U);
+    EXPECT_GT(other.Areas()[0]->platforms.Size(), 0U);
+    EXPECT_THAT(told, ElementsAre(testing::StartsWith("The map goes without wells, ")));
+    test::ReadAll(loader);
+    EXPECT_EQ(told.size(), 1U) << "once is enough";
+}
+
+TEST_F(SampleMapTest, AnAreaWhoseReadingFailsIsReadTheNextTime) {
+    MapModel other;
+    MapLoader loader(
+        other, [] {}, test::LacksNothing);
+    ASSERT_TRUE(loader.Step());
+    kv::db::SetDatabaseFault([](std::string_view call) { return call == "step"; });
+    EXPECT_THROW(loader.Need({"43113"}), CKvException);
+    EXPECT_THROW(loader.Step(), CKvException);
+    kv::db::SetDatabaseFault(nullptr);
+    EXPECT_TRUE(other.Areas().empty());
+    EXPECT_EQ(loader.Done(), 0);
+    loader.Need({"43113"});
+    EXPECT_FALSE(other.FindPick({"43113"}, "391").Empty());
+    test::ReadAll(loader);
+    EXPECT_EQ(other.Areas().size(), model.Areas().size());
 }
 
 TEST_F(SampleMapTest, AreasThatAreNeededAreReadAtOnce) {
     MapModel other;
-    MapLoader loader(other, [] {});
+    MapLoader loader(
+        other, [] {}, test::LacksNothing);
     loader.Need({"43113"});
     ASSERT_EQ(other.Areas().size(), 1U);
     EXPECT_EQ(other.Areas()[0]->name, "EUGENE ISLAND SOUTH ADDITION");

@@ -38,7 +38,8 @@ public:
 class PageDrawingsTest : public test::SampleTest {
 protected:
     void SetUp() override {
-        MapLoader loader(model, [] {});
+        MapLoader loader(
+            model, [] {}, test::LacksNothing);
         loader.Need({kArea});
         projection = *ProjectionOf(*model.FindArea(kArea));
         bounds = BoundsOf(model.FindPick({kArea}, kBlock), projection);

@@ -35,7 +35,8 @@ Sheet SheetOf(double width, double height) {
 class PageTest : public test::SampleTest {
 protected:
     void SetUp() override {
-        MapLoader loader(model, [] {});
+        MapLoader loader(
+            model, [] {}, test::LacksNothing);
         loader.Need({kArea});
         pick = model.FindPick({kArea}, kBlock);
         ASSERT_TRUE(pick.block);
@@ -377,7 +378,7 @@ TEST_F(PageTest, ACancelledExportLeavesNoFile) {
     EXPECT_TRUE(job.Step());
     EXPECT_EQ(job.Done(), 2);
     EXPECT_EQ(job.Total(), 4);
-    job.Finished();
+    job.Finished(false);
     EXPECT_FALSE(ended.whole);
     EXPECT_TRUE(ended.failure.isEmpty());
     EXPECT_EQ(folder.Count(), files);

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <filesystem>
 
+#include "frame/kvdbkvn/database_fault.h"
 #include "pdf_pages.h"
 #include "print/print_control.h"
 #include "print/print_control_ids.h"
@@ -119,6 +120,15 @@ TEST_F(WorkbenchPrinting, AScaleThatIsNoNumberIsTold) {
     PickBlock();
     Trigger("Export PDF...", {AtScale("large")});
     EXPECT_THAT(failures, ElementsAre("A map is printed at a scale above 0."));
+}
+
+TEST_F(WorkbenchPrinting, AProjectionThatCannotBeReadIsAFailureOfTheDatabase) {
+    Open();
+    PickBlock();
+    kv::db::SetDatabaseFault([](std::string_view call) { return call == "step"; });
+    Trigger("Export PDF...", {});
+    kv::db::SetDatabaseFault(nullptr);
+    EXPECT_THAT(failures, ElementsAre(HasSubstr("Database error")));
 }
 
 TEST_F(WorkbenchPrinting, ManyPagesAreAskedForFirst) {

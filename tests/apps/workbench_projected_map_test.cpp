@@ -94,7 +94,8 @@ class ProjectedSample : public test::SampleTest {};
 
 TEST_F(ProjectedSample, EachVertexGoesThroughTheDriverOnce) {
     MapModel model;
-    MapLoader loader(model, [] {});
+    MapLoader loader(
+        model, [] {}, test::LacksNothing);
     loader.Need({"43113", "43602"});
     std::size_t vertices = 0;
     for (const auto& area : model.Areas()) {
@@ -120,7 +121,8 @@ TEST_F(ProjectedSample, EachVertexGoesThroughTheDriverOnce) {
 
 TEST_F(ProjectedSample, BlocksLieWhereTheDriverPutsThem) {
     MapModel model;
-    MapLoader loader(model, [] {});
+    MapLoader loader(
+        model, [] {}, test::LacksNothing);
     loader.Need({"43113"});
     ProjectedMap projected(model);
     const MapProjection projection = InZone15();

@@ -12,6 +12,7 @@
 #include "coordtools/coord_ids.h"
 #include "coordtools/distance_ids.h"
 #include "frame/kvcom/util_lldrv.h"
+#include "frame/kvdbkvn/database_fault.h"
 #include "frame/kvdbkvn/db_util.h"
 #include "window/acting/input.h"
 #include "window/window_system.h"
@@ -519,6 +520,23 @@ TEST_F(WorkbenchReadouts, GoWithTheMainWindow) {
     host->Frame().DestroyWindow();
     EXPECT_EQ(host->Tools().Find("CKvCoordDialog")->Window(), nullptr);
     EXPECT_EQ(host->Tools().Find("CKvDistanceDialog")->Window(), nullptr);
+}
+
+TEST_F(WorkbenchReadouts, AProjectionThatCannotBeReadIsToldOnceAndReadWhenItCan) {
+    std::vector<std::string> told;
+    MapPositions positions(host->Model(),
+                           [&](const QString& words) { told.push_back(words.toStdString()); });
+    const int usual = CKvDbUtil::S_GetProjectionByArea(kArea, "");
+    const Place place = PlaceOf(middle);
+    kv::db::SetDatabaseFault([](std::string_view call) { return call == "step"; });
+    const int meanwhile = positions.ProjectionAt(place);
+    EXPECT_EQ(positions.ProjectionAt(place), meanwhile);
+    kv::db::SetDatabaseFault(nullptr);
+    EXPECT_NE(meanwhile, usual);
+    EXPECT_THAT(told, ElementsAre(testing::AllOf(
+                          testing::StartsWith("The usual projection of an area could not be read."),
+                          testing::HasSubstr("Database error"))));
+    EXPECT_EQ(positions.ProjectionAt(place), usual);
 }
 
 }  // namespace

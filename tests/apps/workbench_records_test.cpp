@@ -5,12 +5,14 @@
 
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QTimer>
 #include <filesystem>
 
 #include "frame/kvcom/misc.h"
+#include "frame/kvdbkvn/database_fault.h"
 #include "pickers/order_dlg_ids.h"
 #include "records/create_user_table_ids.h"
 #include "records/well_search_ids.h"
@@ -233,6 +235,52 @@ TEST_F(WorkbenchRecords, AWellThatIsNotThereIsTold) {
     EXPECT_EQ(host->Well().Well(), "");
 }
 
+TEST_F(WorkbenchRecords, ASearchThatIsCancelledSaysNothingOfTheWell) {
+    OpenCopy();
+    InDialog([this] { host->Records().FindWell(); },
+             [](kv::User& person) {
+                 if (!person.Checked(kv::well_search::kByApi))
+                     person.Click(kv::well_search::kByApi);
+                 person.Type(kv::well_search::kApi, "000000000000");
+                 person.Click(IDOK);
+             });
+    ASSERT_TRUE(host->Runner().Busy());
+    host->Runner().Cancel();
+    EXPECT_THAT(failures, IsEmpty());
+}
+
+TEST_F(WorkbenchRecords, WellsAreLookedForInsideTheBuiltMapWhateverIsSeen) {
+    OpenCopy();
+    const Well well = SomeWell();
+    const auto find = [&] {
+        FindWell([&](kv::User& person) {
+            if (!person.Checked(kv::well_search::kByArea)) person.Click(kv::well_search::kByArea);
+            person.Select(kv::well_search::kArea, "GC");
+            person.Select(kv::well_search::kBlock, well.block);
+            person.Type(kv::well_search::kWell, well.name);
+            person.Click(IDOK);
+        });
+    };
+    MapDocument next = host->History().Current();
+    next.map.emplace();
+    next.map->bounds.SetXYBounded(false);
+    next.map->bounds.SetPrimeProj(115);
+    const auto bound = [&](double lat, double lon) {
+        next.map->bounds.SetLatMin(lat - 0.25), next.map->bounds.SetLatMax(lat + 0.25);
+        next.map->bounds.SetLonMin(lon - 0.25), next.map->bounds.SetLonMax(lon + 0.25);
+        host->History().Do(next, "map");
+    };
+    bound(well.place.lat, well.place.lon);
+    host->Canvas().ShowPick(host->Model().FindPick({"43113"}, "391"));
+    find();
+    EXPECT_EQ(host->Well().Well(), well.api);
+    EXPECT_THAT(failures, IsEmpty());
+    bound(well.place.lat, well.place.lon - 2);
+    host->Canvas().ShowPlace(well.place);
+    find();
+    EXPECT_THAT(failures, ElementsAre("There is no such well."));
+}
+
 TEST_F(WorkbenchRecords, WithoutATableOfCommentsTheWellSaysSo) {
     OpenCopy();
     FindByApi(SomeWell().api);
@@ -258,6 +306,78 @@ TEST_F(WorkbenchRecords, ATableOfCommentsIsMadeAndTheConnectionPutBack) {
     EXPECT_EQ(login, "");
     EXPECT_FALSE(host->Well().Note().isVisible());
     EXPECT_TRUE(host->Well().CommentField().isEnabled());
+}
+
+TEST_F(WorkbenchRecords, ALoginThatFailsIsToldByTheDialogAlone) {
+    OpenCopy();
+    std::vector<std::string> boxes;
+    QTimer reader;
+    QObject::connect(&reader, &QTimer::timeout, [&] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (!box) return;
+        boxes.push_back(box->text().toStdString());
+        box->button(QMessageBox::Ok)->click();
+    });
+    reader.start(0);
+    InDialog([this] { host->Records().CreateCommentTable(); },
+             [](kv::User& person) {
+                 person.Type(kv::create_user_table::kAlias, "sqlite:/nowhere/any.db");
+                 person.Click(IDOK);
+             });
+    EXPECT_EQ(boxes.size(), 2U) << "one for the check, one for the making";
+    EXPECT_THAT(failures, IsEmpty());
+    EXPECT_THAT(notes, IsEmpty());
+    EXPECT_FALSE(comments::Exist()) << "and the connection is put back";
+}
+
+TEST_F(WorkbenchRecords, CommentsThatCannotBeReadAreNotSaidToHaveNoTable) {
+    OpenCopy();
+    MakeCommentTable();
+    const Well well = SomeWell();
+    comments::Add(well.api, "theirs", "you");
+    FindByApi(well.api);
+    WellPane& pane = host->Well();
+    kv::db::SetDatabaseFault([](std::string_view call) { return call == "step"; });
+    QTest::mouseClick(&pane.RefreshButton(), Qt::LeftButton);
+    EXPECT_THAT(failures, ElementsAre(HasSubstr("Database error")));
+    EXPECT_TRUE(pane.Note().isVisible());
+    EXPECT_EQ(pane.Note().text(), "The comments could not be read. Refresh tries it again.");
+    EXPECT_THAT(CommentsShown(), ElementsAre("theirs")) << "as before";
+    EXPECT_TRUE(pane.CommentField().isEnabled());
+
+    ResultTable another = host->Results().Model().Table();
+    another.cells.front() = "another";
+    pane.ShowWell(another, 0);
+    EXPECT_THAT(CommentsShown(), IsEmpty()) << "those were another well's";
+    kv::db::SetDatabaseFault(nullptr);
+    QTest::mouseClick(&pane.RefreshButton(), Qt::LeftButton);
+    EXPECT_FALSE(pane.Note().isVisible());
+}
+
+TEST_F(WorkbenchRecords, WithoutAWellNothingCanBeWritten) {
+    OpenCopy();
+    MakeCommentTable();
+    FindByApi(SomeWell().api);
+    ASSERT_TRUE(host->Well().CommentField().isEnabled());
+    host->Well().Clear();
+    EXPECT_FALSE(host->Well().CommentField().isEnabled());
+}
+
+TEST_F(WorkbenchRecords, ACommentBehindTheLastNumberIsRefused) {
+    OpenCopy();
+    MakeCommentTable();
+    const std::string well = SomeWell().api;
+    for (const char* last : {"2147483646", "99999999999"}) {
+        CKvDbAbsDataMgr manager(KV_CONNECT_DEFAULT);
+        manager.Connect();
+        manager.ExecuteDML("delete from " + comments::Table());
+        manager.ExecuteDML("insert into " + comments::Table() + " (ID, REC_SEQ) values (" +
+                           Quoted(well) + ", " + last + ")");
+        manager.Commit();
+        manager.Disconnect();
+        if (last == std::string("2147483646")) comments::Add(well, "the last one", "me");
+        EXPECT_THROW(comments::Add(well, "one too many", "me"), CKvException) << last;
+    }
 }
 
 TEST_F(WorkbenchRecords, CommentsAreAddedChangedAndRemovedInTheWellsRecord) {

@@ -159,5 +159,25 @@ TEST_F(ReportTest, TellsHowFarItIs) {
     EXPECT_FALSE(loader.Step());
 }
 
+TEST_F(ReportTest, OneThatIsCancelledSaysSoAndClaimsNothingOfWhatItHasNotRead) {
+    std::vector<ResultTable> shown;
+    const auto show = [&](ResultTable table) { shown.push_back(std::move(table)); };
+    const std::vector<std::string> areas{"t.areacode = '43112'", "t.areacode = '43113'"};
+    ReportLoader begun(Of(KV_LAYER_WELLS), "Wells", areas, show);
+    EXPECT_TRUE(begun.Step());
+    begun.Finished(false);
+    ASSERT_EQ(shown.size(), 1U);
+    ASSERT_GT(shown[0].RowCount(), 0);
+    EXPECT_THAT(shown[0].Heading(shown[0].RowCount()),
+                testing::MatchesRegex("Wells: [0-9,]+, cancelled"));
+    ReportLoader notBegun(Of(KV_LAYER_WELLS), "Wells", areas, show);
+    notBegun.Finished(false);
+    EXPECT_EQ(shown.size(), 1U) << "whether there are none is not known";
+    ReportLoader none(Of(KV_LAYER_WELLS), "Wells", {"t.areacode = 'none'"}, show);
+    test::ReadAll(none);
+    ASSERT_EQ(shown.size(), 2U);
+    EXPECT_EQ(shown[1].Heading(0), "There are no wells.");
+}
+
 }  // namespace
 }  // namespace workbench

@@ -16,6 +16,7 @@
 #include <set>
 
 #include "frame/kvcom/profile.h"
+#include "frame/kvdbkvn/database_fault.h"
 #include "frame/module.h"
 #include "pickers/abe_bar_ids.h"
 #include "qt/qt_desktop.h"
@@ -247,6 +248,40 @@ TEST_F(WorkbenchTest, ADatabaseThatCannotBeOpenedLeavesTheOneBefore) {
     EXPECT_THAT(failure.toStdString(), testing::HasSubstr("connam2"));
     EXPECT_FALSE(host->Model().Areas().empty());
     EXPECT_GT(Count(TableName("_lbi")), 0);
+}
+
+TEST_F(WorkbenchTest, ADatabaseThatFailsInRunIsNotSaidToKnowNoSuchBlock) {
+    Open();
+    Pick("EI", "391");
+    for (const int what : {kMap, kReport}) {
+        user->Click(what);
+        if (what == kReport) user->Select(kLayer, "Wells");
+        kv::db::SetDatabaseFault([](std::string_view call) { return call == "step"; });
+        user->Click(kRun);
+        host->Runner().Finish();
+        kv::db::SetDatabaseFault(nullptr);
+        ASSERT_EQ(failures.size(), 1U);
+        EXPECT_THAT(failures[0], testing::HasSubstr("Database error"));
+        failures.clear();
+    }
+    EXPECT_FALSE(host->Canvas().GetPick().block);
+}
+
+TEST_F(WorkbenchTest, ADialogThatLogsInHoldsTheReadingOfTheMapUpNoLongerThanItIsOpen) {
+    Open();
+    host->LoadMap();
+    QTimer close;
+    QObject::connect(&close, &QTimer::timeout, [] {
+        auto& modals = kv::WindowSystem::Get().Modals();
+        if (!modals.empty()) kv::input::CloseWindow(*modals.back());
+    });
+    close.start(0);
+    host->RunDialog(*adaptors::Find("CKvCreateUserTable"));
+    close.stop();
+    const std::size_t before = host->Model().Areas().size();
+    QSignalSpy progress(&host->Runner(), &WorkRunner::Progress);
+    ASSERT_TRUE(progress.wait());
+    EXPECT_GT(host->Model().Areas().size(), before);
 }
 
 TEST_F(WorkbenchTest, CancelEndsTheReadingOfTheMap) {

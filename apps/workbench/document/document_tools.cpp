@@ -58,7 +58,7 @@ void GivePicks(CKvGuiQuickOffBldDlg& dialog, const Picks& picks) {
 }  // namespace
 
 DocumentTools::DocumentTools(Host host, QObject* parent)
-    : QObject(parent), host_(std::move(host)), usual_(host_.model) {
+    : QObject(parent), host_(std::move(host)), usual_(host_.model, host_.fail) {
     host_.history.Begin({CurrentDataset(), {}, {}});
     connect(&host_.history, &DocumentHistory::Changed, this, &DocumentTools::Show);
 }

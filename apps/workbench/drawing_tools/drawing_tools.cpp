@@ -57,7 +57,10 @@ QString InWords(const ReplaceCount& count) {
 }  // namespace
 
 DrawingTools::DrawingTools(DrawingDesk desk)
-    : desk_(std::move(desk)), canvas_(&desk_.canvas), layer_(desk_.model), positions_(desk_.model) {
+    : desk_(std::move(desk)),
+      canvas_(&desk_.canvas),
+      layer_(desk_.model),
+      positions_(desk_.model, desk_.fail) {
     layer_.SetDark(canvas_->IsDark());
     layer_.SetRepaint([this] {
         if (canvas_) canvas_->update();
@@ -151,6 +154,18 @@ void DrawingTools::Begin(Tool tool) {
 void DrawingTools::GiveKeysToMap() {
     canvas_->window()->activateWindow();
     canvas_->setFocus();
+}
+
+bool DrawingTools::HasBegun() const {
+    const bool typed = text_ && !changed_ &&
+                       !kv::TrimSpace(static_cast<const TextDialog*>(text_)->Shown().text).empty();
+    return !points_.empty() || ready_ || typed || (line_ && line_->HasNewVertices());
+}
+
+bool DrawingTools::MayLeave() {
+    return !HasBegun() ||
+           desk_.frame.MessageBox("What is being drawn was not accepted yet, and goes. Go on?",
+                                  "Workbench", MB_YESNO | MB_ICONQUESTION) == IDYES;
 }
 
 void DrawingTools::End() {

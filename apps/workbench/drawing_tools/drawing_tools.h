@@ -54,6 +54,8 @@ public:
     bool HasMouse() const { return desk_.mouse.Has(this); }
     /// The document, or the projection of the map, is another one.
     void ShowDocument();
+    /// Asks what becomes of a drawing that was begun and not accepted. False where it is to stay.
+    bool MayLeave();
     /// The map is about to be another one.
     void MapGoes() { End(); }
 
@@ -102,6 +104,7 @@ private:
     void AcceptText();
     bool MayAcceptText();
     bool HasEnough() const;
+    bool HasBegun() const;
     std::optional<std::vector<Place>> NewVertices() const;
     std::vector<Place> PointsNow() const;
     std::optional<DriverPlane> PlaneFor(const std::vector<Place>& places);

@@ -4,9 +4,9 @@
 #include <utility>
 
 #include "base/paths.h"
-#include "frame/kvcom/exception.h"
 #include "workbench/exports/area_tables.h"
 #include "workbench/exports/drawn_tables.h"
+#include "workbench/failure_words.h"
 
 namespace workbench {
 
@@ -23,7 +23,7 @@ bool ExportJob::Step() {
         Write();
         end_.whole = true;
     } catch (const CKvException& failure) {
-        end_.failure = QString::fromStdString(failure.GetErrorMessage(true, true));
+        end_.failure = FailureWords(failure);
     } catch (const std::exception& failure) {
         end_.failure = QString::fromUtf8(failure.what());
     }

@@ -42,7 +42,8 @@ public:
     int Done() const override { return static_cast<int>(next_); }
     int Total() const override { return static_cast<int>(areas_.size()) + 1; }
     bool Step() override;
-    void Finished() override { ended_(end_); }
+    void Finished(bool) override { ended_(end_); }
+    bool Writes() const override { return true; }
 
 private:
     bool ReadArea();

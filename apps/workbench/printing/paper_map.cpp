@@ -81,7 +81,7 @@ Place PaperProjection::PlaceOf(const Point& xy) const {
 }
 
 std::optional<PaperProjection> ProjectionOf(const AreaMap& area) {
-    const kv::db::CancelledLookUpsThrow asked;
+    const kv::db::LookUpsThrow failures;
     const int code = CKvDbUtil::S_GetProjectionByArea(area.code, "");
     if (code == -1) return {};
     std::string name = CKvUtilLLdrv::BuiltInName(code);

@@ -26,7 +26,8 @@ struct PaperProjection {
     DriverPlane Plane() const { return {code, true, rectifyingPoint}; }
 };
 
-/// The usual projection of an area; none where the database has none for it. Throws CKvCancelled.
+/// The usual projection of an area; none where the database has none for it. Its failure throws
+/// CKvException.
 std::optional<PaperProjection> ProjectionOf(const AreaMap& area);
 
 /// The areas that lie in the middle of a part of the map, or else in any of it.

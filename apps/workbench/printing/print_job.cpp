@@ -39,7 +39,7 @@ bool PrintJob::Step() {
     return false;
 }
 
-void PrintJob::Finished() {
+void PrintJob::Finished(bool) {
     sink_.reset();
     ended_(end_);
 }

@@ -28,7 +28,8 @@ public:
     int Done() const override;
     int Total() const override;
     bool Step() override;
-    void Finished() override;
+    void Finished(bool whole) override;
+    bool Writes() const override { return true; }
 
 private:
     PrintPlan plan_;

@@ -9,12 +9,12 @@
 #include <chrono>
 #include <utility>
 
-#include "frame/kvcom/cancelled.h"
 #include "print/print_control.h"
 #include "qt/qt_desktop.h"
 #include "window/dialogs/file_dialog.h"
 #include "window/window_system.h"
 #include "workbench/document/map_shape.h"
+#include "workbench/failure_words.h"
 #include "workbench/file_name.h"
 #include "workbench/printing/page_painter.h"
 #include "workbench/printing/print_job.h"
@@ -144,9 +144,15 @@ std::optional<Printing::Subject> Printing::FindSubject() {
         fail_(tr("There is nothing on this part of the map to print."));
         return {};
     }
-    const auto projection = ProjectionOf(*areas.front());
+    std::optional<PaperProjection> projection;
+    QString failure = tr("The database has no projection for %1.").arg(Text(areas.front()->name));
+    try {
+        projection = ProjectionOf(*areas.front());
+    } catch (const CKvException& e) {
+        failure = FailureWords(e);
+    }
     if (!projection) {
-        fail_(tr("The database has no projection for %1.").arg(Text(areas.front()->name)));
+        fail_(failure);
         return {};
     }
     const Box bounds = picked ? BoundsOf(pick, *projection) : BoundsOf(seen, *projection);
@@ -163,12 +169,7 @@ std::optional<Printing::Subject> Printing::FindSubject() {
 std::optional<PrintPlan> Printing::Ask(DEVMODE* paper) {
     // What has not been read yet cannot be printed.
     runner_.Finish();
-    std::optional<Subject> subject;
-    try {
-        subject = FindSubject();
-    } catch (const CKvCancelled&) {
-        // The person knows.
-    }
+    const auto subject = FindSubject();
     if (!subject) return {};
     CKvGuiPrintControl dialog(paper, &frame_);
     dialog.SetUnit(0);

@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <cmath>
 
-#include "frame/kvcom/cancelled.h"
 #include "frame/kvcom/projection_code.h"
 #include "frame/kvcom/util_lldrv.h"
 #include "frame/kvdbkvn/db_util.h"
+#include "workbench/failure_words.h"
 
 namespace workbench {
 
@@ -32,13 +32,24 @@ int MapPositions::ProjectionAt(const Place& place) {
 int MapPositions::ProjectionOf(const std::string& areaCode) {
     const auto known = projections_.find(areaCode);
     if (known != projections_.end()) return known->second;
+    QString failure;
     try {
-        const kv::db::CancelledLookUpsThrow asked;
+        const kv::db::LookUpsThrow failures;
         return projections_[areaCode] = CKvDbUtil::S_GetProjectionByArea(areaCode, "");
-    } catch (const CKvCancelled&) {
-        // Nothing is known of it, so that it is asked for again.
-        return kv::projection::kNone;
+    } catch (const CKvException& e) {
+        failure = FailureWords(e);
     }
+    if (!failure.isEmpty() && !std::exchange(failed_, true)) {
+        fail_(QStringLiteral("The usual projection of an area could not be read. X and Y are those "
+                             "of the UTM zone until it can.\n%1")
+                  .arg(failure));
+    }
+    return kv::projection::kNone;
+}
+
+void MapPositions::Forget() {
+    projections_.clear();
+    failed_ = false;
 }
 
 Point MapPositions::InProjection(const Place& place, int projection) const {

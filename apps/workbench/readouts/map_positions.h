@@ -1,8 +1,11 @@
 #pragma once
 
+#include <QString>
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "workbench/map/map_model.h"
 #include "workbench/map/map_projection.h"
@@ -12,11 +15,13 @@ namespace workbench {
 /// Places of the map as the readouts take them: X and Y in the projection and the unit of the map
 /// that was built; where none was, in feet in the usual projection of the area that they lie in.
 /// Where there is no area, or the dataset tells none, it is the UTM zone on the spheroid of Clarke
-/// 1866.
+/// 1866. So it is for as long as the database fails, which is told once.
 class MapPositions {
 public:
+    using Fail = std::function<void(const QString&)>;
+
     /// `model` outlives it.
-    explicit MapPositions(const MapModel& model) : model_(model) {}
+    MapPositions(const MapModel& model, Fail fail) : model_(model), fail_(std::move(fail)) {}
 
     /// That of the map that was built; none where there is no such map.
     void SetPlane(const std::optional<DriverPlane>& plane) { plane_ = plane; }
@@ -32,15 +37,17 @@ public:
     /// the middle of the map.
     void SetRectifyingPoint() const;
     /// The dataset is another one.
-    void Forget() { projections_.clear(); }
+    void Forget();
 
 private:
     bool InFeet() const { return !plane_ || plane_->feet; }
     int ProjectionOf(const std::string& areaCode);
 
     const MapModel& model_;
+    Fail fail_;
     std::optional<DriverPlane> plane_;
     std::map<std::string, int> projections_;  ///< of areas, by their codes; -1 for none
+    bool failed_ = false;
 };
 
 }  // namespace workbench

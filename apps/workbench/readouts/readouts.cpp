@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMenu>
+#include <utility>
 
 #include "window/acting/input.h"
 #include "window/window_system.h"
@@ -17,8 +18,8 @@
 namespace workbench {
 
 Readouts::Readouts(const MapModel& model, MapTools& tools, MapCanvas& canvas, MapMouse& mouse,
-                   StatusLine& status, Commands& commands)
-    : positions_(model),
+                   StatusLine& status, Commands& commands, MapPositions::Fail fail)
+    : positions_(model, std::move(fail)),
       tools_(tools),
       canvas_(&canvas),
       mouse_(mouse),

@@ -26,7 +26,7 @@ class Readouts : public QObject {
 public:
     /// All of them outlive it but the canvas and what is in its window.
     Readouts(const MapModel& model, MapTools& tools, MapCanvas& canvas, MapMouse& mouse,
-             StatusLine& status, Commands& commands);
+             StatusLine& status, Commands& commands, MapPositions::Fail fail);
 
     /// Fills the menu of tools.
     void MakeMenu(QMenu& menu);

@@ -7,10 +7,11 @@
 #include <memory>
 
 #include "base/text.h"
-#include "frame/kvcom/misc.h"
 #include "records/create_user_table.h"
 #include "records/well_search.h"
 #include "window/window_system.h"
+#include "workbench/dataset.h"
+#include "workbench/document/map_shape.h"
 #include "workbench/failure_words.h"
 #include "workbench/records/area_order.h"
 #include "workbench/records/well_comments.h"
@@ -25,12 +26,6 @@ constexpr std::string_view kApiNumber = "API number";
 
 bool IsOfWells(const ResultTable& table) {
     return table.ColumnCount() > 0 && table.columns.front().heading == kApiNumber;
-}
-
-/// The corners of what is seen of the map.
-std::pair<Place, Place> CornersOf(const MapCanvas& canvas) {
-    const Box box = canvas.Seen();
-    return {ToPlace({box.minX, box.minY}), ToPlace({box.maxX, box.maxY})};
 }
 
 /// Puts the connection record back that was in force.
@@ -79,8 +74,19 @@ std::vector<std::string> RecordTools::InOrder(std::vector<std::string> areaLiter
     }
 }
 
+/// Of the map that was built; without one, of what is seen.
+std::pair<Place, Place> RecordTools::CornersOfSearch() const {
+    const auto& map = host_.history.Current().map;
+    Box degrees;
+    for (const Place& place : map ? EdgeOf(*map) : std::vector<Place>())
+        degrees.Include(Point{place.lon, place.lat});
+    if (!degrees.Empty()) return {{degrees.minY, degrees.minX}, {degrees.maxY, degrees.maxX}};
+    const Box box = host_.canvas.Seen();
+    return {ToPlace({box.minX, box.minY}), ToPlace({box.maxX, box.maxY})};
+}
+
 void RecordTools::FillIn(CKvGuiWellSearch& dialog) const {
-    const auto [southWest, northEast] = CornersOf(host_.canvas);
+    const auto [southWest, northEast] = CornersOfSearch();
     dialog.SetMinLatLon(southWest.lon, southWest.lat);
     dialog.SetMaxLatLon(northEast.lon, northEast.lat);
     const ResultTable& report = host_.results.Model().Table();
@@ -101,7 +107,7 @@ void RecordTools::FindWell() {
     CKvGuiWellSearch dialog(&host_.frame);
     FillIn(dialog);
     if (dialog.DoModal() != IDOK) return;
-    const auto [southWest, northEast] = CornersOf(host_.canvas);
+    const auto [southWest, northEast] = CornersOfSearch();
     const std::string condition = WellCondition(dialog.GetSearchString(), dialog.IsSearchByAPI(),
                                                 dialog.GetMode(), southWest, northEast);
     host_.runner.Begin(std::make_shared<ReportLoader>(
@@ -142,36 +148,40 @@ void RecordTools::ShowPane() {
     ShowChosen(host_.results.ChosenRow());
 }
 
+/// The dialog ends with OK whether it made a table or not, and has told which.
 void RecordTools::CreateCommentTable() {
-    {
-        const KeptConnection kept(host_.database);
-        try {
-            const std::vector<std::string> before = well_comments::Tables();
+    try {
+        const std::vector<std::string> before = well_comments::Tables();
+        CKvDbInfo login;
+        {
+            const KeptConnection kept(host_.database);
             CKvCreateUserTable dialog(&host_.frame);
-            if (dialog.DoModal() == IDOK) LetAllRead(before);
-        } catch (const CKvException& failure) {
-            host_.fail(FailureWords(failure));
+            dialog.DoModal();
+            login = LoginInForce();
         }
+        for (const std::string& table : well_comments::Tables()) {
+            if (std::ranges::find(before, table) == before.end()) LetAllRead(table, login);
+        }
+    } catch (const CKvException& failure) {
+        host_.fail(FailureWords(failure));
     }
     host_.pane.Refresh();
 }
 
-/// With the login that made the table, which is the one in force here.
-void RecordTools::LetAllRead(const std::vector<std::string>& before) {
-    for (const std::string& table : well_comments::Tables()) {
-        if (std::ranges::find(before, table) != before.end()) continue;
+/// With the login that made the table.
+void RecordTools::LetAllRead(const std::string& table, CKvDbInfo login) {
+    {
+        const KeptConnection kept(host_.database);
+        CKvDbAbsDataMgr(KV_CONNECT_DEFAULT).SetDbInfo(login);
         well_comments::LetAllRead(table);
-        std::string user, password, server;
-        CKvMisc::GetParsedConnectString(user, password, server, false);
-        const QString made = tr("The table %1 is made.").arg(QString::fromStdString(table));
-        const bool hasLogins = !kv::StartsWithNoCase(server, "sqlite:");
-        host_.tell(hasLogins
-                       ? made + tr("\nEverybody may read and write its comments who has the "
-                                   "right to use the schema NORVADON: the statement \"grant "
-                                   "usage on schema norvadon to public\", run by the schema's "
-                                   "owner, gives it to all.")
-                       : made);
     }
+    const QString made = tr("The table %1 is made.").arg(QString::fromStdString(table));
+    const bool hasLogins = !kv::StartsWithNoCase(login.GetServer(), "sqlite:");
+    host_.tell(hasLogins ? made + tr("\nEverybody may read and write its comments who has the "
+                                     "right to use the schema NORVADON: the statement \"grant "
+                                     "usage on schema norvadon to public\", run by the schema's "
+                                     "owner, gives it to all.")
+                         : made);
 }
 
 }  // namespace workbench

@@ -4,10 +4,12 @@
 #include <QPointer>
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "pickers/order_dlg.h"
 #include "workbench/commands.h"
+#include "workbench/document/document_history.h"
 #include "workbench/main_frame.h"
 #include "workbench/map/map_canvas.h"
 #include "workbench/records/well_pane.h"
@@ -33,7 +35,8 @@ public:
         ResultsPane& results;
         WorkRunner& runner;
         const CKvDbInfo& database;  ///< the connection record
-        QDockWidget& dock;          ///< around `pane`
+        const DocumentHistory& history;
+        QDockWidget& dock;  ///< around `pane`
         WellPane& pane;
         std::function<void(ResultTable)> showTable;
         std::function<void(const QString&)> fail;
@@ -58,12 +61,13 @@ public:
     void CreateCommentTable();
 
 private:
+    std::pair<Place, Place> CornersOfSearch() const;
     void FillIn(CKvGuiWellSearch& dialog) const;
     void ShowFound(ResultTable table);
     void ShowChosen(int row);
     void ShowPane();
     QString NoWell() const;
-    void LetAllRead(const std::vector<std::string>& before);
+    void LetAllRead(const std::string& table, CKvDbInfo login);
 
     Host host_;
     COrderDlg order_;

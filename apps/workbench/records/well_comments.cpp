@@ -1,8 +1,9 @@
 #include "workbench/records/well_comments.h"
 
 #include <algorithm>
-#include <cstdlib>
+#include <limits>
 
+#include "base/numbers.h"
 #include "base/text.h"
 #include "base/utf8.h"
 #include "frame/kvdbkvn/db_dataset_set.h"
@@ -83,7 +84,12 @@ bool IsTaken(const std::string& well, int number) {
 
 int NextNumber(const std::string& well) {
     const Rows last("select max(REC_SEQ) from " + Table() + " where " + Is("ID", well));
-    return std::atoi(last.Cell(0, 0)) + 1;
+    const int number = kv::Atoi(last.Cell(0, 0));
+    if (number == std::numeric_limits<int>::max()) {
+        throw CKvException("The comments on this well end with the number " +
+                           std::string(last.Cell(0, 0)) + ", and none is left for another one");
+    }
+    return number + 1;
 }
 
 }  // namespace
@@ -111,8 +117,8 @@ std::vector<WellComment> Of(const std::string& well) {
                     Table() + " where " + Is("ID", well) + " order by REC_SEQ");
     std::vector<WellComment> comments;
     for (int row = 0; row < rows.Count(); ++row) {
-        comments.push_back({std::atoi(rows.Cell(row, 0)), rows.Cell(row, 1), rows.Cell(row, 2),
-                            rows.Cell(row, 3)});
+        comments.push_back(
+            {kv::Atoi(rows.Cell(row, 0)), rows.Cell(row, 1), rows.Cell(row, 2), rows.Cell(row, 3)});
     }
     return comments;
 }

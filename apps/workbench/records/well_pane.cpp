@@ -134,6 +134,8 @@ void WellPane::TakeWell(const std::string& well) {
     const auto draft = drafts_.extract(well);
     field_->setText(draft.empty() ? QString() : draft.mapped());
     field_->setModified(!draft.empty());
+    list_->clearSelection();
+    comments_.clear();
 }
 
 /// What stood there was written.
@@ -142,30 +144,32 @@ void WellPane::EmptyField() {
 }
 
 void WellPane::Refresh() {
+    QString failure;
+    unread_ = false;
     try {
-        ReadComments();
-    } catch (const CKvException& failure) {
-        emit Failed(FailureWords(failure));
+        if (!well_.empty()) ReadComments();
+    } catch (const CKvException& e) {
+        failure = FailureWords(e);
+        unread_ = true;
     }
     ShowComments();
+    if (!failure.isEmpty()) emit Failed(failure);
 }
 
 void WellPane::ReadComments() {
-    comments_.clear();
-    hasTable_ = false;
-    if (well_.empty()) return;
-    if (!well_comments::Exist()) return;
-    comments_ = well_comments::Of(well_);
-    hasTable_ = true;
+    const bool exist = well_comments::Exist();
+    comments_ = exist ? well_comments::Of(well_) : std::vector<WellComment>();
+    hasTable_ = exist;
 }
 
 void WellPane::ShowComments() {
     heading_->setText(well_.empty() ? tr("Find a well, or choose one among the results.")
                                     : tr("<b>Well %1</b>").arg(Text(well_)));
-    note_->setVisible(!well_.empty() && !hasTable_);
+    note_->setVisible(!well_.empty() && (unread_ || !hasTable_));
     note_->setText(
-        tr("Comments cannot be shown: there is no table for them that this login may read. "
-           "Database > Create comment table... makes one."));
+        unread_ ? tr("The comments could not be read. Refresh tries it again.")
+                : tr("Comments cannot be shown: there is no table for them that this login may "
+                     "read. Database > Create comment table... makes one."));
     const QSignalBlocker quiet(list_);
     list_->clearSelection();
     list_->setCurrentItem(nullptr);
@@ -194,9 +198,10 @@ void WellPane::ShowField() {
 void WellPane::Enable() {
     const auto bytes = field_->text().toUtf8().size();
     room_->setText(tr("%1 of %2").arg(bytes).arg(well_comments::kMostText));
-    const bool typed = hasTable_ && !field_->text().trimmed().isEmpty();
-    const bool chosen = hasTable_ && Chosen();
-    field_->setEnabled(hasTable_);
+    const bool writes = hasTable_ && !well_.empty();
+    const bool typed = writes && !field_->text().trimmed().isEmpty();
+    const bool chosen = writes && Chosen();
+    field_->setEnabled(writes);
     add_->setEnabled(typed);
     change_->setEnabled(typed && chosen);
     remove_->setEnabled(chosen);

@@ -65,6 +65,7 @@ private:
     /// What was typed on other wells and not written, by their API numbers.
     std::map<std::string, QString> drafts_;
     bool hasTable_ = false;
+    bool unread_ = false;  ///< the database has failed; all else is as it was before
     std::vector<WellComment> comments_;
 
     QLabel* heading_;

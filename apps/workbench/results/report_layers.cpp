@@ -192,7 +192,10 @@ void ReportLoader::AddRow(const Rows& rows, int row) {
     table_.keys.push_back(std::move(key));
 }
 
-void ReportLoader::Finished() {
+void ReportLoader::Finished(bool whole) {
+    // Of what was not looked for to the end nobody knows that there is none.
+    if (!whole && table_.RowCount() == 0) return;
+    table_.whole = whole;
     table_.AlignDecimals();
     finished_(std::move(table_));
 }

@@ -56,8 +56,8 @@ std::vector<std::string> AreaLiterals(const std::string& areacode);
 /// Reads a report, the rows of a condition at a step.
 class ReportLoader final : public StepWork {
 public:
-    /// `what` tells what the rows are; `finished` gets what was read, when all was read or the user
-    /// cancelled.
+    /// `what` tells what the rows are; `finished` gets what was read, when all was read, or the
+    /// user cancelled and there is something.
     ReportLoader(const ReportLayer& layer, std::string what, std::vector<std::string> conditions,
                  std::function<void(ResultTable)> finished);
 
@@ -65,7 +65,7 @@ public:
     int Done() const override { return static_cast<int>(next_); }
     int Total() const override { return static_cast<int>(conditions_.size()); }
     bool Step() override;
-    void Finished() override;
+    void Finished(bool whole) override;
 
 private:
     bool Read(const std::string& first) const;

@@ -57,7 +57,8 @@ std::string ResultTable::Heading(int shown) const {
     if (what.empty()) return {};
     if (RowCount() == 0) return "There are no " + InASentence(what) + ".";
     const std::string count = Grouped(RowCount());
-    return what + ": " + (shown == RowCount() ? count : Grouped(shown) + " of " + count);
+    return what + ": " + (shown == RowCount() ? count : Grouped(shown) + " of " + count) +
+           (whole ? "" : ", cancelled");
 }
 
 }  // namespace workbench

@@ -26,6 +26,7 @@ struct ResultTable {
     std::vector<Column> columns;
     std::vector<std::string> cells;  ///< row by row
     std::vector<Key> keys;           ///< one for each row
+    bool whole = true;               ///< otherwise its reading was cancelled
 
     int RowCount() const { return static_cast<int>(keys.size()); }
     int ColumnCount() const { return static_cast<int>(columns.size()); }
@@ -37,7 +38,7 @@ struct ResultTable {
     /// Gives the numbers of a column as many decimals as the one that has the most of them.
     void AlignDecimals();
     /// What was found, in words: "Wells in GREEN CANYON 200: 2", of no rows a sentence, and where
-    /// only `shown` of them are shown, both numbers.
+    /// only `shown` of them are shown, both numbers. Of what was cancelled it says so.
     std::string Heading(int shown) const;
 };
 
