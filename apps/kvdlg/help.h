@@ -64,6 +64,10 @@ between two actions of a window is the scene behind that window's.
   {"pump": N, "do": [...]}        acts on the window in front inside long work, after N steps of it
   {"wait": N, "do": [...]}        the same of the window that comes up when a query takes longer than
                                   half a second, by which it can be cancelled
+  {"query": SQL, "after": N, "do": [...]}
+                                  acts on that window whatever time the query takes: ahead of the
+                                  one with that text ("": any), as --trace tells it, after N of
+                                  them; 0 if left out
 
 Actions, with the ids that "kvdlg describe CLASS" tells:
 

@@ -14,14 +14,14 @@ namespace kvdlg {
 
 namespace {
 
-/// Says which scenes were left over. Those of pumpings are taken out of order, and so not counted.
+/// Says which scenes were left over. Those of long work are taken out of order, and so not counted.
 std::string WordsOfScenesLeft(const Json& user, int left, const std::map<std::string, int>& lines) {
     const std::string words = "the run is over, and " + std::to_string(left) +
                               (left == 1 ? " scene was not taken" : " scenes were not taken");
-    const bool pumps = std::any_of(user.begin(), user.end(), [](const Json& scene) {
-        return scene.contains("pump") || scene.contains("wait");
+    const bool ofWork = std::any_of(user.begin(), user.end(), [](const Json& scene) {
+        return scene.contains("pump") || scene.contains("wait") || scene.contains("query");
     });
-    if (pumps) return words;
+    if (ofWork) return words;
     const auto first = user.size() - static_cast<std::size_t>(left);
     const auto line = lines.find("/user/" + std::to_string(first));
     if (line == lines.end()) return words;
@@ -58,12 +58,13 @@ void Play(const adaptors::Adaptor& adaptor, adaptors::Run& run, const Script& sc
     const auto lines = LinesOf(script.text);
     const GivenRegistry registry(script.json, lines);
     SetOutside(script.json, lines, desktop);
-    AddScenes(user, lines, desktop, hooks);
+    kv::QueryScenes queries(desktop);
+    AddScenes(user, lines, {desktop, queries}, hooks);
 
     kv::SetGraphics([&](const auto&...) { return desktop.TakeOther(kMap); });
     adaptor.run(run);
     kv::SetGraphics(nullptr);
-    if (const int left = desktop.ScenesLeft(); left > 0) {
+    if (const int left = desktop.ScenesLeft() + queries.Left(); left > 0) {
         place.clear();
         desktop.Fail(WordsOfScenesLeft(user, left, lines));
     }

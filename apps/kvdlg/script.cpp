@@ -113,11 +113,13 @@ std::string MapTextOf(const Json& picks, const std::string& where) {
 
 /// Each kind of scene by the key that tells it, with what else it may hold.
 struct SceneKind {
-    std::string_view keys[2];
+    std::size_t count;
+    std::string_view keys[3];
 };
-constexpr SceneKind kSceneKinds[] = {
-    {{"window", "do"}}, {{"message", "answer"}}, {{"file"}},      {{"print"}},
-    {{"map"}},          {{"pump", "do"}},        {{"wait", "do"}}};
+constexpr SceneKind kSceneKinds[] = {{2, {"window", "do"}}, {2, {"message", "answer"}},
+                                     {1, {"file"}},         {1, {"print"}},
+                                     {1, {"map"}},          {2, {"pump", "do"}},
+                                     {2, {"wait", "do"}},   {3, {"query", "do", "after"}}};
 
 void CheckKeys(const Json& scene, const ScenePlace& place) {
     if (!scene.is_object()) Wrong(place.Words(), "an object");
@@ -125,15 +127,16 @@ void CheckKeys(const Json& scene, const ScenePlace& place) {
         kSceneKinds, [&](const SceneKind& each) { return scene.contains(each.keys[0]); });
     if (kind == std::end(kSceneKinds)) {
         Wrong(place.Words(),
-              "\"window\", \"message\", \"file\", \"print\", \"map\", \"pump\" or \"wait\"");
+              "\"window\", \"message\", \"file\", \"print\", \"map\", \"pump\", \"wait\" or "
+              "\"query\"");
     }
-    RefuseOthers(scene, std::span(kind->keys).first(kind->keys[1].empty() ? 1 : 2),
+    RefuseOthers(scene, std::span(kind->keys).first(kind->count),
                  [&](const std::string& key) { return place.WordsOfKey(key); });
 }
 
-void AddScene(const Json& scene, const ScenePlace& place, kv::HeadlessDesktop& desktop,
-              const Hooks& hooks) {
+void AddScene(const Json& scene, const ScenePlace& place, const Stage& stage, const Hooks& hooks) {
     CheckKeys(scene, place);
+    kv::HeadlessDesktop& desktop = stage.desktop;
     const std::string where = place.Words();
     const auto play = [actions = MakeActions(scene, place, desktop, hooks)](kv::User& user) {
         for (const Action& action : actions)
@@ -161,6 +164,10 @@ void AddScene(const Json& scene, const ScenePlace& place, kv::HeadlessDesktop& d
         }
     } else if (scene.contains("map")) {
         desktop.ExpectOther(kMap, MapTextOf(scene["map"], where));
+    } else if (scene.contains("query")) {
+        const Json after = scene.value("after", Json(0));
+        if (!after.is_number_integer()) Wrong(where, "\"after\" to be how many go by first");
+        stage.queries.Expect(textOf("query"), play, after.get<int>());
     } else {
         const char* key = scene.contains("pump") ? "pump" : "wait";
         if (!scene[key].is_number_integer())
@@ -278,8 +285,8 @@ void SetOutside(const Json& script, const std::map<std::string, int>& lines,
     }
 }
 
-void AddScenes(const Json& user, const std::map<std::string, int>& lines,
-               kv::HeadlessDesktop& desktop, const Hooks& hooks) {
+void AddScenes(const Json& user, const std::map<std::string, int>& lines, const Stage& stage,
+               const Hooks& hooks) {
     if (!user.is_array()) {
         Wrong(LineOf(lines, "/user") + "the script", "\"user\" to be a list of scenes");
     }
@@ -287,7 +294,7 @@ void AddScenes(const Json& user, const std::map<std::string, int>& lines,
     for (const Json& scene : user) {
         const ScenePlace place{index++, lines};
         if (index == 1) hooks.at(place.Words());
-        AddScene(scene, place, desktop, hooks);
+        AddScene(scene, place, stage, hooks);
     }
 }
 

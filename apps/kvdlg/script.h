@@ -6,6 +6,7 @@
 #include "kvdlg/actions.h"
 #include "kvdlg/bad_script.h"
 #include "window/acting/headless_desktop.h"
+#include "window/acting/wait_scene.h"
 
 /// A script of scenes as JSON, turned into the scenes of a headless desktop.
 namespace kvdlg {
@@ -22,10 +23,16 @@ Json ParseJson(const std::string& text, const std::string& nameOfText);
 void SetOutside(const Json& script, const std::map<std::string, int>& lines,
                 kv::HeadlessDesktop& desktop);
 
-/// Adds the scenes of `user`, a list, to the desktop. The whole script is checked before anything
-/// runs: throws BadScript naming line, scene and action. `lines` are those of the whole script, by
-/// JSON pointers.
-void AddScenes(const Json& user, const std::map<std::string, int>& lines,
-               kv::HeadlessDesktop& desktop, const Hooks& hooks);
+/// What takes the scenes of a script.
+struct Stage {
+    kv::HeadlessDesktop& desktop;
+    kv::QueryScenes& queries;
+};
+
+/// Adds the scenes of `user`, a list. The whole script is checked before anything runs: throws
+/// BadScript naming line, scene and action. `lines` are those of the whole script, by JSON
+/// pointers.
+void AddScenes(const Json& user, const std::map<std::string, int>& lines, const Stage& stage,
+               const Hooks& hooks);
 
 }  // namespace kvdlg

@@ -111,27 +111,53 @@ bool IsWritable(std::string_view text) {
     return true;
 }
 
-void Recorder::WindowOpens(kv::Node& window) {
-    windows_.push_back({window.weak_from_this(), scenes_.size()});
-    scenes_.push_back({{"window", kv::ClassName(*window.AnyHandle())}, {"do", Json::array()}});
-}
-
-void Recorder::WindowCloses() {
-    windows_.pop_back();
-}
-
-std::size_t Recorder::SceneOpens(Json scene) {
+std::size_t Recorder::AddScene(Json scene) {
     scenes_.push_back(std::move(scene));
     return scenes_.size() - 1;
 }
 
+void Recorder::WindowOpens(kv::Node& window) {
+    if (questions_ > 0) return;
+    const std::string name = kv::ClassName(*window.AnyHandle());
+    windows_.push_back(
+        {window.weak_from_this(), AddScene({{"window", name}, {"do", Json::array()}})});
+}
+
+void Recorder::WindowCloses() {
+    if (questions_ == 0) windows_.pop_back();
+}
+
+void Recorder::QuestionOpens(Json scene) {
+    if (questions_++ == 0) question_ = AddScene(std::move(scene));
+}
+
+void Recorder::IsAnswered(const char* key, Json answer) {
+    if (--questions_ == 0) scenes_[question_][key] = std::move(answer);
+}
+
 void Recorder::PumpBegins() {
-    pumpings_.push_back({windows_.size(), std::nullopt});
+    if (questions_ == 0) works_.push_back({windows_.size(), {}, {}});
 }
 
 void Recorder::PumpEnds() {
-    if (!pumpings_.back().scene) ++pumpsPassed_;
-    pumpings_.pop_back();
+    if (questions_ > 0) return;
+    if (!works_.back().scene) ++pumpsPassed_;
+    works_.pop_back();
+}
+
+void Recorder::QueryBegins(const std::string& sql) {
+    if (questions_ > 0) return;
+    const std::string text = IsWritable(sql) ? sql : "";
+    ++queriesBegun_[text];
+    works_.push_back({windows_.size(), text, {}});
+}
+
+void Recorder::QueryEnds() {
+    if (questions_ == 0 && InQuery()) works_.pop_back();
+}
+
+void Recorder::WaitIsSeen() {
+    if (questions_ == 0 && InQuery()) SceneOfWork();
 }
 
 const Recorder::Window* Recorder::WindowOf(kv::Node& node) const {
@@ -146,17 +172,30 @@ const Recorder::Window* Recorder::WindowOf(kv::Node& node) const {
 /// What is done inside long work, to a window that was open before, is a scene of its own.
 std::size_t Recorder::SceneOfDeeds(const Window& window) {
     const auto place = static_cast<std::size_t>(&window - windows_.data());
-    const bool inside = !pumpings_.empty() && place < pumpings_.back().windows;
-    return inside ? SceneOfPumping() : window.scene;
+    const bool inside = !works_.empty() && place < works_.back().windows;
+    return inside ? SceneOfWork() : window.scene;
 }
 
-std::size_t Recorder::SceneOfPumping() {
-    Pumping& pumping = pumpings_.back();
-    if (!pumping.scene) {
-        pumping.scene =
-            SceneOpens({{"pump", std::exchange(pumpsPassed_, 0)}, {"do", Json::array()}});
+std::size_t Recorder::SceneOfWork() {
+    Work& work = works_.back();
+    if (!work.scene) {
+        Json scene = HeadOfWork(work);
+        scene["do"] = Json::array();
+        work.scene = AddScene(std::move(scene));
     }
-    return *pumping.scene;
+    return *work.scene;
+}
+
+/// What tells the work from other work ahead of it.
+Json Recorder::HeadOfWork(const Work& work) {
+    if (!work.sql) return {{"pump", std::exchange(pumpsPassed_, 0)}};
+    const auto begun = std::exchange(queriesBegun_, {});
+    int before = -1;
+    for (const auto& [sql, count] : begun)
+        before += work.sql->empty() || sql == *work.sql ? count : 0;
+    Json head{{"query", *work.sql}};
+    if (before > 0) head["after"] = before;
+    return head;
 }
 
 /// A click on what holds a bar takes the focus from it.
@@ -174,11 +213,11 @@ bool Recorder::PressedBeside(const Deed& deed) {
 }
 
 void Recorder::Did(const Deed& deed, Time now) {
-    if (PressedBeside(deed)) return;
+    if (questions_ > 0 || PressedBeside(deed)) return;
     const Window* window = WindowOf(deed.node);
     // Long work may show a window of its own.
-    if (!window && pumpings_.empty()) return;
-    scene_ = window ? SceneOfDeeds(*window) : SceneOfPumping();
+    if (!window && works_.empty()) return;
+    scene_ = window ? SceneOfDeeds(*window) : SceneOfWork();
     secret_ = IsSecret(deed.node);
     Write(deed, window ? *window->node.lock() : *deed.node.Root(), now);
 }

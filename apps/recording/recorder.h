@@ -3,6 +3,7 @@
 #include <chrono>
 #include <cstddef>
 #include <functional>
+#include <map>
 #include <memory>
 #include <nlohmann/json.hpp>
 #include <optional>
@@ -32,13 +33,19 @@ public:
     /// A window opens that the person works in from now on, until it closes.
     void WindowOpens(kv::Node& window);
     void WindowCloses();
-    /// Something opens that is answered as a whole. Its answer may follow.
-    std::size_t SceneOpens(Json scene);
-    void Answer(std::size_t scene, const char* key, Json answer) { scenes_[scene][key] = answer; }
+    /// Something opens that is answered as a whole: what happens until it is, is part of that.
+    void QuestionOpens(Json scene);
+    void IsAnswered(const char* key, Json answer);
 
     /// What the person does meanwhile is done inside long work.
     void PumpBegins();
     void PumpEnds();
+    /// The same while a query runs, of which the text as it was sent is given: what the person does
+    /// is done to the window by which it can be cancelled.
+    void QueryBegins(const std::string& sql);
+    void QueryEnds();
+    /// That window is up.
+    void WaitIsSeen();
 
     /// `now` is the time for all that the deed does.
     void Did(const kv::input::Deed& deed, Time now);
@@ -52,14 +59,19 @@ private:
         std::weak_ptr<kv::Node> node;
         std::size_t scene;
     };
-    struct Pumping {
-        std::size_t windows;  ///< how many were open before
+    /// A pumping of the queue, or a query.
+    struct Work {
+        std::size_t windows;             ///< how many were open before
+        std::optional<std::string> sql;  ///< of a query, "" where it cannot be told
         std::optional<std::size_t> scene;
     };
 
+    bool InQuery() const { return !works_.empty() && works_.back().sql; }
+    std::size_t AddScene(Json scene);
     const Window* WindowOf(kv::Node& node) const;
     std::size_t SceneOfDeeds(const Window& window);
-    std::size_t SceneOfPumping();
+    std::size_t SceneOfWork();
+    Json HeadOfWork(const Work& work);
     bool PressedBeside(const kv::input::Deed& deed);
     void Write(const kv::input::Deed& deed, kv::Node& window, Time now);
     void Mouse(const kv::input::Deed& deed, int id);
@@ -75,8 +87,11 @@ private:
 
     Json scenes_ = Json::array();
     std::vector<Window> windows_;
-    std::vector<Pumping> pumpings_;
+    int questions_ = 0;  ///< open ones
+    std::size_t question_ = 0;
+    std::vector<Work> works_;
     int pumpsPassed_ = 0;
+    std::map<std::string, int> queriesBegun_;  ///< since the last scene of one
     int pauses_ = 0;
     std::optional<std::size_t> scene_;  ///< of the last deed
     bool secret_ = false;               ///< whether that is done to a password box

@@ -7,6 +7,7 @@
 
 #include "base/text.h"
 #include "recording/outside.h"
+#include "window/held_back.h"
 #include "window/screens.h"
 #include "window/window_system.h"
 
@@ -50,11 +51,13 @@ Recording::Recording(const Json& inputs, std::function<void()> recorded)
         recorder_.Did(deed, inner_.Now());
         Recorded();
     });
+    ListenToQueries();
     ListenToMap();
 }
 
 Recording::~Recording() {
     kv::SetGraphics(std::move(map_));
+    kv::SetQueryWaits(std::move(formerWaits_));
     kv::input::SetListener(std::move(formerListener_));
     kv::WindowSystem::Get().SetDesktop(&inner_);
     kv::SetScreens(*this, nullptr);
@@ -72,11 +75,25 @@ void Recording::Recorded() {
 
 template <typename Run>
 auto Recording::Answered(Json scene, const Run& run) {
-    const std::size_t place = recorder_.SceneOpens(std::move(scene));
+    recorder_.QuestionOpens(std::move(scene));
     auto [result, key, answer] = run();
-    recorder_.Answer(place, key, std::move(answer));
+    recorder_.IsAnswered(key, std::move(answer));
     Recorded();
     return result;
+}
+
+void Recording::ListenToQueries() {
+    formerWaits_ =
+        kv::SetQueryWaits({[this](const std::string& sql) {
+                               recorder_.QueryBegins(sql);
+                               auto act = formerWaits_.begins ? formerWaits_.begins(sql) : nullptr;
+                               if (act) recorder_.WaitIsSeen();
+                               return act;
+                           },
+                           [this] {
+                               recorder_.QueryEnds();
+                               if (formerWaits_.ends) formerWaits_.ends();
+                           }});
 }
 
 void Recording::ListenToMap() {
@@ -166,6 +183,11 @@ void Recording::SetClipboardText(const std::string& text) {
 }
 
 void Recording::Pump() {
+    if (kv::HoldsBack()) {
+        // How often is a matter of time; that the window of a query comes up may lose a click.
+        recorder_.WaitIsSeen();
+        return inner_.Pump();
+    }
     recorder_.PumpBegins();
     inner_.Pump();
     recorder_.PumpEnds();

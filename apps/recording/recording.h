@@ -6,6 +6,7 @@
 #include "frame/graphics.h"
 #include "recording/recorder.h"
 #include "window/desktop.h"
+#include "window/query_waits.h"
 
 namespace recording {
 
@@ -46,6 +47,7 @@ private:
     /// Adds a scene, and its answer when `run` has got one.
     template <typename Run>
     auto Answered(Json scene, const Run& run);
+    void ListenToQueries();
     void ListenToMap();
     void Recorded();
 
@@ -55,6 +57,7 @@ private:
     std::function<void()> recorded_;
     Recorder recorder_;
     kv::input::Listener formerListener_;
+    kv::QueryWaits formerWaits_;
     kv::Graphics map_;
 };
 

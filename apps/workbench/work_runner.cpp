@@ -8,6 +8,7 @@
 
 #include "window/blocked_windows.h"
 #include "window/held_back.h"
+#include "window/query_waits.h"
 #include "workbench/dataset.h"
 #include "workbench/failure_words.h"
 
@@ -31,6 +32,16 @@ public:
 
 private:
     std::optional<std::chrono::milliseconds> before_ = kv::Patience();
+};
+
+/// What the workbench asks is no part of what is done in a dialog that is open meanwhile.
+struct OwnQueries {
+    OwnQueries() = default;
+    ~OwnQueries() { kv::SetQueryWaits(std::move(others)); }
+    OwnQueries(const OwnQueries&) = delete;
+    OwnQueries& operator=(const OwnQueries&) = delete;
+
+    kv::QueryWaits others = kv::SetQueryWaits({});
 };
 
 }  // namespace
@@ -102,6 +113,7 @@ bool WorkRunner::StepOnce(Waits waits) {
     try {
         std::optional<MorePatience> patience;
         if (waits == Waits::kNobody) patience.emplace();
+        const OwnQueries own;
         more = work->Step();
     } catch (const CKvException& e) {
         failure = FailureWords(e);

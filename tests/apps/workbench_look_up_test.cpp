@@ -80,7 +80,8 @@ TEST_F(CancelledLookUp, OfAReportTellsNothing) {
 }
 
 TEST_F(CancelledLookUp, OfAProjectionIsNotKeptByTheReadouts) {
-    MapPositions positions(host->Model(), [this](const QString& words) { failures.push_back(words); });
+    MapPositions positions(
+        host->Model(), [this](const QString& words) { failures.push_back(words.toStdString()); });
     const auto block = host->Model().FindPick({kArea}, kBlock).block;
     ASSERT_TRUE(block);
     const Place middle = ToPlace(block->Bounds().Middle());

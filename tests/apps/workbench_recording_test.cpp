@@ -10,6 +10,8 @@
 
 #include "kvdlg/play.h"
 #include "kvdlg/script.h"
+#include "window/blocked_windows.h"
+#include "window/held_back.h"
 #include "window/window_system.h"
 #include "workbench_window_fixture.h"
 
@@ -69,6 +71,27 @@ TEST_F(WorkbenchRecording, WritesAScriptOfEachDialogThatPlays) {
                 [](const std::string& words) { FAIL() << words; });
     kv::WindowSystem::Get().SetDesktop(&desktop);
     EXPECT_EQ(run.result, IDOK);
+}
+
+TEST_F(WorkbenchRecording, WhatTheMapAsksMeanwhileIsNotInTheScript) {
+    Begin();
+    workbench::MapModel model;
+    host->Runner().Begin(std::make_shared<workbench::MapLoader>(model, [] {}));
+    // Every query brings up its window.
+    kv::SetPatience(std::chrono::milliseconds(0));
+    bool waited = false;
+    QTimer person;
+    QObject::connect(&person, &QTimer::timeout, [&] {
+        waited = waited || kv::HoldsBack();
+        kv::Node* window = kv::WindowSystem::Get().ActiveWindow();
+        if (!host->Runner().Busy() && window->FindChild(IDOK))
+            QTest::mouseClick(kv::qt::WidgetOf(*window->FindChild(IDOK)), Qt::LeftButton);
+    });
+    person.start(0);
+    host->RunDialog(*adaptors::Find(kStatus));
+    EXPECT_TRUE(waited);
+    const Json script = Json::parse(folder.Read("scripts/001-CKvGuiPipeStatusDlg.json"));
+    EXPECT_EQ(script.at("user").size(), 1U) << script.at("user").dump();
 }
 
 TEST_F(WorkbenchRecording, EndsByTheSameRow) {

@@ -61,7 +61,8 @@ bool MayRead(Kind kind) {
 /// What a person may cancel: the query, and what is asked ahead of it. How its engine tells of that
 /// is its own.
 std::unique_ptr<Rows> QueryWhileSomebodyWaits(const std::string& sql, Session& session) {
-    const StatementWait wait;
+    const StatementWait wait(sql);
+    if (wait.Cancelled()) throw CKvCancelled();
     std::unique_ptr<Rows> rows;
     try {
         const auto translation = Translate(sql, session);

@@ -9,6 +9,7 @@
 #include "random_person.h"
 #include "same_ground.h"
 #include "script_files.h"
+#include "window/blocked_windows.h"
 
 namespace {
 
@@ -52,6 +53,8 @@ protected:
     Json RecordScript(const std::string& name) {
         const std::string text =
             kv::ReplaceAll(test::ScriptFile(name + ".json"), "${folder}", "C:\\\\work");
+        // A scene may wait for the window of a slow query.
+        kv::SetPatience({});
         Json script;
         adaptors::Adaptor recorded = Dialog();
         recorded.run = [&](adaptors::Run& run) {
@@ -125,8 +128,7 @@ protected:
 };
 
 /// Scripts of the class that play to their end, need nothing of the command line, and in which all
-/// that is done is a person's: what a host calls meanwhile is none. How long a query takes is no
-/// deed either, so a wait for one does not come again.
+/// that is done is a person's: what a host calls meanwhile is none.
 std::vector<std::string> ScriptsOf(const std::string& className) {
     std::vector<std::string> names = test::ScriptNames();
     std::erase_if(names, [&](const std::string& name) {
@@ -134,8 +136,7 @@ std::vector<std::string> ScriptsOf(const std::string& className) {
         const std::string text = test::ScriptFile(name + ".json");
         const bool ends = expected.at("exit") == 0 || expected.at("exit") == 1;
         return expected.at("run") != className || !ends || expected.contains("options") ||
-               expected.contains("db") || text.find("{\"call\":") != std::string::npos ||
-               text.find("{\"wait\":") != std::string::npos;
+               expected.contains("db") || text.find("{\"call\":") != std::string::npos;
     });
     return names;
 }

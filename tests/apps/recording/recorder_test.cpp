@@ -6,6 +6,7 @@
 #include "recording/recording.h"
 #include "support/dialog_fixture.h"
 #include "support/two_screens.h"
+#include "window/acting/wait_scene.h"
 #include "window/controls/spin_node.h"
 #include "window/dialogs/file_dialog.h"
 #include "window/dialogs/message_box.h"
@@ -290,18 +291,69 @@ TEST_F(Recorder, WhatIsDoneInsideLongWorkIsASceneBehindSoManySteps) {
     EXPECT_EQ(recorder.Scenes().at(1), (Json{{"pump", 2}, {"do", {{{"click", 20}}}}}));
 }
 
+/// A window of long work, with a button that cancels it.
+class WindowOfWork {
+public:
+    WindowOfWork() { EXPECT_TRUE(dialog_.Create(kOfWork)); }
+    void Cancel() {
+        input::MoveFocus(*dialog_.m_hWnd->FindChild(IDCANCEL));
+        input::Click(*dialog_.m_hWnd->FindChild(IDCANCEL));
+    }
+
+private:
+    TestTemplate template_{{Row(IDCANCEL, kPushButton, "Cancel")}, kOfWork};
+    RecordingDialog dialog_{kOfWork};
+};
+
 TEST_F(Recorder, WhatIsDoneInAWindowOfLongWorkIsInTheSceneOfItsStep) {
-    const TestTemplate ofWork({Row(IDCANCEL, kPushButton, "Cancel")}, kOfWork);
-    RecordingDialog work(kOfWork);
-    ASSERT_TRUE(work.Create(kOfWork));
-    kv::Node& cancel = *work.m_hWnd->FindChild(IDCANCEL);
-    input::MoveFocus(cancel);
+    WindowOfWork work;
     recorder.PumpBegins();
-    input::Click(cancel);
+    work.Cancel();
     recorder.PumpEnds();
     ASSERT_EQ(recorder.Scenes().size(), 2U);
-    EXPECT_EQ(recorder.Scenes().at(1), (Json{{"pump", 0}, {"do", {{{"click", IDCANCEL}}}}}));
+    EXPECT_EQ(recorder.Scenes().at(1),
+              Json::parse(R"({"pump": 0, "do": [{"focus": 2}, {"click": 2}]})"));
     EXPECT_EQ(Deeds(), "");
+}
+
+TEST_F(Recorder, WhatIsDoneInTheWindowOfAQueryIsASceneOfThatQuery) {
+    recorder.QueryBegins("select 1");
+    recorder.QueryEnds();
+    recorder.QueryBegins("select 2");
+    WindowOfWork().Cancel();
+    recorder.QueryEnds();
+    ASSERT_EQ(recorder.Scenes().size(), 2U);
+    EXPECT_EQ(recorder.Scenes().at(1),
+              Json::parse(R"({"query": "select 2", "do": [{"focus": 2}, {"click": 2}]})"));
+}
+
+TEST_F(Recorder, OfQueriesWithOneTextItIsToldHowManyHaveGoneBySinceTheSceneBefore) {
+    const std::string other = "select 'caf\xe9'";
+    for (const char* sql : {"a", "b", "a", "b", "a"}) {
+        recorder.QueryBegins(sql);
+        recorder.QueryEnds();
+    }
+    for (const std::string& sql : {std::string("a"), std::string("a"), other}) {
+        recorder.QueryBegins(sql);
+        WindowOfWork().Cancel();
+        recorder.QueryEnds();
+    }
+    EXPECT_EQ(recorder.Scenes().at(1).value("after", 0), 3);
+    EXPECT_EQ(recorder.Scenes().at(2).value("after", 0), 0);
+    EXPECT_EQ(recorder.Scenes().at(3).at("query"), "") << "it may be any, since it cannot be told";
+}
+
+TEST_F(Recorder, TheWindowOfAQueryIsOneSceneHoweverLongItIsUp) {
+    recorder.QueryBegins("select 1");
+    for (int look = 0; look < 9; ++look)
+        recorder.WaitIsSeen();
+    recorder.QueryEnds();
+    recorder.PumpBegins();
+    input::Click(NodeOf(20));
+    recorder.PumpEnds();
+    ASSERT_EQ(recorder.Scenes().size(), 3U);
+    EXPECT_EQ(recorder.Scenes().at(1), Json::parse(R"({"query": "select 1", "do": []})"));
+    EXPECT_EQ(recorder.Scenes().at(2).at("pump"), 0);
 }
 
 /// What stands ahead of the desktop that the windows ask.
@@ -384,6 +436,31 @@ TEST_F(Recording, WritesThePicksOfTheMap) {
     }
     answer = "as before";
     EXPECT_EQ(graphics("", "", "", 1, "", ""), "as before");
+    kv::SetGraphics(nullptr);
+}
+
+TEST_F(Recording, WhatTheMapAsksAndTellsIsPartOfItsAnswer) {
+    kv::QueryWaits told;
+    desktop.ExpectMessage("The map cannot be read.");
+    kv::SetGraphics([&](const auto&...) {
+        told.begins("select outlines");
+        told.ends();
+        AfxMessageBox("The map cannot be read.");
+        return std::string();
+    });
+    kv::QueryScenes scenes(desktop);
+    scenes.Expect(
+        "", [](kv::User& wait) { wait.Click(IDCANCEL); }, 1);
+    {
+        const recording::Recording recording(Json::object());
+        told = kv::SetQueryWaits({});
+        graphics("", "", "", 1, "", "");
+        ASSERT_TRUE(dialog.Create(test::kTestTemplate));
+        told.begins("select outlines")(*dialog.m_hWnd);
+        told.ends();
+        EXPECT_EQ(User(recording), Json::parse(R"([{"map": null},
+                                  {"query": "select outlines", "do": [{"click": 2}]}])"));
+    }
     kv::SetGraphics(nullptr);
 }
 

@@ -134,6 +134,51 @@ TEST_F(StatementWaits, WhereNoWindowIsInSightNoneComesUp) {
     kv::WindowSystem::Get().Pump();
 }
 
+constexpr const char* kQuery = "select a from kvt";
+
+void PressCancel(kv::User& wait) {
+    wait.Click(IDCANCEL);
+}
+
+TEST_F(StatementWaits, ASceneOfAQueryCancelsItHoweverLittleTimeItTakes) {
+    kv::SetPatience({});
+    kv::QueryScenes scenes(desktop);
+    scenes.Expect(kQuery, PressCancel, 1);
+    scenes.Expect("", PressCancel);
+    manager_.Connect();
+    EXPECT_EQ(manager_.Select(kQuery), 1);
+    EXPECT_EQ(manager_.Select("select a from kvt where a = 'x'"), 1) << "another text";
+    EXPECT_THROW(manager_.Select(kQuery), CKvCancelled);
+    EXPECT_THROW(manager_.Select("select a from endless"), CKvCancelled) << "any, and it never ran";
+    EXPECT_EQ(scenes.Left(), 0);
+    EXPECT_EQ(manager_.Select(kQuery), 1);
+}
+
+TEST_F(StatementWaits, AQueryThatItsSceneDoesNotCancelRuns) {
+    kv::SetPatience({});
+    kv::QueryScenes scenes(desktop);
+    std::string caption;
+    scenes.Expect("", [&](kv::User& wait) {
+        caption = wait.WindowNode().Text();
+        EXPECT_FALSE(frame_.IsWindowEnabled());
+        wait.Key(0, "Tab");
+    });
+    manager_.Connect();
+    EXPECT_EQ(manager_.Select(kQuery), 1);
+    EXPECT_EQ(caption, "Waiting for the Database");
+    EXPECT_EQ(kv::WindowSystem::Get().TopLevels().size(), 1U);
+    EXPECT_TRUE(frame_.IsWindowEnabled());
+}
+
+TEST_F(StatementWaits, WhereNoWindowIsInSightTheSceneOfAQueryIsLeft) {
+    frame_.ShowWindow(SW_HIDE);
+    kv::QueryScenes scenes(desktop);
+    scenes.Expect("", PressCancel);
+    manager_.Connect();
+    EXPECT_EQ(manager_.Select(kQuery), 1);
+    EXPECT_EQ(scenes.Left(), 1);
+}
+
 TEST_F(StatementWaits, OfACancelledQueryNoMessageTells) {
     kv::db::TellFailure(CKvCancelled());
     EXPECT_THAT(desktop.Messages(), IsEmpty());

@@ -30,11 +30,17 @@ struct StatementWait::Shown {
     CKvWaitDlg dialog;
 };
 
-StatementWait::StatementWait() : outer_(std::exchange(g_current, this)) {}
+StatementWait::StatementWait(const std::string& sql) : outer_(std::exchange(g_current, this)) {
+    if (outer_) return;
+    WindowSystem::Get().Guarded([&] {
+        if (const ActOnWait act = TellQueryBegins(sql)) ShowTo(act);
+    });
+}
 
 StatementWait::~StatementWait() {
     shown_.reset();
     g_current = outer_;
+    if (!outer_) TellQueryEnds();
 }
 
 bool StatementWait::IsOver() noexcept {
@@ -67,6 +73,15 @@ void StatementWait::Show() {
     if (blind_) return;
     shown->windows.Except(*shown->dialog.m_hWnd);
     shown_ = std::move(shown);
+}
+
+/// The query waits meanwhile, and not the other way round.
+void StatementWait::ShowTo(const ActOnWait& act) {
+    Show();
+    if (!shown_) return;
+    act(*shown_->dialog.m_hWnd);
+    cancelled_ = shown_->dialog.IsCancelled();
+    shown_.reset();
 }
 
 }  // namespace kv::db

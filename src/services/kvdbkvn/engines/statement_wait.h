@@ -2,8 +2,10 @@
 
 #include <chrono>
 #include <memory>
+#include <string>
 
 #include "base/export.h"
+#include "window/query_waits.h"
 
 namespace kv::db {
 
@@ -12,11 +14,12 @@ namespace kv::db {
 /// another waits for nothing.
 class KVGUICTL_API StatementWait {
 public:
-    StatementWait();
+    explicit StatementWait(const std::string& sql);
     ~StatementWait();
     StatementWait(const StatementWait&) = delete;
     StatementWait& operator=(const StatementWait&) = delete;
 
+    /// It may be so before the query runs.
     bool Cancelled() const { return cancelled_; }
 
     /// Engines ask it again and again while the query runs, which keeps that window alive: whether
@@ -29,6 +32,7 @@ private:
 
     void LookOn();
     void Show();
+    void ShowTo(const ActOnWait& act);
 
     StatementWait* outer_;
     Clock::time_point begun_ = Clock::now();
