@@ -6,6 +6,7 @@
 #include <cmath>
 #include <filesystem>
 #include <map>
+#include <nlohmann/json.hpp>
 
 #include "frame/kvcom/cancelled.h"
 #include "frame/kvcom/util_lldrv.h"
@@ -270,6 +271,69 @@ TEST_F(WorkbenchExports, WhatWasDrawnAndTheEdgeOfTheMapGoOutWithIt) {
     EXPECT_EQ(frame.Cell(frame.rows[0], "name"), "Ours");
     EXPECT_EQ(frame.rows[0].shape.parts[0][0].size(),
               EdgeOf(*host->History().Current().map).size() + 1);
+}
+
+/// Replaces labels of what is on the map; of one a text is left, of the others none.
+class ReplacedLabels : public WorkbenchExports {
+protected:
+    ReplacedLabels() {
+        well = Single("select well_name from " + TableName("_well_hdr") + kOfTheBlock +
+                      " and surf_lat is not null");
+        pipeline = Single("select segment_no from " + TableName("_pipeline") + kOfTheBlock);
+        MapDocument next = host->History().Current();
+        auto drawings = std::make_shared<Drawings>();
+        drawings->labels = {{{LabelLayer::kLeases, kArea, kBlock}, "Ölfeld \"7\""},
+                            {{LabelLayer::kWells, kArea, well}, ""},
+                            {{LabelLayer::kPipelines, kArea, pipeline}, "Ours"}};
+        next.drawings = drawings;
+        host->History().Do(next, "labels");
+    }
+    static std::vector<std::string> Labels(const ReadTable& table, const std::string& column,
+                                           const std::string& value) {
+        std::vector<std::string> labels;
+        for (const Feature& row : table.rows)
+            if (table.Cell(row, column) == value && table.Cell(row, "areacode") == kArea)
+                labels.push_back(table.Cell(row, "map_label"));
+        return labels;
+    }
+
+    const std::string kOfTheBlock =
+        std::string(" where areacode = '") + kArea + "' and lbnum = '" + kBlock + "'";
+    std::string well, pipeline;
+};
+
+TEST_F(ReplacedLabels, AreInAGeoPackageAsTheMapHasThemBesideTheOriginals) {
+    if (!KVGUICTL_HAS_GDAL) GTEST_SKIP() << "There is no GDAL here";
+    Export("GeoPackage", "map.gpkg");
+    EXPECT_THAT(failures, IsEmpty());
+    const ReadTable blocks = ReadBack(Path("map.gpkg"), "blocks");
+    EXPECT_THAT(Labels(blocks, "block", kBlock), ElementsAre("Ölfeld \"7\""));
+    EXPECT_THAT(Labels(blocks, "block", "392"), ElementsAre("392"));
+    const ReadTable wells = ReadBack(Path("map.gpkg"), "wells");
+    EXPECT_THAT(Labels(wells, "well_name", well), testing::Each("(null)"));
+    EXPECT_THAT(Labels(wells, "well_name", well), Not(IsEmpty()));
+    const ReadTable pipelines = ReadBack(Path("map.gpkg"), "pipelines");
+    EXPECT_THAT(Labels(pipelines, "segment_no", pipeline), ElementsAre("Ours"));
+    const ReadTable platforms = ReadBack(Path("map.gpkg"), "platforms");
+    ASSERT_THAT(platforms.rows, Not(IsEmpty()));
+    for (const Feature& row : platforms.rows)
+        EXPECT_EQ(platforms.Cell(row, "map_label"),
+                  platforms.Cell(row, "structure") + "-" + platforms.Cell(row, "complex_id"));
+}
+
+TEST_F(ReplacedLabels, AreInGeoJsonAsTheMapHasThemBesideTheOriginals) {
+    if (!HasGrid()) GTEST_SKIP() << "The datum grid us_noaa_conus.tif is not installed here";
+    Export("GeoJSON", "map.geojson");
+    EXPECT_THAT(failures, IsEmpty());
+    std::map<std::string, nlohmann::json> ofTheBlocks;
+    const nlohmann::json map = nlohmann::json::parse(folder.Read("map.geojson"));
+    for (const nlohmann::json& feature : map["features"]) {
+        const nlohmann::json& told = feature["properties"];
+        if (told["layer"] == "blocks" && told["areacode"] == kArea)
+            ofTheBlocks[told["block"].get<std::string>()] = told["map_label"];
+    }
+    EXPECT_EQ(ofTheBlocks[kBlock], "Ölfeld \"7\"");
+    EXPECT_EQ(ofTheBlocks["392"], "392");
 }
 
 TEST_F(WorkbenchExports, GeoJsonIsOnItsOwnDatum) {

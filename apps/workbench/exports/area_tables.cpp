@@ -1,6 +1,8 @@
 #include "workbench/exports/area_tables.h"
 
+#include <optional>
 #include <span>
+#include <string_view>
 
 #include "frame/catalogue.h"
 #include "workbench/dataset.h"
@@ -30,6 +32,8 @@ struct Source {
     const char* vertices;    ///< suffix of the table of their places, by the same column; or null
     const char* latitude;
     const char* longitude;
+    const char* label;                   ///< SQL for what the map reads as one
+    std::optional<LabelLayer> replaced;  ///< of those labels that a document may replace
     std::span<const Field> fields;
 };
 
@@ -75,22 +79,26 @@ constexpr Field kPipelineFields[] = {{"segment_no", "t.segment_no"},
 
 constexpr Source kSources[] = {
     {"blocks", ShapeKind::kOutline, &AreaMap::blocks, nullptr, kv::catalogue::kBlockTable, "refnum",
-     kv::catalogue::kVertexTable, "v.lat", "v.lon", kBlockFields},
+     kv::catalogue::kVertexTable, "v.lat", "v.lon", kBlock.expression, LabelLayer::kLeases,
+     kBlockFields},
     {"wells", ShapeKind::kPoint, &AreaMap::wells, &MapLayers::wells, "_well_hdr", "api_no", nullptr,
-     "t.surf_lat", "t.surf_lon", kWellFields},
+     "t.surf_lat", "t.surf_lon", "t.well_name", LabelLayer::kWells, kWellFields},
     {"platforms", ShapeKind::kPoint, &AreaMap::platforms, &MapLayers::platforms, "_platform",
-     "complex_id", nullptr, "t.lat", "t.lon", kPlatformFields},
+     "complex_id", nullptr, "t.lat", "t.lon", "t.structure||'-'||t.complex_id", std::nullopt,
+     kPlatformFields},
     {"pipelines", ShapeKind::kLine, &AreaMap::pipelines, &MapLayers::pipelines, "_pipeline",
-     "segment_no", "_pipeline_pt", "v.lat", "v.lon", kPipelineFields},
+     "segment_no", "_pipeline_pt", "v.lat", "v.lon", "t.segment_no", LabelLayer::kPipelines,
+     kPipelineFields},
 };
 
-/// A row for each place: the key, the fields, latitude and longitude.
+/// A row for each place: the key, the fields, the label, latitude and longitude.
 std::string Statement(const Source& source, const std::string& areaCode) {
     const std::string key = std::string("t.") + source.key;
     std::string statement = "select " + key;
     for (const Field& field : source.fields)
         statement.append(", ").append(field.expression);
-    statement.append(", ").append(source.latitude).append(", ").append(source.longitude);
+    for (const char* expression : {source.label, source.latitude, source.longitude})
+        statement.append(", ").append(expression);
     statement += " from " + TableName(source.table) + " t, ";
     if (source.vertices) statement += TableName(source.vertices) + " v, ";
     statement += TableName(kv::catalogue::kAreaTable) +
@@ -105,17 +113,23 @@ geofiles::Table HeadOf(const Source& source) {
     geofiles::Table head{source.name, source.kind, {}};
     for (const Field& field : source.fields)
         head.columns.push_back({field.name, field.number});
+    head.columns.push_back({"map_label"});
     return head;
 }
 
-void AddThings(ExportTables& tables, const Source& source, const std::string& areaCode) {
+void AddThings(ExportTables& tables, const Source& source, const std::string& areaCode,
+               const LabelTexts& labels) {
     const Rows rows(Statement(source, areaCode));
-    const int latitude = static_cast<int>(source.fields.size()) + 1;
+    const int label = static_cast<int>(source.fields.size()) + 1;
+    const int latitude = label + 1;
     for (int row = 0; row < rows.Count();) {
         const int first = row;
         geofiles::Row thing;
-        for (int column = 1; column < latitude; ++column)
+        for (int column = 1; column < label; ++column)
             thing.cells.push_back(CellInUtf8(rows.Cell(first, column)));
+        std::string_view written = rows.Cell(first, label);
+        if (source.replaced) written = TextOf(labels, *source.replaced, areaCode, written);
+        thing.cells.push_back(CellInUtf8(written));
         const std::string key = rows.Cell(first, 0);
         do {
             thing.places.push_back({rows.Number(row, latitude), rows.Number(row, latitude + 1)});
@@ -127,12 +141,13 @@ void AddThings(ExportTables& tables, const Source& source, const std::string& ar
 
 }  // namespace
 
-void AddArea(ExportTables& tables, const AreaMap& area, const MapLayers& layers) {
+void AddArea(ExportTables& tables, const AreaMap& area, const MapLayers& layers,
+             const LabelTexts& labels) {
     for (const Source& source : kSources) {
         const bool shown = !source.shown || layers.*source.shown;
         if (!shown || (area.*source.things).Size() == 0) continue;
         tables.Begin(HeadOf(source));
-        AddThings(tables, source, area.code);
+        AddThings(tables, source, area.code, labels);
     }
 }
 

@@ -35,7 +35,9 @@ bool ExportJob::ReadArea() {
     if (next_ == areas_.size()) return false;
     const AreaMap* area = model_.FindArea(areas_[next_++]);
     if (!area) throw std::runtime_error("The map was read anew meanwhile.");
-    AddArea(tables_, *area, plan_.layers);
+    static const Drawings kNone;
+    const auto& drawings = plan_.document.drawings;
+    AddArea(tables_, *area, plan_.layers, (drawings ? *drawings : kNone).labels);
     return true;
 }
 
