@@ -51,9 +51,10 @@ public:
         ReadValues();
     }
 
-    Guess Make() {
+    Guess Make(const std::string& asked) {
         const Target& target = Likeliest();
         json_["table"] = target.name;
+        if (!asked.empty()) json_["layer"] = asked;
         const Pair place = PlaceOf(target), bottom = BottomOf(target);
         const bool isTold = place.Tells() && (!bottom.IsThere() || bottom.Tells());
         if (target.places != Places::kNone && layer_.ReferenceSystem().empty() && !isTold) {
@@ -342,8 +343,8 @@ private:
 
 }  // namespace
 
-Guess GuessMapping(Layer& layer) {
-    return Guesser(layer).Make();
+Guess GuessMapping(Layer& layer, const std::string& asked) {
+    return Guesser(layer).Make(asked);
 }
 
 }  // namespace kvload

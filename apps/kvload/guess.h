@@ -15,7 +15,8 @@ struct Guess {
 
 /// Goes by the names of the fields, the kind of geometry, and the first rows, which it reads. A
 /// column that is needed and that no field was found for stands there with an empty text, which a
-/// load refuses.
-Guess GuessMapping(Layer& layer);
+/// load refuses. `asked` is the name by which the layer was asked for, "" where the file has no
+/// other.
+Guess GuessMapping(Layer& layer, const std::string& asked);
 
 }  // namespace kvload

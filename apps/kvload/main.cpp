@@ -126,7 +126,7 @@ int RunLoad(const Options& options) {
 
 int RunGuess(const Options& options) {
     const auto layer = Open({options.sources.front(), options.layer, ""});
-    const Guess guess = GuessMapping(*layer);
+    const Guess guess = GuessMapping(*layer, options.layer);
     std::printf("%s", guess.json.c_str());
     for (const std::string& note : guess.notes)
         std::fprintf(stderr, "kvload: %s\n", note.c_str());

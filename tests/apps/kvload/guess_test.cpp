@@ -17,7 +17,7 @@ using testing::IsEmpty;
 class Guesses : public LoadTest {
 protected:
     kvload::Guess GuessOf(const std::string& file) {
-        return kvload::GuessMapping(*kvload::Open({folder.Native(file), "", ""}));
+        return kvload::GuessMapping(*kvload::Open({folder.Native(file), "", ""}), "");
     }
     json GuessOfCsv(const std::string& text) {
         folder.Write("some.csv", text);
@@ -52,6 +52,13 @@ TEST_F(Guesses, OfWellsNameTheirPlacesAndDates) {
     EXPECT_EQ(mapping["place"]["x"], "SURF_LONGITUDE");
     EXPECT_EQ(mapping["bottom"]["y"], "BOTT_LATITUDE");
     EXPECT_THAT(guess.notes, ElementsAre(HasSubstr("does not tell its reference system")));
+}
+
+TEST_F(Guesses, NameTheLayerThatWasAskedFor) {
+    folder.Write("areas.csv", "area_name,area_code\nGreen Canyon,43602\n");
+    const auto layer = kvload::Open({folder.Native("areas.csv"), "areas", ""});
+    EXPECT_EQ(json::parse(kvload::GuessMapping(*layer, "areas").json)["layer"], "areas");
+    EXPECT_FALSE(json::parse(GuessOf("areas.csv").json).contains("layer"));
 }
 
 TEST_F(Guesses, SayWhereDatesMayBeReadInTwoWays) {
