@@ -36,7 +36,11 @@ BOOL CKvNewLineCtrlDlg::OnInitDialog() {
     make(m_pTypeBtn, kType, m_nType);
     make(m_pFillColorBtn, kFillColor, m_nFillColor);
 
+    Enable(kFill, false);
     Enable(kFillColor, false);
+    Enable(kClose, !m_option.bModify);
+    Enable(kVertices, true);
+    SetDlgItemText(kRubberBand, "Rubber Band");
     CheckDlgButton(kRubberBand, m_option.bRubberBand);
     Enable(kRubberBand, m_option.bRubberBand);
     Enable(IDOK, m_option.bWait);
@@ -50,6 +54,7 @@ void CKvNewLineCtrlDlg::ShowModified() {
     SetDlgItemText(kVertices, "Modify Vertices");
     CheckDlgButton(kClose, m_option.bPolygon);
     CheckDlgButton(kFill, m_option.bFilled);
+    Enable(kClose, true);
     Enable(kFill, m_option.bPolygon);
     Enable(kFillColor, m_option.bFilled);
     Enable(kRubberBand, false);
@@ -78,11 +83,12 @@ void CKvNewLineCtrlDlg::OnCheckRubberBan() {
 
 void CKvNewLineCtrlDlg::OnButtonModifyVertices() {
     CKvGuiVerticeBuilder builder(this);
-    builder.SetModifyMode(m_bChanged);
     if (m_bChanged) {
+        builder.SetModifyMode(true);
         builder.SetVertices(m_vecStaged);
         m_option.bModify = 0;
     } else {
+        builder.SetModifyMode(false);
         m_option.bByMouse = 0;
         m_option.bByKeyboard = 1;
     }
@@ -135,9 +141,10 @@ void CKvNewLineCtrlDlg::OnCancel() {
 int CKvNewLineCtrlDlg::GetUserInputPts(std::vector<CKvDispPoint>& vecOut, bool bClear) {
     if (bClear && !m_vecVertices.empty()) vecOut.clear();
     for (const std::string& row : m_vecVertices) {
+        const std::size_t comma = row.find(',');
         kv::vertices::RowScan scan(row);
         const double x = scan.Double();
-        if (row.find(',') != std::string::npos) scan.Char();
+        if (comma != std::string::npos && comma > 0) scan.Char();
         vecOut.emplace_back(x, scan.Double(), 0.0);
     }
     return static_cast<int>(m_vecVertices.size());

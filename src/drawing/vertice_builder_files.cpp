@@ -64,6 +64,7 @@ void CKvGuiVerticeBuilder::OnButtonLoadFile() {
         AfxMessageBox(CString(path.data()) + "\nThis file cannot be read.");
         return;
     }
+    file.Close();
     EnableButton(kSave, HasRows());
     if (HasRows()) OverWriteFormat();
 }

@@ -61,6 +61,7 @@ private:
 
 CKvGuiDMSCtrl::~CKvGuiDMSCtrl() {
     SetPartner(nullptr);
+    LetBoxesGo();
 }
 
 void CKvGuiDMSCtrl::LetBoxesGo() {
@@ -116,6 +117,7 @@ std::unique_ptr<CNumSpinCtrl> CKvGuiDMSCtrl::MakeSpin(int id, CNumEdit& edit, do
 // The angle.
 
 void CKvGuiDMSCtrl::SetBoxes() {
+    CKvUtilLLdrv::GetDegMinSec(m_dDMS, m_nDeg, m_nMin, m_dSec);
     if (m_bDecimal) {
         m_pDegSpin->SetPos(m_dDMS);
     } else {
@@ -169,6 +171,9 @@ bool CKvGuiDMSCtrl::SetDMS(double dValue) {
 }
 
 void CKvGuiDMSCtrl::SetDMS(int nDeg, int nMin, double dSec) {
+    m_nDeg = nDeg;
+    m_nMin = nMin;
+    m_dSec = dSec;
     SetPositions(Carried(PartsOf(nDeg, nMin, dSec)));
 }
 

@@ -84,6 +84,9 @@ private:
     void Fill(double dValue);
 
     bool m_bLat = false;
+    double m_dSec = 0.0;
+    int m_nMin = 0;
+    int m_nDeg = 0;
     CDialog* m_pParent = nullptr;
     double m_dDMS = kNoValue;
     std::unique_ptr<CNumSpinCtrl> m_pSecSpin;

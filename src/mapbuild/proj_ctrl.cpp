@@ -163,7 +163,7 @@ void CKvGuiProjCtrl::SetProjection(int nCode) {
         m_pCombo->SetCurSel(line);
         return;
     }
-    m_pCombo->DeleteString(kPickedLine);
+    if (m_pCombo->GetCount() > kPickedLine) m_pCombo->DeleteString(kPickedLine);
     std::string text = Description(nCode);
     if (IsOnSpheroid(nCode)) text = ZoneText(nCode, ZoneOf(nCode));
     m_nMoreCode = nCode;

@@ -108,7 +108,8 @@ bool CKvCreateUserTable::Create_Comment_Table() {
         return false;
     }
 
-    // With the login that was asked just now. One for the process.
+    UseLogin(Login());
+    // One for the process.
     static std::unique_ptr<CKvDbAbsDataMgr> manager;
     manager = std::make_unique<CKvDbAbsDataMgr>(1);
     try {

@@ -76,13 +76,16 @@ BOOL CKvGuiCustomDlg::OnInitDialog() {
     m_pProjCtrl->Initialize(this, kProjection, m_nProjection, m_tBounds.GetProjZoneCode(),
                             m_tBounds.GetRectSpec(), m_tBounds.GetRectifyingLat(),
                             m_tBounds.GetRectifyingLon());
+    m_pProjCtrl->IsXYBounded(IsChecked(kOriginXY));
     CheckDlgButton(kXYBounded, BST_CHECKED);
     SetXYBounded(true);
-    // The template shows X/Y and an upper right corner.
+    ShowLatLon(0, 0);
+    ShowLatLonValues();
     CheckOrigin(true);
     CheckDlgButton(kUpperRight, BST_CHECKED);
     m_bWidthHeight = false;
     m_bXYShown = true;
+    ShowRightCorner();
     m_strMapName = kv::mapbuild::ClockName();
     SetDlgItemText(kMapName, m_strMapName.c_str());
     return TRUE;
@@ -317,6 +320,7 @@ void CKvGuiCustomDlg::OnWidthHeightRadio() {
     if (IsChecked(kOriginXY)) {
         OnChangeYminEdit();
         OnChangeXminEdit3();
+        ShowLatLon(0, 0);
         m_tBounds.PopulateLL();
         ShowXY(1);
         if (!validXY) ShowXYValues();
@@ -340,7 +344,9 @@ void CKvGuiCustomDlg::OnOppcorRadio() {
         const std::string height = DlgItemText(kFarY);
         if (width.empty() || height.empty()) return;
         m_tBounds.UpdateXYMax(width, height);
+        ShowXY(0);
         m_tBounds.PopulateLL();
+        ShowLatLon(0, 0);
         ShowXY(1);
     } else {
         const bool valid = IsValidLatLon();
@@ -436,7 +442,7 @@ void CKvGuiCustomDlg::OnSelchangePrimprojCombo() {
 void CKvGuiCustomDlg::OnDropdownPrimprojCombo() {
     auto& combo = Control<CComboBox>(kProjection);
     const std::string text = combo.WindowText();
-    combo.DeleteString(kPickedLine);
+    if (combo.GetCount() > kPickedLine) combo.DeleteString(kPickedLine);
     combo.SetWindowText(text.c_str());
 }
 

@@ -281,6 +281,7 @@ void CKvGuiQuickOffBldDlg::OnLlboundRadio() {
 
 void CKvGuiQuickOffBldDlg::CheckPair(int on, int off) {
     const bool checked = IsDlgButtonChecked(on) == BST_CHECKED;
+    CheckDlgButton(on, checked ? BST_CHECKED : BST_UNCHECKED);
     CheckDlgButton(off, checked ? BST_UNCHECKED : BST_CHECKED);
 }
 
@@ -412,6 +413,7 @@ void CKvGuiQuickOffBldDlg::OnScaleRadio() {
     m_nScale = sizing.GetScale();
     m_tBounds.SetScale(m_nScale);
     (meters ? m_nMeterScale : m_nFeetScale) = m_nScale;
+    m_bScaleSet = true;
 }
 
 void CKvGuiQuickOffBldDlg::OnButtonSnapBounds() {
