@@ -9,6 +9,7 @@
 #include "window/blocked_windows.h"
 #include "window/held_back.h"
 #include "window/query_waits.h"
+#include "workbench/dataset.h"
 #include "workbench/failure_words.h"
 
 namespace workbench {
