@@ -253,8 +253,8 @@ TEST_F(WorkbenchRecords, WellsAreLookedForInsideTheBuiltMapWhateverIsSeen) {
     OpenCopy();
     const Well well = SomeWell();
     const auto find = [&] {
+        host->Results().SetTable({});
         FindWell([&](kv::User& person) {
-            if (!person.Checked(kv::well_search::kByArea)) person.Click(kv::well_search::kByArea);
             person.Select(kv::well_search::kArea, "GC");
             person.Select(kv::well_search::kBlock, well.block);
             person.Type(kv::well_search::kWell, well.name);

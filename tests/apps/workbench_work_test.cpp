@@ -86,8 +86,20 @@ TEST(WorkRunner, WaitsWhileAnotherLoginIsInForce) {
     test::ConnectTo({});
 }
 
+/// Puts the patience back that was there.
+class Patience {
+public:
+    explicit Patience(std::optional<milliseconds> patience) { kv::SetPatience(patience); }
+    ~Patience() { kv::SetPatience(before_); }
+    Patience(const Patience&) = delete;
+    Patience& operator=(const Patience&) = delete;
+
+private:
+    std::optional<milliseconds> before_ = kv::Patience();
+};
+
 TEST(WorkRunner, ShowsNoWaitSoSoonForWorkThatNobodyWaitsFor) {
-    kv::SetPatience(milliseconds(100));
+    const Patience usual(milliseconds(100));
     WorkRunner runner;
     const auto work = std::make_shared<Work>();
     runner.Begin(work);
@@ -98,11 +110,10 @@ TEST(WorkRunner, ShowsNoWaitSoSoonForWorkThatNobodyWaitsFor) {
     work->more = false;
     runner.Finish();
     EXPECT_EQ(work->patience.back(), milliseconds(100)) << "somebody waits for the end";
-    kv::SetPatience({});
 }
 
 TEST(WorkRunner, ShowsNoWaitWhereNoneIsEverShown) {
-    ASSERT_EQ(kv::Patience(), std::nullopt);
+    const Patience endless({});
     WorkRunner runner;
     const auto work = std::make_shared<Work>();
     runner.Begin(work);
