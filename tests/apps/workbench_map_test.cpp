@@ -1,13 +1,10 @@
 #include <gmock/gmock.h>
+#include <malloc.h>
 
 #include <QImage>
 #include <QPainter>
-#ifdef __SANITIZE_ADDRESS__
-#include <sanitizer/allocator_interface.h>
-#else
-#include <malloc.h>
-#endif
 #include <cmath>
+#include <cstddef>
 #include <memory>
 #include <random>
 #include <set>
@@ -22,6 +19,10 @@
 #include "workbench/map/map_painter.h"
 #include "workbench/map_search.h"
 #include "workbench_fixture.h"
+
+#ifdef __SANITIZE_ADDRESS__
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
+#endif
 
 namespace workbench {
 namespace {
