@@ -10,8 +10,7 @@
 
 #include "kvdlg/play.h"
 #include "kvdlg/script.h"
-#include "window/blocked_windows.h"
-#include "window/held_back.h"
+#include "window/query_waits.h"
 #include "window/window_system.h"
 #include "workbench_window_fixture.h"
 
@@ -73,25 +72,31 @@ TEST_F(WorkbenchRecording, WritesAScriptOfEachDialogThatPlays) {
     EXPECT_EQ(run.result, IDOK);
 }
 
-TEST_F(WorkbenchRecording, WhatTheMapAsksMeanwhileIsNotInTheScript) {
-    Begin();
-    workbench::MapModel model;
-    host->Runner().Begin(std::make_shared<workbench::MapLoader>(model, [] {}));
-    // Every query brings up its window.
-    kv::SetPatience(std::chrono::milliseconds(0));
-    bool waited = false;
-    QTimer person;
-    QObject::connect(&person, &QTimer::timeout, [&] {
-        waited = waited || kv::HoldsBack();
-        kv::Node* window = kv::WindowSystem::Get().ActiveWindow();
-        if (!host->Runner().Busy() && window->FindChild(IDOK))
-            QTest::mouseClick(kv::qt::WidgetOf(*window->FindChild(IDOK)), Qt::LeftButton);
-    });
-    person.start(0);
-    host->RunDialog(*adaptors::Find(kStatus));
-    EXPECT_TRUE(waited);
-    const Json script = Json::parse(folder.Read("scripts/001-CKvGuiPipeStatusDlg.json"));
-    EXPECT_EQ(script.at("user").size(), 1U) << script.at("user").dump();
+/// Asks the database, as the map does while it is read.
+class Asking final : public workbench::StepWork {
+public:
+    std::string Title() const override { return "Asking"; }
+    int Done() const override { return 0; }
+    int Total() const override { return 1; }
+    bool Step() override {
+        const workbench::Rows rows("select 1 from dual");
+        return false;
+    }
+};
+
+TEST_F(WorkbenchRecording, WhatTheWorkbenchAsksMeanwhileIsToldToNoRecording) {
+    int told = 0;
+    const kv::QueryWaits none = kv::SetQueryWaits({[&](const std::string&) {
+                                                       ++told;
+                                                       return kv::ActOnWait();
+                                                   },
+                                                   {}});
+    host->Runner().Begin(std::make_shared<Asking>());
+    host->Runner().Finish();
+    EXPECT_EQ(told, 0);
+    const workbench::Rows rows("select 1 from dual");
+    EXPECT_EQ(told, 1) << "what a dialog asks is";
+    kv::SetQueryWaits(none);
 }
 
 TEST_F(WorkbenchRecording, EndsByTheSameRow) {
