@@ -274,9 +274,9 @@ TEST_F(WorkbenchExports, WhatWasDrawnAndTheEdgeOfTheMapGoOutWithIt) {
 }
 
 /// Replaces labels of what is on the map; of one a text is left, of the others none.
-class ReplacedLabels : public WorkbenchExports {
+class ExportedLabels : public WorkbenchExports {
 protected:
-    ReplacedLabels() {
+    ExportedLabels() {
         well = Single("select well_name from " + TableName("_well_hdr") + kOfTheBlock +
                       " and surf_lat is not null");
         pipeline = Single("select segment_no from " + TableName("_pipeline") + kOfTheBlock);
@@ -302,7 +302,7 @@ protected:
     std::string well, pipeline;
 };
 
-TEST_F(ReplacedLabels, AreInAGeoPackageAsTheMapHasThemBesideTheOriginals) {
+TEST_F(ExportedLabels, AreInAGeoPackageAsTheMapHasThemBesideTheOriginals) {
     if (!KVGUICTL_HAS_GDAL) GTEST_SKIP() << "There is no GDAL here";
     Export("GeoPackage", "map.gpkg");
     EXPECT_THAT(failures, IsEmpty());
@@ -321,7 +321,7 @@ TEST_F(ReplacedLabels, AreInAGeoPackageAsTheMapHasThemBesideTheOriginals) {
                   platforms.Cell(row, "structure") + "-" + platforms.Cell(row, "complex_id"));
 }
 
-TEST_F(ReplacedLabels, AreInGeoJsonAsTheMapHasThemBesideTheOriginals) {
+TEST_F(ExportedLabels, AreInGeoJsonAsTheMapHasThemBesideTheOriginals) {
     if (!HasGrid()) GTEST_SKIP() << "The datum grid us_noaa_conus.tif is not installed here";
     Export("GeoJSON", "map.geojson");
     EXPECT_THAT(failures, IsEmpty());
