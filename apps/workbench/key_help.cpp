@@ -1,7 +1,12 @@
 #include "workbench/key_help.h"
 
 #include <QAction>
+#include <QDialog>
+#include <QDialogButtonBox>
 #include <QMenuBar>
+#include <QScreen>
+#include <QTextBrowser>
+#include <QVBoxLayout>
 
 #include "workbench/command_palette.h"
 
@@ -56,12 +61,30 @@ QString KeyHelp(const QMenuBar& menus) {
     for (const Row& row : kRows)
         rows += InRow(QString::fromLatin1(row.keys), QString::fromLatin1(row.does));
     QString commands;
-    ForEachCommand(menus, [&](const QAction& action, const QString&) {
+    ForEachCommand(menus, [&](const QAction& action, const QString& where) {
         if (action.shortcut().isEmpty()) return;
+        const QString name = CommandName(action).remove(QStringLiteral("..."));
         commands += InRow(action.shortcut().toString(QKeySequence::NativeText),
-                          CommandName(action).remove(QStringLiteral("...")));
+                          where + QStringLiteral(" > ") + name);
     });
     return QStringLiteral("<table><tr>%1%2</tr></table>").arg(InTable(rows), InTable(commands));
+}
+
+void ShowKeyHelp(const QMenuBar& menus, QWidget* parent) {
+    constexpr QSize kSize(900, 520);
+    constexpr double kMostOfScreen = 0.9;
+    QDialog dialog(parent);
+    dialog.setWindowTitle(QStringLiteral("Mouse and Keys"));
+    auto* layout = new QVBoxLayout(&dialog);
+    auto* text = new QTextBrowser(&dialog);
+    text->setHtml(KeyHelp(menus));
+    text->setAccessibleName(dialog.windowTitle());
+    layout->addWidget(text);
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, &dialog);
+    QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+    layout->addWidget(buttons);
+    dialog.resize(kSize.boundedTo(parent->screen()->availableSize() * kMostOfScreen));
+    dialog.exec();
 }
 
 }  // namespace workbench

@@ -6,7 +6,6 @@
 #include <QInputDialog>
 #include <QMenu>
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QToolBar>
 #include <utility>
 
@@ -301,10 +300,7 @@ std::vector<FocusPart> Workbench::FocusParts() {
 }
 
 void Workbench::ExplainKeys() {
-    QMessageBox box(window_);
-    box.setWindowTitle(tr("Mouse and Keys"));
-    box.setText(KeyHelp(*window_->menuBar()));
-    box.exec();
+    ShowKeyHelp(*window_->menuBar(), window_);
 }
 
 /// The row of the menu begins and ends it.

@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QScrollBar>
+#include <QTextBrowser>
 #include <QTimer>
 #include <QTreeWidget>
 
@@ -69,17 +70,39 @@ TEST_F(WorkbenchKeys, TheHelpNamesEachKeyOfTheMenusWithWhatItDoes) {
     QMenuBar& menus = *host->Window().menuBar();
     const QString help = KeyHelp(menus);
     int keys = 0;
-    ForEachCommand(menus, [&](QAction& action, const QString&) {
+    ForEachCommand(menus, [&](QAction& action, const QString& where) {
         if (action.shortcut().isEmpty()) return;
         ++keys;
-        const QString name = CommandName(action).remove(QStringLiteral("..."));
+        const QString name = where + " > " + CommandName(action).remove(QStringLiteral("..."));
         EXPECT_TRUE(help.contains(QStringLiteral("<b>%1</b>&nbsp;&nbsp;</td><td>%2</td>")
                                       .arg(action.shortcut().toString(), name.toHtmlEscaped())))
             << name.toStdString();
     });
     EXPECT_GT(keys, 20);
-    EXPECT_TRUE(
-        help.contains(QStringLiteral("<b>Ctrl+Shift+K</b>&nbsp;&nbsp;</td><td>Fill block")));
+    EXPECT_TRUE(help.contains(
+        QStringLiteral("<b>Ctrl+Shift+K</b>&nbsp;&nbsp;</td><td>Draw &gt; Fill block")));
+}
+
+TEST_F(WorkbenchKeys, TheHelpScrollsInAWindowThatFitsTheScreen) {
+    QSize size;
+    int scrolled = 0;
+    QTimer reader;
+    QObject::connect(&reader, &QTimer::timeout, [&] {
+        QWidget* help = QApplication::activeModalWidget();
+        auto* text = help ? help->findChild<QTextBrowser*>() : nullptr;
+        if (!text) return;
+        reader.stop();
+        size = help->size();
+        QTest::keyClick(text, Qt::Key_PageDown);
+        scrolled = text->verticalScrollBar()->value();
+        QTest::keyClick(text, Qt::Key_Escape);
+    });
+    reader.start(0);
+    MenuAction("Mouse and keys...")->trigger();
+    EXPECT_GT(scrolled, 0);
+    EXPECT_LE(size.width(), 960);
+    EXPECT_LE(size.height(), 540);
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
 TEST_F(WorkbenchKeys, F6ComesByTheOpenTools) {
