@@ -488,16 +488,21 @@ TEST_F(WorkbenchDocument, TheBoundaryOfPicksIsExportedAsText) {
     EXPECT_THAT(failures[0], HasSubstr("late.txt could not be saved.\nIt cannot be written."));
 }
 
-TEST_F(WorkbenchDocument, BoundsThatCouldNotBeReadAreNoBoundary) {
+TEST_F(WorkbenchDocument, BoundsThatCouldNotBeReadAreNeitherBoundaryNorMap) {
     PickBlock();
     kv::db::SetDatabaseFault([](std::string_view call) {
         return call == "step" && !kv::WindowSystem::Get().Modals().empty();
     });
-    Trigger("Export pick boundary...", {PressOk()});
+    for (const char* row : {"Export pick boundary...", "New from picked blocks..."}) {
+        failures.clear();
+        Trigger(row, {PressOk()});
+        EXPECT_THAT(boxes, testing::Contains(HasSubstr("Database error"))) << row;
+        EXPECT_THAT(failures, ElementsAre("The bounds of what was picked could not be read: "
+                                          "nothing is made of them."))
+            << row;
+    }
     kv::db::SetDatabaseFault(nullptr);
-    EXPECT_THAT(boxes, testing::Each(HasSubstr("Database error")));
-    EXPECT_THAT(failures, ElementsAre("The bounds of the picked blocks could not be read: there is "
-                                      "no boundary to save."));
+    EXPECT_FALSE(Document().map);
 }
 
 TEST_F(WorkbenchDocument, TheBoundaryAsGeoJsonIsOnTheDatumOfGeoJson) {

@@ -191,7 +191,9 @@ DocumentTools::Built DocumentTools::RunBuilder(CKvGuiQuickOffBldDlg& dialog, con
     if (!dialog.GetTermination()) return {};
     BuiltMap map{dialog.GetMapName(), dialog.GetBounds(), picks};
     map.bounds.SetScale(dialog.GetScale());
-    return map;
+    if (HasExtent(map)) return map;
+    host_.fail(tr("The bounds of what was picked could not be read: nothing is made of them."));
+    return {};
 }
 
 void DocumentTools::NewFromPicks() {
@@ -293,12 +295,6 @@ void DocumentTools::ExportBoundary() {
     dialog.SetXYBounded(false);
     const auto boundary = RunBuilder(dialog, picks);
     if (!boundary) return;
-    if (!MiddleOf(*boundary)) {
-        host_.fail(
-            tr("The bounds of the picked blocks could not be read: there is no boundary to "
-               "save."));
-        return;
-    }
     const CKvMapBounds& bounds = boundary->bounds;
     const std::vector<Place> corners = {{bounds.GetLatMin(), bounds.GetLonMin()},
                                         {bounds.GetLatMin(), bounds.GetLonMax()},

@@ -54,6 +54,14 @@ DriverPlane PlaneOf(const BuiltMap& map) {
             {map.bounds.GetRectifyingLat(), map.bounds.GetRectifyingLon()}};
 }
 
+bool HasExtent(const BuiltMap& map) {
+    const CKvMapBounds& bounds = map.bounds;
+    const bool angles =
+        bounds.GetLatMin() < bounds.GetLatMax() && bounds.GetLonMin() < bounds.GetLonMax();
+    const bool xy = bounds.GetXMin() < bounds.GetXMax() && bounds.GetYMin() < bounds.GetYMax();
+    return angles || xy;
+}
+
 std::optional<Place> MiddleOf(const BuiltMap& map) {
     const CKvMapBounds& bounds = map.bounds;
     if (!HasAngles(bounds)) return {};

@@ -14,6 +14,8 @@ namespace workbench {
 
 /// The projection and unit of its X and Y, with its own rectifying point.
 DriverPlane PlaneOf(const BuiltMap& map);
+/// Whether it has width and height, in degrees or in X and Y.
+bool HasExtent(const BuiltMap& map);
 /// None where it has no latitude and longitude.
 std::optional<Place> MiddleOf(const BuiltMap& map);
 
