@@ -1,9 +1,9 @@
 #include "workbench/dataset.h"
 
 #include "base/numbers.h"
-#include "base/text.h"
 #include "frame/kvcom/misc.h"
 #include "frame/kvdbkvn/db_dataset_set.h"
+#include "frame/kvdbkvn/sql_literal.h"
 
 namespace workbench {
 
@@ -13,7 +13,7 @@ std::string TableName(const std::string& suffix) {
 }
 
 std::string Quoted(const std::string& text) {
-    return "'" + kv::ReplaceAll(text, "'", "''") + "'";
+    return kv::db::SqlLiteral(text);
 }
 
 CKvDbInfo LoginInForce() {

@@ -89,6 +89,15 @@ protected:
         return {rows.Cell(0, 0), rows.Cell(0, 1), rows.Cell(0, 2),
                 rows.Cell(0, 3), rows.Cell(0, 4), {rows.Number(0, 5), rows.Number(0, 6)}};
     }
+    /// Shows a well with a comment of somebody on it.
+    Well ShowCommented(const std::string& text, const std::string& writer) {
+        OpenCopy();
+        MakeCommentTable();
+        Well well = SomeWell();
+        comments::Add(well.api, text, writer);
+        FindByApi(well.api);
+        return well;
+    }
     std::vector<std::string> CommentsShown() {
         std::vector<std::string> texts;
         QTableWidget& list = host->Well().CommentList();
@@ -331,11 +340,7 @@ TEST_F(WorkbenchRecords, ALoginThatFailsIsToldByTheDialogAlone) {
 }
 
 TEST_F(WorkbenchRecords, CommentsThatCannotBeReadAreNotSaidToHaveNoTable) {
-    OpenCopy();
-    MakeCommentTable();
-    const Well well = SomeWell();
-    comments::Add(well.api, "theirs", "you");
-    FindByApi(well.api);
+    const Well well = ShowCommented("theirs", "you");
     WellPane& pane = host->Well();
     kv::db::SetDatabaseFault([](std::string_view call) { return call == "step"; });
     QTest::mouseClick(&pane.RefreshButton(), Qt::LeftButton);
@@ -415,11 +420,7 @@ TEST_F(WorkbenchRecords, NoMoreCanBeTypedThanACommentHolds) {
 }
 
 TEST_F(WorkbenchRecords, WhoComesSecondIsToldAndKeepsWhatTheyTyped) {
-    OpenCopy();
-    MakeCommentTable();
-    const Well well = SomeWell();
-    comments::Add(well.api, "first", "me");
-    FindByApi(well.api);
+    const Well well = ShowCommented("first", "me");
     WellPane& pane = host->Well();
     pane.CommentList().selectRow(0);
     ASSERT_TRUE(comments::Change(well.api, comments::Of(well.api).front(), "theirs", "you"));
@@ -431,11 +432,7 @@ TEST_F(WorkbenchRecords, WhoComesSecondIsToldAndKeepsWhatTheyTyped) {
 }
 
 TEST_F(WorkbenchRecords, WhatIsTypedOutlivesTheChoiceOfAnotherCommentAndOfAnotherWell) {
-    OpenCopy();
-    MakeCommentTable();
-    const Well well = SomeWell();
-    comments::Add(well.api, "theirs", "you");
-    FindByApi(well.api);
+    const Well well = ShowCommented("theirs", "you");
     WellPane& pane = host->Well();
     TypeComment("mine");
     pane.CommentList().selectRow(0);

@@ -200,12 +200,18 @@ TEST_F(QuickOffBldDlg, AnAllPickForcesItsModeWhateverWasSet) {
     EXPECT_FALSE(dialog.GetBounds().GetPickOneFlag());
 }
 
-TEST_F(QuickOffBldDlg, AWindowWithoutPicksKeepsTheBoundsThatItWasGiven) {
+/// The bounds of a window that holds no picks.
+CKvMapBounds OneDegree() {
     CKvMapBounds map;
     map.SetLatMin(27);
     map.SetLatMax(28);
     map.SetLonMin(-91);
     map.SetLonMax(-90);
+    return map;
+}
+
+TEST_F(QuickOffBldDlg, AWindowWithoutPicksKeepsTheBoundsThatItWasGiven) {
+    CKvMapBounds map = OneDegree();
     dialog.ResetABEVec();
     dialog.SetMode(0, 0, 1);
     dialog.SetProj(115);
@@ -440,11 +446,7 @@ TEST_F(QuickOffBldDlg, BoundsOfPicksHaveNoHeightAndNoDepth) {
 class QuickOffBldDlgWindow : public QuickOffBldDlg {
 protected:
     QuickOffBldDlgWindow() {
-        CKvMapBounds map;
-        map.SetLatMin(27);
-        map.SetLatMax(28);
-        map.SetLonMin(-91);
-        map.SetLonMax(-90);
+        CKvMapBounds map = OneDegree();
         dialog.ResetABEVec();
         dialog.SetMode(0, 0, 1);
         dialog.SetProj(199);
