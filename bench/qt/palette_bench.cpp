@@ -1,5 +1,6 @@
 // Opening the palette of all 256 colors beside as many plain widgets of Qt's.
 
+#include <QAccessible>
 #include <QApplication>
 #include <QDialog>
 #include <QLabel>
@@ -14,10 +15,6 @@
 namespace {
 
 constexpr RECT kSwatch{100, 100, 160, 120};
-constexpr QSize kCell(25, 25);
-constexpr QSize kPitch(30, 37);
-constexpr int kTop = 40;
-
 class Palette : public CKvColorPaletteDlg {
 public:
     Palette() : CKvColorPaletteDlg(kSwatch, nullptr, true) { SetValue(6); }
@@ -35,34 +32,53 @@ void OpenOurs(benchmark::State& state) {
     }
 }
 
-/// A cell and its number, or, of the short list, both hidden.
-void MakeCell(QDialog& dialog, int number, const QPoint& at, bool visible) {
-    auto* cell = new QPushButton(&dialog);
-    cell->setGeometry(QRect(at, kCell));
-    cell->setAccessibleName(QString::number(number));
-    auto* label = new QLabel(QString::number(number), &dialog);
-    label->setGeometry(QRect(at + QPoint(0, kCell.height()), QSize(kPitch.width(), 12)));
-    for (QWidget* widget : {static_cast<QWidget*>(cell), static_cast<QWidget*>(label)})
-        widget->setVisible(visible);
+struct Piece {
+    QRect place;
+    QString text;
+    QString name;
+    bool label = false;
+    bool visible = true;
+};
+
+struct Picture {
+    QSize size;
+    std::vector<Piece> pieces;
+};
+
+/// What stands where in the palette.
+Picture Look() {
+    InitControlDll();
+    const kv::qt::QtDesktop desktop;
+    Palette palette;
+    palette.Create(kv::palettes::kColorFillPalette);
+    Picture picture{kv::qt::WidgetOf(*palette.m_hWnd)->size(), {}};
+    for (const auto& child : palette.m_hWnd->Children()) {
+        QWidget* widget = kv::qt::WidgetOf(*child);
+        const auto* reader = QAccessible::queryAccessibleInterface(widget);
+        picture.pieces.push_back({widget->geometry(), QString::fromStdString(child->Text()),
+                                  reader->text(QAccessible::Name),
+                                  child->Class() == kv::NodeClass::kStatic, child->Visible()});
+    }
+    palette.DestroyWindow();
+    return picture;
 }
 
 void OpenPeer(benchmark::State& state) {
-    using namespace kv::palettes;
-    const auto place = [](int number, int across) {
-        return QPoint(5 + number % across * kPitch.width(),
-                      kTop + number / across * kPitch.height());
-    };
+    static const Picture picture = Look();
     for (auto _ : state) {
         const auto dialog = std::make_unique<QDialog>();
-        dialog->setFixedSize(10 + kGridAcross * kPitch.width(),
-                             kTop + kGridCells / kGridAcross * kPitch.height());
-        auto* header = new QLabel(QStringLiteral("CURRENT COLOR"), dialog.get());
-        header->setGeometry(5, 5, 300, 20);
-        (new QPushButton(QStringLiteral("More..."), dialog.get()))->hide();
-        for (int i = 0; i < kShortCells; ++i)
-            MakeCell(*dialog, i, place(i, kShortAcross), false);
-        for (int i = 0; i < kGridCells; ++i)
-            MakeCell(*dialog, i, place(i, kGridAcross), true);
+        dialog->setFixedSize(picture.size);
+        for (const Piece& piece : picture.pieces) {
+            QWidget* widget = nullptr;
+            if (piece.label) {
+                widget = new QLabel(piece.text, dialog.get());
+            } else {
+                widget = new QPushButton(piece.text, dialog.get());
+                widget->setAccessibleName(piece.name);
+            }
+            widget->setGeometry(piece.place);
+            widget->setVisible(piece.visible);
+        }
         dialog->show();
         QApplication::processEvents();
     }

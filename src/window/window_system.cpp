@@ -150,7 +150,10 @@ void WindowSystem::Destroy(Node& node) {
     Guarded([&] { heir = HeirOfFocus(node); });
     const bool inParent = node.parent_ != nullptr;
     // Off the screen as a whole, and not control by control.
-    if (node.Class() == NodeClass::kDialog) Guarded([&] { node.SetVisible(false); });
+    if (node.Class() == NodeClass::kDialog) {
+        Guarded([&] { node.SetVisible(false); });
+        node.view_.reset();
+    }
     Release(node);
     TakeOut(node);
 

@@ -1,5 +1,4 @@
 #include <QAbstractButton>
-#include <QLabel>
 #include <QProxyStyle>
 #include <QStyleFactory>
 #include <map>
@@ -128,8 +127,8 @@ TEST_F(ButtonView, RadioButtonsGoRoundByArrowsAndClicks) {
 TEST_F(ButtonView, TextsKeepTheirAmpersandsApart) {
     Show({At(20, kPushButton, 24, "Save && &Exit"), At(22, kLabel, 41, "Lat && &Lon")});
     EXPECT_EQ(Button(20)->text(), "Save && Exit");
-    EXPECT_EQ(Button(20)->accessibleName(), "Save & Exit");
-    EXPECT_EQ(WidgetOf<QLabel>(22)->text(), "Lat & Lon");
+    EXPECT_EQ(test::NameOf(Button(20)), "Save & Exit");
+    EXPECT_EQ(test::NameOf(WidgetOf(22)), "Lat & Lon");
     dialog.SetDlgItemText(20, "&Quit");
     EXPECT_EQ(Button(20)->text(), "Quit");
 }
@@ -188,7 +187,7 @@ TEST_F(ButtonView, AltThatIsReleasedInAnotherWindowIsHeldNoMore) {
 TEST_F(ButtonView, ACheckBoxWithoutATextGoesByItsToolTip) {
     Show({{21, kCheckBox, "", {7, 24, 10, 10}, {}, "Take the list from a file"},
           {20, kPushButton, "&File...", {20, 22, 50, 14}}});
-    EXPECT_EQ(Button(21)->accessibleName(), "Take the list from a file");
+    EXPECT_EQ(test::NameOf(Button(21)), "Take the list from a file");
     EXPECT_EQ(Button(21)->toolTip(), "Take the list from a file");
     EXPECT_EQ(Button(20)->toolTip(), "");
 }
@@ -198,10 +197,10 @@ TEST_F(ButtonView, WithoutATextGoesByWhatStandsBesideIt) {
           {21, kCheckBox, "", {7, 24, 10, 10}},
           {20, kPushButton, "&File...", {20, 22, 50, 14}},
           {50, kOwnerDrawButton, "", {7, 50, 20, 14}}});
-    EXPECT_EQ(Button(21)->accessibleName(), "File...");
-    EXPECT_EQ(Button(50)->accessibleName(), "Selected") << "there is none beside it";
+    EXPECT_EQ(test::NameOf(Button(21)), "File...");
+    EXPECT_EQ(test::NameOf(Button(50)), "Selected") << "there is none beside it";
     dialog.SetDlgItemText(20, "&List...");
-    EXPECT_EQ(Button(21)->accessibleName(), "List...");
+    EXPECT_EQ(test::NameOf(Button(21)), "List...");
 }
 
 }  // namespace

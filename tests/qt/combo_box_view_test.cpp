@@ -125,17 +125,17 @@ TEST_F(ComboView, ANameOfItsOwnIsReadOutForAllItsParts) {
         std::string name;
     } box;
     box.SubclassDlgItem(kEditable, &dialog);
-    ASSERT_NE(Box(kEditable)->accessibleName(), "Area, by name");
+    ASSERT_NE(test::NameOf(Box(kEditable)), "Area, by name");
     box.name = "Area, by name";
     NodeOf(kEditable).SetToolTip("Areas by name");
-    EXPECT_EQ(Box(kEditable)->accessibleName(), "Area, by name");
-    EXPECT_EQ(Line()->accessibleName(), "Area, by name");
+    EXPECT_EQ(test::NameOf(Box(kEditable)), "Area, by name");
+    EXPECT_EQ(test::NameOf(Line()), "Area, by name");
     ClickArrow(kEditable);
     EXPECT_EQ(Popup()->accessibleName(), "Area, by name");
     QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
     box.name.clear();
     NodeOf(kEditable).SetToolTip("");
-    EXPECT_NE(Line()->accessibleName(), "Area, by name");
+    EXPECT_NE(test::NameOf(Line()), "Area, by name");
 }
 
 TEST_F(ComboView, TypingInADropListFindsARow) {
@@ -205,7 +205,7 @@ TEST_F(SimpleComboView, ShowsEditAndRowsOneBelowTheOther) {
     EXPECT_TRUE(Rows()->isVisible());
     EXPECT_EQ(Rows()->model()->rowCount(), 3);
     EXPECT_FALSE(Line()->geometry().intersects(Rows()->geometry()));
-    EXPECT_FALSE(Line()->accessibleName().isEmpty());
+    EXPECT_FALSE(test::NameOf(Line()).isEmpty());
 }
 
 TEST_F(SimpleComboView, AClickedRowComesIntoItsEditAndIsToldOnce) {

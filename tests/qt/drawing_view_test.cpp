@@ -2,7 +2,6 @@
 
 #include <QDir>
 #include <QImage>
-#include <QLabel>
 #include <QScreen>
 
 #include "controls/static.h"
@@ -193,18 +192,18 @@ TEST_F(DrawingView, APaletteLargerThanTheScreenScrollsToTheCellThatTheArrowsReac
 
 TEST_F(DrawingView, ASwatchIsReadOutByItsLabelAndTellsItsColor) {
     ShowSwatch();
-    EXPECT_EQ(WidgetOf(11)->accessibleName(), QStringLiteral("Color"));
+    EXPECT_EQ(test::NameOf(WidgetOf(11)), QStringLiteral("Color"));
     EXPECT_EQ(WidgetOf(11)->toolTip(), QStringLiteral("Color 10, red"));
     swatch.SetEventType(E_EVENT_CELL);
     swatch.SetChange(0);
-    EXPECT_EQ(WidgetOf(11)->accessibleName(), QStringLiteral("Color 1, black"));
+    EXPECT_EQ(test::NameOf(WidgetOf(11)), QStringLiteral("Color 1, black"));
 }
 
 TEST_F(DrawingView, TheListOfVerticesGoesByWhatItsRowsAre) {
     CKvGuiVerticeBuilder builder;
     ASSERT_TRUE(builder.Create(kv::vertice_builder::kTemplate));
-    const QWidget* list = kv::qt::WidgetOf(*builder.m_hWnd->FindChild(kv::vertice_builder::kRows));
-    EXPECT_EQ(list->accessibleName(), QStringLiteral("Vertices"));
+    QWidget* list = kv::qt::WidgetOf(*builder.m_hWnd->FindChild(kv::vertice_builder::kRows));
+    EXPECT_EQ(test::NameOf(list), QStringLiteral("Vertices"));
     builder.DestroyWindow();
 }
 
@@ -213,7 +212,7 @@ TEST_F(DrawingView, AControlThatJoinsItsLabelLaterGoesByIt) {
     CEdit edit;
     ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE, {60, 10, 100, 30}, &dialog, 30));
     Process();
-    EXPECT_EQ(WidgetOf(30)->accessibleName(), QStringLiteral("Depth"));
+    EXPECT_EQ(test::NameOf(WidgetOf(30)), QStringLiteral("Depth"));
 }
 
 }  // namespace

@@ -234,9 +234,9 @@ TEST_F(EditView, ToolsThatSetTheWidgetsTextChangeTheNode) {
 
 TEST_F(EditView, GoesByTheLabelAheadOfIt) {
     Show({At(10, kLabel, 7, "&Company name:"), At(11, kEdit, 24)});
-    EXPECT_EQ(Line(11)->accessibleName(), "Company name");
+    EXPECT_EQ(test::NameOf(Line(11)), "Company name");
     dialog.SetDlgItemText(10, "Operator");
-    EXPECT_EQ(Line(11)->accessibleName(), "Operator");
+    EXPECT_EQ(test::NameOf(Line(11)), "Operator");
 }
 
 }  // namespace

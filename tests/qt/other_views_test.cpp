@@ -85,7 +85,7 @@ TEST_F(SmallViews, ASpinButtonsArrowsHaveNames) {
     Show({{10, kLabel, "Scale:", {7, 7, 30, 8}},
           {11, kEdit, "5", {40, 7, 40, 12}},
           {42, kSpin, "", {80, 7, 10, 12}, {UDS_AUTOBUDDY, 0}}});
-    EXPECT_EQ(WidgetOf(42)->accessibleName(), "Scale");
+    EXPECT_EQ(test::NameOf(WidgetOf(42)), "Scale");
     for (const QToolButton* arrow : WidgetOf(42)->findChildren<QToolButton*>())
         EXPECT_FALSE(arrow->accessibleName().isEmpty());
 }

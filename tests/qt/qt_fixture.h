@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QLineEdit>
 #include <QTest>
@@ -17,6 +18,11 @@
 #include "window/window_system.h"
 
 namespace test {
+
+/// What a screen reader calls the widget.
+inline QString NameOf(QWidget* widget) {
+    return QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name);
+}
 
 /// It keeps what comes by WM_NOTIFY, too.
 class NoticingDialog : public RecordingDialog {

@@ -415,11 +415,12 @@ TEST_F(Windows, ALabelsMnemonicReachesTheControlBehindIt) {
 
 TEST_F(Windows, ALabelShowsWhatItIsToldAnew) {
     Show({At(11, kEdit, 7), At(10, kLabel, 24, "short")});
-    const QWidget* label = test::QtDialogTest::WidgetOf(10);
+    QWidget* label = test::QtDialogTest::WidgetOf(10);
     const int before = label->width();
+    const QImage drawn = label->grab().toImage();
     dialog.SetDlgItemText(10, "a much longer text than there was room for here & there");
-    EXPECT_EQ(static_cast<const QLabel*>(label)->text(),
-              "a much longer text than there was room for here  there");
+    EXPECT_EQ(test::NameOf(label), "a much longer text than there was room for here  there");
+    EXPECT_NE(label->grab(QRect(QPoint(0, 0), drawn.size())).toImage(), drawn);
     EXPECT_GT(label->width(), before) << "it takes the free place behind it";
     dialog.GetDlgItem(10)->ShowWindow(SW_HIDE);
     EXPECT_FALSE(label->isVisible());

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 #include <optional>
+#include <vector>
 
 #include "qt/drawing/text.h"
 
@@ -28,6 +29,25 @@ Scale Measure(const QFont& font) {
     const QString letters = QStringLiteral("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz");
     const double width = metrics.horizontalAdvance(letters) / static_cast<double>(letters.size());
     return {std::max(width, 1.0) / kBaseUnitX, std::max(metrics.height(), 1.0) / kBaseUnitY};
+}
+
+struct MadeFont {
+    Font font;
+    QFont made;
+};
+constexpr std::size_t kKeptFonts = 16;
+std::vector<MadeFont> g_fonts;
+
+QFont Make(const Font& font) {
+    QFont made = QApplication::font();
+    if (!font.face.empty()) made.setFamily(ToQString(font.face));
+    if (font.height != static_cast<int>(kBaseUnitY)) {
+        const double pixels = QFontInfo(made).pixelSize() * font.height / kBaseUnitY;
+        made.setPixelSize(std::max(1, Round(pixels)));
+    }
+    made.setBold(font.bold);
+    made.setItalic(font.italic);
+    return made;
 }
 
 }  // namespace
@@ -67,18 +87,15 @@ Scale CurrentScale() {
 
 void ForgetScale() {
     g_scale.reset();
+    g_fonts.clear();
 }
 
 QFont ToQFont(const Font& font) {
-    QFont made = QApplication::font();
-    if (!font.face.empty()) made.setFamily(ToQString(font.face));
-    if (font.height != static_cast<int>(kBaseUnitY)) {
-        const double pixels = QFontInfo(made).pixelSize() * font.height / kBaseUnitY;
-        made.setPixelSize(std::max(1, Round(pixels)));
-    }
-    made.setBold(font.bold);
-    made.setItalic(font.italic);
-    return made;
+    // A copy of a font has what is known of it, which takes long to find out.
+    const auto known = std::ranges::find(g_fonts, font, &MadeFont::font);
+    if (known != g_fonts.end()) return known->made;
+    if (g_fonts.size() == kKeptFonts) g_fonts.clear();
+    return g_fonts.emplace_back(font, Make(font)).made;
 }
 
 }  // namespace kv::qt

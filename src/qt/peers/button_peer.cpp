@@ -170,6 +170,7 @@ void ButtonPeer::ShowCheck() {
 
 void ButtonPeer::ShowImage() {
     const auto image = static_cast<int>(Button().Image());
+    if (image == 0 && View()->icon().isNull()) return;
     const QPixmap pixmap = PixmapOf(image);
     if (!pixmap.isNull())
         View()->setIconSize(CurrentScale().ToScreen(CSize{pixmap.width(), pixmap.height()}));

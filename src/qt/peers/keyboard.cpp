@@ -124,57 +124,26 @@ void HandleKey(const QKeyEvent& event, Node& root) {
 
 bool g_altHeld = false;
 
-/// Belongs to the widget whose keys it takes.
-class KeyFilter : public QObject {
-public:
-    KeyFilter(QWidget* widget, Node& node) : QObject(widget), node_(node.weak_from_this()) {}
-
-    bool eventFilter(QObject*, QEvent* event) override {
-        const auto type = event->type();
-        if (type != QEvent::KeyPress && type != QEvent::ShortcutOverride &&
-            type != QEvent::KeyRelease && type != QEvent::InputMethod) {
-            return false;
-        }
-        const auto node = node_.lock();
-        if (!node || !node->GetView()) return false;
-        Node& root = *node->Root();
-        if (IsHosts(*node, root)) return false;
-        if (type == QEvent::InputMethod)
-            return Commit(static_cast<QInputMethodEvent&>(*event), root);
-        auto& key = static_cast<QKeyEvent&>(*event);
-        if (!IsForControls(key, root)) return TakeMnemonic(key, root);
-        event->accept();
-        if (type == QEvent::KeyPress) {
-            Act(root.weak_from_this(), [&](Node& window) { HandleKey(key, window); });
-        }
-        return true;
+/// A mnemonic of the bar's own controls comes ahead of those of the host's menus.
+bool TakeMnemonic(QKeyEvent& event, Node& root) {
+    const Modifiers modifiers = ToModifiers(event.modifiers());
+    const bool mnemonic = modifiers.alt && !modifiers.ctrl && IsLetterOrDigit(event.key());
+    bool taken = false;
+    if (mnemonic && event.type() == QEvent::ShortcutOverride && HasLayersFocus(root)) {
+        Act(root.weak_from_this(), [&](Node&) { taken = input::PressKey(event.key(), modifiers); });
     }
+    if (taken) event.accept();
+    return taken;
+}
 
-private:
-    /// A mnemonic of the bar's own controls comes ahead of those of the host's menus.
-    static bool TakeMnemonic(QKeyEvent& event, Node& root) {
-        const Modifiers modifiers = ToModifiers(event.modifiers());
-        const bool mnemonic = modifiers.alt && !modifiers.ctrl && IsLetterOrDigit(event.key());
-        bool taken = false;
-        if (mnemonic && event.type() == QEvent::ShortcutOverride && HasLayersFocus(root)) {
-            Act(root.weak_from_this(),
-                [&](Node&) { taken = input::PressKey(event.key(), modifiers); });
-        }
-        if (taken) event.accept();
-        return taken;
-    }
-
-    static bool Commit(const QInputMethodEvent& event, Node& root) {
-        if (event.commitString().isEmpty()) return false;
-        Act(root.weak_from_this(), [&](Node& window) {
-            if (!HasLayersFocus(window)) input::Activate(window);
-            input::TypeHere(ToBytes(event.commitString()));
-        });
-        return true;
-    }
-
-    std::weak_ptr<Node> node_;
-};
+bool Commit(const QInputMethodEvent& event, Node& root) {
+    if (event.commitString().isEmpty()) return false;
+    Act(root.weak_from_this(), [&](Node& window) {
+        if (!HasLayersFocus(window)) input::Activate(window);
+        input::TypeHere(ToBytes(event.commitString()));
+    });
+    return true;
+}
 
 }  // namespace
 
@@ -198,8 +167,26 @@ QString ShownText(const Node& node) {
     return ToQString(g_altHeld ? MarkedText(node) : node.Text());
 }
 
-void TakeKeysOf(QWidget* widget, Node& node) {
-    widget->installEventFilter(new KeyFilter(widget, node));
+bool IsOfKeyboard(const QEvent& event) {
+    const auto type = event.type();
+    return type == QEvent::KeyPress || type == QEvent::ShortcutOverride ||
+           type == QEvent::KeyRelease || type == QEvent::InputMethod;
+}
+
+bool TakeKey(QEvent& event, Node& node) {
+    const auto keep = node.shared_from_this();
+    Node& root = *node.Root();
+    if (IsHosts(node, root)) return false;
+    if (event.type() == QEvent::InputMethod) {
+        return Commit(static_cast<QInputMethodEvent&>(event), root);
+    }
+    auto& key = static_cast<QKeyEvent&>(event);
+    if (!IsForControls(key, root)) return TakeMnemonic(key, root);
+    event.accept();
+    if (event.type() == QEvent::KeyPress) {
+        Act(root.weak_from_this(), [&](Node& window) { HandleKey(key, window); });
+    }
+    return true;
 }
 
 }  // namespace kv::qt

@@ -7,9 +7,11 @@
 
 namespace kv::qt {
 
-/// From now on the keys that reach the widget go to the layer: to what has the focus in the window
-/// around `node`, as long as that lives.
-void TakeKeysOf(QWidget* widget, Node& node);
+/// Whether it is a key, or a text that an input method makes of keys.
+bool IsOfKeyboard(const QEvent& event);
+/// A key that reaches the widget of a control goes to the layer: to what has the focus in the
+/// window around `node`. False where it is the host's own.
+bool TakeKey(QEvent& event, Node& node);
 
 Modifiers ToModifiers(Qt::KeyboardModifiers modifiers);
 

@@ -1,9 +1,8 @@
 #include "qt/peers/peer.h"
 
-#include <QAbstractButton>
 #include <QAccessible>
+#include <QCoreApplication>
 #include <QHash>
-#include <QLabel>
 #include <algorithm>
 
 #include "qt/drawing/colors.h"
@@ -29,18 +28,48 @@ bool IsGroupBox(const Node& node) {
     return node.Class() == NodeClass::kButton && (node.Style() & BS_TYPEMASK) == BS_GROUPBOX;
 }
 
+/// Whether its accessible interface is the platform's own.
+bool GoesByItsWidget(const Node& node) {
+    const NodeClass kind = node.Class();
+    return kind == NodeClass::kFrame || kind == NodeClass::kBar || kind == NodeClass::kToolBar ||
+           kind == NodeClass::kOther;
+}
+
 /// Some widgets become known to screen readers while they are being made, as the platform's own;
 /// also before one listens. To look whether one did would make it known.
-void ForgetInterfaceOf(QWidget* widget) {
-    if (qobject_cast<QLabel*>(widget) || qobject_cast<QAbstractButton*>(widget)) return;
+void ForgetInterfaceOf(QWidget* widget, NodeClass kind) {
+    if (kind == NodeClass::kStatic || kind == NodeClass::kButton) return;
     QAccessibleInterface* early = QAccessible::queryAccessibleInterface(widget);
     if (early) QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(early));
+}
+
+/// One for the widgets of all peers.
+class KeyFilter : public QObject {
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (!IsOfKeyboard(*event)) return false;
+        Peer* peer = Peers().value(static_cast<QWidget*>(watched));
+        return peer && TakeKey(*event, peer->GetNode());
+    }
+};
+
+void FilterKeysOf(QWidget* widget) {
+    static QPointer<KeyFilter> filter;
+    if (!filter) filter = new KeyFilter(QCoreApplication::instance());
+    widget->installEventFilter(filter);
+}
+
+/// What lies in a window that has left goes with it.
+bool GoesWithItsWindow(const Node& node) {
+    return node.Parent() && !node.Parent()->GetView();
 }
 
 }  // namespace
 
 Peer::Peer(Node& node, QWidget* widget) : node_(node), widget_(widget) {
-    ForgetInterfaceOf(widget);
+    ForgetInterfaceOf(widget, node.Class());
     AddWidget(*this, widget);
     widget->setFocusPolicy(Qt::NoFocus);
 }
@@ -49,7 +78,7 @@ Peer::~Peer() {
     for (const QWidget* widget : widgets_) {
         if (Peers().value(widget) == this) Peers().remove(widget);
     }
-    if (widget_) LetGo(widget_);
+    if (widget_ && !GoesWithItsWindow(node_)) LetGo(widget_);
     if (!node_.Parent()) SettleSoon();
 }
 
@@ -67,7 +96,7 @@ Peer* PeerOf(const Node& node) {
 void AddWidget(Peer& peer, QWidget* widget) {
     Peers().insert(widget, &peer);
     peer.widgets_.push_back(widget);
-    TakeKeysOf(widget, peer.GetNode());
+    FilterKeysOf(widget);
 }
 
 void Peer::ShowAll() {
@@ -76,7 +105,7 @@ void Peer::ShowAll() {
     ShowRect();
     ShowEnabled();
     ShowColors();
-    ShowOwnName();
+    if (GoesByItsWidget(node_)) ShowOwnName();
     if (node_.OwnFont()) ShowFont();
     if (!node_.ToolTip().empty()) ShowToolTip();
     if (ChildHost()) MakeChildren();
@@ -167,7 +196,11 @@ void Peer::ShowLabels() {
 }
 
 void Peer::ShowVisible() {
-    widget_->setVisible(node_.Visible());
+    // What nobody hid comes on the screen with the window around it.
+    const QWidget* around = widget_->parentWidget();
+    const bool comes =
+        around && !around->isVisible() && !widget_->testAttribute(Qt::WA_WState_ExplicitShowHide);
+    if (!comes || !node_.Visible()) widget_->setVisible(node_.Visible());
 }
 
 void Peer::ShowFont() {
@@ -250,8 +283,14 @@ void Peer::ShowNameWithParts() {
     }
 }
 
+/// A reader that asks a control for its name has it from the node.
 void Peer::ShowOwnName() {
-    widget_->setAccessibleName(AccessibleName(node_));
+    if (GoesByItsWidget(node_)) {
+        widget_->setAccessibleName(AccessibleName(node_));
+    } else if (QAccessible::isActive()) {
+        QAccessibleEvent event(widget_, QAccessible::NameChanged);
+        QAccessible::updateAccessibility(&event);
+    }
 }
 
 void Peer::ShowName() {
@@ -261,9 +300,7 @@ void Peer::ShowName() {
     for (const auto& sibling : node_.Parent()->Children()) {
         const bool ownText = ShowsOwnText(*sibling) && !sibling->Text().empty();
         Peer* peer = ownText ? nullptr : PeerOf(*sibling);
-        if (peer && peer->Widget()) {
-            peer->Widget()->setAccessibleName(AccessibleName(*sibling));
-        }
+        if (peer && peer->Widget()) peer->ShowOwnName();
     }
 }
 

@@ -32,7 +32,7 @@ public:
 
     virtual void ShowRect();
     void ShowColors();
-    void ShowOwnName();
+    /// Lets screen readers know that the control goes by another name.
     void ShowName();
     /// Where a picture of all of it is taken.
     virtual QWidget* Picture() { return widget_; }
@@ -58,6 +58,7 @@ protected:
 
 private:
     friend void AddWidget(Peer& peer, QWidget* widget);
+    void ShowOwnName();
     void ShowNameWithParts();
     void ShowOrder();
 

@@ -4,6 +4,7 @@
 #include <QMenu>
 #include <QPainter>
 #include <QStyle>
+#include <QStyleOption>
 #include <algorithm>
 
 #include "qt/drawing/paint.h"
@@ -51,21 +52,26 @@ bool IsPicture(const Node& node) {
 /// How much narrower a text that finds no room may be drawn before it is cut.
 constexpr double kLeastStretch = 0.8;
 
-class LabelView : public QLabel {
+class LabelView : public QWidget {
 public:
-    LabelView(Node& node, QWidget* host) : QLabel(host), node_(node.weak_from_this()) {}
+    LabelView(Node& node, QWidget* host) : QWidget(host), node_(node.weak_from_this()) {}
+
+    void SetPicture(const QPixmap& picture) {
+        picture_ = picture;
+        update();
+    }
 
 protected:
-    void paintEvent(QPaintEvent* event) override {
+    void paintEvent(QPaintEvent*) override {
         const auto node = node_.lock();
         if (!node) return;
         if (PaintByLayer(*this, *node, IsOwnerDrawn(*node) ? node->Rect().Width() : 0)) return;
-        if (IsPicture(*node)) {
-            QLabel::paintEvent(event);
-            return;
-        }
         QPainter painter(this);
-        PaintText(painter, *node);
+        if (IsPicture(*node)) {
+            PaintPicture(painter);
+        } else {
+            PaintText(painter, *node);
+        }
     }
 
     void contextMenuEvent(QContextMenuEvent* event) override {
@@ -82,6 +88,15 @@ protected:
     }
 
 private:
+    void PaintPicture(QPainter& painter) {
+        QStyleOption option;
+        option.initFrom(this);
+        const QPixmap shown =
+            isEnabled() ? picture_
+                        : style()->generatedIconPixmap(QIcon::Disabled, picture_, &option);
+        style()->drawItemPixmap(&painter, rect(), Qt::AlignCenter, shown);
+    }
+
     /// A label as high as several lines breaks its text; in one of a single line it stands in the
     /// middle, as the text of the edit beside it does.
     void PaintText(QPainter& painter, const Node& node) {
@@ -110,6 +125,7 @@ private:
     }
 
     std::weak_ptr<Node> node_;
+    QPixmap picture_;
 };
 
 }  // namespace
@@ -118,43 +134,38 @@ StaticPeer::StaticPeer(StaticNode& node, QWidget* host) : Peer(node, new LabelVi
 
 void StaticPeer::Changed(Change change) {
     Peer::Changed(change);
+    if (!Widget()) return;
     if (change == Change::kImage) ShowStyle();
+    if (change == Change::kText || change == Change::kStyle) ShowRect();
 }
 
 /// A text that is wider in the platform's font than in the layer's takes the free space behind it.
 void StaticPeer::ShowRect() {
-    Peer::ShowRect();
     const Node& node = GetNode();
-    const QRect place = Widget()->geometry();
+    QRect place = CurrentScale().ToScreen(node.Rect());
     if (IsOwnerDrawn(node)) {
-        Widget()->setGeometry(place.adjusted(-place.width(), 0, place.width(), 0));
-        return;
+        place.adjust(-place.width(), 0, place.width(), 0);
+    } else if (!IsPicture(node) && (node.Style() & SS_TYPEMASK) == SS_LEFT) {
+        const QFontMetrics metrics = Widget()->fontMetrics();
+        const QSize wanted = metrics.size(Qt::TextShowMnemonic, ToQString(node.Text()));
+        const bool singleLine = place.height() < 2 * metrics.lineSpacing() - 2;
+        if (singleLine && wanted.width() >= place.width() && node.Parent()) {
+            place.setWidth(std::max(place.width(), std::min(wanted.width() + 1, FreeWidth(node))));
+        }
     }
-    const int wanted =
-        Widget()->fontMetrics().size(Qt::TextShowMnemonic, ToQString(node.Text())).width() + 1;
-    const bool growable = !IsPicture(node) && (node.Style() & SS_TYPEMASK) == SS_LEFT &&
-                          place.height() < 2 * Widget()->fontMetrics().lineSpacing() - 2;
-    if (!growable || wanted <= place.width() || !node.Parent()) return;
-    const int grown = std::max(place.width(), std::min(wanted, FreeWidth(node)));
-    Widget()->resize(grown, place.height());
+    Widget()->setGeometry(place);
 }
 
 void StaticPeer::ShowText() {
-    ShowRect();
-    auto* label = static_cast<QLabel*>(Widget());
-    if (!IsPicture(GetNode())) label->setText(PlainText(GetNode().Text()));
+    Widget()->update();
 }
 
 void StaticPeer::ShowStyle() {
-    auto* label = static_cast<QLabel*>(Widget());
-    label->setTextFormat(Qt::PlainText);
     // What it reaches over is another control's, and so are the clicks there.
-    label->setAttribute(Qt::WA_TransparentForMouseEvents, IsOwnerDrawn(GetNode()));
-    if (IsOwnerDrawn(GetNode())) ShowRect();
+    Widget()->setAttribute(Qt::WA_TransparentForMouseEvents, IsOwnerDrawn(GetNode()));
     if (!IsPicture(GetNode())) return;
     const auto image = static_cast<int>(static_cast<StaticNode&>(GetNode()).Image());
-    label->setPixmap(PixmapOf(image));
-    label->setAlignment(Qt::AlignCenter);
+    static_cast<LabelView*>(Widget())->SetPicture(PixmapOf(image));
 }
 
 }  // namespace kv::qt

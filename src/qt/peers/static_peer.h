@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QLabel>
+#include <QWidget>
 
 #include "qt/peers/peer.h"
 #include "window/controls/static_node.h"

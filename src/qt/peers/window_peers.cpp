@@ -46,10 +46,12 @@ void ComeUp(const Node& node, QWidget& window) {
     if (WindowSystem::Get().ActiveWindow() == &node) window.activateWindow();
 }
 
-/// Scrolls to the control that a widget is a part of.
+/// Scrolls to the control that a widget is a part of. Where a window goes, its focus goes nowhere:
+/// the area may be half gone by then.
 void BringIntoView(QScrollArea& area, const QWidget* widget) {
+    if (!widget) return;
     const QWidget* body = area.widget();
-    if (!widget || !body->isAncestorOf(widget)) return;
+    if (!body->isAncestorOf(widget)) return;
     while (widget->parentWidget() != body)
         widget = widget->parentWidget();
     const QRect place = widget->geometry();

@@ -391,10 +391,10 @@ BOOL CDC::TextOut(int x, int y, const CString& text) {
 /// its mnemonic.
 void CDC::DrawLine(const TextLine& line, CPoint at) {
     kv::Surface* surface = Ready();
-    if (!surface) return;
-    const kv::TextSize size = Measure(line.text);
+    if (!surface || line.text.empty()) return;
     const CPoint place = Place(at);
     if (state_.backMode == OPAQUE) {
+        const kv::TextSize size = Measure(line.text);
         surface->Fill({place.x, place.y, place.x + size.width, place.y + size.height},
                       state_.backColor);
     }
@@ -402,7 +402,7 @@ void CDC::DrawLine(const TextLine& line, CPoint at) {
     if (line.mnemonic >= line.text.size()) return;
     const int left = place.x + Measure(line.text.substr(0, line.mnemonic)).width;
     const int width = Measure(line.text.substr(line.mnemonic, 1)).width - 1;
-    const int top = place.y + size.ascent + 1;
+    const int top = place.y + Measure(line.text).ascent + 1;
     surface->Fill({left, top, left + width, top + 1}, state_.textColor);
 }
 
