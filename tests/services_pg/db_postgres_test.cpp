@@ -7,6 +7,7 @@
 
 #include "frame/kvcom/misc.h"
 #include "services/kvdbkvn/session_pool.h"
+#include "services_pg/line.h"
 #include "support/database_helpers.h"
 #include "support/postgres_cluster.h"
 #include "support/postgres_database.h"
@@ -167,6 +168,35 @@ TEST_F(PostgresEngine, ATextThatCopiesRowsOrEndsTheTransactionIsRefusedAndTheTra
     manager_.Insert("insert into kvt values ('y')");
     manager_.Disconnect();
     EXPECT_EQ(database_.Run("select string_agg(a, ' ') from kvt"), "x y");
+}
+
+TEST_F(PostgresEngine, ATextThatEndsTheTransactionBehindACommentIsRefusedAsAQuery) {
+    database_.Run("create table kvt (a text)");
+    manager_.Connect();
+    manager_.Insert("insert into kvt values ('x')");
+    for (const char* sql : {"/* select */ end", "-- with\nabort", "/* select */ discard plans"})
+        EXPECT_THAT(FailureOf([&] { manager_.Select(sql); }), HasSubstr("Refused: ")) << sql;
+    EXPECT_EQ(Cell("select a from kvt"), "x");
+    manager_.Rollback();
+    EXPECT_EQ(database_.Run("select count(*) from kvt"), "0");
+}
+
+TEST_F(PostgresEngine, AQueryIsAskedAndAnsweredInOneTurn) {
+    database_.Run("create table kvt (a text); insert into kvt values ('x')");
+    const Line line(database_);
+    Use(line.Url());
+    manager_.Connect();
+    EXPECT_EQ(Cell("select a from kvt"), "x");
+    int before = line.Turns();
+    EXPECT_EQ(Cell("select a from kvt"), "x");
+    EXPECT_EQ(line.Turns() - before, 1);
+    manager_.Insert("insert into kvt values ('y')");
+    before = line.Turns();
+    EXPECT_EQ(Cell("select count(*) from kvt"), "2");
+    EXPECT_EQ(line.Turns() - before, 1) << "among changes";
+    manager_.Rollback();
+    manager_.Disconnect();
+    kv::db::SessionPool::Instance().Clear();
 }
 
 TEST_F(PostgresEngine, ASettingChangedWithinAQueryEndsWithIt) {

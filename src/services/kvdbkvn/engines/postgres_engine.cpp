@@ -21,6 +21,7 @@
 #include "services/kvdbkvn/engines/column_types.h"
 #include "services/kvdbkvn/engines/engine_module.h"
 #include "services/kvdbkvn/engines/postgres_statements.h"
+#include "services/kvdbkvn/engines/statement_words.h"
 
 namespace kv::db {
 namespace {
@@ -101,10 +102,10 @@ bool Succeeded(const Result& result) {
     return status == PGRES_COMMAND_OK || status == PGRES_TUPLES_OK;
 }
 
-/// One command of a batch: a statement to be run, to be prepared, or described; the last two look
-/// at the one that was prepared.
+/// One command of a batch: a statement to be run or to be prepared, or a look at the one that was
+/// prepared.
 struct Command {
-    enum class Kind { kRun, kPrepare, kDescribePrepared, kRunPrepared } kind;
+    enum class Kind { kRun, kPrepare, kDescribePrepared } kind;
     std::string sql = {};
 };
 
@@ -178,29 +179,21 @@ public:
     }
 
     bool Check(const std::string& sql, std::string& failure) noexcept override {
-        const bool prepared = PrepareReading(sql, failure);
-        EndReading();
-        return prepared;
+        const Result described = Describe(sql);
+        if (!Succeeded(described)) failure = Words(described);
+        return Succeeded(described);
     }
 
-    /// Runs inside a read-only part of the transaction, or a read-only transaction of its own,
-    /// which is undone afterwards: what a function in the text sets or locks ends with it. Whether
-    /// the text gives rows at all is known before it runs, so that none can end the transaction.
+    /// Whether a text gives rows at all is known before it runs, so that none can end the
+    /// transaction. Of most that is seen by their words; of others the server is asked.
     std::unique_ptr<Rows> Query(const std::string& sql, std::string& failure) noexcept override {
-        const bool prepared = PrepareReading(sql, failure);
-        if (!prepared || describedColumns_ == 0) {
-            if (prepared) failure = kOnlyReads;
-            columns_.clear();
-            EndReading();
-            return nullptr;
-        }
-        std::vector<Result> results = Batch({{Command::Kind::kRunPrepared}}, isOver_);
-        EndReading();
-        if (PQresultStatus(results[0].get()) != PGRES_TUPLES_OK) {
-            failure = WordsOfReading(results[0]);
-            return nullptr;
-        }
-        return std::make_unique<PostgresRows>(std::move(results[0]));
+        const bool reads = ReadingOf(sql, Quoting::kStandard) == Reading::kReads;
+        Result result = reads ? Result() : Describe(sql);
+        if (reads || GivesRows(result)) result = RunReading({Run(sql)});
+        if (GivesRows(result)) return std::make_unique<PostgresRows>(std::move(result));
+        columns_.clear();
+        failure = Succeeded(result) ? kOnlyReads : WordsOfReading(result);
+        return nullptr;
     }
 
     int Execute(const std::string& sql, std::string& failure) noexcept override {
@@ -254,8 +247,6 @@ private:
                 return PQsendPrepare(connection, "", sql, 0, nullptr) == 1;
             case Command::Kind::kDescribePrepared:
                 return PQsendDescribePrepared(connection, "") == 1;
-            case Command::Kind::kRunPrepared:
-                return PQsendQueryPrepared(connection, "", 0, nullptr, nullptr, nullptr, 0) == 1;
         }
         return false;
     }
@@ -324,26 +315,39 @@ private:
             failure = Words(result);
             return false;
         }
-        describedColumns_ = PQnfields(results.back().get());
         return true;
     }
 
-    bool PrepareReading(const std::string& sql, std::string& failure) {
-        std::vector<Command> commands;
-        if (inTransaction_)
-            commands = {Run("savepoint kv_read"), Run("set transaction read only")};
-        else
-            commands = {Run("begin read only")};
-        commands.push_back({Command::Kind::kPrepare, sql});
-        commands.push_back({Command::Kind::kDescribePrepared});
-        return RunAll(std::move(commands), failure);
+    Result Describe(const std::string& sql) {
+        return RunReading({{Command::Kind::kPrepare, sql}, {Command::Kind::kDescribePrepared}});
     }
 
-    void EndReading() {
-        if (!inTransaction_)
-            EndTransaction("rollback");
-        else
-            Batch({Run("rollback to savepoint kv_read"), Run("release savepoint kv_read")});
+    static bool GivesRows(const Result& result) {
+        return Succeeded(result) && PQnfields(result.get()) > 0;
+    }
+
+    /// Runs commands inside a read-only part of the transaction, or a read-only transaction of its
+    /// own, which is undone afterwards: what a function in a text sets or locks ends with it. All
+    /// of it is sent at once. The result of the last command, or of the first that failed.
+    Result RunReading(const std::vector<Command>& commands) {
+        const std::vector<Command> begin =
+            inTransaction_ ? std::vector{Run("savepoint kv_read"), Run("set transaction read only")}
+                           : std::vector{Run("begin read only")};
+        const std::vector<Command> end =
+            inTransaction_ ? std::vector{Run("rollback to savepoint kv_read"),
+                                         Run("release savepoint kv_read")}
+                           : std::vector{Run("rollback"), Run(kPostgresGiveUpLocks)};
+        std::vector<Command> all = begin;
+        all.insert(all.end(), commands.begin(), commands.end());
+        const std::size_t last = all.size() - 1;
+        all.insert(all.end(), end.begin(), end.end());
+        std::vector<Result> results = Batch(all, isOver_);
+        const auto failed = std::ranges::find_if_not(results, Succeeded);
+        // Behind a failure the server runs nothing more, and who cancels may have stopped the end.
+        if (failed != results.end()) Batch(end);
+        NoteTransaction();
+        const auto place = static_cast<std::size_t>(failed - results.begin());
+        return std::move(results[std::min(place, last)]);
     }
 
     /// Also gives up the locks that a function in a query took for the session: unlike its other
@@ -422,8 +426,6 @@ private:
     Connection connection_;
     IsOver* isOver_ = nullptr;
     bool inTransaction_ = false;
-    /// Columns of the statement that was described last.
-    int describedColumns_ = 0;
     /// Asked for with nearly every statement, so they are remembered until something changes.
     std::map<std::string, bool> schemas_;
     /// Likewise; by schema and table.

@@ -104,6 +104,13 @@ private:
     Words found_;
 };
 
+/// The first word alone tells nothing: it may stand in a comment.
+bool BeginsWithWord(std::string_view sql) {
+    const auto first =
+        std::ranges::find_if_not(sql, [](char ch) { return IsSpace(ch) || ch == '('; });
+    return first != sql.end() && IsWordByte(*first);
+}
+
 }  // namespace
 
 bool HoldsTwoStatements(std::string_view sql) {
@@ -115,7 +122,7 @@ bool HoldsTwoStatements(std::string_view sql) {
 Reading ReadingOf(std::string_view sql, Quoting quoting) {
     const Words found = Scanner(sql, quoting).Scan();
     const bool query =
-        !found.words.empty() && (found.words.front() == "select" || found.words.front() == "with");
+        BeginsWithWord(sql) && (found.words.front() == "select" || found.words.front() == "with");
     if (!query) return Reading::kDoesMore;
     if (found.doubtful) return Reading::kDoubtful;
     const bool doesMore =

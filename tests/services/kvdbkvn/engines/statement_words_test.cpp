@@ -29,12 +29,26 @@ TEST(StatementWords, WordsInsideTextsAndNamesDoNotCount) {
 }
 
 TEST(StatementWords, WhateverDoesMoreDoesNotRead) {
-    for (const char* text :
-         {"insert into t values (1)", "delete from t", "update t set a = 1", "merge into t",
-          "drop table t", "create table t (a int)", "select a into u from t",
-          "with x as (delete from t returning a) select a from x", "select a from t for update",
-          "select a from t delete from t", "call f()", "commit", "pragma user_version = 1", "",
-          "values (1)", "select a from t; delete from t", "select 1; select 2"})
+    for (const char* text : {"insert into t values (1)",
+                             "delete from t",
+                             "update t set a = 1",
+                             "merge into t",
+                             "drop table t",
+                             "create table t (a int)",
+                             "select a into u from t",
+                             "with x as (delete from t returning a) select a from x",
+                             "select a from t for update",
+                             "select a from t delete from t",
+                             "call f()",
+                             "commit",
+                             "pragma user_version = 1",
+                             "",
+                             "values (1)",
+                             "select a from t; delete from t",
+                             "select 1; select 2",
+                             "/* select */ end",
+                             "-- with\nabort",
+                             "'select' select"})
         EXPECT_EQ(Of(text), Reading::kDoesMore) << text;
 }
 
