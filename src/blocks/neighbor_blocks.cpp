@@ -29,6 +29,8 @@ constexpr const char* kWorkTable = "nvd2000_tmp_abe2";
 constexpr int kMargin = 10;
 /// One statement inserts the rows of so many keys.
 constexpr int kKeysPerInsert = 10;
+/// More outlines are not kept; those of blocks far back are of no use.
+constexpr std::size_t kMostOutlines = 10000;
 
 /// How each kind of area is looked up, and what tells it in the work table.
 struct AreaKind {
@@ -90,8 +92,8 @@ std::string DeleteOfMachine(const std::string& table) {
            "'";
 }
 
-/// The corners of the rows that are held.
-std::vector<CKvDispPoint> OutlineOf(const CKvDbAbsDataMgr& db) {
+/// The rows that are held.
+std::vector<CKvDispPoint> CornersIn(const CKvDbAbsDataMgr& db) {
     std::vector<CKvDispPoint> outline;
     outline.reserve(static_cast<std::size_t>(db.NumberOfRows()));
     for (int row = 0; row < db.NumberOfRows(); ++row)
@@ -143,6 +145,7 @@ bool CNeighborBlocks::PopulateNeighbor() {
         isWhole = false;
     }
     index_.reset();
+    outlines_.clear();
     Close(candidates);
     Close(outlines);
     return isWhole;
@@ -172,6 +175,7 @@ void CNeighborBlocks::Search(CKvDbAbsDataMgr& candidates, CKvDbAbsDataMgr& outli
 void CNeighborBlocks::SearchAround(const Place& place, CKvDbAbsDataMgr& candidates,
                                    CKvDbAbsDataMgr& outlines) {
     const auto& [area, block] = place;
+    if (outlines_.size() > kMostOutlines) outlines_.clear();
     candidates.Select(BuildQuery(area, block, kMargin).str());
     if (candidates.NumberOfRows() == 0) {
         Show(block.empty() ? "Operation skipped for area " + area + "\nPlease provide block number"
@@ -191,21 +195,25 @@ void CNeighborBlocks::SearchAround(const Place& place, CKvDbAbsDataMgr& candidat
 
 bool CNeighborBlocks::AreTheyConnected(CKvDbAbsDataMgr& db, std::string area1, std::string block1,
                                        std::string area2, std::string block2) {
-    const AreaKind& kind = KindOf(m_nAreaType);
-    const auto outlineOf = [&](const std::string& area, const std::string& block) {
-        db.FreeData();
-        db.Select("select lat, lon from " + m_mapTables.at(kBlockTable).str() + " i, " +
-                  m_mapTables.at(kVertexTable).str() + " v " +
-                  (kind.isNamed ? ", " + m_mapTables.at(kAreaTable).str() + " c " : "") +
-                  "where i.refnum = v.refnum " +
-                  (kind.isNamed ? " and c.stcode = i.areacode " : "") + " and " + kind.column +
-                  " = '" + area + "' and lbnum||lbext = '" + block + "' order by ptnum");
-        return OutlineOf(db);
-    };
-    const std::vector<CKvDispPoint> first = outlineOf(area1, block1);
-    const std::vector<CKvDispPoint> second = outlineOf(area2, block2);
+    const std::vector<CKvDispPoint>& first = OutlineOf(db, {area1, block1});
+    const std::vector<CKvDispPoint>& second = OutlineOf(db, {area2, block2});
     const CKvUtilGeo geo;
     return geo.AreTheyAdjacent(first, second) || geo.AreTheyAdjoining(first, second);
+}
+
+const std::vector<CKvDispPoint>& CNeighborBlocks::OutlineOf(CKvDbAbsDataMgr& db,
+                                                            const Place& place) {
+    if (const auto known = outlines_.find(place); known != outlines_.end()) return known->second;
+    const AreaKind& kind = KindOf(m_nAreaType);
+    const auto& [area, block] = place;
+    db.FreeData();
+    db.Select("select lat, lon from " + m_mapTables.at(kBlockTable).str() + " i, " +
+              m_mapTables.at(kVertexTable).str() + " v " +
+              (kind.isNamed ? ", " + m_mapTables.at(kAreaTable).str() + " c " : "") +
+              "where i.refnum = v.refnum " + (kind.isNamed ? " and c.stcode = i.areacode " : "") +
+              " and " + kind.column + " = '" + area + "' and lbnum||lbext = '" + block +
+              "' order by ptnum");
+    return outlines_[place] = CornersIn(db);
 }
 
 void CNeighborBlocks::InsertToVectors(const std::string& area, const std::string& block) {

@@ -4,10 +4,12 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "base/cstring.h"
 #include "base/export.h"
 #include "blocks/selection.h"
+#include "frame/kvcom/disp_point.h"
 
 class CKvDbAbsDataMgr;
 
@@ -58,6 +60,7 @@ private:
     void InsertRows(CKvDbAbsDataMgr& db, const kv::blocks::NeighborRelation& relation);
     bool AreTheyConnected(CKvDbAbsDataMgr& db, std::string area1, std::string block1,
                           std::string area2, std::string block2);
+    const std::vector<CKvDispPoint>& OutlineOf(CKvDbAbsDataMgr& db, const kv::blocks::Place& place);
     void InsertToVectors(const std::string& area, const std::string& block);
     void InsertToMap(const std::string& area, const std::string& block,
                      const std::string& neighborArea, const std::string& neighborBlock);
@@ -65,4 +68,6 @@ private:
     /// While a search runs.
     std::optional<kv::blocks::IndexedSelection> index_;
     std::size_t indexedEntries_ = 0;
+    /// Likewise: those that were read, since a block is a candidate of each of its neighbors.
+    std::map<kv::blocks::Place, std::vector<CKvDispPoint>> outlines_;
 };

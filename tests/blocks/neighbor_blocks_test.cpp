@@ -154,9 +154,9 @@ TEST_F(NeighborBlocks, TheTablesAreTheOwners) {
               "OTHERS.gulf_mexico_lbi");
 }
 
-TEST_F(NeighborBlocks, EachCandidateIsComparedByTheCornersOfBoth) {
-    Select({{"BETA ISLE", "1A"}});
-    const Neighbors finder = Finder(0);
+TEST_F(NeighborBlocks, EachCandidateIsComparedByTheCornersOfBothWhichAreReadOnceInASearch) {
+    Select({{"BETA ISLE", "1A"}, {"ALPHA", "3"}});
+    Neighbors finder = Finder(0);
     ASSERT_TRUE(Populate(0));
     const auto outline = [](const std::string& area, const std::string& block) {
         return "select lat, lon from NORVADON.gulf_mexico_lbi i, NORVADON.gulf_mexico_lbv v , "
@@ -164,10 +164,23 @@ TEST_F(NeighborBlocks, EachCandidateIsComparedByTheCornersOfBoth) {
                "i.areacode  and areaname = '" +
                area + "' and lbnum||lbext = '" + block + "' order by ptnum";
     };
-    const std::string self = outline("BETA ISLE", "1A");
-    EXPECT_THAT(statements, ElementsAre(Neighbors(finder).BuildQuery("BETA ISLE", "1A", 10).str(),
-                                        self, outline("ALPHA", "3"), self, outline("ALPHA", "6"),
-                                        self, outline("ALPHA", "9"), self, self));
+    EXPECT_THAT(
+        statements,
+        ElementsAre(finder.BuildQuery("BETA ISLE", "1A", 10).str(), outline("BETA ISLE", "1A"),
+                    outline("ALPHA", "3"), outline("ALPHA", "6"), outline("ALPHA", "9"),
+                    finder.BuildQuery("ALPHA", "3", 10).str(), outline("ALPHA", "2"),
+                    outline("ALPHA", "5"), outline("GULF BAY", "1")));
+}
+
+TEST_F(NeighborBlocks, CornersThatChangedAreReadByTheNextSearch) {
+    Select({{"ALPHA", "5"}});
+    Neighbors finder = Finder();
+    ASSERT_TRUE(finder.PopulateNeighbor());
+    EXPECT_THAT(relation.at({"ALPHA", "5"}), SizeIs(8));
+    Run("delete from gulf_mexico_lbv where refnum = 6 and ptnum > 2");
+    selection = {{"ALPHA"}, {"5"}};
+    ASSERT_TRUE(finder.PopulateNeighbor());
+    EXPECT_EQ(relation.at({"ALPHA", "5"}), InArea("ALPHA", {"1", "2", "3", "4", "7", "8", "9"}));
 }
 
 TEST_F(NeighborBlocks, ByAreaCodeTheCornersComeWithoutTheTableOfAreas) {
