@@ -69,6 +69,9 @@ constexpr Query kQueries[] = {
      "from NORVADON.gulf_mexico_connam2 where area_abbr = 'VR') AND operator LIKE 'SAMPLE%' ORDER "
      "BY "
      "operator"},
+    {"columns put together",
+     "select distinct lease_no||company from NORVADON.gulf_mexico_lease_owner where "
+     "lease_no||company like '%1%'"},
     {"nothing matches",
      "select distinct lessee from NORVADON.gulf_mexico_lease where lessee like '%no such name%'"},
 };

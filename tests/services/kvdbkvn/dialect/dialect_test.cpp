@@ -444,6 +444,22 @@ TEST(Dialect, PutsNullsAtTheEndOfARisingOrderAndAheadOfAFallingOne) {
     EXPECT_THAT(Select(codes + " nulls first"), ElementsAre("", "GA", "GA", "WD", "_X"));
 }
 
+TEST(Dialect, GroupsTextsThatArePutTogetherFromColumnsOnSqliteWhichSortsThemFaster) {
+    const std::string texts = "select distinct areacode||lbext from gulf_mexico_lbi";
+    EXPECT_EQ(OnSqlite(texts),
+              "select nullif(coalesce(areacode, '') || coalesce(lbext, ''), '') from "
+              "gulf_mexico_lbi group by 1 order by 1 nulls last");
+    EXPECT_THAT(OnPostgres(texts), HasSubstr("select distinct nullif("));
+    EXPECT_EQ(Select(texts), Select("select areacode||lbext from gulf_mexico_lbi union select "
+                                    "areacode||lbext from gulf_mexico_lbi"));
+    EXPECT_THAT(Select("select distinct lbext||lbext from gulf_mexico_lbi"),
+                ElementsAre("AA", "BB", "XX", "aa", ""));
+    for (const char* others :
+         {"areacode", "areacode||'-'", "areacode||lbext, lbnum", "max(areacode)||lbext"})
+        EXPECT_THAT(OnSqlite(std::string("select distinct ") + others + " from gulf_mexico_lbi"),
+                    StartsWith("select distinct "));
+}
+
 TEST(Dialect, OrdersByNumberAliasAndName) {
     const std::string from = " from gulf_mexico_connam2 c where area_abbr = 'GA' order by ";
     EXPECT_THAT(Select("select areaname, stcode" + from + "2 desc"),
