@@ -108,10 +108,11 @@ double RowsIn(kv::Node& window) {
     return rows;
 }
 
-/// All dialogs in turn, again and again, so that a moment in which the machine is busy with
-/// something else falls on a few openings of each. The first round is left out.
+/// All dialogs in turn, again and again, so that a moment in which the machine is slow falls on a
+/// few openings of each. They take a few milliseconds, so others' work would tell more than theirs.
+/// The first round is left out.
 bool MeasureOpening(workbench::Workbench& host) {
-    constexpr int kRounds = 15;
+    constexpr int kRounds = 45;
     struct Opened {
         std::vector<double> taken;
         double rows = 0;
@@ -120,7 +121,7 @@ bool MeasureOpening(workbench::Workbench& host) {
     std::vector<Opened> opened(dialogs.size());
     for (int round = 0; round <= kRounds; ++round) {
         for (std::size_t i = 0; i < opened.size(); ++i) {
-            const Watch watch;
+            const growth::ProcessorWatch watch;
             workbench::LookAtDialog(host, *dialogs[i], [&](kv::Node& window) {
                 if (round > 0) opened[i].taken.push_back(watch.Seconds());
                 opened[i].rows = RowsIn(window);
