@@ -2,6 +2,7 @@
 
 #include <QFontDatabase>
 #include <QScrollBar>
+#include <QTextDocument>
 
 namespace workbench {
 
@@ -64,7 +65,7 @@ OutcomePane::OutcomePane(QWidget* parent) : QPlainTextEdit(parent) {
 void OutcomePane::Add(const adaptors::Adaptor& adaptor, const adaptors::Run& run) {
     const QString heading = QStringLiteral("%1 (%2)").arg(QString::fromStdString(adaptor.className),
                                                           QString::fromStdString(run.ResultName()));
-    const bool first = toPlainText().isEmpty();
+    const bool first = document()->isEmpty();
     appendPlainText((first ? QString() : QStringLiteral("\n")) + heading + u'\n' +
                     QString(heading.size(), u'-') + u'\n' + Readable(run.outcome).chopped(1));
     verticalScrollBar()->setValue(verticalScrollBar()->maximum());

@@ -475,10 +475,35 @@ TEST(LabelArt, KeepsOfALabelLittleMoreThanItsPixels) {
     const double before = Held();
     double pixels = 0;
     for (int label = 0; label < 200; ++label) {
-        const QSizeF size = art.SizeOf("EUGENE ISLAND " + std::to_string(label));
+        const QSize size = art.Of("EUGENE ISLAND " + std::to_string(label)).size();
         pixels += 4 * size.width() * size.height();
     }
     EXPECT_LT(Held() - before, 1.5 * pixels);
+}
+
+TEST(LabelArt, DrawsNoLabelThatIsOnlyMeasured) {
+    LabelArt art;
+    art.SetStyle(QApplication::font(), Qt::black, Qt::white, 1);
+    art.SizeOf("the first one, for which fonts are read");
+    const double before = Held();
+    double pixels = 0;
+    for (int label = 0; label < 200; ++label) {
+        const QSizeF size = art.SizeOf("EUGENE ISLAND " + std::to_string(label));
+        pixels += 4 * size.width() * size.height();
+    }
+    EXPECT_LT(Held() - before, pixels / 10);
+}
+
+TEST(LabelArt, MeasuresALabelAsItIsDrawn) {
+    for (const double pixelRatio : {1.0, 1.25, 2.0}) {
+        LabelArt art;
+        art.SetStyle(QApplication::font(), Qt::black, Qt::white, pixelRatio);
+        for (const char* label : {"GC", "HIGH ISLAND EAST\nADDITION", ""}) {
+            const QSizeF measured = art.SizeOf(label);
+            EXPECT_EQ(art.Of(label).deviceIndependentSize(), measured) << label << pixelRatio;
+            EXPECT_GT(measured.height(), 0);
+        }
+    }
 }
 
 TEST_F(SampleMapTest, FromAfarTheLegendTellsTheColorsOfTheWaters) {
