@@ -6,8 +6,11 @@
 #include <optional>
 #include <random>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "base/numbers.h"
+#include "base/text.h"
 #include "frame/kvcom/angle.h"
 #include "support/comma_locale.h"
 
@@ -82,6 +85,7 @@ TEST(CoordinateText, UnderstandsTheUsualNotationsOfAPosition) {
     ExpectPair("28.504236 -89.125", 28.504236, -89.125);
     ExpectPair("28.504236;-89.125", 28.504236, -89.125);
     ExpectPair("28.504236,-89.125", 28.504236, -89.125);
+    ExpectPair("28.N 89.W", 28.0, -89.0);
     ExpectPair("28.504236\xC2\xA0-89.125", 28.504236, -89.125);
     ExpectPair(
         "28.504236, \xE2\x88\x92"
@@ -96,6 +100,85 @@ TEST(CoordinateText, UnderstandsTheUsualNotationsOfAPosition) {
     ExpectPair("Lat: N28 30.254\nLng: W89 07.5", 28 + 30.254 / 60, -89.125);
 }
 
+/// As it stands, in capitals, and with its first letter alone in capitals.
+std::vector<std::string> Cases(const std::string& word) {
+    std::string capitals;
+    for (const char ch : word)
+        capitals += kv::ToUpper(ch);
+    return {word, capitals, capitals.substr(0, 1) + word.substr(1)};
+}
+
+TEST(CoordinateText, KnowsEverySpellingOfAMark) {
+    for (const char* sign : {"\xC2\xB0", "\xC2\xBA", "\xCB\x9A", "\xB0", "\xBA"})
+        ExpectCoordinate(std::string("28.5") + sign, {.angle = 28.5});
+    for (const char* sign :
+         {"\xE2\x80\xB2", "\xE2\x80\x99", "\xC2\xB4", "'", "`", "\xB4", "\x92"}) {
+        const std::string minutes = std::string("28°30") + sign;
+        ExpectCoordinate(minutes, {.angle = 28.5});
+        ExpectCoordinate(minutes + "15.25" + sign + sign, {.angle = kLat});
+    }
+    for (const char* sign : {"\xE2\x80\xB3", "\xE2\x80\x9D", "\"", "\x94"})
+        ExpectCoordinate(std::string("28°30'15.25") + sign, {.angle = kLat});
+    for (const char* word : {"d", "deg", "degree", "degrees"})
+        for (const std::string& each : Cases(word))
+            ExpectCoordinate("28.5 " + each, {.angle = 28.5});
+    for (const char* word : {"m", "min", "minute", "minutes"})
+        for (const std::string& each : Cases(word))
+            ExpectCoordinate("28d30" + each, {.angle = 28.5});
+    for (const char* word : {"sec", "second", "seconds"})
+        for (const std::string& each : Cases(word))
+            ExpectCoordinate("28d30m15.25 " + each, {.angle = kLat});
+}
+
+TEST(CoordinateText, KnowsEverySpellingOfADirection) {
+    for (const char* word : {"n", "north", "lat", "latitude"})
+        for (const std::string& each : Cases(word))
+            ExpectCoordinate(each + " 28.5", {.latitude = 28.5});
+    for (const char* word : {"e", "east", "lon", "lng", "long", "longitude"})
+        for (const std::string& each : Cases(word))
+            ExpectCoordinate(each + " 28.5", {.longitude = 28.5});
+    for (const char* word : {"s", "south"})
+        for (const std::string& each : Cases(word))
+            ExpectCoordinate(each + " 28.5", {.latitude = -28.5});
+    for (const char* word : {"w", "west"})
+        for (const std::string& each : Cases(word))
+            ExpectCoordinate(each + " 28.5", {.longitude = -28.5});
+}
+
+TEST(CoordinateText, KnowsEverySpellingOfABlankAndOfAMinus) {
+    for (const char* blank :
+         {" ", "\t", "\r", "\n", "\xA0", "\xC2\xA0", "\xE2\x80\x89", "\xE2\x80\xAF"})
+        ExpectCoordinate(std::string("28") + blank + "30", {.angle = 28.5});
+    for (const char* minus : {"-", "\xE2\x88\x92", "\xE2\x80\x93"})
+        ExpectCoordinate(std::string(minus) + "28.5", {.angle = -28.5});
+}
+
+TEST(CoordinateText, KnowsNoOtherCharacterBehindANumber) {
+    const std::string known = "0123456789dDnNsSeEwW";
+    for (char ch = '!'; ch <= '~'; ++ch) {
+        if (known.find(ch) != std::string::npos) continue;
+        // A point may end a whole number.
+        EXPECT_EQ(ParseCoordinate(std::string("28") + ch).has_value(), ch == '.') << ch;
+        EXPECT_FALSE(ParseCoordinate(std::string("28.5") + ch)) << ch;
+    }
+}
+
+TEST(CoordinateText, ReadsNothingBehindTheEndOfItsText) {
+    EXPECT_FALSE(ParseCoordinate(std::string_view("28 .5").substr(0, 4)));
+    const auto cut = ParseCoordinate(std::string_view("28.5").substr(0, 2));
+    ASSERT_TRUE(cut);
+    EXPECT_EQ(cut->angle, 28.0);
+}
+
+TEST(CoordinateText, TakesASmallSForSecondsBehindMinutesInLettersOnly) {
+    ExpectCoordinate("28d30m15.25s", {.angle = kLat});
+    ExpectCoordinate("28d30'15.25s", {.latitude = -kLat});
+    ExpectCoordinate("28 30 15.25s", {.latitude = -kLat});
+    ExpectCoordinate("28d30m s", {.latitude = -28.5});
+    ExpectCoordinate("28d30.5s", {.latitude = -(28 + 30.5 / 60)});
+    ExpectCoordinate("28.5s", {.latitude = -28.5});
+}
+
 TEST(CoordinateText, TakesTheOrderFromWhatTheAnglesTell) {
     ExpectPair("89°07'30\"W 28°30'15.25\"N");
     ExpectPair("W89 07 30 N28 30 15.25");
@@ -104,6 +187,8 @@ TEST(CoordinateText, TakesTheOrderFromWhatTheAnglesTell) {
     // What cannot be a latitude is none.
     ExpectPair("-95.125, 28.504236", 28.504236, -95.125);
     ExpectPair("-89.125, 28.504236", -89.125, 28.504236);
+    ExpectPair("-90, 45", -90.0, 45.0);
+    ExpectPair("-95.125, 90", 90.0, -95.125);
 }
 
 TEST(CoordinateText, DividesBareNumbersInARow) {
@@ -111,6 +196,8 @@ TEST(CoordinateText, DividesBareNumbersInARow) {
     ExpectPair("28 30.254 89 07.5", 28 + 30.254 / 60, 89.125);
     ExpectPair("28.504236 89.125", 28.504236, 89.125);
     ExpectPair("28 89", 28.0, 89.0);
+    ExpectPair("28 30' 89 07.5'", 28.5, 89.125);
+    ExpectPair("28.5° 89.125°", 28.5, 89.125);
     ExpectPair("-28 30 15.25 89 07 30", -kLat, -kLon);
     ExpectCoordinate("28 30", {.angle = 28.5});
     ExpectCoordinate("28 30 15.25", {.angle = kLat});
@@ -185,6 +272,9 @@ TEST(CoordinateText, IsNoneForAnyOtherText) {
         "N28 89W",
         "N N 28",
         "lat lon 28 89",
+        "lat lon 28",
+        "lat 28 89",
+        "N 28 89",
         "28 W, 89 E",
         // What is not complete, or too much.
         "28.504236,",
@@ -196,6 +286,11 @@ TEST(CoordinateText, IsNoneForAnyOtherText) {
         "28-",
         "28 - 30",
         "28:-30",
+        "28::30",
+        "28:89",
+        "28:89°",
+        "28° 89",
+        "28 30 15 20 07",
         "28 30 15 89 07",
         "1 2 3 4 5 6 7",
         "1, 2, 3",

@@ -1,8 +1,10 @@
 #include "frame/module.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "support/failing_memory.h"
+#include "support/temp_folder.h"
 #include "window/acting/headless_desktop.h"
 #include "window/dialogs/dialog.h"
 #include "window/window_system.h"
@@ -15,6 +17,21 @@ using kv::module::Main;
 constexpr int kTemplate = 31000;
 const kv::DialogTemplate kDialog{kTemplate, "Of the library", 100, 50, {}};
 const kv::RegisterTemplate kRegistered(kDialog);
+
+// The first test of this file, since the others load the module by themselves.
+TEST(LoadingTheLibrary, AttachesTheModule) {
+    const CDynLinkLibrary* library = InitControlDll();
+    ASSERT_NE(library, nullptr);
+    EXPECT_EQ(library->m_hModule, &kv::LibraryResources());
+}
+
+TEST(LoadingTheLibrary, LetsTheWindowsWriteIntoTheLogAlone) {
+    const test::TempFolder folder;
+    testing::internal::CaptureStderr();
+    kv::WindowSystem::Get().Log("a handler failed");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+    EXPECT_THAT(folder.Read("log.txt"), testing::EndsWith(" 101 a handler failed\n"));
+}
 
 /// Each test begins with the module loaded and not started.
 class Module : public ::testing::Test {

@@ -54,6 +54,15 @@ TEST(SplittingAnAngle, NeverGivesSixtySeconds) {
     ExpectParts(29.0 + 59.0 / 60.0 + 59.9999999 / 3600.0, 30, 0, 0.0);
     ExpectParts(28.7, 28, 42, 0.0);
     ExpectParts(-0.99999999999, -1, 0, 0.0);
+    // Half a millionth below, to the last bit.
+    ExpectParts(0.016666666527777776, 0, 1, 0.0);
+    ExpectParts(0.01666666652777777, 0, 0, 59.9999995);
+}
+
+TEST(SplittingAnAngle, TakesAHundredThousandDegreesAtMost) {
+    ExpectParts(100000.0, 100000, 0, 0.0);
+    ExpectParts(-100000.0, -100000, 0, 0.0);
+    ExpectParts(100000.5, 0, 0, 0.0);
 }
 
 TEST(SplittingAnAngle, IsZeroForWhatIsNoAngle) {
