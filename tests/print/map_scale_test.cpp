@@ -338,12 +338,15 @@ TEST(FitScale, IsTheLeastWholeOneWhereTheJumpsMissIt) {
 }
 
 TEST(FitScale, EndsForBoundsWithoutExtent) {
-    for (const Extent& map : {Extent{0, 0}, Extent{-5, -5}, Extent{std::nan(""), 0}}) {
+    for (const Extent& map :
+         {Extent{0, 0}, Extent{-0.0, -0.0}, Extent{-5, -5}, Extent{std::nan(""), 0}}) {
         for (const bool landscape : {false, true}) {
             const kv::print::Fit fit = kv::print::FitScale(map, {35, 35}, landscape);
             EXPECT_EQ(fit.scale, 1);
             EXPECT_THAT(fit.passed, IsEmpty());
             EXPECT_EQ(fit.page, (Extent{0, 0}));
+            // Which would be shown.
+            EXPECT_FALSE(std::signbit(fit.page.x) || std::signbit(fit.page.y));
         }
     }
 }

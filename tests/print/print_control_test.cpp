@@ -60,6 +60,21 @@ protected:
 
 const kv::PrinterSettings kPlotter{"Plotter North", 0, false, 9144, 12192, "ARCH E"};
 
+// The first test of this file, since the others set them.
+TEST(PrintControlOfAFreshProgram, BeginsInColorAndUpright) {
+    using Control = CKvGuiPrintControl;
+    EXPECT_TRUE(Control::m_bTTFont);
+    EXPECT_TRUE(Control::m_bColor);
+    EXPECT_TRUE(Control::m_bFresh);
+    EXPECT_FALSE(Control::m_bLandscape);
+    EXPECT_FALSE(Control::m_bGray);
+    EXPECT_FALSE(Control::m_bIsCGM);
+    EXPECT_FALSE(Control::m_bPrintLandscape);
+    EXPECT_EQ(Control::m_fMargin, 1.0F);
+    EXPECT_EQ(Control::m_fPrintBoundWidth, 36.0F);
+    EXPECT_EQ(Control::m_fPrintBoundHeight, 36.0F);
+}
+
 // The map scale.
 
 TEST_F(PrintControl, ProposesTheScaleAtWhichTheSmallerSideFits) {
@@ -219,6 +234,21 @@ TEST_F(PrintControl, TheOrientationTurnsTheShownSize) {
     EXPECT_FALSE(CKvGuiPrintControl::m_bLandscape);
 }
 
+TEST_F(PrintControl, AHostThatShowsTheMapScaleTakesTheOrientationAsItIsChecked) {
+    RunWithoutPrinter([&](kv::User& user) {
+        // Hosts may show them.
+        for (const int id : {kMapLandscape, kMapPortrait})
+            dialog.GetDlgItem(id)->ShowWindow(SW_SHOW);
+        for (const bool landscape : {false, true}) {
+            user.Click(landscape ? kMapLandscape : kMapPortrait);
+            CKvGuiPrintControl::m_bLandscape = !landscape;
+            dialog.SelectMapScale(0, 0);
+            EXPECT_EQ(CKvGuiPrintControl::m_bLandscape, landscape);
+            EXPECT_EQ(user.Text(kMapScale), "1000");
+        }
+    });
+}
+
 TEST_F(PrintControl, CancelGivesTheMapScaleBackButNotThePrintScaleNorThatOfTheUnit) {
     const int result = RunWithoutPrinter([&](kv::User& user) {
         user.Select(kMapScale, "2000");
@@ -337,6 +367,10 @@ TEST_F(PrintControl, APickedPrintScaleSizesThePage) {
         user.Key(kPrintScale, "Down");
         EXPECT_EQ(user.Text(kPrintScale), "2000");
         EXPECT_EQ(PageSize(user), "15 by 10");
+        user.Select(kPrintScale, 0);
+        EXPECT_EQ(user.Text(kPrintScale), "857");
+        EXPECT_EQ(PageSize(user), "35.0058 by 23.3372");
+        user.Select(kPrintScale, "2000");
         user.Click(IDOK);
     });
     EXPECT_EQ(dialog.GetScale(), 2000);
