@@ -50,8 +50,6 @@ BOOL CKvGuiLesseeListSel::OnInitDialog() {
         for (const char* percent : kPercents)
             Control<CComboBox>(id).AddString(percent);
     }
-    Control<CComboBox>(kMin).SetCurSel(0);
-    Control<CComboBox>(kMax).SetCurSel(static_cast<int>(std::size(kPercents)) - 1);
     UpdateControls();
     return TRUE;
 }
