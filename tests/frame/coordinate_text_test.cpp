@@ -122,9 +122,12 @@ TEST(CoordinateText, KnowsEverySpellingOfAMark) {
     for (const char* word : {"d", "deg", "degree", "degrees"})
         for (const std::string& each : Cases(word))
             ExpectCoordinate("28.5 " + each, {.angle = 28.5});
-    for (const char* word : {"m", "min", "minute", "minutes"})
-        for (const std::string& each : Cases(word))
+    for (const char* word : {"m", "min", "minute", "minutes"}) {
+        for (const std::string& each : Cases(word)) {
             ExpectCoordinate("28d30" + each, {.angle = 28.5});
+            ExpectCoordinate("28d30" + each + " 15.25s", {.angle = kLat});
+        }
+    }
     for (const char* word : {"sec", "second", "seconds"})
         for (const std::string& each : Cases(word))
             ExpectCoordinate("28d30m15.25 " + each, {.angle = kLat});
@@ -165,9 +168,11 @@ TEST(CoordinateText, KnowsNoOtherCharacterBehindANumber) {
 
 TEST(CoordinateText, ReadsNothingBehindTheEndOfItsText) {
     EXPECT_FALSE(ParseCoordinate(std::string_view("28 .5").substr(0, 4)));
-    const auto cut = ParseCoordinate(std::string_view("28.5").substr(0, 2));
-    ASSERT_TRUE(cut);
-    EXPECT_EQ(cut->angle, 28.0);
+    // In memory that ends there.
+    const std::vector<char> digits{'2', '8'};
+    const auto whole = ParseCoordinate({digits.data(), digits.size()});
+    ASSERT_TRUE(whole);
+    EXPECT_EQ(whole->angle, 28.0);
 }
 
 TEST(CoordinateText, TakesASmallSForSecondsBehindMinutesInLettersOnly) {
