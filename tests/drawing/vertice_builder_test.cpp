@@ -119,6 +119,8 @@ TEST_F(VerticeBuilder, RowsThatAreGivenBecomeCanonicalAndNoneChangesNothing) {
     std::vector<std::string> rows{"first"};
     dialog.GetVertices(rows);
     EXPECT_EQ(rows.size(), 3u);
+    dialog.SetVertices({"5,6"});
+    EXPECT_THAT(Vertices(), ElementsAre("5.000000 , 6.000000"));
 }
 
 // The dialog.
@@ -344,6 +346,11 @@ TEST_F(VerticeBuilder, AHostClosesThePolygonByACommand) {
     Run(empty, [&](kv::User& user) {
         empty.SendMessage(WM_COMMAND, MAKEWPARAM(29161, 0));
         EXPECT_THAT(user.Rows(kRows), IsEmpty());
+        EXPECT_FALSE(user.Enabled(kAccept));
+        empty.SendDlgItemMessage(kRows, LB_ADDSTRING, 0, kv::AsParam("1 , 2"));
+        empty.SendMessage(WM_COMMAND, MAKEWPARAM(29161, 0));
+        EXPECT_EQ(user.Rows(kRows).size(), 2u);
+        EXPECT_TRUE(user.Enabled(kAccept));
     });
 }
 
@@ -560,6 +567,39 @@ TEST_F(VerticeBuilder, ABoxOutOfItsRangeIsToldAndExitWaitsUntilItIsRight) {
     });
 }
 
+TEST_F(VerticeBuilder, EachBoxThatIsLeftWithWhatItCannotHoldIsTold) {
+    struct {
+        int box;
+        const char* text;
+        const char* words;
+    } const cases[] = {
+        {kX, "x", "Please enter a number."},
+        {kY, "x", "Please enter a number."},
+        {kLatDegree, "91", "Please enter a number between -90 and 90."},
+        {kLatMinute, "61", "Please enter a number between 0 and 60."},
+        {kLatSecond, "3601", "Please enter a number between 0 and 3600."},
+        {kLonDegree, "-181", "Please enter a number between -180 and 180."},
+        {kLonMinute, "-1", "Please enter a number between 0 and 60."},
+        {kLonSecond, "3601", "Please enter a number between 0 and 3600."},
+    };
+    for (const auto& [box, text, words] : cases) {
+        SCOPED_TRACE(box);
+        CKvGuiVerticeBuilder builder;
+        Run(builder, [&, box = box, text = text, words = words](kv::User& user) {
+            if (box != kX && box != kY) {
+                user.Click(kLatLonMode);
+                user.Click(kDms);
+            }
+            user.Type(box, text);
+            desktop.ExpectMessage(words);
+            user.Focus(kRows);
+            EXPECT_EQ(test::FocusedId(), box);
+            EXPECT_FALSE(user.Enabled(IDCANCEL));
+            user.Type(box, "1");
+        });
+    }
+}
+
 TEST_F(VerticeBuilder, AHiddenBoxThatIsNoNumberBlocksNothing) {
     Run(dialog, [&](kv::User& user) {
         dialog.SetDlgItemText(kLatDegree, "x");
@@ -696,6 +736,21 @@ TEST_F(VerticeFiles, LoadsLinesWithEitherEndAndEachOnce) {
             EXPECT_TRUE(dialog.GetModifyVertices());
         });
     }
+}
+
+TEST_F(VerticeFiles, WhatIsLoadedCanBeSavedUnlessItIsNothing) {
+    folder.Write("points.txt", "1,2\r\n");
+    folder.Write("empty.txt", "\r\n");
+    Run(dialog, [&](kv::User& user) {
+        EXPECT_FALSE(user.Enabled(kSave));
+        ExpectPick("points.txt");
+        user.Click(kLoad);
+        EXPECT_TRUE(user.Enabled(kSave));
+        ExpectPick("empty.txt");
+        user.Click(kLoad);
+        EXPECT_THAT(user.Rows(kRows), IsEmpty());
+        EXPECT_FALSE(user.Enabled(kSave));
+    });
 }
 
 TEST_F(VerticeFiles, AFileThatIsNotThereIsToldAndTheRowsStay) {

@@ -645,6 +645,9 @@ TEST_F(PalettePlaces, WhatJustFitsStaysBelowItsSwatch) {
         const int below = swatch == test::kFull ? 35 : 0;
         EXPECT_EQ(Opened(swatch, {100, 50}, {place.right, place.bottom + below}), place);
     }
+    // Where there would be room on the left of the swatch, too.
+    const CRect grid = Opened(test::kFull, {900, 50}, {2000, 1000});
+    EXPECT_EQ(Opened(test::kFull, {900, 50}, {grid.right, 1000}), grid);
     const CRect colors = Opened(test::kBasic, {100, 400}, {1600, 1000});
     const int height = colors.Height();
     host.onInit = [&] {
