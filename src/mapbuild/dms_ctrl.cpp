@@ -61,7 +61,6 @@ private:
 
 CKvGuiDMSCtrl::~CKvGuiDMSCtrl() {
     SetPartner(nullptr);
-    LetBoxesGo();
 }
 
 void CKvGuiDMSCtrl::LetBoxesGo() {

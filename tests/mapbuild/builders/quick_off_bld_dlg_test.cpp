@@ -1045,6 +1045,24 @@ TEST_F(QuickOffBldDlg, AScaleIsForgottenByTheNextChange) {
     EXPECT_NE(dialog.GetScale(), 3000);
 }
 
+TEST_F(QuickOffBldDlg, AScaleIsForgottenByAPercentageHoweverTheMapIsBounded) {
+    for (const bool xyBounded : {true, false}) {
+        QuickDlg several(nullptr);
+        Set(several, {"GC#500", "GC#501"}, kSeveral, xyBounded);
+        Accept(several, [&](kv::User& user) {
+            desktop.ExpectWindow("CKvGuiSizingDlg", [](kv::User& sizing) {
+                sizing.Type(kv::sizing::kScale, "3000");
+                sizing.Click(IDOK);
+            });
+            user.Click(kSizingOptions);
+            EXPECT_TRUE(several.m_bScaleSet);
+            user.Select(kPercent, "50");
+            EXPECT_FALSE(several.m_bScaleSet) << xyBounded;
+        });
+        EXPECT_NE(several.GetScale(), 3000) << xyBounded;
+    }
+}
+
 TEST_F(QuickOffBldDlg, TheScaleOfACancelledSizingIsTakenToo) {
     Accept(dialog, [&](kv::User& user) {
         user.Click(kMeters);
