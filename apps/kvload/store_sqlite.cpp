@@ -1,8 +1,10 @@
 #include "kvload/store_sqlite.h"
 
+#include <fcntl.h>
 #include <sqlite3.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <stdexcept>
 #include <system_error>
 #include <utility>
@@ -21,6 +23,20 @@ struct Close {
     void operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
 };
 using Statement = std::unique_ptr<sqlite3_stmt, Close>;
+
+/// Waits until a file, or which names a folder has, is on the disk. 0, or the machine's code of the
+/// failure.
+int Sync(const fs::path& path) {
+    const int opened = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    if (opened < 0) return errno;
+    const int code = fsync(opened) == 0 ? 0 : errno;
+    close(opened);
+    return code;
+}
+
+std::string ReasonOf(int code) {
+    return std::generic_category().message(code);
+}
 
 class SqliteStore final : public Store {
 public:
@@ -105,8 +121,16 @@ public:
             throw std::runtime_error("The database does not close");
         if (fs::exists(target_))
             throw std::runtime_error(target_.string() + " has been made by someone else meanwhile");
+        if (const int code = Sync(file_))
+            throw std::runtime_error(target_.string() + ": " + ReasonOf(code));
         fs::rename(file_, target_);
         isNew_ = false;
+        const fs::path folder = target_.parent_path();
+        const int code = Sync(folder.empty() ? "." : folder);
+        // Not every file system can sync a folder.
+        if (code != 0 && code != EINVAL)
+            throw CommitUnanswered(target_.string() +
+                                   " is made, but may not outlast a power cut: " + ReasonOf(code));
     }
 
 private:

@@ -1,10 +1,34 @@
 // A load is whole or not at all.
 
+#include <sys/syscall.h>
+#include <unistd.h>
+
 #include <algorithm>
+#include <cerrno>
 #include <filesystem>
 
 #include "apps/kvload/load_fixture.h"
 #include "support/file_size_limit.h"
+
+namespace {
+
+/// What the process has synced to the disk, by the names of then; and which of it fails.
+std::vector<std::string> synced;
+std::string unsynced;
+
+}  // namespace
+
+/// In the place of the system's.
+extern "C" int fsync(int file) {
+    std::error_code ignored;
+    synced.push_back(
+        std::filesystem::read_symlink("/proc/self/fd/" + std::to_string(file), ignored));
+    if (!unsynced.empty() && synced.back().ends_with(unsynced)) {
+        errno = EIO;
+        return -1;
+    }
+    return static_cast<int>(syscall(SYS_fsync, file));
+}
 
 namespace test {
 namespace {
@@ -153,6 +177,37 @@ TEST_F(LoadWhole, LeavesNoNewFileOnAFullDisk) {
         EXPECT_NE(Complaint("areas.csv", kAreas), "");
     }
     EXPECT_EQ(Files(), before);
+}
+
+class LoadSynced : public LoadWhole {
+protected:
+    LoadSynced() { synced.clear(); }
+    ~LoadSynced() override { unsynced.clear(); }
+
+    std::string Folder() const { return std::filesystem::canonical(folder.Native()); }
+};
+
+TEST_F(LoadSynced, ANewFileIsOnTheDiskAheadOfItsNameAndThenTheName) {
+    LoadArea();
+    ASSERT_GE(synced.size(), 2u);
+    EXPECT_THAT(synced[synced.size() - 2], testing::StartsWith(Folder() + "/data.db."));
+    EXPECT_THAT(synced[synced.size() - 2], testing::EndsWith(".part"));
+    EXPECT_EQ(synced.back(), Folder());
+}
+
+TEST_F(LoadSynced, ANewFileThatDoesNotReachTheDiskIsNone) {
+    folder.Write("areas.csv", "name,code,abbr\nGreen Canyon,43602,GC\n");
+    const auto before = Files();
+    unsynced = ".part";
+    EXPECT_THAT(Complaint("areas.csv", kAreas), HasSubstr("Input/output error"));
+    EXPECT_EQ(Files(), before);
+}
+
+TEST_F(LoadSynced, ANewFileWhoseNameDoesNotReachTheDiskIsToldAndStays) {
+    folder.Write("areas.csv", "name,code,abbr\nGreen Canyon,43602,GC\n");
+    unsynced = Folder();
+    EXPECT_THROW(Load("areas.csv", kAreas), kvload::CommitUnanswered);
+    EXPECT_EQ(Rows("select stcode from gulf_mexico_connam2"), "43602\n");
 }
 
 TEST_F(LoadWhole, RefusesAFileThatIsNoDatabase) {
