@@ -8,7 +8,9 @@
 #include <cstdio>
 #include <exception>
 #include <fstream>
+#include <iostream>
 #include <iterator>
+#include <sstream>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -18,6 +20,7 @@
 #include "kvload/load.h"
 #include "kvload/source_module.h"
 #include "kvload/store.h"
+#include "services/kvdbkvn/engines/secrets.h"
 
 namespace {
 
@@ -41,6 +44,16 @@ volatile std::sig_atomic_t interrupted = 0;
 void OnInterrupt(int signal) {
     interrupted = 1;
     std::signal(signal, SIG_DFL);
+}
+
+std::vector<std::string> arguments;
+
+/// Whatever a client library repeats of a server's text, or a complaint of a misplaced one, goes
+/// without the passwords in it.
+void Complain(std::string words) {
+    for (const std::string& argument : arguments)
+        words = kv::db::Scrub(words, CKvDbInfo("", "", argument.c_str()));
+    std::fputs(words.c_str(), stderr);
 }
 
 /// One line on the terminal that is written over and over; nothing where nobody looks.
@@ -129,7 +142,7 @@ int RunGuess(const Options& options) {
     const Guess guess = GuessMapping(*layer, options.layer);
     std::printf("%s", guess.json.c_str());
     for (const std::string& note : guess.notes)
-        std::fprintf(stderr, "kvload: %s\n", note.c_str());
+        Complain("kvload: " + note + "\n");
     return kDone;
 }
 
@@ -148,15 +161,15 @@ int RunWhole(int (*run)(const Options&), const Options& options, const char* und
     try {
         code = run(options);
     } catch (const Cancelled&) {
-        std::fprintf(stderr, "kvload: Cancelled.%s\n", undone);
+        Complain(std::string("kvload: Cancelled.") + undone + "\n");
         return kCancelled;
     } catch (const CommitUnanswered& error) {
-        std::fprintf(stderr, "kvload: %s\n", error.what());
+        Complain(std::string("kvload: ") + error.what() + "\n");
         return kFailed;
     } catch (const std::exception& error) {
         std::string words = error.what();
         if (*undone && !words.ends_with('.')) words += '.';
-        std::fprintf(stderr, "kvload: %s%s\n", words.c_str(), undone);
+        Complain("kvload: " + words + undone + "\n");
         return kFailed;
     }
     if (std::fflush(stdout) == 0) return code;
@@ -168,6 +181,7 @@ int RunWhole(int (*run)(const Options&), const Options& options, const char* und
 }  // namespace
 
 int main(int argc, char** argv) {
+    arguments.assign(argv, argv + argc);
     Options options;
     CLI::App app(
         "Fills the dataset's tables from files of other programs: shapefiles, GeoPackages, file\n"
@@ -194,7 +208,14 @@ int main(int argc, char** argv) {
         ->required()
         ->check(CheckServer);
     check->add_flag("--all", options.all, "List all that is found, not the first 20 of each");
-    CLI11_PARSE(app, argc, argv);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        std::ostringstream complaint;
+        const int code = app.exit(error, std::cout, complaint);
+        Complain(complaint.str());
+        return code;
+    }
 
     if (guess->parsed()) return RunWhole(RunGuess, options, "");
     if (check->parsed()) return RunWhole(RunCheck, options, "");

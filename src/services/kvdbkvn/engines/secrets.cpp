@@ -21,7 +21,7 @@ void AddPieces(std::string_view text, Secrets& out) {
     out.emplace_back(text);
     out.push_back(PercentDecoded(text));
     while (!text.empty()) {
-        const std::size_t end = std::min(text.find_first_of("@:/?#"), text.size());
+        const std::size_t end = std::min(text.find_first_of("@:/?#,&="), text.size());
         out.emplace_back(text.substr(0, end));
         out.push_back(PercentDecoded(text.substr(0, end)));
         text.remove_prefix(std::min(end + 1, text.size()));
@@ -29,15 +29,18 @@ void AddPieces(std::string_view text, Secrets& out) {
 }
 
 /// What stands between the user and the last "@", which is the password also where it holds signs
-/// that should have been encoded.
+/// that should have been encoded. Without an "@" it is what has the place of a port and is none.
 void AddUrlPassword(std::string_view server, Secrets& out) {
     const std::size_t slashes = server.find("//");
     if (slashes == std::string_view::npos) return;
     const std::string_view rest = server.substr(slashes + 2);
     const std::size_t colon = rest.find(':');
     const std::size_t at = rest.rfind('@');
-    if (colon < at && at != std::string_view::npos)
-        AddPieces(rest.substr(colon + 1, at - colon - 1), out);
+    const bool isHostAlone = at == std::string_view::npos;
+    const std::size_t end = isHostAlone ? std::min(rest.find_first_of("/?#,"), rest.size()) : at;
+    if (colon >= end || (isHostAlone && rest.starts_with('['))) return;
+    const std::string_view password = rest.substr(colon + 1, end - colon - 1);
+    if (!isHostAlone || !std::ranges::all_of(password, IsDigit)) AddPieces(password, out);
 }
 
 /// The values of the password keywords, between "?", "&" and ";".
