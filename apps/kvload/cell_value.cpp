@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "base/text.h"
+#include "frame/coordinate_text.h"
 #include "kvload/refused.h"
 
 namespace kvload {
@@ -57,6 +58,13 @@ std::string NumberValue(const Column& column, std::string_view text) {
     const auto end =
         std::to_chars(written, written + sizeof written, *value, std::chars_format::fixed);
     return std::string(written, end.ptr);
+}
+
+/// The letter of a hemisphere stands beside a sign.
+bool HasSignAndLetter(std::string_view text) {
+    if (!text.starts_with('-') && !text.starts_with('+')) return false;
+    const auto unsignedOne = kv::ParseCoordinate(text.substr(1));
+    return unsignedOne && !unsignedOne->angle;
 }
 
 /// What a date is written of: signs of its own, and numbers of so many digits.
@@ -137,6 +145,24 @@ std::optional<double> NumberIn(std::string_view text) {
     const char* end = text.data() + text.size();
     const auto read = std::from_chars(text.data(), end, value);
     if (read.ec != std::errc() || read.ptr != end || !std::isfinite(value)) return std::nullopt;
+    return value;
+}
+
+double CoordinateIn(std::string_view text, Axis axis) {
+    if (const std::optional<double> number = NumberIn(text)) return *number;
+    const std::string named = "the coordinate " + Quoted(text);
+    const auto read = kv::ParseCoordinate(text);
+    if (!read || (read->latitude && read->longitude))
+        throw Refused(named + (HasSignAndLetter(text)
+                                   ? " has a sign and the letter of a hemisphere"
+                                   : " is neither a number nor degrees, minutes and seconds"));
+    if (axis == Axis::kX && read->latitude)
+        throw Refused(named + " is a latitude, not a longitude");
+    if (axis == Axis::kY && read->longitude)
+        throw Refused(named + " is a longitude, not a latitude");
+    const double value = read->angle.value_or(read->latitude.value_or(read->longitude.value_or(0)));
+    if (text.starts_with('+') && value < 0.0)
+        throw Refused(named + " has a sign and the letter of the other hemisphere");
     return value;
 }
 

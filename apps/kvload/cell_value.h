@@ -21,6 +21,14 @@ std::string ApiNumber(std::string_view text);
 /// None where the text is no number, or has anything behind it.
 std::optional<double> NumberIn(std::string_view text);
 
+/// Which of the two coordinates of a place.
+enum class Axis { kX, kY };
+
+/// A coordinate: a number, or degrees with minutes and seconds in any notation of one angle that
+/// `kv::ParseCoordinate` reads. Throws Refused, also where a letter tells that it is the other of
+/// the two, or does not go with a sign.
+double CoordinateIn(std::string_view text, Axis axis);
+
 /// Year-month-day. Throws Refused.
 std::string DayOf(std::string_view text, const std::string& format);
 

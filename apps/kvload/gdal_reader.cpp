@@ -185,6 +185,22 @@ Cell CellOf(OGRFeatureH feature, int field, OGRFieldType type) {
     }
 }
 
+/// An entry of the list without a text stands for itself.
+FieldFacts FactsOf(GDALDatasetH dataset, OGRFieldDefnH field) {
+    FieldFacts facts{.alias = Utf8(OGR_Fld_GetAlternativeNameRef(field))};
+    const std::string list = OGR_Fld_GetDomainName(field);
+    OGRFieldDomainH domain =
+        list.empty() ? nullptr : GDALDatasetGetFieldDomain(dataset, list.c_str());
+    if (!domain || OGR_FldDomain_GetDomainType(domain) != OFDT_CODED) return facts;
+    for (const OGRCodedValue* value = OGR_CodedFldDomain_GetEnumeration(domain);
+         value && value->pszCode; ++value) {
+        const std::string code = Utf8(value->pszCode);
+        const std::string text = kv::TrimSpace(value->pszValue ? Utf8(value->pszValue) : "");
+        facts.texts.emplace(code, text.empty() ? code : text);
+    }
+    return facts;
+}
+
 Spots PlacesOf(OGRGeometryH line) {
     static_assert(sizeof(Spot) == 2 * sizeof(double));
     Spots places(static_cast<size_t>(OGR_G_GetPointCount(line)));
@@ -300,6 +316,7 @@ public:
             OGRFieldDefnH field = OGR_FD_GetFieldDefn(table, i);
             fields_.push_back(Utf8(OGR_Fld_GetNameRef(field)));
             types_.push_back(OGR_Fld_GetType(field));
+            facts_.push_back(FactsOf(dataset_.get(), field));
         }
         ReadReferenceSystem();
     }
@@ -314,6 +331,7 @@ public:
 
     const std::string& Name() const noexcept override { return name_; }
     const std::vector<std::string>& Fields() const noexcept override { return fields_; }
+    const std::vector<FieldFacts>& Facts() const noexcept override { return facts_; }
     ShapeKind Kind() const noexcept override { return kind_; }
     const std::string& ReferenceSystem() const noexcept override { return referenceSystem_; }
     long long Count() const noexcept override { return count_; }
@@ -356,6 +374,7 @@ private:
     long long count_ = -1;
     std::vector<std::string> fields_;
     std::vector<OGRFieldType> types_;
+    std::vector<FieldFacts> facts_;
     std::string referenceSystem_;
     bool northFirst_ = false;
     int wktField_ = -1;

@@ -3,12 +3,14 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <map>
 #include <nlohmann/json.hpp>
 #include <optional>
 #include <set>
 #include <stdexcept>
 
 #include "base/text.h"
+#include "frame/coordinate_text.h"
 #include "kvload/cell_value.h"
 #include "kvload/column_names.h"
 #include "kvload/label.h"
@@ -47,6 +49,8 @@ public:
     explicit Guesser(Layer& layer) : layer_(layer) {
         for (const std::string& field : layer.Fields())
             plain_.push_back(Plain(field));
+        for (const FieldFacts& facts : layer.Facts())
+            alias_.push_back(Plain(facts.alias));
         values_.resize(plain_.size());
         ReadValues();
     }
@@ -97,8 +101,9 @@ private:
     /// A shapefile keeps ten characters of a name.
     bool IsNamed(size_t field, std::string_view name) const {
         constexpr size_t kOfAShapefile = 10;
-        return plain_[field] == name || (layer_.Fields()[field].size() == kOfAShapefile &&
-                                         !plain_[field].empty() && name.starts_with(plain_[field]));
+        return plain_[field] == name || alias_[field] == name ||
+               (layer_.Fields()[field].size() == kOfAShapefile && !plain_[field].empty() &&
+                name.starts_with(plain_[field]));
     }
 
     /// The fields that may be a column by their names, the likeliest first.
@@ -123,8 +128,26 @@ private:
         return -1;
     }
 
+    const std::map<std::string, std::string>& TextsOf(int field) const {
+        return layer_.Facts()[static_cast<size_t>(field)].texts;
+    }
+
+    /// Whether a field's values are those of a list with texts that a column can take.
+    bool TakesTexts(const Target& target, const std::string& column, int field) const {
+        const auto fits = [&](const auto& entry) {
+            try {
+                Try(target, column, entry.second, "");
+                return true;
+            } catch (const Refused&) {
+                return false;
+            }
+        };
+        return !TextsOf(field).empty() && std::ranges::all_of(TextsOf(field), fits);
+    }
+
     /// Why a column cannot take most of a field's values; "" where it can.
     std::string WhyUnfit(const Target& target, const std::string& column, int field) const {
+        if (TakesTexts(target, column, field)) return {};
         const auto& values = values_[static_cast<size_t>(field)];
         const std::string format = DateFormatOf(values);
         size_t unfit = 0;
@@ -241,19 +264,38 @@ private:
 
     ordered_json RuleFor(const Target& target, const std::string& column, int field) {
         const std::string& name = NameOf(field);
-        const auto& values = values_[static_cast<size_t>(field)];
         const int at = ColumnIndex(TableOf(target), column);
+        ordered_json rule = {{"field", name}};
+        std::vector<std::string> values = values_[static_cast<size_t>(field)];
+        if (!TextsOf(field).empty()) {
+            rule["codes"] = CodesFor(target, column, field);
+            values.assign(rule["codes"].begin(), rule["codes"].end());
+        }
         if (NamesArea(column)) {
-            if (const char* by = AreaColumnOf(values)) return {{"field", name}, {"by", by}};
+            if (const char* by = AreaColumnOf(values)) rule["by"] = by;
         } else if (at >= 0 && TableOf(target).columns[static_cast<size_t>(at)].kind ==
                                   kv::sample::CellKind::kDate) {
             const std::string format = DateFormatOf(values);
             if (AreDays(values, "MM/DD/YYYY") && AreDays(values, "DD/MM/YYYY"))
                 Note("the dates of \"" + column + "\" may be read in two ways; " + format +
                      " is a guess");
-            if (!format.empty()) return {{"field", name}, {"format", format}};
+            if (!format.empty()) rule["format"] = format;
         }
-        return name;
+        return rule.size() > 1 ? rule : ordered_json(name);
+    }
+
+    /// The texts of a list, each with what stands for it: the text itself, or else its value, which
+    /// the person who knows the dataset's codes replaces by those.
+    ordered_json CodesFor(const Target& target, const std::string& column, int field) const {
+        const bool takesTexts = TakesTexts(target, column, field);
+        std::set<std::string> different;
+        for (const auto& [value, text] : TextsOf(field))
+            different.insert(kv::ToUpper(text));
+        const bool byText = takesTexts || different.size() == TextsOf(field).size();
+        ordered_json codes = ordered_json::object();
+        for (const auto& [value, text] : TextsOf(field))
+            codes[byText ? text : value] = takesTexts ? text : value;
+        return codes;
     }
 
     /// Two letters are an MMS code, what is too long for a code a name.
@@ -293,32 +335,59 @@ private:
     Pair PairNamed(std::string_view x, std::string_view y, const DatumMark& mark) const {
         const auto marked = [&](std::string_view column) {
             for (const char* name : NamesOfColumn(column)) {
-                const auto found = std::ranges::find(plain_, std::string(name) + mark.mark);
-                if (found != plain_.end()) return static_cast<int>(found - plain_.begin());
+                const std::string whole = std::string(name) + mark.mark;
+                for (size_t i = 0; i < plain_.size(); ++i)
+                    if (plain_[i] == whole || alias_[i] == whole) return static_cast<int>(i);
             }
             return -1;
         };
         const Pair pair{marked(x), marked(y), mark.crs};
-        return AreDegrees(pair.x, 360.0) && AreDegrees(pair.y, 90.0) ? pair : Pair{};
+        return AreDegrees(pair.x, Axis::kX) && AreDegrees(pair.y, Axis::kY) ? pair : Pair{};
+    }
+
+    static bool IsDegrees(const std::string& value, Axis axis) {
+        try {
+            return std::abs(CoordinateIn(value, axis)) <= (axis == Axis::kX ? 360.0 : 90.0);
+        } catch (const Refused&) {
+            return false;
+        }
     }
 
     /// What its name tells is a datum of degrees alone.
-    bool AreDegrees(int field, double most) const {
-        return field >= 0 && std::ranges::all_of(values_[static_cast<size_t>(field)],
-                                                 [&](const std::string& value) {
-                                                     const std::optional<double> number =
-                                                         NumberIn(value);
-                                                     return number && std::abs(*number) <= most;
-                                                 });
+    bool AreDegrees(int field, Axis axis) const {
+        return field >= 0 && std::ranges::all_of(
+                                 values_[static_cast<size_t>(field)],
+                                 [&](const std::string& value) { return IsDegrees(value, axis); });
+    }
+
+    /// The first field whose values tell by their letters that they are that coordinate, beside the
+    /// two of a well's bottom; -1 where there is none.
+    int FieldTelling(Axis axis, const Pair& bottom) const {
+        const auto tells = [&](const std::string& value) {
+            const auto read = kv::ParseCoordinate(value);
+            const bool isX = read && read->longitude, isY = read && read->latitude;
+            return axis == Axis::kX ? isX && !isY : isY && !isX;
+        };
+        for (size_t i = 0; i < values_.size(); ++i) {
+            const int field = static_cast<int>(i);
+            if (!values_[i].empty() && field != bottom.x && field != bottom.y &&
+                std::ranges::all_of(values_[i], tells))
+                return field;
+        }
+        return -1;
     }
 
     Pair PairFor(std::string_view x, std::string_view y) const {
         for (const DatumMark& mark : kDatumMarks)
             if (const Pair pair = PairNamed(x, y, mark); pair.IsThere()) return pair;
-        return {FieldNamed(x), FieldNamed(y), ""};
+        const Pair named{FieldNamed(x), FieldNamed(y), ""};
+        return named.IsThere() ? named : PairNamed(x, y, {"DMS", ""});
     }
     Pair PlaceOf(const Target& target) const {
-        return target.places == Places::kPoint && IsBare() ? PairFor("x", "y") : Pair{};
+        if (target.places != Places::kPoint || !IsBare()) return {};
+        if (const Pair pair = PairFor("x", "y"); pair.IsThere()) return pair;
+        const Pair bottom = BottomOf(target);
+        return {FieldTelling(Axis::kX, bottom), FieldTelling(Axis::kY, bottom), ""};
     }
     Pair BottomOf(const Target& target) const {
         return ColumnIndex(TableOf(target), "bot_lat") >= 0 ? PairFor("bottom x", "bottom y")
@@ -335,6 +404,7 @@ private:
 
     Layer& layer_;
     std::vector<std::string> plain_;
+    std::vector<std::string> alias_;
     /// The first values of each field that are not empty.
     std::vector<std::vector<std::string>> values_;
     ordered_json json_;

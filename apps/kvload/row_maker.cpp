@@ -1,7 +1,6 @@
 #include "kvload/row_maker.h"
 
 #include <algorithm>
-#include <charconv>
 
 #include "base/text.h"
 #include "kvload/cell_value.h"
@@ -14,15 +13,6 @@ namespace {
 bool IsLabelPart(std::string_view column) {
     return column == kLabel || column == kToLabel || column.ends_with("lbnum") ||
            column.ends_with("lbext");
-}
-
-double NumberOf(const std::string& text) {
-    double value = 0.0;
-    const char* end = text.data() + text.size();
-    const auto read = std::from_chars(text.data(), end, value);
-    if (read.ec != std::errc() || read.ptr != end)
-        throw Refused("the coordinate \"" + text.substr(0, 40) + "\" is no number");
-    return value;
 }
 
 std::string Counted(size_t count, const char* what) {
@@ -75,16 +65,17 @@ RowMaker::RowMaker(const Mapping& mapping, const Layer& layer, const AreaIndex& 
 int RowMaker::FieldNamed(const std::string& name) {
     if (name.empty()) return -1;
     const auto& fields = layer_.Fields();
-    auto found = std::ranges::find(fields, name);
-    if (found == fields.end()) {
-        found = std::ranges::find_if(
-            fields, [&](const std::string& field) { return kv::EqualsNoCase(field, name); });
-    }
-    if (found == fields.end()) {
-        missing_.push_back("\"" + name + "\"");
-        return -1;
-    }
-    return static_cast<int>(found - fields.begin());
+    const auto isName = [&](const std::string& field) { return kv::EqualsNoCase(field, name); };
+    const auto first = [](const auto& range, const auto& found) {
+        return found == range.end() ? -1 : static_cast<int>(found - range.begin());
+    };
+    for (const int field :
+         {first(fields, std::ranges::find(fields, name)),
+          first(fields, std::ranges::find_if(fields, isName)),
+          first(layer_.Facts(), std::ranges::find_if(layer_.Facts(), isName, &FieldFacts::alias))})
+        if (field >= 0) return field;
+    missing_.push_back("\"" + name + "\"");
+    return -1;
 }
 
 void RowMaker::Bind() {
@@ -154,14 +145,18 @@ std::string RowMaker::TextIn(const Feature& feature, int field) {
     return isNull ? "" : text;
 }
 
-/// What the source says of a column, or the mapping in its place.
+/// What the source says of a column, or the mapping in its place. Of a value of a list its text is
+/// looked for ahead of itself, so that a text that is another value's code is taken for a text.
 std::string RowMaker::TextOf(const Bound& bound, const Feature& feature) const {
     if (bound.field < 0) return bound.rule->value;
     std::string text = TextIn(feature, bound.field);
     const auto& codes = bound.rule->codes;
     if (codes.empty()) return text;
-    const auto coded = codes.find(kv::ToUpper(text));
-    if (coded != codes.end()) return coded->second;
+    const auto& texts = layer_.Facts()[static_cast<size_t>(bound.field)].texts;
+    const auto listed = texts.find(text);
+    for (const std::string& known : {listed == texts.end() ? text : listed->second, text})
+        if (const auto coded = codes.find(kv::ToUpper(known)); coded != codes.end())
+            return coded->second;
     if (text.empty()) return {};
     if (const auto other = codes.find("*"); other != codes.end()) return other->second;
     throw Refused(bound.rule->column + ": \"" + text.substr(0, 40) + "\" is none of the codes");
@@ -297,7 +292,7 @@ Made RowMaker::Make(const Feature& feature) const {
 std::optional<Spot> RowMaker::PlaceIn(const Feature& feature, int x, int y) {
     const std::string east = TextIn(feature, x), north = TextIn(feature, y);
     if (east.empty() || north.empty()) return std::nullopt;
-    return Spot{NumberOf(east), NumberOf(north)};
+    return Spot{CoordinateIn(east, Axis::kX), CoordinateIn(north, Axis::kY)};
 }
 
 /// Both coordinates 0 are what many tables hold for a place that nobody knows.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -34,6 +35,14 @@ struct Feature {
     Shape shape;
 };
 
+/// What a file tells of a field beside its name, as geodatabases do.
+struct FieldFacts {
+    /// Another name, for people; "" where there is none.
+    std::string alias = {};
+    /// Where its values are those of a list: the text that stands for each.
+    std::map<std::string, std::string> texts = {};
+};
+
 /// One table of a file, read row by row. No exception crosses its border.
 class Layer {
 public:
@@ -43,6 +52,7 @@ public:
     virtual const std::string& Name() const noexcept = 0;
     /// The names of the fields, in the order of a feature's cells.
     virtual const std::vector<std::string>& Fields() const noexcept = 0;
+    virtual const std::vector<FieldFacts>& Facts() const noexcept = 0;
     virtual ShapeKind Kind() const noexcept = 0;
     /// In the words that PROJ reads; "" where the file tells none.
     virtual const std::string& ReferenceSystem() const noexcept = 0;

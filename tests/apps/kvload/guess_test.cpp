@@ -171,6 +171,95 @@ TEST_F(Guesses, KnowTheDatumOfCoordinatesThatNameIt) {
     EXPECT_EQ(Rows("select surf_lat, surf_lon from gulf_mexico_well_hdr"), "28|-90\n");
 }
 
+TEST_F(Guesses, KnowCoordinatesInDegreesMinutesAndSecondsByTheirNamesOrTheirLetters) {
+    EXPECT_EQ(GuessOfCsv("API,LAT_NAD27,LONG_NAD27\n6033000101,28 30 15 N,90:15:30 W\n")["place"],
+              (json{{"x", "LONG_NAD27"}, {"y", "LAT_NAD27"}, {"crs", "EPSG:4267"}}));
+    EXPECT_EQ(GuessOfCsv("API,Lat_DMS,Long_DMS\n6033000101,28-30-15,-90-15-30\n")["place"],
+              (json{{"x", "Long_DMS"}, {"y", "Lat_DMS"}}));
+    const json mapping = GuessOfCsv(
+        "API,Depth,North,West,BH_LAT,BH_LON\n6033000101,120,28 30 15 N,90 15 30 W,28 N,90 W\n"
+        "6033000102,130,,90 15.5 W,28 N,90 W\n");
+    EXPECT_EQ(mapping["table"], "wells");
+    EXPECT_EQ(mapping["place"], (json{{"x", "West"}, {"y", "North"}}));
+    EXPECT_EQ(mapping["bottom"], (json{{"x", "BH_LON"}, {"y", "BH_LAT"}}));
+    EXPECT_FALSE(GuessOfCsv("API,From,To\n6033000101,28 30,95 30\n").contains("place"));
+}
+
+/// A file geodatabase with one well, whose fields have other names and lists of values.
+class GuessesOfGeodatabases : public Guesses {
+protected:
+    json GuessOfWell(const std::vector<std::string>& cells) {
+        OgrFile file = {.path = folder.Native("wells.gdb"),
+                        .driver = "OpenFileGDB",
+                        .system = "EPSG:4267",
+                        .fields = {"F1", "F2", "F3", "F4"},
+                        .rows = {{"POINT (-90 27)", cells}},
+                        .type = "POINT"};
+        file.aliases = {"API Well Number", "Borehole Stat Cd", "Operator", "Surf Area"};
+        file.lists = {{"F2", {{"1", "Completed"}, {"2", "Abandoned"}}},
+                      {"F3", {{"00276", "Some Oil"}, {"00277", "Other Oil"}}},
+                      {"F4", {{"1", "Green Canyon"}, {"2", "Walker Ridge"}}}};
+        WriteOgrFile(file);
+        guess = GuessOf("wells.gdb");
+        return json::parse(guess.json);
+    }
+};
+
+TEST_F(GuessesOfGeodatabases, KnowFieldsByTheirOtherNamesAndShowTheTextsOfTheirLists) {
+    const json mapping = GuessOfWell({"6033000101", "2", "00276", "1"});
+    EXPECT_EQ(mapping["table"], "wells");
+    const json& fields = mapping["fields"];
+    EXPECT_EQ(fields["api_no"], "F1");
+    EXPECT_EQ(fields["status"],
+              (json{{"field", "F2"}, {"codes", {{"Completed", "1"}, {"Abandoned", "2"}}}}));
+    EXPECT_EQ(fields["operator"]["codes"],
+              (json{{"Some Oil", "Some Oil"}, {"Other Oil", "Other Oil"}}));
+    EXPECT_EQ(fields["areacode"]["by"], "areaname");
+    LoadArea();
+    EXPECT_THAT(Load("wells.gdb", guess.json).notes, IsEmpty());
+    EXPECT_EQ(Rows("select api_no, status, operator, areacode from gulf_mexico_well_hdr"),
+              "603300010100|2|SOME OIL|43602\n");
+}
+
+TEST_F(GuessesOfGeodatabases, GiveCodesByTextsToALoadWhichKnowsOtherNamesToo) {
+    GuessOfWell({"6033000101", "2", "00276", "1"});
+    Load("wells.gdb", R"({"table": "wells", "fields": {"api_no": "api well number",
+        "status": {"field": "F2", "codes": {"Abandoned": "PA", "1": "COM"}},
+        "operator": "F3"}})");
+    EXPECT_EQ(Rows("select api_no, status, operator from gulf_mexico_well_hdr"),
+              "603300010100|PA|00276\n");
+}
+
+TEST_F(GuessesOfGeodatabases, OfAListWhoseTextsAreNotOneEachGoByItsValues) {
+    WriteOgrFile({.path = folder.Native("wells.gpkg"),
+                  .driver = "GPKG",
+                  .system = "EPSG:4267",
+                  .fields = {"API", "STATUS"},
+                  .rows = {{"POINT (-90 27)", {"6033000101", "A"}},
+                           {"POINT (-90 27)", {"6033000102", "B"}},
+                           {"POINT (-90 27)", {"6033000103", "C"}}},
+                  .type = "POINT",
+                  .lists = {{"STATUS", {{"A", "Other"}, {"B", "OTHER"}, {"C", ""}}}}});
+    guess = GuessOf("wells.gpkg");
+    EXPECT_EQ(json::parse(guess.json)["fields"]["status"]["codes"],
+              (json{{"A", "A"}, {"B", "B"}, {"C", "C"}}));
+    Load("wells.gpkg", guess.json);
+    EXPECT_EQ(Rows("select status from gulf_mexico_well_hdr order by 1"), "A\nB\nC\n");
+}
+
+TEST_F(GuessesOfGeodatabases, OfATextThatIsAnotherValueTakeItForAText) {
+    WriteOgrFile({.path = folder.Native("wells.gpkg"),
+                  .driver = "GPKG",
+                  .system = "EPSG:4267",
+                  .fields = {"API", "STATUS"},
+                  .rows = {{"POINT (-90 27)", {"6033000101", "OLD"}},
+                           {"POINT (-90 27)", {"6033000102", "PAST"}}},
+                  .type = "POINT",
+                  .lists = {{"STATUS", {{"OLD", "past"}, {"PAST", "forever"}}}}});
+    Load("wells.gpkg", GuessOf("wells.gpkg").json);
+    EXPECT_EQ(Rows("select status from gulf_mexico_well_hdr order by api_no"), "OLD\nPAST\n");
+}
+
 TEST_F(Guesses, DoNotTakeFeetForDegreesOfADatum) {
     const json mapping = GuessOfCsv("API,X_NAD27,Y_NAD27\n6033000101,3000000,100000\n");
     EXPECT_FALSE(mapping.contains("place"));

@@ -17,6 +17,9 @@ protected:
         folder.Write("blocks.csv", "area,block,WKT\n" + rows);
         return Load("blocks.csv", kBlocks);
     }
+    static constexpr const char* kWells = R"({"table": "wells", "crs": "EPSG:4267",
+        "place": {"x": "x", "y": "y"}, "fields": {"api_no": "api"}})";
+
     std::string Outline() const {
         return Rows("select lat, lon from gulf_mexico_lbv order by refnum, ptnum");
     }
@@ -181,6 +184,47 @@ TEST_F(LoadRows, OfWellsHaveTheirBottomToo) {
         "bottom": {"x": "bx", "y": "by"}, "fields": {"api_no": "api"}})");
     EXPECT_EQ(Rows("select surf_lat, surf_lon, bot_lat, bot_lon from gulf_mexico_well_hdr"),
               "28|-90|28.5|-90.5\n");
+}
+
+TEST_F(LoadRows, HaveTheirPlacesInDegreesMinutesAndSecondsAsWell) {
+    folder.Write("wells.csv",
+                 "api,x,y\n1771140101,90 15 30.6 W,28 30 15.2 N\n"
+                 "1771140102,\"90\u00b015'30.6\"\"W\",\"28\u00b030'15.2\"\"N\"\n"
+                 "1771140103,-90:15:30.6,28:30:15.2\n1771140104,90 15.51 W,28.5042222222 N\n"
+                 "1771140105,W90-15-30.6,N28-30-15.2\n1771140106,-90.2585,28.5042222222\n");
+    const auto outcome = Load("wells.csv", kWells);
+    EXPECT_THAT(outcome.leftOut, IsEmpty());
+    EXPECT_EQ(Rows("select count(*), round(surf_lat, 9), round(surf_lon, 9) from "
+                   "gulf_mexico_well_hdr group by 2, 3"),
+              "6|28.504222222|-90.2585\n");
+}
+
+TEST_F(LoadRows, WhosePlaceCannotBeReadAreListedWithTheReason) {
+    folder.Write("wells.csv",
+                 "api,x,y\n1,90 15 30 W,near\n2,28 30 15 N,90 15 30 W\n3,-90 15 30 W,28\n"
+                 "4,-90 15 30 E,28\n5,+90 15 30 W,28\n6,90 75 30 W,28\n7,\"100,000\",28\n"
+                 "8,-90,90 15 W\n9,90 15 30,28 30 15\n");
+    const auto outcome = Load("wells.csv", R"({"table": "platforms", "crs": "EPSG:4267",
+        "place": {"x": "x", "y": "y"}, "fields": {"complex_id": "api"}})");
+    EXPECT_EQ(outcome.loaded, 0);
+    EXPECT_THAT(
+        outcome.leftOut,
+        ElementsAre("row 1, 1: the coordinate \"near\" is neither a number nor degrees, minutes "
+                    "and seconds",
+                    HasSubstr("\"28 30 15 N\" is a latitude, not a longitude"),
+                    HasSubstr("\"-90 15 30 W\" has a sign and the letter of a hemisphere"),
+                    HasSubstr("\"-90 15 30 E\" has a sign and the letter of a hemisphere"),
+                    HasSubstr("has a sign and the letter of the other hemisphere"),
+                    HasSubstr("\"90 75 30 W\" is neither"), HasSubstr("\"100,000\" is neither"),
+                    HasSubstr("\"90 15 W\" is a longitude, not a latitude"),
+                    HasSubstr("is far from where NAD27 is used")));
+}
+
+TEST_F(LoadRows, InAProjectionHaveNoPlacesInDegreesMinutesAndSeconds) {
+    folder.Write("wells.csv", "api,x,y\n1771140101,90 15 30.6 W,28 30 15.2 N\n");
+    const auto outcome = Load("wells.csv", R"({"table": "wells", "crs": "EPSG:32065",
+        "place": {"x": "x", "y": "y"}, "fields": {"api_no": "api"}})");
+    EXPECT_THAT(outcome.leftOut, ElementsAre(HasSubstr("are degrees, it seems")));
 }
 
 TEST_F(LoadRows, OfPipelinesAreJoinedWhereTheirPartsMeet) {

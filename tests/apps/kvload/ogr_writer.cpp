@@ -1,5 +1,6 @@
 #include "apps/kvload/ogr_writer.h"
 
+#include <cpl_conv.h>
 #include <cpl_string.h>
 #include <cpl_vsi.h>
 #include <gdal.h>
@@ -25,6 +26,34 @@ OGRwkbGeometryType TypeNamed(const std::string& name) {
     const OGRwkbGeometryType type = OGR_G_GetGeometryType(empty);
     OGR_G_DestroyGeometry(empty);
     return type;
+}
+
+void AddList(GDALDatasetH dataset, const OgrList& list, OGRFieldDefnH field) {
+    std::vector<OGRCodedValue> values;
+    std::vector<std::pair<std::string, std::string>> texts = list.texts;
+    for (auto& [code, text] : texts)
+        values.push_back({code.data(), text.data()});
+    values.push_back({nullptr, nullptr});
+    const std::string name = list.field + "_list";
+    OGRFieldDomainH domain =
+        OGR_CodedFldDomain_Create(name.c_str(), "", OFTString, OFSTNone, values.data());
+    char* reason = nullptr;
+    const bool added = GDALDatasetAddFieldDomain(dataset, domain, &reason);
+    CPLFree(reason);
+    OGR_FldDomain_Destroy(domain);
+    Require(added, name);
+    OGR_Fld_SetDomainName(field, name.c_str());
+}
+
+void AddFields(GDALDatasetH dataset, OGRLayerH layer, const OgrFile& file) {
+    for (size_t i = 0; i < file.fields.size(); ++i) {
+        OGRFieldDefnH field = OGR_Fld_Create(file.fields[i].c_str(), OFTString);
+        if (i < file.aliases.size()) OGR_Fld_SetAlternativeName(field, file.aliases[i].c_str());
+        for (const OgrList& list : file.lists)
+            if (list.field == file.fields[i]) AddList(dataset, list, field);
+        OGR_L_CreateField(layer, field, true);
+        OGR_Fld_Destroy(field);
+    }
 }
 
 void WriteRow(OGRLayerH layer, const OgrRow& row) {
@@ -65,11 +94,7 @@ void WriteOgrFile(const OgrFile& file) {
     CSLDestroy(options);
     if (system) OSRRelease(system);
     Require(layer, "a layer");
-    for (const std::string& name : file.fields) {
-        OGRFieldDefnH field = OGR_Fld_Create(name.c_str(), OFTString);
-        OGR_L_CreateField(layer, field, true);
-        OGR_Fld_Destroy(field);
-    }
+    AddFields(dataset, layer, file);
     for (const OgrRow& row : file.rows)
         WriteRow(layer, row);
     GDALClose(dataset);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace test {
@@ -9,6 +10,12 @@ namespace test {
 struct OgrRow {
     std::string shape;
     std::vector<std::string> cells;
+};
+
+/// The values that a field may have, each with the text that stands for it.
+struct OgrList {
+    std::string field;
+    std::vector<std::pair<std::string, std::string>> texts;
 };
 
 /// A file to be written through GDAL.
@@ -22,6 +29,9 @@ struct OgrFile {
     /// Of the geometry, as MULTIPOLYGON; a file geodatabase wants to know.
     std::string type = "GEOMETRY";
     std::vector<std::string> layerOptions = {};
+    /// Other names of the fields, in their order.
+    std::vector<std::string> aliases = {};
+    std::vector<OgrList> lists = {};
 };
 
 /// Throws std::runtime_error.
