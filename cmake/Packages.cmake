@@ -2,6 +2,8 @@
 # them.
 
 set(texts ${PROJECT_SOURCE_DIR}/cmake/package)
+# These are none of Debian's own, which count from 1.
+set(CPACK_DEBIAN_PACKAGE_RELEASE 0kvguictl1)
 configure_file(${texts}/changelog.in ${PROJECT_BINARY_DIR}/package/changelog.Debian @ONLY)
 configure_file(${PROJECT_SOURCE_DIR}/CHANGELOG.md ${PROJECT_BINARY_DIR}/package/changelog COPYONLY)
 kvguictl_compress(${PROJECT_BINARY_DIR}/package/changelog.Debian debian_changes)
@@ -22,6 +24,11 @@ macro(kvguictl_package component name description section copyright)
             EXCLUDE_FROM_ALL)
     install(FILES ${texts}/${copyright} RENAME copyright DESTINATION ${folder}
             COMPONENT ${component} EXCLUDE_FROM_ALL)
+    if(EXISTS ${texts}/lintian-overrides.${component})
+        install(FILES ${texts}/lintian-overrides.${component} RENAME ${name}
+                DESTINATION ${CMAKE_INSTALL_DATADIR}/lintian/overrides COMPONENT ${component}
+                EXCLUDE_FROM_ALL)
+    endif()
 endmacro()
 
 set(programs_recommend kvguictl-engines)
@@ -55,8 +62,6 @@ kvguictl_package(dev libkvguictl-dev "${summary}: development files
 Headers, a CMake package and pkg-config files for programs that open the
 dialogs of KVGuiCtl." libdevel copyright library ${qt})
 set(CPACK_DEBIAN_DEV_PACKAGE_RECOMMENDS qt6-base-dev)
-install(FILES ${texts}/lintian-overrides.dev RENAME libkvguictl-dev
-        DESTINATION ${CMAKE_INSTALL_DATADIR}/lintian/overrides COMPONENT dev EXCLUDE_FROM_ALL)
 
 kvguictl_package(programs kvguictl "${summary}: programs
 The workbench shows a dataset on a map and in reports, and opens every dialog.
@@ -79,7 +84,6 @@ set(CPACK_DEBIAN_ENABLE_COMPONENT_DEPENDS ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
 set(CPACK_DEBIAN_PACKAGE_SOURCE kvguictl)
-set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_LIBRARY_OUTPUT_DIRECTORY})
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
