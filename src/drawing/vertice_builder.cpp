@@ -226,6 +226,7 @@ void CKvGuiVerticeBuilder::OnButtonAddPt() {
         if (m_bEditing && selected >= 0) {
             m_listXY.DeleteString(static_cast<UINT>(selected));
             m_listXY.InsertString(selected, row.c_str());
+            m_bEditing = false;
         } else {
             m_listXY.AddString(row.c_str());
         }
@@ -261,6 +262,7 @@ void CKvGuiVerticeBuilder::OnButtonInsertPt() {
     const std::string row = InsertedRow();
     if (!HasRow(row)) {
         m_listXY.InsertString(selected, row.c_str());
+        EnableButton(kAccept, TRUE);
         Changed();
     }
     ResetXYContent();
@@ -305,6 +307,7 @@ void CKvGuiVerticeBuilder::MoveRow(int by) {
     m_listXY.InsertString(to, row.c_str());
     m_listXY.SetCurSel(to);
     OnSelchangeLISTXYPos();
+    EnableButton(kAccept, TRUE);
     Changed();
 }
 

@@ -694,6 +694,28 @@ TEST_F(WorkbenchDrawing, AnotherDatabaseEndsTheTool) {
     host->Runner().Finish();
 }
 
+TEST_F(WorkbenchDrawing, AnotherToolIsNotTakenUpOverAHalfDrawnLineUnasked) {
+    Choose("Polyline");
+    Click(middle);
+    Answer(QMessageBox::No);
+    Choose("Polygon");
+    EXPECT_EQ(Mode(), "Draw: next point");
+    EXPECT_TRUE(MenuAction("Polyline")->isChecked());
+    EXPECT_FALSE(MenuAction("Polygon")->isChecked());
+    Answer(QMessageBox::No);
+    Choose("Polyline");
+    EXPECT_EQ(Mode(), "Draw: next point") << "the tool that is in use ends when it is chosen";
+    EXPECT_TRUE(MenuAction("Polyline")->isChecked());
+    Answer(QMessageBox::Yes);
+    Choose("Polygon");
+    EXPECT_EQ(Mode(), "Draw: first point");
+    EXPECT_TRUE(MenuAction("Polygon")->isChecked());
+    EXPECT_THAT(questions, SizeIs(3));
+    Choose("Polygon");
+    EXPECT_EQ(Mode(), "") << "nothing was drawn: nobody asks";
+    EXPECT_THAT(questions, SizeIs(3));
+}
+
 TEST_F(WorkbenchDrawing, WhatIsHalfDrawnIsAskedAboutAheadOfItsEnd) {
     Choose("Polyline");
     Choose("Read map again");

@@ -118,12 +118,23 @@ void DrawingTools::MakeMenu(QMenu& menu, Commands::WhyNot noMap) {
 void DrawingTools::AddTool(QMenu& menu, Tool tool, const QString& text, const QKeySequence& key,
                            const Commands::WhyNot& noMap) {
     QAction* row = desk_.commands.Add(
-        menu, text, key, [this, tool] { tool == tool_ ? End() : Begin(tool); }, noMap);
+        menu, text, key, [this, tool] { Choose(tool); }, noMap);
     row->setCheckable(true);
     rows_.emplace_back(tool, row);
 }
 
 // Tools begin and end.
+
+void DrawingTools::Choose(Tool tool) {
+    if (!MayLeave()) {
+        // The row of the menu has changed its check of itself.
+        ShowTool();
+    } else if (tool == tool_) {
+        End();
+    } else {
+        Begin(tool);
+    }
+}
 
 void DrawingTools::Begin(Tool tool) {
     End();

@@ -75,6 +75,8 @@ private:
 
     void AddTool(QMenu& menu, Tool tool, const QString& text, const QKeySequence& key,
                  const Commands::WhyNot& noMap);
+    /// Begins with a tool, or ends the one that is in use; asks where a drawing was begun.
+    void Choose(Tool tool);
     void Begin(Tool tool);
     /// Closes what stands beside the map, and forgets what was not accepted.
     void End();
