@@ -1,7 +1,5 @@
 #pragma once
 
-#include <time.h>
-
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
@@ -39,21 +37,6 @@ public:
 
 private:
     std::chrono::steady_clock::time_point begin_ = std::chrono::steady_clock::now();
-};
-
-/// The same in processor time of this process: what others do meanwhile counts for nothing.
-class ProcessorWatch {
-public:
-    double Seconds() const { return Now() - begin_; }
-
-private:
-    static double Now() {
-        timespec time{};
-        clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
-        return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
-    }
-
-    double begin_ = Now();
 };
 
 inline double Median(std::vector<double> values) {

@@ -108,9 +108,8 @@ double RowsIn(kv::Node& window) {
     return rows;
 }
 
-/// All dialogs in turn, again and again, so that a moment in which the machine is slow falls on a
-/// few openings of each. They take a few milliseconds, so others' work would tell more than theirs.
-/// The first round is left out.
+/// All dialogs in turn, again and again, so that a moment in which the machine is busy with
+/// something else falls on a few openings of each. The first round is left out.
 bool MeasureOpening(workbench::Workbench& host) {
     constexpr int kRounds = 45;
     struct Opened {
@@ -121,7 +120,7 @@ bool MeasureOpening(workbench::Workbench& host) {
     std::vector<Opened> opened(dialogs.size());
     for (int round = 0; round <= kRounds; ++round) {
         for (std::size_t i = 0; i < opened.size(); ++i) {
-            const growth::ProcessorWatch watch;
+            const Watch watch;
             workbench::LookAtDialog(host, *dialogs[i], [&](kv::Node& window) {
                 if (round > 0) opened[i].taken.push_back(watch.Seconds());
                 opened[i].rows = RowsIn(window);
