@@ -1,5 +1,5 @@
-// The search for the blocks that touch those selected, beside the same statements on the bare
-// engine and the same outlines in the bare geometry library.
+// The search for the blocks that touch those selected, beside the same on the bare engine and in
+// the bare geometry library, which read both outlines for each candidate.
 
 #include <geos_c.h>
 #include <sqlite3.h>
@@ -75,7 +75,7 @@ void SearchOurs(benchmark::State& state, int count) {
     kv::WindowSystem::Get().SetDesktop(nullptr);
 }
 
-/// What a search asks the database, in the words of the engine.
+/// What a search asks the database, in the words of the engine. It asks for each outline once.
 std::vector<std::string> StatementsOf(const Selection& selection) {
     InitControlDll();
     kv::HeadlessDesktop desktop;
@@ -88,6 +88,31 @@ std::vector<std::string> StatementsOf(const Selection& selection) {
     FindNeighbors(selection);
     kv::db::SetStatementTrace(nullptr);
     kv::WindowSystem::Get().SetDesktop(nullptr);
+    return statements;
+}
+
+/// The same with both outlines for each candidate, in the order in which they are needed.
+std::vector<std::string> WithBothOutlines(BareEngine& engine, const Selection& selection,
+                                          const std::vector<std::string>& asked) {
+    std::vector<std::string> statements;
+    std::map<Place, std::string> outlines;
+    auto next = asked.begin();
+    const auto addOutline = [&](const Place& place) {
+        const auto [at, fresh] = outlines.try_emplace(place);
+        if (fresh) at->second = *next++;
+        statements.push_back(at->second);
+    };
+    for (std::size_t i = 0; i < selection.first.size(); ++i) {
+        std::vector<Place> candidates;
+        statements.push_back(*next++);
+        engine.Read(statements.back(), [&](sqlite3_stmt* row) {
+            candidates.emplace_back(Text(row, 0), Text(row, 1));
+        });
+        for (const Place& candidate : candidates) {
+            addOutline({selection.first[i], selection.second[i]});
+            addOutline(candidate);
+        }
+    }
     return statements;
 }
 
@@ -124,7 +149,7 @@ private:
     std::vector<double> places_;
 };
 
-/// The same statements, in the same order, and the same outlines.
+/// Each candidate's outline beside that of the block.
 std::size_t SearchBare(BareEngine& engine, const std::vector<std::string>& statements) {
     Geometries geometries;
     std::size_t met = 0;
@@ -144,8 +169,9 @@ std::size_t SearchBare(BareEngine& engine, const std::vector<std::string>& state
 
 void SearchPeer(benchmark::State& state, int count) {
     const Selection selection = FirstBlocks(count);
-    const std::vector<std::string> statements = StatementsOf(selection);
     BareEngine engine;
+    const std::vector<std::string> statements =
+        WithBothOutlines(engine, selection, StatementsOf(selection));
     std::size_t met = 0;
     for (auto _ : state)
         met = SearchBare(engine, statements);
