@@ -357,6 +357,8 @@ TEST_F(DirDialog, TabGoesToOpenAndBackAndEscapeCancels) {
     EXPECT_EQ(Run([](kv::User& user) {
                   user.Key(kFolderEdit, "Tab");
                   EXPECT_EQ(FocusedId(), kOpen);
+                  user.Key(kOpen, "Tab");
+                  EXPECT_EQ(FocusedId(), kv::file_dialog::kTypes);
                   user.Focus(kFolderEdit);
                   user.Key(kFolderEdit, "Shift+Tab");
                   EXPECT_NE(FocusedId(), kFolderEdit);

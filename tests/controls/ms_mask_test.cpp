@@ -306,6 +306,15 @@ TEST_F(MsMask, AutoTabStaysWhileTypingIsNotAtTheEnd) {
     });
 }
 
+TEST_F(MsMask, AMaxLengthThatWasSetAheadHoldsFromTheStart) {
+    mask.SetMaxLength(3);
+    RunWith("", [&](kv::User& user) {
+        user.Type(kMask, "12345");
+        EXPECT_EQ(user.Text(kMask), "123");
+        user.Close();
+    });
+}
+
 TEST_F(MsMask, WithoutAMaskItIsAPlainEditOfItsMaxLength) {
     RunWith("", [&](kv::User& user) {
         mask.SetMaxLength(3);
