@@ -265,6 +265,15 @@ TEST_F(MsMask, SetClipTextFillsTheSlots) {
     });
 }
 
+TEST_F(MsMask, WithoutAMaskItsClipTextIsItsText) {
+    RunWith("", [&](kv::User& user) {
+        mask.SetClipText("ab-cd");
+        EXPECT_EQ(user.Text(kMask), "ab-cd");
+        EXPECT_EQ(mask.GetClipText(), "ab-cd");
+        user.Close();
+    });
+}
+
 TEST_F(MsMask, SelTextIsReplacedAsByPasting) {
     RunWith("##-##", [&](kv::User& user) {
         mask.SetText("12-34");
