@@ -118,6 +118,21 @@ TEST(MaskFormat, DatesAreShownByTheirParts) {
            {"mm.dd", "12-31-1999", "12.31"}});
 }
 
+TEST(MaskFormat, EachMonthHasItsName) {
+    Check({{"mmmm mmm", "1/1/2024", "January Jan"},
+           {"mmmm mmm", "2/1/2024", "February Feb"},
+           {"mmmm mmm", "3/1/2024", "March Mar"},
+           {"mmmm mmm", "4/1/2024", "April Apr"},
+           {"mmmm mmm", "5/1/2024", "May May"},
+           {"mmmm mmm", "6/1/2024", "June Jun"},
+           {"mmmm mmm", "7/1/2024", "July Jul"},
+           {"mmmm mmm", "8/1/2024", "August Aug"},
+           {"mmmm mmm", "9/1/2024", "September Sep"},
+           {"mmmm mmm", "10/1/2024", "October Oct"},
+           {"mmmm mmm", "11/1/2024", "November Nov"},
+           {"mmmm mmm", "12/1/2024", "December Dec"}});
+}
+
 TEST(MaskFormat, TimesAreShownByTheirParts) {
     Check({{"hh:mm", "7:05:09", "07:05"},
            {"h:nn:ss", "7:05:09", "7:05:09"},
