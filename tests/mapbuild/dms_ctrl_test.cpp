@@ -180,6 +180,8 @@ TEST_F(DMSCtrl, ShowsThreePartsAsTheyAre) {
         EXPECT_EQ(LatBoxes(), "-0|0|15.500");
         Lat().SetDMS(28, 59, 59.9999);
         EXPECT_EQ(LatBoxes(), "29|0|0");
+        Lat().SetDMS(28, 0, 59.9999);
+        EXPECT_EQ(LatBoxes(), "28|1|0");
         Lat().SetDMS(28, 60, 60.0);
         EXPECT_EQ(LatBoxes(), "28|60|60");
     });
