@@ -448,6 +448,8 @@ TEST_F(BlkExtFiles, ReadersTellWhetherTheFileCouldBeRead) {
     EXPECT_TRUE(dialog.ReadImportFile(folder.Dialog("in.txt"), 3));
     EXPECT_TRUE(dialog.ReadImportFile(folder.Dialog("in.txt"), -1, -1, -1));
     EXPECT_THAT(Entries(), ElementsAre("A/1"));
+    folder.Write("lines.txt", "B,2\n");
+    EXPECT_TRUE(dialog.ReadImportFile(folder.Dialog("lines.txt"), false, ",", "-"));
     desktop.ExpectMessage(kNotOpened);
     dialog.ImportNeighborBlockInfo(folder.Dialog("none.txt"));
     EXPECT_THAT(dialog.GetNeighborRel(), IsEmpty());
