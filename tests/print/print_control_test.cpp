@@ -98,6 +98,15 @@ TEST_F(PrintControl, ProposesTheScaleAtWhichTheSmallerSideFits) {
     EXPECT_EQ(dialog.GetPaperHeight(false, false), 20.0F);
 }
 
+TEST_F(PrintControl, OkKeepsTheMapsLieAsItIsCheckedByWhomever) {
+    RunWithoutPrinter([&](kv::User& user) {
+        user.Window().CheckDlgButton(kMapLandscape, BST_UNCHECKED);
+        user.Window().CheckDlgButton(kMapPortrait, BST_CHECKED);
+        user.Click(IDOK);
+    });
+    EXPECT_FALSE(CKvGuiPrintControl::m_bLandscape);
+}
+
 TEST_F(PrintControl, ListsTheScalesOfFeet) {
     RunWithoutPrinter([&](kv::User& user) {
         EXPECT_THAT(user.Rows(kMapScale),
