@@ -98,6 +98,11 @@ double WithinHalfTurn(double longitude) {
     return longitude < -180.0 ? longitude + 360.0 : longitude;
 }
 
+/// What a place that is refused may have meant: those of the dataset are west of Greenwich.
+const char* HintOfItsSign(const Spot& place) {
+    return place.x > 0.0 ? " (a longitude to the west needs a minus or a W)" : "";
+}
+
 }  // namespace
 
 struct ToDataset::Way {
@@ -191,14 +196,15 @@ Spot ToDataset::Place(const Spot& spot) const {
     if (!std::isfinite(place.x) || !std::isfinite(place.y) || std::abs(place.y) > 90.0 ||
         std::abs(place.x) > 360.0)
         throw Refused(Text(spot) + " is no place in " + way_->name);
+    const char* hint = way_->isFlat ? "" : HintOfItsSign(place);
     if (way_->region->IsFar(place))
-        throw Refused(Text(spot) + " is far from where " + way_->name + " is used");
+        throw Refused(Text(spot) + " is far from where " + way_->name + " is used" + hint);
     if (!way_->grid) return place;
     const PJ_COORD shifted =
         proj_trans(way_->grid.get(), PJ_INV,
                    proj_coord(place.x / kDegreesPerRadian, place.y / kDegreesPerRadian, 0.0, 0.0));
     if (!std::isfinite(shifted.lp.lam) || !std::isfinite(shifted.lp.phi))
-        throw Refused(Text(spot) + " lies outside of the datum grid");
+        throw Refused(Text(spot) + " lies outside of the datum grid" + hint);
     return {shifted.lp.lam * kDegreesPerRadian, shifted.lp.phi * kDegreesPerRadian};
 }
 

@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
@@ -60,7 +61,10 @@ QString CommandName(const QAction& action) {
 }
 
 CommandPalette::CommandPalette(const QMenuBar& menus, QWidget* parent)
-    : QDialog(parent), words_(new QLineEdit(this)), list_(new QTreeWidget(this)) {
+    : QDialog(parent),
+      words_(new QLineEdit(this)),
+      list_(new QTreeWidget(this)),
+      noneFits_(new QLabel(tr("No command has all of these words."), list_)) {
     setWindowTitle(tr("Find a Command"));
     words_->setPlaceholderText(tr("Some words of its name"));
     words_->setAccessibleName(tr("Words of the command's name"));
@@ -96,6 +100,8 @@ CommandPalette::CommandPalette(const QMenuBar& menus, QWidget* parent)
     connect(words_, &QLineEdit::returnPressed, this, &CommandPalette::Choose);
     connect(list_, &QTreeWidget::itemActivated, this, &CommandPalette::Choose);
     connect(list_, &QTreeWidget::itemClicked, this, &CommandPalette::Choose);
+    auto* inList = new QVBoxLayout(list_->viewport());
+    inList->addWidget(noneFits_, 0, Qt::AlignCenter);
     auto* all = new QVBoxLayout(this);
     all->addWidget(words_);
     all->addWidget(list_);
@@ -112,6 +118,7 @@ void CommandPalette::Narrow(const QString& words) {
         if (!first && !item->isHidden()) first = item;
     }
     list_->setCurrentItem(first);
+    noneFits_->setVisible(!first);
 }
 
 void CommandPalette::Choose() {

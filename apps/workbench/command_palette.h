@@ -5,6 +5,7 @@
 #include <vector>
 
 class QAction;
+class QLabel;
 class QLineEdit;
 class QMenuBar;
 class QTreeWidget;
@@ -37,6 +38,7 @@ private:
 
     QLineEdit* words_;
     QTreeWidget* list_;
+    QLabel* noneFits_;               ///< in the list's place where it has no row to show
     std::vector<QAction*> actions_;  ///< one for each row of the list
     QAction* chosen_ = nullptr;
 };

@@ -255,6 +255,19 @@ TEST_F(WorkbenchKeys, EveryDialogIsFoundByItsNameAndByItsClass) {
     EXPECT_FALSE(palette.Chosen());
 }
 
+TEST_F(WorkbenchKeys, WordsThatNoCommandHasAreSaidToFindNothing) {
+    CommandPalette palette(*host->Window().menuBar());
+    palette.show();
+    const auto* hint = palette.List().findChild<QLabel*>();
+    ASSERT_TRUE(hint);
+    EXPECT_FALSE(hint->isVisible());
+    palette.Words().setText("no such command");
+    EXPECT_TRUE(hint->isVisible());
+    EXPECT_EQ(hint->text().toStdString(), "No command has all of these words.");
+    palette.Words().setText("zoom");
+    EXPECT_FALSE(hint->isVisible());
+}
+
 TEST_F(WorkbenchKeys, ArrowsMoveThroughWhatWasFound) {
     CommandPalette palette(*host->Window().menuBar());
     palette.Words().setText("zoom");

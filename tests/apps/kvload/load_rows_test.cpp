@@ -217,7 +217,8 @@ TEST_F(LoadRows, WhosePlaceCannotBeReadAreListedWithTheReason) {
                     HasSubstr("has a sign and the letter of the other hemisphere"),
                     HasSubstr("\"90 75 30 W\" is neither"), HasSubstr("\"100,000\" is neither"),
                     HasSubstr("\"90 15 W\" is a longitude, not a latitude"),
-                    HasSubstr("is far from where NAD27 is used")));
+                    HasSubstr("is far from where NAD27 is used (a longitude to the west needs a "
+                              "minus or a W)")));
 }
 
 TEST_F(LoadRows, InAProjectionHaveNoPlacesInDegreesMinutesAndSeconds) {

@@ -84,6 +84,13 @@ TEST(PlacesOnNad27, CountedOnlyToTheEastAreTheSame) {
     EXPECT_NEAR(way.Place({-180.5, 52.0}).x, 179.5, kClose);
 }
 
+TEST(PlacesElsewhere, InTheEastAreToldWhatTheWestNeeds) {
+    const auto hint = HasSubstr("(a longitude to the west needs a minus or a W)");
+    EXPECT_THAT(Complaint(ToDataset("EPSG:4267"), {90.5, 28.5}), hint);
+    EXPECT_THAT(Complaint(ToDataset("EPSG:4267"), {-30.5, 28.5}), Not(hint));
+    EXPECT_THAT(Complaint(ToDataset("EPSG:32065"), {50'000'000.0, 10'000'000.0}), Not(hint));
+}
+
 TEST(PlacesElsewhere, AreRefused) {
     const ToDataset degrees("EPSG:4267");
     EXPECT_THAT(Complaint(degrees, {500'000.0, 3'100'000.0}), HasSubstr("no place in NAD27"));
