@@ -26,6 +26,7 @@ public:
     using CKvGuiPrintControl::m_nFeetScale;
     using CKvGuiPrintControl::m_nMeterScale;
     using CKvGuiPrintControl::m_pDevMode;
+    using CKvGuiPrintControl::SetPrintScale;
 };
 
 class PrintControl : public test::PrintTest {
@@ -556,6 +557,8 @@ TEST_F(PrintControl, WithoutAPrinterTheDefaultsHold) {
 TEST_F(PrintControl, AnotherPrinterIsFittedAnew) {
     desktop.SetPrinter({"Office", 1, true, 2159, 2794});
     Run(dialog, [&](kv::User& user) {
+        const std::string scaleOfOffice = user.Text(kPrintScale);
+        EXPECT_NE(scaleOfOffice, "857");
         desktop.ExpectPrintSetupCancel();
         user.Click(kChangePrinter);
         EXPECT_FALSE(dialog.IsPrinterSetup());
@@ -567,9 +570,25 @@ TEST_F(PrintControl, AnotherPrinterIsFittedAnew) {
         EXPECT_EQ(user.Text(kForm), "ARCH E");
         EXPECT_EQ(CheckedOf(user, kPrinterLandscape, kPrinterPortrait), "portrait");
         EXPECT_EQ(user.Text(kPrintScale), "857");
+        desktop.ExpectPrintSetup({"Office", 1, true, 2159, 2794});
+        user.Click(kChangePrinter);
+        EXPECT_EQ(CheckedOf(user, kPrinterLandscape, kPrinterPortrait), "landscape");
+        EXPECT_EQ(user.Text(kPrintScale), scaleOfOffice);
+        desktop.ExpectPrintSetup(kPlotter);
+        user.Click(kChangePrinter);
         user.Click(IDOK);
     });
     EXPECT_FALSE(dialog.GetLandScapeMode());
+}
+
+TEST_F(PrintControl, AScaleThatIsNoneIsShownButNotListed) {
+    desktop.SetPrinter(kPlotter);
+    Run(dialog, [&](kv::User& user) {
+        const auto scales = user.Rows(kPrintScale);
+        dialog.SetPrintScale(-5, true);
+        EXPECT_EQ(user.Text(kPrintScale), "-5");
+        EXPECT_EQ(user.Rows(kPrintScale), scales);
+    });
 }
 
 TEST_F(PrintControl, APrinterThatGoesAwayBetweenTwoOpeningsGivesWay) {
