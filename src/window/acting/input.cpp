@@ -179,6 +179,7 @@ bool Release(Node& control, CPoint at) {
 
 bool HoldOver(Node& button, bool inside) {
     if (!CanAct(button) || button.Class() != NodeClass::kButton) return false;
+    if (!static_cast<const ButtonNode&>(button).HeldByMouse()) return false;
     Tell({inside ? Act::kHoldInside : Act::kHoldOutside, button});
     Send(button, BM_SETSTATE, inside);
     return true;

@@ -27,7 +27,8 @@ KVGUICTL_API bool ClickAt(Node& control, CPoint at);
 /// when the focus change swallowed the click. `Release` lets it do its work, if it is still down.
 KVGUICTL_API bool Press(Node& control, CPoint at, Modifiers modifiers = {});
 KVGUICTL_API bool Release(Node& control, CPoint at);
-/// The mouse, held since `Press`, enters or leaves the control.
+/// The mouse, held since `Press`, enters or leaves the button; false where the button is not held,
+/// since it did its work when the mouse went down.
 KVGUICTL_API bool HoldOver(Node& button, bool inside);
 /// The second press of a double-click, which `Release` follows.
 KVGUICTL_API bool PressAgain(Node& control, CPoint at);

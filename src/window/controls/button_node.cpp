@@ -80,7 +80,13 @@ LRESULT ButtonNode::GetState() const {
     return state;
 }
 
+void ButtonNode::Hold() {
+    held_ = true;
+    SetPushed(true);
+}
+
 void ButtonNode::ReleaseAndPress() {
+    held_ = false;
     if (!pushed_) return;
     SetPushed(false);
     Press();
@@ -91,7 +97,7 @@ void ButtonNode::DoubleClick() {
     if (Kind() == BS_OWNERDRAW || HasStyle(BS_NOTIFY)) {
         Notify(BN_DOUBLECLICKED);
     } else {
-        SetPushed(true);
+        Hold();
     }
 }
 
@@ -130,7 +136,7 @@ LRESULT ButtonNode::Process(UINT message, WPARAM wParam, LPARAM lParam) {
     const bool isSpace = wParam == static_cast<WPARAM>(VK_SPACE);
     switch (message) {
         case WM_LBUTTONDOWN:
-            if (Kind() != BS_GROUPBOX) SetPushed(true);
+            if (Kind() != BS_GROUPBOX) Hold();
             return 0;
         case WM_LBUTTONUP:
             ReleaseAndPress();
@@ -148,6 +154,7 @@ LRESULT ButtonNode::Process(UINT message, WPARAM wParam, LPARAM lParam) {
             if (HasStyle(BS_NOTIFY)) Notify(BN_SETFOCUS);
             return 0;
         case WM_KILLFOCUS:
+            held_ = false;
             SetPushed(false);
             if (HasStyle(BS_NOTIFY)) Notify(BN_KILLFOCUS);
             return 0;

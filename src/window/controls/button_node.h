@@ -15,6 +15,8 @@ public:
     int CheckState() const { return check_; }
     /// Held down just now.
     bool Pushed() const { return pushed_; }
+    /// The mouse went down on it and is still to go up, over it or beside it.
+    bool HeldByMouse() const { return held_; }
     /// Id of the image that it shows beside its text, or in its place where the style has BS_ICON
     /// or BS_BITMAP; 0 for none.
     LPARAM Image() const { return image_; }
@@ -33,11 +35,13 @@ private:
     void SetPushed(bool pushed);
     LRESULT SetImage(LPARAM image);
     void CheckInGroup();
+    void Hold();
     void ReleaseAndPress();
     void DoubleClick();
 
     int check_ = BST_UNCHECKED;
     bool pushed_ = false;
+    bool held_ = false;
     LPARAM image_ = 0;
 };
 

@@ -7,6 +7,7 @@
 #include "support/exchanging_dialog.h"
 #include "support/two_screens.h"
 #include "swatch_fixture.h"
+#include "window/acting/input.h"
 
 using namespace kv::palettes;
 using testing::Contains;
@@ -99,6 +100,18 @@ TEST_F(Palettes, EscapeChangesNothingAndSendsNoCommand) {
             });
         EXPECT_NE(before, kind.value);
     }
+}
+
+TEST_F(Palettes, AMouseThatIsStillHeldWhenThePaletteHasGoneOpensNoOther) {
+    Run(host, [&](kv::User&) {
+        kv::Node& swatch = *host.GetDlgItem(test::kType)->m_hWnd;
+        desktop.ExpectWindow("Line Types", [](kv::User& palette) { palette.Click(2005); });
+        kv::input::Press(swatch, {2, 2});
+        kv::input::HoldOver(swatch, false);
+        kv::input::HoldOver(swatch, true);
+        kv::input::Release(swatch, {2, 2});
+        EXPECT_EQ(std::ranges::count(host.told, std::to_string(test::kType) + " clicked"), 1);
+    });
 }
 
 TEST_F(Palettes, SpaceEnterAndTheMnemonicOfTheLabelOpenIt) {

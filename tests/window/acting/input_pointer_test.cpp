@@ -58,6 +58,38 @@ TEST_F(Pointer, AReleaseOutsideTheButtonDoesNothing) {
     EXPECT_FALSE(input::HoldOver(NodeOf(11), false)) << "an edit is not held down";
 }
 
+TEST_F(Pointer, AButtonIsDownAgainWhereTheMouseThatHoldsItComesBack) {
+    const auto& button = static_cast<kv::ButtonNode&>(NodeOf(20));
+    for (const bool again : {false, true}) {
+        again ? input::PressAgain(NodeOf(20), {5, 5}) : input::Press(NodeOf(20), {5, 5});
+        EXPECT_TRUE(input::HoldOver(NodeOf(20), false));
+        EXPECT_FALSE(button.Pushed());
+        EXPECT_TRUE(input::HoldOver(NodeOf(20), true));
+        EXPECT_TRUE(button.Pushed());
+        Told();
+        input::Release(NodeOf(20), {5, 5});
+        EXPECT_THAT(Told(), ElementsAre("20 clicked"));
+    }
+}
+
+TEST_F(Pointer, AButtonThatTheMouseDoesNotHoldTakesNoNoticeOfIt) {
+    const auto& button = static_cast<kv::ButtonNode&>(NodeOf(20));
+    const auto takesNone = [&](const char* when) {
+        EXPECT_FALSE(input::HoldOver(NodeOf(20), true)) << when;
+        EXPECT_FALSE(button.Pushed()) << when;
+    };
+    takesNone("ahead of all");
+    input::Press(NodeOf(20), {5, 5});
+    input::Release(NodeOf(20), {5, 5});
+    takesNone("let go");
+    input::Press(NodeOf(20), {5, 5});
+    kv::Send(NodeOf(20), WM_KEYUP, static_cast<WPARAM>(VK_SPACE));
+    takesNone("pressed by the space bar meanwhile");
+    input::Press(NodeOf(20), {5, 5});
+    input::MoveFocus(NodeOf(11));
+    takesNone("without the focus");
+}
+
 TEST_F(Pointer, DisabledControlsDoNotReact) {
     for (const int id : {11, 20, 31, 33, 16, 42}) {
         dialog.GetDlgItem(id)->EnableWindow(FALSE);
