@@ -223,6 +223,31 @@ TEST_F(Routing, AskingWhetherSomebodyHandlesACommandCallsNobody) {
     EXPECT_THAT(g_trail, IsEmpty());
 }
 
+TEST_F(Routing, AControlTakesForItsOwnOnlyWhatComesUnderItsId) {
+    class Own : public CWnd {
+    public:
+        const kv::MessageMap& GetMessageMap() const override {
+            static const kv::MessageEntry kEntries[] = {kv::OnReflected<&Own::OnOwn>(BN_CLICKED)};
+            static const kv::MessageMap kMap{&CWnd::Messages(), kEntries};
+            return kMap;
+        }
+        bool OnOwn() {
+            Note("its own");
+            return true;
+        }
+    };
+    CDialog dialog(test::kTestTemplate);
+    Own own;
+    EXPECT_FALSE(own.OnCmdMsg(0, BN_CLICKED, nullptr, nullptr)) << "without a window";
+    Run(dialog, [&](kv::User&) {
+        own.SubclassDlgItem(20, &dialog);
+        EXPECT_FALSE(own.OnCmdMsg(21, BN_CLICKED, nullptr, nullptr));
+        EXPECT_THAT(g_trail, IsEmpty());
+        EXPECT_TRUE(own.OnCmdMsg(20, BN_CLICKED, nullptr, nullptr));
+    });
+    EXPECT_THAT(g_trail, ElementsAre("its own"));
+}
+
 TEST_F(Routing, ADialogsCommandsGoOnToItsOwnerAndTheApplication) {
     class App : public CWinApp {
     public:

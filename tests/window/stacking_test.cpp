@@ -119,4 +119,25 @@ TEST_F(Stacking, ToolsOfAFrameStayOverItWhenItIsActive) {
     EXPECT_TRUE(kv::IsOnTop(*second.m_hWnd));
 }
 
+/// The controls of a window, first to last.
+std::vector<int> OrderIn(const CWnd& window) {
+    std::vector<int> ids;
+    for (const auto& child : window.m_hWnd->Children())
+        ids.push_back(child->Id());
+    return ids;
+}
+
+TEST_F(Stacking, AControlTakesAnotherPlaceInTheOrderOnlyWhereItIsAskedTo) {
+    using testing::ElementsAre;
+    CWnd& edit = *first.GetDlgItem(11);
+    CWnd& ok = *first.GetDlgItem(IDOK);
+    ok.SetWindowPos(nullptr, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER);
+    EXPECT_THAT(OrderIn(first), ElementsAre(11, IDOK));
+    EXPECT_TRUE(ok.SetWindowPos(nullptr, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE));
+    EXPECT_THAT(OrderIn(first), ElementsAre(IDOK, 11));
+    ok.SetWindowPos(&edit, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+    EXPECT_THAT(OrderIn(first), ElementsAre(11, IDOK));
+    EXPECT_TRUE(first.SetWindowPos(nullptr, 7, 8, 0, 0, SWP_NOSIZE)) << "it stands in no other";
+}
+
 }  // namespace
