@@ -6,6 +6,7 @@
 
 #include <filesystem>
 
+#include "base/user_folders.h"
 #include "support/file_size_limit.h"
 #include "support/plain_user.h"
 #include "support/temp_folder.h"
@@ -20,6 +21,21 @@ std::vector<std::string> Names(const std::vector<kv::FolderEntry>& entries) {
     for (const kv::FolderEntry& entry : entries)
         names.push_back(entry.name);
     return names;
+}
+
+TEST(UserFolders, AreThoseOfTheEnvironmentOrBelowHome) {
+    TempFolder folder;
+    folder.Set("HOME", "/home/of/one");
+    folder.Set("XDG_CONFIG_HOME", "/config");
+    folder.Set("XDG_DATA_HOME", "/data");
+    EXPECT_EQ(kv::ConfigFolder(), "/config/KVGuiCtl");
+    EXPECT_EQ(kv::DataFolder(), "/data/kvguictl");
+    for (const char* none : {"", "relative"}) {
+        folder.Set("XDG_CONFIG_HOME", none);
+        folder.Set("XDG_DATA_HOME", none);
+        EXPECT_EQ(kv::ConfigFolder(), "/home/of/one/.config/KVGuiCtl");
+        EXPECT_EQ(kv::DataFolder(), "/home/of/one/.local/share/kvguictl");
+    }
 }
 
 TEST(Paths, DriveCIsTheRootOfTheMachine) {

@@ -72,6 +72,11 @@ TEST(Text, FormatsAsPrintf) {
     EXPECT_EQ(kv::FormatText("%#x|%#06x|%o|%X", 255u, 255u, 8u, 255u), "0xff|0x00ff|10|FF");
     EXPECT_EQ(kv::FormatText("%c%5c|%-3c|", 'a', 'b', 'c'), "a    b|c  |");
     EXPECT_EQ(kv::FormatText("%Lf", 1.5L), "1.500000");
+    EXPECT_EQ(
+        kv::FormatText("%lld|%zu|%ld", 9'000'000'000LL, std::size_t{7'000'000'000}, 8'000'000'000L),
+        "9000000000|7000000000|8000000000");
+    EXPECT_EQ(kv::FormatText("%*d|%*d|", 3, 5, -3, 5), "  5|5  |");
+    EXPECT_EQ(kv::FormatText("% 05d|%+05d|% 07.2f", 5, 5, 1.5), " 0005|+0005| 001.50");
     EXPECT_EQ(kv::FormatText("%08.3f|%08.3f", 1.5, -1.5), "0001.500|-001.500");
     EXPECT_EQ(kv::FormatText("%hd %jd %td", static_cast<short>(3), static_cast<std::intmax_t>(4),
                              static_cast<std::ptrdiff_t>(5)),

@@ -173,6 +173,8 @@ TEST_F(DMSCtrl, ShowsThreePartsAsTheyAre) {
         EXPECT_EQ(LatBoxes(), "28|30|15.250");
         Lat().SetDMS(-29, 15, 0.0);
         EXPECT_EQ(LatBoxes(), "-29|15|0");
+        Lat().SetDMS(0, 30, 15.0);
+        EXPECT_EQ(LatBoxes(), "0|30|15");
         Lat().SetDMS(0, -30, 0.0);
         EXPECT_EQ(LatBoxes(), "-0|30|0");
         EXPECT_EQ(Lat().GetDMS(), -0.5);
@@ -329,6 +331,15 @@ TEST_F(DMSCtrl, ShowsDecimalDegreesWithSixDecimals) {
         EXPECT_EQ(Lon().GetDMS(), -90.0);
         EXPECT_FALSE(Lat().SetDMS(91.0));
         EXPECT_EQ(LatBoxes(), "||");
+    });
+}
+
+TEST_F(DMSCtrl, AStepKeepsTheDecimals) {
+    RunDialog([&](kv::User& user) {
+        Lat().SetFormat(true);
+        user.Type(kLatGroup + kDegEdit, "28.123456");
+        kv::input::StepSpin(*dialog.GetDlgItem(kLatGroup + kDegSpin)->m_hWnd, true);
+        EXPECT_EQ(user.Text(kLatGroup + kDegEdit), "29.123456");
     });
 }
 

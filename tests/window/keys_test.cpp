@@ -497,6 +497,21 @@ TEST_F(Keys, AHandlerCanTakeTypedAheadCharactersOutOfTheQueue) {
     });
 }
 
+TEST_F(Keys, OnlyMessagesBetweenTheTwoAreTaken) {
+    Open({Row(11, kEdit)}, [&](kv::User&) {
+        MSG message;
+        auto& system = kv::WindowSystem::Get();
+        const HWND edit = dialog_.GetDlgItem(11)->m_hWnd;
+        dialog_.GetDlgItem(11)->PostMessage(WM_CHAR, 'x', 1);
+        EXPECT_FALSE(system.Take(message, edit, 0, WM_CHAR - 1));
+        EXPECT_FALSE(system.Take(message, edit, WM_CHAR + 1, WM_CHAR + 9));
+        EXPECT_TRUE(system.Take(message, edit, 0, WM_CHAR));
+        dialog_.GetDlgItem(11)->PostMessage(WM_CHAR, 'x', 1);
+        EXPECT_TRUE(system.Take(message, edit));
+        EXPECT_FALSE(system.Take(message, edit));
+    });
+}
+
 TEST_F(Keys, AKeyDownHandlerCanTakeTheCharacterOfItsOwnKey) {
     class Filter : public GreedyHandle {
         LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {

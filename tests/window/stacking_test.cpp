@@ -11,17 +11,24 @@ using test::TestTemplate;
 
 namespace {
 
-/// Counts how often it is brought up.
+/// How often a view was brought up and told of another place.
+struct Counts {
+    int raised = 0;
+    int moved = 0;
+};
+
 class CountingView : public kv::View, public kv::Stacked {
 public:
-    explicit CountingView(int& raised) : raised_(raised) {}
-    void Changed(kv::Change) override {}
+    explicit CountingView(Counts& counts) : counts_(counts) {}
+    void Changed(kv::Change change) override {
+        if (change == kv::Change::kRect) ++counts_.moved;
+    }
     void RowsInserted(int, int) override {}
     void RowsRemoved(int, int) override {}
-    void Raise() override { ++raised_; }
+    void Raise() override { ++counts_.raised; }
 
 private:
-    int& raised_;
+    Counts& counts_;
 };
 
 class Stacking : public test::DialogTest {
@@ -29,7 +36,7 @@ protected:
     Stacking() {
         for (RecordingDialog* each : {&first, &second})
             each->Create(test::kTestTemplate);
-        first.m_hWnd->SetView(std::make_unique<CountingView>(raised));
+        first.m_hWnd->SetView(std::make_unique<CountingView>(counts));
     }
     void BringFirst() { kv::BringToTop(*first.m_hWnd); }
     bool FirstIsOnTop() { return kv::IsOnTop(*first.m_hWnd); }
@@ -37,7 +44,7 @@ protected:
     TestTemplate template_{{Row(11, kEdit), Row(IDOK, kDefaultButton, "OK")}};
     RecordingDialog first;
     RecordingDialog second;
-    int raised = 0;
+    Counts counts;
 };
 
 TEST_F(Stacking, TheNewestWindowIsOnTop) {
@@ -51,17 +58,25 @@ TEST_F(Stacking, AWindowComesUpAndTheKeyboardStays) {
     BringFirst();
     EXPECT_TRUE(FirstIsOnTop());
     EXPECT_FALSE(kv::IsOnTop(*second.m_hWnd));
-    EXPECT_EQ(raised, 1);
+    EXPECT_EQ(counts.raised, 1);
     EXPECT_EQ(kv::WindowSystem::Get().Focus(), focus);
     EXPECT_EQ(kv::WindowSystem::Get().ActiveWindow(), second.m_hWnd);
     EXPECT_TRUE(second.ToldOfFocus().empty());
+}
+
+TEST_F(Stacking, AViewIsToldOfAnotherPlaceOnce) {
+    const CRect place = first.m_hWnd->Rect();
+    first.MoveWindow(place);
+    EXPECT_EQ(counts.moved, 0);
+    first.SetWindowPos(nullptr, place.left + 7, place.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    EXPECT_EQ(counts.moved, 1);
 }
 
 TEST_F(Stacking, NothingIsDoneForTheOneOnTop) {
     BringFirst();
     const auto changes = kv::WindowSystem::Get().Changes();
     BringFirst();
-    EXPECT_EQ(raised, 1);
+    EXPECT_EQ(counts.raised, 1);
     EXPECT_EQ(kv::WindowSystem::Get().Changes(), changes);
 }
 
@@ -70,14 +85,14 @@ TEST_F(Stacking, AHiddenWindowStaysHidden) {
     BringFirst();
     EXPECT_FALSE(first.IsWindowVisible());
     EXPECT_FALSE(FirstIsOnTop());
-    EXPECT_EQ(raised, 0);
+    EXPECT_EQ(counts.raised, 0);
 }
 
 TEST_F(Stacking, AHiddenWindowLiesOverNothing) {
     second.ShowWindow(SW_HIDE);
     EXPECT_TRUE(FirstIsOnTop());
     BringFirst();
-    EXPECT_EQ(raised, 0);
+    EXPECT_EQ(counts.raised, 0);
     second.ShowWindow(SW_SHOW);
     EXPECT_FALSE(FirstIsOnTop());
 }
@@ -88,7 +103,7 @@ TEST_F(Stacking, WhoeverGetsTheKeyboardComesUp) {
     EXPECT_TRUE(kv::IsOnTop(*second.m_hWnd));
     kv::input::MoveFocus(*first.m_hWnd->FindChild(11));
     EXPECT_TRUE(FirstIsOnTop());
-    EXPECT_EQ(raised, 1) << "its view has seen to that itself";
+    EXPECT_EQ(counts.raised, 1) << "its view has seen to that itself";
 }
 
 TEST_F(Stacking, AWindowThatItOwnsMayLieOverIt) {

@@ -126,6 +126,29 @@ private:
     void OnClick() { ++clicks; }
 };
 
+class Told : public CEdit {
+public:
+    int times = 0;
+
+private:
+    void PreSubclassWindow() override { ++times; }
+};
+
+TEST(SubclassedControl, IsToldWhenItsHandleComes) {
+    const TestTemplate dialogTemplate({Row(11, kv::ControlKind::kEdit)});
+    RecordingDialog dialog;
+    dialog.Create(kTestTemplate);
+    Told edit;
+    ASSERT_TRUE(edit.SubclassDlgItem(11, &dialog));
+    EXPECT_EQ(edit.times, 1);
+    const HWND window = edit.Detach();
+    Told attached;
+    ASSERT_TRUE(attached.Attach(window));
+    EXPECT_EQ(attached.times, 1);
+    EXPECT_FALSE(edit.Attach(window)) << "it has a handle";
+    EXPECT_EQ(edit.times, 1);
+}
+
 TEST(SubclassedDialog, ItsCommandsReachTheHandleInFrontAndThenItsOwn) {
     const TestTemplate dialogTemplate(
         {Row(20, kv::ControlKind::kPushButton), Row(21, kv::ControlKind::kPushButton)});

@@ -56,7 +56,9 @@ void CKvMisc::GetParsedConnectString(std::string& user, std::string& password, s
     const CKvDbInfo parts = kv::db::TakenApart(connection);
     user = parts.GetUser();
     password = withPassword ? parts.GetPassword() : std::string();
-    server = withPassword ? parts.GetServer() : kv::db::Scrub(parts.GetServer(), connection);
+    // The password beside the text is none of it, also where some of its signs are the same.
+    const CKvDbInfo text("", "", connection.GetServer().c_str());
+    server = withPassword ? parts.GetServer() : kv::db::Scrub(parts.GetServer(), text);
 }
 
 CString CKvMisc::GetMachineID(bool upperCase) {

@@ -1004,6 +1004,13 @@ TEST_F(QuickOffBldDlg, OKWithoutAScaleComputesOne) {
     EXPECT_TRUE(dialog.GetTermination());
 }
 
+TEST_F(QuickOffBldDlg, TheScaleThatOKComputesIsOneOfTheUnit) {
+    Accept(dialog, [](kv::User& user) { user.Click(kFeet); });
+    EXPECT_EQ(dialog.GetScale(), 2000);
+    Accept(dialog, [](kv::User& user) { user.Click(kMeters); });
+    EXPECT_EQ(dialog.GetScale(), 25000);
+}
+
 TEST_F(QuickOffBldDlg, ThePersonsScaleIsKept) {
     Accept(dialog, [&](kv::User& user) {
         desktop.ExpectWindow("CKvGuiSizingDlg", [](kv::User& sizing) {
@@ -1014,6 +1021,22 @@ TEST_F(QuickOffBldDlg, ThePersonsScaleIsKept) {
     });
     EXPECT_EQ(dialog.GetScale(), 3000);
     EXPECT_EQ(dialog.GetBounds().GetScale(), 3000);
+}
+
+TEST_F(QuickOffBldDlg, TheSizingOptionsOpenWithTheScaleOfTheLastTime) {
+    Accept(dialog, [&](kv::User& user) {
+        desktop.ExpectWindow("CKvGuiSizingDlg", [](kv::User& sizing) {
+            sizing.Type(kv::sizing::kScale, "3000");
+            sizing.Click(IDOK);
+        });
+        user.Click(kSizingOptions);
+        desktop.ExpectWindow("CKvGuiSizingDlg", [](kv::User& sizing) {
+            EXPECT_EQ(sizing.Text(kv::sizing::kScale), "3000");
+            sizing.Click(IDOK);
+        });
+        user.Click(kSizingOptions);
+    });
+    EXPECT_EQ(dialog.GetScale(), 3000);
 }
 
 TEST_F(QuickOffBldDlg, TheScaleThatWasChosenLastIsKeptByItsUnit) {

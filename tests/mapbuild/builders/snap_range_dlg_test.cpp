@@ -83,7 +83,7 @@ TEST_F(SnapRangeDlg, AnEmptyTextIsNone) {
 
 TEST_F(SnapRangeDlg, ATextWithALetterIsToldAndTheDialogStays) {
     Run(dialog, [&](kv::User& user) {
-        for (const char* text : {"abc", "100m", "1E3"}) {
+        for (const char* text : {"abc", "100m", "1E3", "A", "1Z", "a", "z"}) {
             user.Type(kRange, text);
             desktop.ExpectMessage("Error! Please enter a number.");
             user.Click(IDOK);

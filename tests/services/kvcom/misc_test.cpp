@@ -83,6 +83,12 @@ TEST(Connection, WithoutThePasswordTheServerTextHoldsNoOtherEither) {
     EXPECT_EQ(Parsed(false).server, "postgresql://db.example/gulf?sslpassword=***&sslmode=require");
 }
 
+TEST(Connection, AServerTextThatHasSignsOfThePasswordIsShownWhole) {
+    kv::db::SetConnectionInForce(CKvDbInfo("scott", ".", "sqlite:/gulf.d/sample.db"));
+    EXPECT_EQ(Parsed(false), (Parts{"scott", "", "sqlite:/gulf.d/sample.db"}));
+    kv::db::SetConnectionInForce(CKvDbInfo());
+}
+
 TEST(Connection, ARelativeFileIsTheOneInTheFolderThatIsCurrentWhenItIsSet) {
     const TempFolder folder;
     std::filesystem::current_path(folder.Native());

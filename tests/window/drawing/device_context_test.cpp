@@ -294,6 +294,8 @@ TEST_F(DeviceContext, StockObjectsAreThere) {
     dc_.Rectangle(0, 0, 4, 4);
     EXPECT_EQ(At(0, 0), kWhite);
     EXPECT_EQ(At(1, 1), RGB(128, 128, 128));
+    EXPECT_NE(dc_.SelectStockObject(DEFAULT_GUI_FONT), nullptr);
+    EXPECT_EQ(dc_.SelectStockObject(DEFAULT_GUI_FONT + 1), nullptr);
     EXPECT_EQ(dc_.SelectStockObject(99), nullptr);
 }
 

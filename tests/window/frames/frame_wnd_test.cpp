@@ -23,6 +23,10 @@ protected:
     CFrameWnd frame_;
 };
 
+TEST_F(FrameWnd, HasAllItsRoomFreeAheadOfTheFirstBar) {
+    EXPECT_EQ(frame_.GetFreeRect(), (CRect{0, 0, 600, 400}));
+}
+
 TEST_F(FrameWnd, LaysBarsOutAlongTheEdgesThatTheyDockAt) {
     CDialogBar top;
     CDialogBar bottom;
