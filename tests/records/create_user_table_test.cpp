@@ -181,7 +181,7 @@ TEST_F(CreateUserTable, AHostIsToldWhetherThereIsATableAndThatNoneWasMade) {
     Run(open, [&](kv::User& user) {
         user.Select(kDataset, "OTHER");
         EXPECT_FALSE(open.IsTableExisted("OTHER_WELL_COMMENT"));
-        open.Create_Comment_Table();
+        EXPECT_TRUE(open.Create_Comment_Table());
         EXPECT_TRUE(open.IsTableExisted("OTHER_WELL_COMMENT"));
         desktop.ExpectMessage("OTHER_WELL_COMMENT - Table already existed");
         EXPECT_FALSE(open.Create_Comment_Table());
