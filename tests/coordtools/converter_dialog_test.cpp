@@ -354,6 +354,14 @@ TEST_F(Converter, AnotherFormatShowsTheSameAngles) {
     EXPECT_EQ(user->Text(kLatitude.degrees.label), "D");
 }
 
+TEST_F(Converter, AnotherFormatIsTakenAlsoWhereNothingCanBeConverted) {
+    Type(kLatitude, "28", "30", "0");
+    desktop.ExpectMessage(kOneMissing);
+    user->Select(kFormat, "degree");
+    EXPECT_FALSE(user->Visible(kLatitude.minutes.edit));
+    EXPECT_EQ(user->Text(kLatitude.degrees.label), "Degree.Degree");
+}
+
 TEST_F(Converter, APastedPositionFillsBothAnglesInEitherFormat) {
     user->Paste(kLatitude.minutes.edit, "28°30'15.25\"N 91°15'00\"W");
     EXPECT_THAT(Texts(kLatitude), ElementsAre("28", "30", "15.25"));

@@ -494,6 +494,9 @@ TEST_F(CoordReadout, IsClosedAndCreatedAnew) {
                                       [this](const std::string& words) { desktop.Fail(words); });
     EXPECT_THAT(AllBoxes(), Each(""));
     EXPECT_TRUE(user->Visible(kLatitude.minutes.edit));
+    user->Select(kFormat, "degree.degree");
+    EXPECT_FALSE(user->Visible(kLatitude.minutes.edit)) << "the new boxes are in d/m/s";
+    user->Select(kFormat, "d/m/s");
     Feed();
     EXPECT_THAT(XY(), ElementsAre("2212345.68", "10346789.01"));
     EXPECT_EQ(Texts(kLatitude).size(), 3u);

@@ -474,6 +474,9 @@ TEST_F(AbeBar, ABlankAloneDoesNotSwitchTheMode) {
 TEST_F(AbeBar, TabBehindTheLastLetterOfAnAreaStaysInTheBlockBox) {
     user->Type(kArea, "HB");
     ASSERT_EQ(test::FocusedId(), kBlock);
+    // The letter's own key comes up in the block box.
+    kv::WindowSystem::Get().Post(*kv::WindowSystem::Get().Focus(), WM_KEYUP, 'B', 0);
+    kv::WindowSystem::Get().Settle();
     user->Key(0, "Tab");
     EXPECT_EQ(test::FocusedId(), kBlock);
     user->Key(0, "Tab");

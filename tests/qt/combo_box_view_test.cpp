@@ -173,6 +173,18 @@ TEST_F(ComboView, RowsThatAHandlerAddsAtTheDropAreInTheList) {
     EXPECT_EQ(Popup()->model()->index(0, 0).data().toString(), "filled late");
 }
 
+TEST_F(ComboView, TheListOpensAtTheRowThatIsPicked) {
+    for (int row = 0; row < 100; ++row)
+        dialog.SendDlgItemMessage(kList, CB_ADDSTRING, 0, kv::AsParam(std::to_string(row).c_str()));
+    dialog.SendDlgItemMessage(kList, CB_SETCURSEL, 60);
+    ClickArrow(kList);
+    ASSERT_NE(Popup(), nullptr);
+    const QRect place = Popup()->visualRect(Popup()->model()->index(60, 0));
+    const QRect middle =
+        Popup()->viewport()->rect().adjusted(0, place.height(), 0, -place.height());
+    EXPECT_TRUE(middle.contains(place));
+}
+
 TEST_F(ComboView, ItsTextIsCopied) {
     dialog.SendDlgItemMessage(kList, CB_SETCURSEL, 1);
     Key(Qt::Key_Tab);

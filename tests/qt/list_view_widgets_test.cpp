@@ -333,6 +333,28 @@ TEST_F(ListViewWidget, AClickOnACheckBoxTogglesItAlone) {
     EXPECT_EQ(List().SelectedCount(), 0);
 }
 
+TEST_F(ListViewWidget, ADoubleClickIsTwoPressesOfACheckBoxAndOneDeedOnARow) {
+    ShowList();
+    std::vector<int> rows;
+    dialog.onNotice = [&](const NMHDR& head) {
+        if (head.code == NM_DBLCLK)
+            rows.push_back(reinterpret_cast<const NMITEMACTIVATE&>(head).iItem);
+    };
+    const QRect cell = View(35)->visualRect(View(35)->model()->index(2, 0));
+    const auto doubleClick = [&](int x, Qt::MouseButton button) {
+        QTest::mouseClick(View(35)->viewport(), button, {}, QPoint(x, cell.center().y()));
+        QTest::mouseDClick(View(35)->viewport(), button, {}, QPoint(x, cell.center().y()));
+    };
+    doubleClick(cell.left() + 10, Qt::LeftButton);
+    EXPECT_EQ(dialog.Control<CListCtrl>(35).GetCheck(2), 0);
+    EXPECT_THAT(rows, IsEmpty());
+    doubleClick(cell.right() - 10, Qt::RightButton);
+    EXPECT_THAT(rows, IsEmpty());
+    doubleClick(cell.right() - 10, Qt::LeftButton);
+    EXPECT_THAT(rows, ElementsAre(2));
+    EXPECT_EQ(dialog.Control<CListCtrl>(35).GetCheck(2), 0);
+}
+
 TEST_F(ListViewWidget, AClickOnAHeadingIsTold) {
     ShowList();
     int column = -1;

@@ -12,6 +12,7 @@
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <QToolButton>
 #include <QWheelEvent>
 #include <set>
 #include <string>
@@ -180,6 +181,19 @@ TEST_F(BlockMap, TheWheelZoomsAboutTheMouse) {
     QApplication::sendEvent(canvas_, &wheel);
     EXPECT_GT(canvas_->View().Scale(), 1.5 * scale);
     EXPECT_LE((At(6) - before).manhattanLength(), 2);
+}
+
+TEST_F(BlockMap, ItsTwoButtonsZoom) {
+    const auto click = [&](const char* name) {
+        for (QToolButton* button : window_->findChildren<QToolButton*>())
+            if (button->accessibleName() == name && button->isVisible())
+                QTest::mouseClick(button, Qt::LeftButton);
+    };
+    const double scale = canvas_->View().Scale();
+    click("Zoom in");
+    EXPECT_GT(canvas_->View().Scale(), scale);
+    click("Zoom out");
+    EXPECT_NEAR(canvas_->View().Scale(), scale, 1e-9 * scale);
 }
 
 TEST_F(BlockMap, KeysMoveZoomAndPick) {
