@@ -96,6 +96,17 @@ TEST_P(HostForms, ThatAreNotReadAreRefusedAsChangesToo) {
     EXPECT_EQ(Rows("select area1 from plans where area1 = 'kept'", {""}).size(), 1u);
 }
 
+TEST_P(HostForms, ThatChangeRowsKnowTheTypesOfTheirConditionsToo) {
+    manager_.Insert("insert into plans (area1, blk1) values ('kept', '8')");
+    manager_.Insert("insert into plans (area1, blk1) values ('new', '10')");
+    manager_.ExecuteDML("update plans set ext1 = 'U' where blk1 > 9 and area1 in ('kept', 'new')");
+    EXPECT_EQ(Rows("select area1 from plans where ext1 = 'U'", {""}),
+              std::vector<std::string>{"new"});
+    manager_.ExecuteDML("delete from plans where blk1 > 9 and ext1 = 'U'");
+    EXPECT_EQ(Rows("select blk1 from plans where area1 in ('kept', 'new')", {""}),
+              std::vector<std::string>{"8"});
+}
+
 TEST_P(HostForms, ThatTheEngineRefusesGetItsOwnWords) {
     manager_.Insert("insert into plans (area1) values ('kept')");
     for (const char* sql : {"select area1 from plans where area1 like '%O'BRIEN%'",

@@ -3,10 +3,12 @@
 
 #include <algorithm>
 #include <cmath>
+#include <map>
 #include <memory>
 #include <numbers>
 #include <string>
 
+#include "base/text.h"
 #include "frame/kvcom/util_lldrv.h"
 #include "services/kvcom/projection_zones.h"
 
@@ -160,6 +162,113 @@ INSTANTIATE_TEST_SUITE_P(ProjectionZones, Twins, testing::ValuesIn(kTwins), [](c
     const int code = each.param.code;
     return (code < 0 ? "StatePlane" : "Code") + std::to_string(std::abs(code));
 });
+
+/// As EPSG calls a state plane zone, without its datum and the word "zone".
+std::string EpsgName(int epsg) {
+    const Object system(proj_create(nullptr, ("EPSG:" + std::to_string(epsg)).c_str()));
+    const std::string name = proj_get_name(system.get());
+    return kv::ReplaceAll(name.substr(name.find(" / ") + 3), "zone ", "");
+}
+
+TEST(ProjectionZones, OfTheStatePlanesHaveTheirNamesOfEpsg) {
+    // Michigan's old zones, and islands that have one zone.
+    const std::map<int, std::string> others{{2101, "Michigan East (old)"},
+                                            {2102, "Michigan Central (old)"},
+                                            {2103, "Michigan West (old)"},
+                                            {5201, "Puerto Rico and Virgin Islands"},
+                                            {5202, "Virgin Islands St. Croix"},
+                                            {5300, "American Samoa"},
+                                            {5400, "Guam Island"}};
+    for (const Twin& twin : kTwins) {
+        const kv::coord::Zone* zone = kv::coord::FindZoneOf(twin.code);
+        if (!zone || !zone->statePlaneCode) continue;
+        const auto other = others.find(zone->statePlaneCode);
+        EXPECT_EQ(zone->description, other == others.end() ? EpsgName(twin.epsg) : other->second);
+    }
+}
+
+TEST(ProjectionZones, ThatAreNoStatePlanesHaveTheseNames) {
+    std::string names;
+    for (const kv::coord::Zone& zone : kv::coord::Zones())
+        if (!zone.statePlaneCode)
+            names +=
+                std::to_string(zone.code) + " " + zone.description + "|" + zone.category + "\n";
+    EXPECT_EQ(names, R"(100 Clarke 1866|utm_spheroids
+200 Clarke 1880|utm_spheroids
+300 International 1924|utm_spheroids
+400 Bessel 1841|utm_spheroids
+500 Bessel 1841 (Namibia)|utm_spheroids
+600 Airy 1830|utm_spheroids
+700 Modified Airy|utm_spheroids
+800 Australian National|utm_spheroids
+900 Clarke 1880 (IGN)|utm_spheroids
+1000 Everest 1830|utm_spheroids
+1100 Everest 1948|utm_spheroids
+1200 Everest 1956|utm_spheroids
+1300 Everest 1969|utm_spheroids
+1400 Everest (Sabah and Sarawak)|utm_spheroids
+1500 Fischer 1960 (Mercury)|utm_spheroids
+1600 Modified Fischer 1960|utm_spheroids
+1700 Fischer 1968|utm_spheroids
+1800 GRS 1967|utm_spheroids
+1900 GRS 1980|utm_spheroids
+2000 Helmert 1906|utm_spheroids
+2100 Hough 1960|utm_spheroids
+2200 Krassovsky 1940|utm_spheroids
+2300 Plessis 1817|utm_spheroids
+2400 South East Asia 1956|utm_spheroids
+2500 WGS 1960|utm_spheroids
+2600 WGS 1966|utm_spheroids
+2700 WGS 1972|utm_spheroids
+2800 WGS 1984|utm_spheroids
+2900 Walbeck|utm_spheroids
+3000 Clarke 1880 (RGS)|utm_spheroids
+5101 France Zone I|misc_lambert
+5102 France Zone II|misc_lambert
+5103 France Zone III|misc_lambert
+5104 Algeria North|misc_lambert
+5105 Algeria South|misc_lambert
+5106 Morocco North|misc_lambert
+5107 Morocco South|misc_lambert
+5108 Jamaica|misc_lambert
+5109 Cuba North|misc_lambert
+5110 Cuba South|misc_lambert
+5111 Quebec|misc_lambert
+5201 BLM Zone 14|misc_trans_mercator
+5202 BLM Zone 15|misc_trans_mercator
+5203 BLM Zone 16|misc_trans_mercator
+5204 BLM Zone 17|misc_trans_mercator
+5205 British National Grid|misc_trans_mercator
+5206 Irish National Grid|misc_trans_mercator
+5207 Italy Zone 1|misc_trans_mercator
+5208 Italy Zone 2|misc_trans_mercator
+5209 Egypt Blue Belt|misc_trans_mercator
+5210 Egypt Red Belt|misc_trans_mercator
+5211 Egypt Purple Belt|misc_trans_mercator
+5212 Nigeria West Belt|misc_trans_mercator
+5213 Nigeria Mid Belt|misc_trans_mercator
+5214 Nigeria East Belt|misc_trans_mercator
+5215 Sweden 2.5 Gon West|misc_trans_mercator
+5216 Gauss-Kruger Zone 4|misc_trans_mercator
+5217 Hong Kong 1980|misc_trans_mercator
+5301 France Bonne|misc_boone
+5302 Portugal Bonne|misc_boone
+5401 Trinidad|misc_cassini
+5402 Palestine|misc_cassini
+5403 Berlin Soldner|misc_cassini
+5404 Singapore|misc_cassini
+5501 Netherlands Stereographic|misc_other
+5502 Swiss Oblique Mercator|misc_other
+5503 Borneo Rectified Skew Orthomorphic|misc_other
+5504 Hungary Oblique Mercator|misc_other
+5505 Krovak|misc_other
+5506 Brazil Polyconic|misc_other
+5507 New Zealand Map Grid|misc_other
+5508 Madagascar Oblique Mercator|misc_other
+5509 United States Albers|misc_other
+5510 Alaska Albers|misc_other
+)");
+}
 
 TEST(ProjectionZones, HaveATwinForEachStatePlaneZone) {
     for (const kv::coord::Zone& zone : kv::coord::Zones()) {
