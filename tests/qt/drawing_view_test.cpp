@@ -69,8 +69,10 @@ TEST_F(DrawingView, TheKeyOfItsLabelOpensThePaletteAndAKeyPicks) {
     EXPECT_EQ(kv::MnemonicOf(NodeOf(10)), 'C');
     Then([&] {
         Process();
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right);
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        // A display may still be giving it the keyboard.
+        const QWidget* palette = QApplication::activeModalWidget();
+        QTest::keyClick(palette->focusWidget(), Qt::Key_Right);
+        QTest::keyClick(palette->focusWidget(), Qt::Key_Return);
     });
     QTest::keyClick(Window(), Qt::Key_C, Qt::AltModifier);
     EXPECT_EQ(swatch.GetCWTValue(), 10);
@@ -165,11 +167,12 @@ TEST_F(DrawingView, APaletteLargerThanTheScreenScrollsToTheCellThatTheArrowsReac
         const QWidget* shown = kv::qt::WidgetOf(*palette.FindChild(kv::palettes::kGridCell + cell));
         EXPECT_TRUE(window->screen()->availableGeometry().contains(window->frameGeometry()))
             << when;
-        EXPECT_EQ(QApplication::focusWidget(), shown) << when;
+        EXPECT_EQ(window->focusWidget(), shown) << when;
         EXPECT_EQ(shown->visibleRegion().boundingRect(), shown->rect()) << when;
     };
     const auto press = [](Qt::Key key) {
-        QTest::keyClick(QApplication::focusWidget(), key);
+        const kv::Node& palette = *kv::WindowSystem::Get().Modals().back();
+        QTest::keyClick(kv::qt::WidgetOf(palette)->focusWidget(), key);
         Process();
     };
     Then([&] {

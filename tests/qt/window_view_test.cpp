@@ -149,7 +149,7 @@ TEST_F(Windows, ATextLongerThanTheScreenScrollsInItsMessageBox) {
         EXPECT_EQ(text ? text->toPlainText().toStdString() : "", words);
         QAbstractButton* ok = box->button(QMessageBox::Ok);
         EXPECT_EQ(ok->visibleRegion().boundingRect(), ok->rect());
-        EXPECT_TRUE(ok->hasFocus()) << "Enter ends it at once";
+        EXPECT_TRUE(QTest::qWaitFor([&] { return ok->hasFocus(); })) << "Enter ends it at once";
         QTest::keyClick(ok, Qt::Key_Return);
     });
     EXPECT_EQ(AfxMessageBox(words.c_str()), IDOK);
