@@ -74,6 +74,14 @@ protected:
         };
         return Enlarged(bounds, more(bounds.maxX - bounds.minX), more(bounds.maxY - bounds.minY));
     }
+    /// In the sizing options, which OK closes.
+    void ChooseScale(kv::User& user, const std::string& scale) {
+        desktop.ExpectWindow("CKvGuiSizingDlg", [scale](kv::User& sizing) {
+            sizing.Type(kv::sizing::kScale, scale);
+            sizing.Click(IDOK);
+        });
+        user.Click(kSizingOptions);
+    }
     /// Runs the dialog, presses OK.
     int Accept(CKvGuiQuickOffBldDlg& it, const std::function<void(kv::User&)>& act = {}) {
         return Run(it, [&](kv::User& user) {
@@ -1012,24 +1020,14 @@ TEST_F(QuickOffBldDlg, TheScaleThatOKComputesIsOneOfTheUnit) {
 }
 
 TEST_F(QuickOffBldDlg, ThePersonsScaleIsKept) {
-    Accept(dialog, [&](kv::User& user) {
-        desktop.ExpectWindow("CKvGuiSizingDlg", [](kv::User& sizing) {
-            sizing.Type(kv::sizing::kScale, "3000");
-            sizing.Click(IDOK);
-        });
-        user.Click(kSizingOptions);
-    });
+    Accept(dialog, [&](kv::User& user) { ChooseScale(user, "3000"); });
     EXPECT_EQ(dialog.GetScale(), 3000);
     EXPECT_EQ(dialog.GetBounds().GetScale(), 3000);
 }
 
 TEST_F(QuickOffBldDlg, TheSizingOptionsOpenWithTheScaleOfTheLastTime) {
     Accept(dialog, [&](kv::User& user) {
-        desktop.ExpectWindow("CKvGuiSizingDlg", [](kv::User& sizing) {
-            sizing.Type(kv::sizing::kScale, "3000");
-            sizing.Click(IDOK);
-        });
-        user.Click(kSizingOptions);
+        ChooseScale(user, "3000");
         desktop.ExpectWindow("CKvGuiSizingDlg", [](kv::User& sizing) {
             EXPECT_EQ(sizing.Text(kv::sizing::kScale), "3000");
             sizing.Click(IDOK);
@@ -1043,11 +1041,7 @@ TEST_F(QuickOffBldDlg, TheScaleThatWasChosenLastIsKeptByItsUnit) {
     Run(dialog, [&](kv::User& user) {
         for (const auto& [unit, scale] : {std::pair{kFeet, "3000"}, std::pair{kMeters, "25000"}}) {
             user.Click(unit);
-            desktop.ExpectWindow("CKvGuiSizingDlg", [scale = scale](kv::User& sizing) {
-                sizing.Type(kv::sizing::kScale, scale);
-                sizing.Click(IDOK);
-            });
-            user.Click(kSizingOptions);
+            ChooseScale(user, scale);
         }
     });
     EXPECT_EQ(dialog.m_nFeetScale, 3000);
@@ -1056,11 +1050,7 @@ TEST_F(QuickOffBldDlg, TheScaleThatWasChosenLastIsKeptByItsUnit) {
 
 TEST_F(QuickOffBldDlg, AScaleIsForgottenByTheNextChange) {
     Accept(dialog, [&](kv::User& user) {
-        desktop.ExpectWindow("CKvGuiSizingDlg", [](kv::User& sizing) {
-            sizing.Type(kv::sizing::kScale, "3000");
-            sizing.Click(IDOK);
-        });
-        user.Click(kSizingOptions);
+        ChooseScale(user, "3000");
         EXPECT_TRUE(dialog.m_bScaleSet);
         user.Select(kWidth, "10");
         EXPECT_FALSE(dialog.m_bScaleSet);
@@ -1073,11 +1063,7 @@ TEST_F(QuickOffBldDlg, AScaleIsForgottenByAPercentageHoweverTheMapIsBounded) {
         QuickDlg several(nullptr);
         Set(several, {"GC#500", "GC#501"}, kSeveral, xyBounded);
         Accept(several, [&](kv::User& user) {
-            desktop.ExpectWindow("CKvGuiSizingDlg", [](kv::User& sizing) {
-                sizing.Type(kv::sizing::kScale, "3000");
-                sizing.Click(IDOK);
-            });
-            user.Click(kSizingOptions);
+            ChooseScale(user, "3000");
             EXPECT_TRUE(several.m_bScaleSet);
             user.Select(kPercent, "50");
             EXPECT_FALSE(several.m_bScaleSet) << xyBounded;
