@@ -34,16 +34,24 @@ Domain AboutFalseOrigin(const Domain& tried, const std::string& definition) {
     return {x + tried.west, x + tried.east, y + tried.south, y + tried.north};
 }
 
-bool ComesBackAll(PJ* operation, const Domain& domain) {
-    for (int column = 0; column <= kSteps; ++column) {
-        for (int row = 0; row <= kSteps; ++row) {
-            const double x = std::lerp(domain.west, domain.east, column / double{kSteps});
-            const double y = std::lerp(domain.south, domain.north, row / double{kSteps});
-            const PJ_COORD place = proj_trans(operation, PJ_INV, {{x, y, 0.0, 0.0}});
-            if (!ComesBack(operation, place, x, y)) return false;
-        }
+/// The places on the line from south to north that is so far to the east, as a share of the width.
+bool ComesBackAlong(PJ* operation, const Domain& domain, double share) {
+    for (int row = 0; row <= kSteps; ++row) {
+        const double x = std::lerp(domain.west, domain.east, share);
+        const double y = std::lerp(domain.south, domain.north, row / double{kSteps});
+        const PJ_COORD place = proj_trans(operation, PJ_INV, {{x, y, 0.0, 0.0}});
+        if (!ComesBack(operation, place, x, y)) return false;
     }
     return true;
+}
+
+bool ComesBackAll(PJ* operation, const Domain& domain) {
+    // Beyond the tip of a cone a wedge about the axis is nowhere on earth, however narrow.
+    constexpr double kBesideTheAxis = 0.500001;
+    for (int column = 0; column <= kSteps; ++column) {
+        if (!ComesBackAlong(operation, domain, column / double{kSteps})) return false;
+    }
+    return ComesBackAlong(operation, domain, kBesideTheAxis);
 }
 
 }  // namespace

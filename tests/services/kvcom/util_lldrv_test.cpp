@@ -239,6 +239,18 @@ TEST(RegisterProjection, GivesACodeOfTheHostAMeaning) {
     EXPECT_EQ(ToXY({28.0, -90.0}, kOwn, kFeet).x, ToXY({28.0, -90.0}, 116, kFeet).x);
 }
 
+/// The tip of its cone is 1,780 km to the north of its origin.
+TEST(RegisterProjection, HasNoAnswerBeyondTheTipOfACone) {
+    constexpr int kCone = 6005;
+    ASSERT_TRUE(CKvUtilLLdrv::RegisterProjection(
+        kCone, "+proj=lcc +lat_1=70 +lat_2=78 +lat_0=74 +lon_0=-90 +ellps=clrk66"));
+    EXPECT_NEAR(ToAngles({0.0, 1.7e6}, kCone, kMeters).lon, -90.0, 1e-9);
+    for (const double x : {-5e3, 0.0, 5e3}) {
+        EXPECT_EQ(ToAngles({x, 1.95e6}, kCone, kMeters).lat, HUGE_VAL) << x;
+        EXPECT_EQ(ToAngles({x, 1.95e6}, kCone, kMeters).lon, HUGE_VAL) << x;
+    }
+}
+
 TEST(RegisterProjection, TakesTheNameOfAReferenceSystem) {
     ASSERT_TRUE(CKvUtilLLdrv::RegisterProjection(6002, "EPSG:26715"));
     EXPECT_NEAR(ToXY({28.0, -90.0}, 6002, kMeters).x, ToXY({28.0, -90.0}, 115, kMeters).x, 1e-6);
