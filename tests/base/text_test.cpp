@@ -78,9 +78,13 @@ TEST(Text, FormatsAsPrintf) {
     EXPECT_EQ(kv::FormatText("%*d|%*d|", 3, 5, -3, 5), "  5|5  |");
     EXPECT_EQ(kv::FormatText("% 05d|%+05d|% 07.2f", 5, 5, 1.5), " 0005|+0005| 001.50");
     EXPECT_EQ(kv::FormatText("%08.3f|%08.3f", 1.5, -1.5), "0001.500|-001.500");
-    EXPECT_EQ(kv::FormatText("%hd %jd %td", static_cast<short>(3), static_cast<std::intmax_t>(4),
-                             static_cast<std::ptrdiff_t>(5)),
-              "3 4 5");
+    EXPECT_EQ(kv::FormatText("%hd %jd %td", static_cast<short>(3),
+                             static_cast<std::intmax_t>(4'000'000'000),
+                             static_cast<std::ptrdiff_t>(5'000'000'000)),
+              "3 4000000000 5000000000");
+    const auto* place = reinterpret_cast<const void*>(std::uintptr_t{0x123456789});
+    EXPECT_EQ(kv::FormatText("%p|%s", place, static_cast<const char*>(nullptr)),
+              "0x123456789|(null)");
 }
 
 TEST(Text, ZerosFillUpNeitherAPrecisionNorTextNorTheRight) {

@@ -95,6 +95,13 @@ void AddBounds(Forms& forms) {
               "order by refnum fetch first 5 rows only) order by 1 desc fetch first 2 "
               "rows only",
           {"5", "4"}},
+         {"OffsetOfAMember", "select count(*) from ((" + numbers + ") offset 8 rows) x", {"1"}},
+         {"FetchOfAMemberInBrackets",
+          "select count(*) from ((" + numbers + ") fetch first 4 rows only) x",
+          {"4"}},
+         {"RowNumberBesideTwoConditions",
+          numbers + "where rownum <= 5 and refnum > 2 and refnum < 5 order by 1",
+          {"3", "4"}},
          {"RowNumberOfACount", "select count(*) from gulf_mexico_lbi where rownum <= 4", {"4"}},
          {"RowNumberOfAnOrderedQuery",
           "select refnum from (" + numbers + "order by refnum desc) where rownum < 4",

@@ -54,6 +54,9 @@ TEST(Profile, RefusesWhatALineCannotHold) {
     EXPECT_FALSE(profile::WriteString("S", "e", "two\nlines"));
     EXPECT_FALSE(profile::WriteInt("S", "a=b", 1));
     EXPECT_FALSE(folder.Has("profile.ini"));
+    EXPECT_THAT(folder.Read("log.txt"),
+                testing::HasSubstr("Cannot write a=b to the settings in " +
+                                   folder.Native("profile.ini") + ": no line can hold it\n"));
 }
 
 TEST(Profile, LivesInTheConfigurationFolderUnlessToldOtherwise) {
@@ -68,7 +71,9 @@ TEST(Profile, AFileThatCannotBeReadOrWrittenIsToldByTheResult) {
     std::filesystem::create_directory(folder.Native("profile.ini"));
     EXPECT_EQ(profile::GetInt("S", "e", 5), 5);
     EXPECT_FALSE(profile::WriteInt("S", "e", 1));
-    EXPECT_THAT(folder.Read("log.txt"), testing::HasSubstr("Cannot write e to the settings in"));
+    EXPECT_THAT(folder.Read("log.txt"),
+                testing::HasSubstr("Cannot write e to the settings in " +
+                                   folder.Native("profile.ini") + ": it cannot be read\n"));
 }
 
 TEST(Profile, AFileThatCannotBeReadIsNotWrittenOver) {

@@ -405,6 +405,35 @@ TEST(Dialect, ComparesTextsByByteOnPostgres) {
               "collate \"C\") and ('F' collate \"C\")");
 }
 
+TEST(Dialect, TakesWhatATextFunctionGivesForANumberBesideOne) {
+    for (const std::string call : {"concat(a, 'x')", "initcap(a)", "lesort(a)", "lower(a)",
+                                   "lpad(a, 5)", "ltrim(a)", "replace(a, 'x')", "rpad(a, 5)",
+                                   "rtrim(a)", "substr(a, 2)", "to_char(a)", "trim(a)", "upper(a)"})
+        EXPECT_THAT(OnPostgres("select 1 from t where " + call + " > 9"),
+                    testing::EndsWith(" as numeric) > 9"))
+            << call;
+}
+
+TEST(Dialect, ComparesWhatANumberFunctionGivesWithATextByNumber) {
+    for (const std::string call :
+         {"abs(a)", "ceil(a)", "floor(a)", "instr(a, 'x')", "length(a)", "mod(a, 2)", "power(a, 2)",
+          "round(a)", "sign(a)", "sqrt(a)", "to_number(a)"})
+        EXPECT_THAT(OnPostgres("select 1 from t where " + call + " > 'x'"),
+                    testing::EndsWith(" > 'x'"))
+            << call;
+    for (const std::string call : {"avg(a)", "count(a)", "sum(a)"})
+        EXPECT_THAT(OnPostgres("select 1 from t having " + call + " > 'x'"),
+                    testing::EndsWith(" > 'x'"))
+            << call;
+}
+
+TEST(Dialect, GivesTheSecondValueOfNvlTheTypeOfTheFirstOnPostgres) {
+    EXPECT_EQ(OnPostgres("select nvl(length(a), 0) from t"),
+              "select coalesce(length(a), 0) from t");
+    EXPECT_EQ(OnPostgres("select nvl(a, 0) from t"), "select coalesce(a, '0') from t");
+    EXPECT_EQ(OnSqlite("select nvl(a, 0) from t"), "select coalesce(a, 0) from t");
+}
+
 TEST(Dialect, KeepsNullFromACondition) {
     EXPECT_THAT(Select("select refnum from gulf_mexico_lbi where areacode = '700' and not "
                        "(lbnum||lbext = '33')"),

@@ -2,7 +2,10 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <string_view>
 
+#include "frame/kvdbkvn/database_fault.h"
+#include "services/kvdbkvn/engines/engine_module.h"
 #include "support/database_helpers.h"
 #include "support/plain_user.h"
 #include "support/sqlite_file.h"
@@ -141,6 +144,32 @@ TEST_F(OdbcEngine, ACellIsHeldWholeAtAnyLength) {
         EXPECT_EQ(manager.GetItem(0, 0), text);
         EXPECT_STREQ(manager.GetItem(0, 1), "1");
     }
+}
+
+TEST_F(OdbcEngine, AQueryThatMayDoMoreIsToldWhy) {
+    const CKvDbInfo info("", "", ("odbc:Driver=SQLite3;Database=" + path_).c_str());
+    const auto session = kv::db::OpenThroughModule("KVGuiCtlOdbc", "ODBC", info);
+    EXPECT_THAT(FailureOf([&] { session->Query("select [a'b] from kvt"); }),
+                HasSubstr(kv::db::kDoubtfulEnd));
+    EXPECT_THAT(FailureOf([&] { session->Query("delete from kvt"); }),
+                HasSubstr(kv::db::kOnlyReads));
+    EXPECT_EQ(session->Query("select a from kvt")->Count(), 0);
+}
+
+TEST_F(OdbcEngine, EachCallMayBeMadeToFailAndTheConnectionGoesOn) {
+    const auto failureWhere = [&](std::string_view failing, auto call) {
+        kv::db::SetDatabaseFault([=](std::string_view each) { return each == failing; });
+        const std::string failure = FailureOf(call);
+        kv::db::SetDatabaseFault(nullptr);
+        return failure;
+    };
+    manager_.Connect();
+    EXPECT_NE(failureWhere("query", [&] { manager_.Select("select a from kvt"); }), "");
+    const auto insert = [&] { manager_.Insert("insert into kvt values ('x', 1)"); };
+    EXPECT_NE(failureWhere("execute", insert), "");
+    insert();
+    EXPECT_NE(failureWhere("commit", [&] { manager_.Commit(); }), "");
+    EXPECT_EQ(manager_.Select("select a from kvt"), 0);
 }
 
 }  // namespace
