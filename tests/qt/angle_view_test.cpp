@@ -1,6 +1,5 @@
 #include <QAccessible>
 #include <QClipboard>
-#include <QDir>
 #include <QImage>
 #include <QMessageBox>
 #include <QToolButton>
@@ -183,8 +182,7 @@ TEST_F(AngleViews, EachBoxGoesByItsAngleAndItsUnit) {
 TEST_F(AngleViews, BothFormsFitTheirDialog) {
     const auto picture = [&](const char* name) {
         Process();
-        QDir().mkpath(QT_TESTS_PICTURES);
-        const QString path = QDir(QT_TESTS_PICTURES).filePath(name);
+        const QString path = test::PicturePath(name);
         EXPECT_TRUE(kv::qt::SavePicture(*dialog.m_hWnd, path.toStdString()));
         return QImage(path);
     };

@@ -1,6 +1,5 @@
 // The coordinate tools in real windows, in both forms of an angle. Their pictures are kept.
 
-#include <QDir>
 #include <QFontMetrics>
 #include <QImage>
 
@@ -44,8 +43,7 @@ protected:
     /// Saves the tool's picture and reads it back.
     static QImage Picture(const CDialog& tool, const QString& name) {
         QApplication::processEvents();
-        QDir().mkpath(QT_TESTS_PICTURES);
-        const QString path = QDir(QT_TESTS_PICTURES).filePath(name);
+        const QString path = test::PicturePath(name);
         EXPECT_TRUE(kv::qt::SavePicture(*tool.m_hWnd, path.toStdString()));
         return QImage(path);
     }

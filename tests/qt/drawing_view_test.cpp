@@ -1,6 +1,5 @@
 // Swatches and palettes in real windows. Their pictures are kept.
 
-#include <QDir>
 #include <QImage>
 #include <QScreen>
 
@@ -116,20 +115,17 @@ TEST_F(DrawingView, AWindowThatWasMadeHiddenIsSeenWhenItIsMovedTo) {
     QWidget* window = kv::qt::WidgetOf(*line.m_hWnd);
     ASSERT_NE(window, nullptr);
     EXPECT_TRUE(window->isVisible());
-    QDir().mkpath(QT_TESTS_PICTURES);
-    EXPECT_TRUE(kv::qt::SavePicture(
-        *line.m_hWnd, QDir(QT_TESTS_PICTURES).filePath("polyline.png").toStdString()));
+    EXPECT_TRUE(kv::qt::SavePicture(*line.m_hWnd, test::PicturePath("polyline.png").toStdString()));
     line.DestroyWindow();
 }
 
 TEST_F(DrawingView, ThePaletteShowsFortyColorsAndBehindMoreAllOfThem) {
     ShowSwatch();
-    QDir().mkpath(QT_TESTS_PICTURES);
     const auto save = [](const QString& name) {
         Process();
         const kv::Node& palette = *kv::WindowSystem::Get().Modals().back();
         const QString file = QStringLiteral("%1_x%2.png").arg(name).arg(qApp->devicePixelRatio());
-        const QString path = QDir(QT_TESTS_PICTURES).filePath(file);
+        const QString path = test::PicturePath(file);
         EXPECT_TRUE(kv::qt::SavePicture(palette, path.toStdString()));
         return QImage(path);
     };

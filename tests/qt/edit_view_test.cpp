@@ -114,6 +114,7 @@ TEST_F(EditView, StylesOfTheNodeHold) {
     Type("secret");
     EXPECT_EQ(Text(14), "secret");
     EXPECT_EQ(Line(14)->echoMode(), QLineEdit::Password);
+    EXPECT_FALSE(Line(14)->acceptDrops());
 }
 
 TEST_F(EditView, ALimitHolds) {

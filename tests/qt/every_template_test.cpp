@@ -1,5 +1,4 @@
 #include <QAccessible>
-#include <QDir>
 #include <QImage>
 #include <QScreen>
 #include <algorithm>
@@ -145,12 +144,11 @@ protected:
     }
     QImage Picture(const QString& name) {
         Process();
-        QDir().mkpath(QT_TESTS_PICTURES);
         const QString file = QStringLiteral("%1_%2_x%3.png")
                                  .arg(GetParam())
                                  .arg(name)
                                  .arg(Window()->devicePixelRatio());
-        const QString path = QDir(QT_TESTS_PICTURES).filePath(file);
+        const QString path = test::PicturePath(file);
         EXPECT_TRUE(kv::qt::SavePicture(Root(), path.toStdString()));
         return QImage(path);
     }

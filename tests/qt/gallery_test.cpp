@@ -1,4 +1,3 @@
-#include <QDir>
 #include <QImage>
 #include <QStyle>
 
@@ -79,10 +78,9 @@ protected:
     /// Saves the dialog's picture and reads it back.
     QImage Picture(const QString& name) {
         Process();
-        QDir().mkpath(QT_TESTS_PICTURES);
         const QString file =
             QStringLiteral("%1_x%2.png").arg(name).arg(Window()->devicePixelRatio());
-        const QString path = QDir(QT_TESTS_PICTURES).filePath(file);
+        const QString path = test::PicturePath(file);
         EXPECT_TRUE(kv::qt::SavePicture(*dialog.m_hWnd, path.toStdString()));
         return QImage(path);
     }

@@ -501,6 +501,9 @@ TEST_F(ListViewWidget, SelectionAndFocusAreMarked) {
     EXPECT_FALSE(isMarked(1));
     ClickRow(35, 1);
     EXPECT_TRUE(isMarked(1));
+    const QImage focused = pictureOf(1);
+    EXPECT_EQ(focused.pixelColor(focused.width() / 2, 1),
+              View(35)->palette().color(QPalette::HighlightedText));
     EXPECT_FALSE(isMarked(2));
     const QImage withoutFocusMark = pictureOf(2);
     List().SetItemState(2, LVIS_FOCUSED, LVIS_FOCUSED);

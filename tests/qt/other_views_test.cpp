@@ -336,6 +336,24 @@ TEST_F(Frame, ABarDocksFloatsAndRemembers) {
     EXPECT_FALSE(bar_.IsWindowVisible());
 }
 
+TEST_F(Frame, ABarDocksOnlyAtTheSidesItNames) {
+    EXPECT_EQ(BarOf(bar_)->allowedAreas(), Qt::AllToolBarAreas);
+    CDialogBar other;
+    other.EnableDocking(CBRS_ALIGN_TOP | CBRS_ALIGN_RIGHT);
+    other.Create(&frame_, kBarTemplate, CBRS_TOP, kBarTemplate + 1);
+    Process();
+    EXPECT_EQ(BarOf(other)->allowedAreas(), Qt::TopToolBarArea | Qt::RightToolBarArea);
+}
+
+TEST_F(Frame, ABarGrowsWithItsControls) {
+    const int before = BarOf(bar_)->sizeHint().width();
+    CButton more;
+    more.Create("More", WS_CHILD | WS_VISIBLE, {400, 2, 480, 20}, &bar_, 77);
+    Process();
+    EXPECT_GT(BarOf(bar_)->sizeHint().width(), before);
+    EXPECT_GT(BarOf(bar_)->width(), WidgetOf(77)->geometry().right());
+}
+
 TEST_F(Frame, ABarScrollsInANarrowWindowToWhatGetsTheFocus) {
     const auto inSight = [this](int id) {
         return WidgetOf(id)->visibleRegion().boundingRect() == WidgetOf(id)->rect();

@@ -54,15 +54,15 @@ protected:
 
 TEST_F(FileDialogs, AnOpenedFileComesInTheDialogsForm) {
     CFileDialog open(TRUE, "txt", nullptr, OFN_HIDEREADONLY | OFN_FILEMUSTEXIST,
-                     "Text Files (*.txt)|*.txt|Tables|*.csv;*.tab|All Files (*.*)|*.*||");
+                     "Text Files (*.txt)|*.txt|Tables|*.csv;*.tab|All Files (*.*)|*.*|Others");
     open.m_ofn.lpstrTitle = "Open wells";
     Prepare(open);
     Then([] {
         ASSERT_NE(Box(), nullptr);
         EXPECT_EQ(Box()->windowTitle(), "Open wells");
         EXPECT_EQ(Box()->acceptMode(), QFileDialog::AcceptOpen);
-        EXPECT_EQ(Box()->nameFilters(),
-                  (QStringList{"Text Files (*.txt)", "Tables (*.csv *.tab)", "All Files (*)"}));
+        EXPECT_EQ(Box()->nameFilters(), (QStringList{"Text Files (*.txt)", "Tables (*.csv *.tab)",
+                                                     "All Files (*)", "Others (*)"}));
         EnterName("wells.txt");
     });
     EXPECT_EQ(open.DoModal(), IDOK);

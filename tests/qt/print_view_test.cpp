@@ -2,7 +2,6 @@
 
 #include <QAbstractItemView>
 #include <QComboBox>
-#include <QDir>
 #include <QImage>
 #include <QLineEdit>
 
@@ -48,10 +47,9 @@ protected:
     }
     static QImage Picture(const CDialog& dialog, const QString& name) {
         QApplication::processEvents();
-        QDir().mkpath(QT_TESTS_PICTURES);
         const double ratio = kv::qt::WidgetOf(*dialog.m_hWnd)->devicePixelRatio();
         const QString file = QStringLiteral("%1_x%2.png").arg(name).arg(ratio);
-        const QString path = QDir(QT_TESTS_PICTURES).filePath(file);
+        const QString path = test::PicturePath(file);
         EXPECT_TRUE(kv::qt::SavePicture(*dialog.m_hWnd, path.toStdString()));
         return QImage(path);
     }

@@ -5,6 +5,7 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QDir>
 #include <QLineEdit>
 #include <QTest>
 #include <QTimer>
@@ -22,6 +23,14 @@ namespace test {
 /// What a screen reader calls the widget.
 inline QString NameOf(QWidget* widget) {
     return QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name);
+}
+
+/// Where a picture of that name is saved. Each way in which the tests are run has a folder of its
+/// own.
+inline QString PicturePath(const QString& name) {
+    QDir folder(QStringLiteral(QT_TESTS_PICTURES) + qEnvironmentVariable("KVGUICTL_TEST_PICTURES"));
+    folder.mkpath(QStringLiteral("."));
+    return folder.filePath(name);
 }
 
 /// It keeps what comes by WM_NOTIFY, too.

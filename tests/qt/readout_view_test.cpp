@@ -1,6 +1,5 @@
 // The readouts in real windows. Their pictures are kept.
 
-#include <QDir>
 #include <QImage>
 #include <QLineEdit>
 
@@ -53,10 +52,9 @@ protected:
     static QWidget* WindowOf(const CDialog& dialog) { return kv::qt::WidgetOf(*dialog.m_hWnd); }
     static QImage Picture(const CDialog& dialog, const QString& name) {
         QApplication::processEvents();
-        QDir().mkpath(QT_TESTS_PICTURES);
         const QString file =
             QStringLiteral("%1_x%2.png").arg(name).arg(WindowOf(dialog)->devicePixelRatio());
-        const QString path = QDir(QT_TESTS_PICTURES).filePath(file);
+        const QString path = test::PicturePath(file);
         EXPECT_TRUE(kv::qt::SavePicture(*dialog.m_hWnd, path.toStdString()));
         return QImage(path);
     }

@@ -145,6 +145,7 @@ TEST_F(Windows, ATextLongerThanTheScreenScrollsInItsMessageBox) {
         Process();
         EXPECT_TRUE(box->screen()->availableGeometry().contains(box->frameGeometry()));
         const auto* text = box->findChild<QPlainTextEdit*>();
+        EXPECT_TRUE(text && text->isReadOnly());
         EXPECT_TRUE(text && text->verticalScrollBar()->isVisible());
         EXPECT_EQ(text ? text->toPlainText().toStdString() : "", words);
         QAbstractButton* ok = box->button(QMessageBox::Ok);

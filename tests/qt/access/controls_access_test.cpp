@@ -390,6 +390,7 @@ TEST_F(ComboAccess, OpensAndPicks) {
     Do(List(13)->child(1), QAccessibleActionInterface::pressAction());
     EXPECT_EQ(Text(13), "Leases");
     EXPECT_TRUE(State(13).collapsed);
+    EXPECT_EQ(List(13)->childAt(second.x(), second.y()), nullptr) << "it is closed";
 }
 
 TEST_F(ComboAccess, OfAnEditableOneTheEditHasTheKeyboard) {
@@ -512,6 +513,32 @@ TEST_F(ListViewAccess, IsATableWithHeadings) {
     EXPECT_EQ(Of(16)->child(0)->role(), QAccessible::ColumnHeader);
     EXPECT_EQ(Table()->cellAt(3, 0), nullptr);
     EXPECT_EQ(Table()->cellAt(0, 2), nullptr);
+    EXPECT_EQ(Table()->columnDescription(2), "");
+}
+
+TEST_F(ListViewAccess, CellsTakeTheKeyboardWhereTheListDoesAndLieNowhereOnceTheyAreGone) {
+    ShowList();
+    QAccessibleInterface* last = Table()->cellAt(2, 0);
+    EXPECT_TRUE(last->state().focusable);
+    List().EnableWindow(FALSE);
+    EXPECT_FALSE(last->state().focusable);
+    EXPECT_FALSE(last->rect().isEmpty());
+    List().DeleteItem(2);
+    EXPECT_EQ(last->rect(), QRect());
+}
+
+TEST_F(ListViewAccess, GoesByALabelDirectlyAheadOfItRatherThanByItsHeadings) {
+    Show({At(10, kLabel, 7, "Wells"), {16, kListView, "", {7, 30, 150, 80}}});
+    List().InsertColumn(0, "Area", LVCFMT_LEFT, 80);
+    Process();
+    EXPECT_EQ(Name(16), "Wells");
+}
+
+TEST_F(ListViewAccess, GoesByItsHeadingsAsTheFirstOfItsDialog) {
+    Show({{16, kListView, "", {7, 30, 150, 80}}});
+    List().InsertColumn(0, "Area", LVCFMT_LEFT, 80);
+    Process();
+    EXPECT_EQ(Name(16), "Area");
 }
 
 TEST_F(ListViewAccess, CellsLieWhereTheyAreSeen) {

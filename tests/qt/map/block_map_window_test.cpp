@@ -6,7 +6,6 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDialogButtonBox>
-#include <QDir>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
@@ -20,6 +19,7 @@
 #include <vector>
 
 #include "qt/map/block_map_canvas.h"
+#include "qt/qt_fixture.h"
 
 namespace {
 
@@ -99,8 +99,7 @@ protected:
         QTest::mouseRelease(canvas_, button, modifiers, to);
     }
     void SavePicture(const QString& name) {
-        QDir().mkpath(QStringLiteral(QT_TESTS_PICTURES));
-        EXPECT_TRUE(window_->grab().save(QStringLiteral(QT_TESTS_PICTURES) + u'/' + name));
+        EXPECT_TRUE(window_->grab().save(test::PicturePath(name)));
     }
 
     std::unique_ptr<BlockMapWindow> window_;
@@ -213,6 +212,16 @@ TEST_F(BlockMap, KeysMoveZoomAndPick) {
     EXPECT_THAT(window_->Picks(), ElementsAre(*middle));
     QTest::keyClick(canvas_, Qt::Key_Space);
     EXPECT_THAT(window_->Picks(), IsEmpty());
+}
+
+TEST_F(BlockMap, AKeyMarksWhereItActsUntilTheMouseIsUsed) {
+    const auto click = [&] { QTest::mouseClick(canvas_, Qt::LeftButton, {}, {2, 2}); };
+    click();
+    const QImage byMouse = canvas_->grab().toImage();
+    QTest::keyClick(canvas_, Qt::Key_Shift);
+    EXPECT_FALSE(canvas_->grab().toImage() == byMouse);
+    click();
+    EXPECT_TRUE(canvas_->grab().toImage() == byMouse);
 }
 
 TEST_F(BlockMap, AnAreaIsBroughtUpByItsName) {
