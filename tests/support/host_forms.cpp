@@ -95,6 +95,12 @@ void AddBounds(Forms& forms) {
               "order by refnum fetch first 5 rows only) order by 1 desc fetch first 2 "
               "rows only",
           {"5", "4"}},
+         {"OrderBehindAMemberThatIsBounded",
+          "(" + numbers + "order by refnum fetch first 3 rows only) order by refnum desc",
+          {"3", "2", "1"}},
+         {"OrderBehindAMemberInBrackets",
+          "(" + numbers + "order by refnum) order by refnum desc fetch first 3 rows only",
+          {"9", "8", "7"}},
          {"OffsetOfAMember", "select count(*) from ((" + numbers + ") offset 8 rows) x", {"1"}},
          {"FetchOfAMemberInBrackets",
           "select count(*) from ((" + numbers + ") fetch first 4 rows only) x",

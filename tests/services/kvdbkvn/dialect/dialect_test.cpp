@@ -427,6 +427,30 @@ TEST(Dialect, ComparesWhatANumberFunctionGivesWithATextByNumber) {
             << call;
 }
 
+TEST(Dialect, KnowsNoTypeOfWhatAnotherFunctionGives) {
+    EXPECT_EQ(OnPostgres("select 1 from t where own_code(a||'x') > 9"),
+              "select 1 from t where own_code(concat(a, 'x')) > 9");
+    EXPECT_EQ(OnPostgres("select 1 from t where own_code() > 9"),
+              "select 1 from t where own_code() > 9");
+    EXPECT_EQ(OnPostgres("select 1 from t where own_code(length(a)) > 'x'"),
+              "select 1 from t where own_code(length(a)) > 'x' collate \"C\"");
+}
+
+TEST(Dialect, TakesTheTypeOfTheFirstForTruncAndNullif) {
+    for (const std::string call : {"trunc(length(a))", "nullif(length(a), 3)"})
+        EXPECT_THAT(OnPostgres("select 1 from t where " + call + " > '9'"),
+                    testing::EndsWith(" > '9'"))
+            << call;
+    EXPECT_THAT(OnPostgres("select 1 from t where nullif(a||'x', 'y') > 9"),
+                testing::EndsWith(" as numeric) > 9"));
+}
+
+TEST(Dialect, AnOrderBehindTheBracketsReplacesTheOneWithin) {
+    EXPECT_EQ(OnSqlite("(select a from t order by a) order by a desc"),
+              "select a from t order by 1 desc nulls first");
+    EXPECT_EQ(OnSqlite("(select a from t order by a)"), "select a from t order by 1 nulls last");
+}
+
 TEST(Dialect, GivesTheSecondValueOfNvlTheTypeOfTheFirstOnPostgres) {
     EXPECT_EQ(OnPostgres("select nvl(length(a), 0) from t"),
               "select coalesce(length(a), 0) from t");

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+
 namespace test {
 namespace {
 
@@ -50,6 +52,20 @@ TEST(StatementWords, WhateverDoesMoreDoesNotRead) {
                              "-- with\nabort",
                              "'select' select"})
         EXPECT_EQ(Of(text), Reading::kDoesMore) << text;
+}
+
+TEST(StatementWords, EachWordThatMayDoMoreIsSeenAnywhere) {
+    for (const std::string word :
+         {"insert",  "update", "delete",   "merge",    "into",      "drop",    "alter",
+          "create",  "begin",  "truncate", "grant",    "revoke",    "call",    "exec",
+          "execute", "commit", "lock",     "rollback", "savepoint", "declare", "set",
+          "rename",  "attach", "detach",   "pragma",   "vacuum",    "reindex", "copy"}) {
+        EXPECT_EQ(ReadingOf("with x as (" + word + " t) select a from x", Quoting::kUnknown),
+                  Reading::kDoesMore)
+            << word;
+        EXPECT_EQ(ReadingOf("select " + word + "s from t", Quoting::kUnknown), Reading::kReads)
+            << word;
+    }
 }
 
 TEST(StatementWords, ATextWhoseEndDependsOnTheEngineDoesNotPassAsReading) {
