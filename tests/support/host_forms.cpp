@@ -162,6 +162,22 @@ void AddDates(Forms& forms) {
           "from "
           "dual union select null d from dual) x order by d",
           {"2023-12-31 00:00:00", "2024-02-01 00:00:00", ""}},
+         {"DatesCutToTheirUnits",
+          "select trunc(d), trunc(d, 'DD'), trunc(d, 'mm'), trunc(d, 'YYYY') from (select "
+          "timestamp "
+          "'2024-05-17 13:45:09' d from dual) x",
+          {"2024-05-17 00:00:00|2024-05-17 00:00:00|2024-05-01 00:00:00|2024-01-01 00:00:00"}},
+         {"NoTextIsNoDate",
+          "select nvl(to_char(to_date('', 'YYYY'), 'YYYY'), 'none') from dual",
+          {"none"}},
+         {"TimesCutToTheirUnits",
+          "select trunc(d, 'HH24'), trunc(d, 'MI') from (select timestamp '2024-05-17 13:45:09' d "
+          "from dual) x",
+          {"2024-05-17 13:00:00|2024-05-17 13:45:00"}},
+         {"NoNumberInAFormat",
+          "select to_char(state_plane_code, '990.00') from gulf_mexico_zone_code where zone_code "
+          "= 100",
+          {""}},
          {"NumbersInAFormat",
           "select to_char(12, '999'), to_char(-12, '999'), to_char(5, '000'), to_char(0.5, "
           "'9.99'), "
@@ -210,6 +226,33 @@ void AddNumbersBesideTexts(Forms& forms) {
          {"ATextBetweenNumbers",
           numbers + "lbnum between 5 and 12 order by 1",
           {"1", "2", "6", "9"}},
+         {"ATextAmongNumbersThatTheLargestIsOf",
+          "select greatest(refnum, '10'), least(refnum, '10') from gulf_mexico_lbi where refnum = "
+          "9",
+          {"10|9"}},
+         {"AReckonedNumberBetweenANumberAndAText",
+          numbers + "refnum + 1 between refnum and '5' order by 1",
+          {"1", "2", "3", "4"}},
+         {"ATextInAListOfNumbers", numbers + "'9' in (refnum, 5)", {"9"}},
+         {"AReckonedNumberInAListOfTexts",
+          numbers + "refnum + 1 in ('9', '3') order by 1",
+          {"2", "8"}},
+         {"AReckonedColumnOfAnInnerQueryAboveAText",
+          "select n from (select refnum + 1 n from gulf_mexico_lbi) x where n > '8' order by n",
+          {"9", "10"}},
+         {"ANumberDecodedByTexts",
+          "select decode(refnum + 1, '9', 'y', 'n') from gulf_mexico_lbi where refnum in (8, 9) "
+          "order by 1",
+          {"n", "y"}},
+         {"AChosenTextAboveANumber",
+          numbers + "nvl2(lbext, lbnum, '0') > 9 order by 1",
+          {"1", "4", "5"}},
+         {"ATextBesideANumberInHaving",
+          "select max(refnum) from gulf_mexico_lbi group by lbnum having lbnum > 9 order by 1",
+          {"2", "5", "7"}},
+         {"ATextNotBetweenNumbers",
+          numbers + "lbnum not between 5 and 12 order by 1",
+          {"3", "4", "5", "7"}},
          {"ATextInNumbers", numbers + "lbnum in (9, 33) order by 1", {"6", "7"}},
          {"ATextInAQueryOfNumbers",
           numbers + "lbnum in (select refnum from gulf_mexico_lbv) order by 1",
@@ -285,7 +328,11 @@ void AddOrders(Forms& forms) {
     const std::string leases = "select lease from gulf_mexico_lease where ";
     forms.insert(
         forms.end(),
-        {{"AColumnBelowAnother",
+        {{"ByAColumnBehindAnInnerQuery",
+          "select distinct areacode from gulf_mexico_lbi order by (select count(*) from plans) + "
+          "length(areacode), areacode desc",
+          {"700", "428B", "427C", "426A"}},
+         {"AColumnBelowAnother",
           leases + "lessee < operator order by 1",
           {"G01234", "OCS-G 01234"}},
          {"AColumnBetweenOthers",

@@ -128,6 +128,20 @@ TEST_P(HostForms, MayHoldATextThatEndsInABackslash) {
               std::vector<std::string>{"C:\\|A_B\\C"});
 }
 
+TEST_P(HostForms, ReadYearsOfTwoDigitsOutOfAColumn) {
+    const std::string sql =
+        "select to_date(t, 'DD-MON-RR'), to_date(t, 'DD-MON-YY') from (select '01-JAN-49' t from "
+        "dual union select '02-JAN-60' from dual union select '03-JAN-85' from dual) x order by t";
+    if (GetParam().name == "SqliteOverOdbc") {
+        EXPECT_THAT(FailureOf([&] { manager_.Select(sql); }), HasSubstr("it has no counterpart"));
+        return;
+    }
+    EXPECT_EQ(Rows(sql, {"|"}),
+              (std::vector<std::string>{"2049-01-01 00:00:00|2049-01-01 00:00:00",
+                                        "1960-01-02 00:00:00|2060-01-02 00:00:00",
+                                        "1985-01-03 00:00:00|2085-01-03 00:00:00"}));
+}
+
 TEST_P(HostForms, KnowAColumnOnceItsTypeHasChanged) {
     manager_.ExecuteDDL("create table kvt (a VARCHAR2(5))");
     EXPECT_EQ(Rows("select a from kvt where a > 9", {""}).size(), 0u);

@@ -1,5 +1,7 @@
 #include <algorithm>
+#include <array>
 #include <string>
+#include <string_view>
 
 #include "base/text.h"
 #include "services/kvdbkvn/dialect/printer.h"
@@ -56,6 +58,26 @@ std::string_view LetterOf(DateField field) {
     }
 }
 
+/// What a date is cut to, and how each engine says it.
+struct DateUnit {
+    std::string_view name;
+    std::string_view postgres;
+    std::string_view sqlite;
+};
+
+constexpr std::string_view kStartOfDay = "%Y-%m-%d 00:00:00";
+constexpr std::array<DateUnit, 11> kDateUnits = {{{"dd", "day", kStartOfDay},
+                                                  {"ddd", "day", kStartOfDay},
+                                                  {"hh", "hour", "%Y-%m-%d %H:00:00"},
+                                                  {"hh24", "hour", "%Y-%m-%d %H:00:00"},
+                                                  {"mi", "minute", "%Y-%m-%d %H:%M:00"},
+                                                  {"mm", "month", "%Y-%m-01 00:00:00"},
+                                                  {"mon", "month", "%Y-%m-01 00:00:00"},
+                                                  {"month", "month", "%Y-%m-01 00:00:00"},
+                                                  {"yy", "year", "%Y-01-01 00:00:00"},
+                                                  {"year", "year", "%Y-01-01 00:00:00"},
+                                                  {"yyyy", "year", "%Y-01-01 00:00:00"}}};
+
 /// The format as PostgreSQL knows it.
 std::string PostgresFormat(const DateFormat& format) {
     std::string text;
@@ -90,7 +112,8 @@ void Printer::PutToDate(const Expr& call) {
     const Expr& text = *call.items[0];
     const Expr& written = *call.items[1];
     const std::string_view place = PlaceOf(call);
-    if (text.kind == ExprKind::kNull) return Put("null");
+    if (text.kind == ExprKind::kNull)
+        return Put(ForPostgres() ? "cast(null as timestamp)" : "null");
     if (written.kind != ExprKind::kText) throw Unreadable{place};
     const auto format = ReadDateFormat(WithoutQuotes(written.text));
     if (!format) throw Unreadable{written.text};
@@ -101,18 +124,55 @@ void Printer::PutToDate(const Expr& call) {
     }
     const bool bySqlite = !ForPostgres() && context_.hasOwnFunctions;
     if (!ForPostgres() && !bySqlite) throw Unreadable{place};
-    Put(bySqlite ? "kv_to_date(" : "cast(to_timestamp(");
-    PutText(text);
-    Put(", ");
-    Put(bySqlite ? written.text : "'" + PostgresFormat(*format) + "'");
-    Put(bySqlite ? ")" : ") as timestamp)");
+    if (bySqlite) {
+        Put("kv_to_date(");
+        PutText(text);
+        Put(", ");
+        Put(written.text);
+        return Put(")");
+    }
+    PutInCentury(*format, [&] {
+        Put("cast(to_timestamp(");
+        PutText(text);
+        Put(", '" + PostgresFormat(*format) + "') as timestamp)");
+    });
+}
+
+/// PostgreSQL takes years of two digits as those from 1970 to 2069.
+void Printer::PutInCentury(const DateFormat& format, const std::function<void()>& putDate) {
+    const auto has = [&](DateField field) {
+        return std::ranges::find(format, field, &DatePart::field) != format.end();
+    };
+    const bool nearby = has(DateField::kYearNearby);
+    if (!nearby && !has(DateField::kYearOfCentury)) return putDate();
+    Put("case when ");
+    putDate();
+    Put(nearby ? " >= timestamp '2050-01-01' then " : " < timestamp '2000-01-01' then ");
+    putDate();
+    Put(nearby ? " - interval '100 years' else " : " + interval '100 years' else ");
+    putDate();
+    Put(" end");
 }
 
 void Printer::PutTrunc(const Expr& call) {
-    const Expr& value = *call.items.front();
-    if (TypeOf(value) != Type::kDate) return PutTidied([&] { PutNumberOf(call); });
-    Put(ForPostgres() ? "date_trunc('day', " : "strftime('%Y-%m-%d 00:00:00', ");
-    PutExpr(value);
+    if (TypeOf(*call.items.front()) == Type::kDate) return PutTruncatedDate(call);
+    PutTidied([&] { PutNumberOf(call); });
+}
+
+void Printer::PutTruncatedDate(const Expr& call) {
+    std::string_view unit = "dd";
+    if (call.items.size() > 1) {
+        const Expr& written = *call.items[1];
+        if (written.kind != ExprKind::kText) throw Unreadable{PlaceOf(call)};
+        unit = WithoutQuotes(written.text);
+    }
+    const auto row = std::ranges::find_if(
+        kDateUnits, [&](const DateUnit& each) { return EqualsNoCase(each.name, unit); });
+    if (row == kDateUnits.end()) throw Unreadable{call.items[1]->text};
+    Put(ForPostgres() ? "date_trunc('" : "strftime('");
+    Put(ForPostgres() ? row->postgres : row->sqlite);
+    Put("', ");
+    PutExpr(*call.items.front());
     Put(")");
 }
 

@@ -269,12 +269,10 @@ bool Printer::ComparesNumbers(Sides sides) {
     return std::ranges::any_of(sides, [](const Expr* e) { return TypeOf(*e) == Type::kNumber; });
 }
 
-/// A written text is left to an engine that takes it as what it is compared with: PostgreSQL always
-/// does, SQLite beside a column.
-bool Printer::Adapts(const Expr& expr, Sides sides) const {
-    return expr.kind == ExprKind::kText &&
-           (ForPostgres() ||
-            std::ranges::any_of(sides, [](const Expr* e) { return e->kind == ExprKind::kColumn; }));
+/// A written text is left to PostgreSQL, which takes it as what it is compared with. SQLite does
+/// so beside some columns only: not beside those of an inner query, nor in a list or a range.
+bool Printer::Adapts(const Expr& expr) const {
+    return ForPostgres() && expr.kind == ExprKind::kText;
 }
 
 /// Texts go by byte: a text that reads as a number, too, where it stands beside a text.
@@ -307,7 +305,7 @@ void Printer::PutComparand(const Expr& expr, const Expr& other, std::string_view
 
 /// `byOrder`: whether it matters which of two texts comes first.
 void Printer::PutSide(const Expr& expr, Sides sides, bool byOrder) {
-    if (ComparesNumbers(sides) && IsWritten(TypeOf(expr)) && !Adapts(expr, sides))
+    if (ComparesNumbers(sides) && IsWritten(TypeOf(expr)) && !Adapts(expr))
         return PutAsNumber(expr);
     if (!byOrder || !ComparesByByte(expr, sides))
         return PutUntidied(expr, [&] { PutExpr(expr, Rank::kSum); });

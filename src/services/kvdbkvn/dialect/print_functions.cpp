@@ -69,7 +69,7 @@ struct Printer::Function {
 
 const Printer::Function* Printer::FindFunction(const Expr& call) {
     static constexpr std::size_t kAny = static_cast<std::size_t>(-1);
-    static constexpr std::array<Function, 35> kFunctions = {
+    static constexpr std::array<Function, 36> kFunctions = {
         {{"abs", 1, 1, &Printer::PutNumberOf},
          {"avg", 1, 1, &Printer::PutTidiedNumberOf},
          {"ceil", 1, 1, &Printer::PutTidiedNumberOf},
@@ -83,17 +83,18 @@ const Printer::Function* Printer::FindFunction(const Expr& call) {
          {"length", 1, 1, &Printer::PutTextOf},
          {"lesort", 1, 1, &Printer::PutLeaseSort},
          {"lower", 1, 1, &Printer::PutTextOf},
-         {"lpad", 2, 3, &Printer::PutTextOf},
+         {"lpad", 2, 3, &Printer::PutPadded},
          {"ltrim", 1, 2, &Printer::PutTrimmed},
          {"max", 1, 1, &Printer::PutExtreme},
          {"min", 1, 1, &Printer::PutExtreme},
-         {"mod", 2, 2, &Printer::PutTidiedNumberOf},
+         {"mod", 2, 2, &Printer::PutMod},
          {"nvl", 2, 2, &Printer::PutNvl},
          {"nvl2", 3, 3, &Printer::PutNvl2},
          {"power", 2, 2, &Printer::PutTidiedNumberOf},
+         {"regexp_replace", 2, 3, &Printer::PutRegexpReplace},
          {"replace", 2, 3, &Printer::PutReplace},
-         {"round", 1, 2, &Printer::PutTidiedNumberOf},
-         {"rpad", 2, 3, &Printer::PutTextOf},
+         {"round", 1, 2, &Printer::PutRound},
+         {"rpad", 2, 3, &Printer::PutPadded},
          {"rtrim", 1, 2, &Printer::PutTrimmed},
          {"sqrt", 1, 1, &Printer::PutTidiedNumberOf},
          {"substr", 2, 3, &Printer::PutSubstr},
@@ -159,6 +160,57 @@ void Printer::PutTrimmed(const Expr& call) {
     Put("nullif(");
     PutTextOf(call);
     Put(", '')");
+}
+
+/// To no length is null.
+void Printer::PutPadded(const Expr& call) {
+    const std::optional<int> length = IntegerOf(*call.items[1]);
+    if (length && *length > 0) return PutTextOf(call);
+    PutTrimmed(call);
+}
+
+/// To tens and hundreds SQLite does not round by itself.
+void Printer::PutRound(const Expr& call) {
+    if (TypeOf(*call.items.front()) == Type::kDate) throw Unreadable{call.names.front()};
+    const int digits = call.items.size() > 1 ? IntegerOf(*call.items[1]).value_or(0) : 0;
+    if (ForPostgres() || digits >= 0) return PutTidiedNumberOf(call);
+    const std::string unit = "1e" + std::to_string(-digits);
+    PutTidied([&] {
+        Put("(round(");
+        PutOperand(*call.items.front(), Rank::kSign);
+        Put(" / " + unit + ") * " + unit + ")");
+    });
+}
+
+/// What nothing divides is its own remainder.
+void Printer::PutMod(const Expr& call) {
+    const Expr& divisor = *call.items[1];
+    const std::optional<int> written = IntegerOf(divisor);
+    if (written && *written != 0) return PutTidiedNumberOf(call);
+    PutTidied([&] {
+        Put("case ");
+        PutOperand(divisor, Rank::kSum);
+        Put(" when 0 then ");
+        PutOperand(*call.items[0], Rank::kAny);
+        Put(" else ");
+        PutNumberOf(call);
+        Put(" end");
+    });
+}
+
+/// Each place is replaced; by what may be nothing.
+void Printer::PutRegexpReplace(const Expr& call) {
+    if (!ForPostgres()) return PutPlainCall(call, [&](const Expr& item) { PutExpr(item); });
+    Put("nullif(regexp_replace(");
+    PutText(*call.items[0]);
+    Put(", ");
+    PutText(*call.items[1]);
+    Put(", coalesce(");
+    if (call.items.size() > 2)
+        PutText(*call.items[2]);
+    else
+        Put("''");
+    Put(", ''), 'g'), '')");
 }
 
 /// What is to be replaced, and by what, may be nothing.
@@ -250,6 +302,8 @@ void Printer::PutDecodeTest(const Expr& value, const Expr& search) {
 /// as what the value is.
 void Printer::PutDecodeSearch(const Expr& value, const Expr& search) {
     const Type type = TypeOf(value);
+    if (!ForPostgres() && type == Type::kNumber && search.kind == ExprKind::kText)
+        return PutAsNumber(search);
     const bool adapts = type == Type::kText || (ForPostgres() && type == Type::kUnknown);
     if (adapts && IsLiteral(search)) return PutAsTextLiteral(search);
     PutExpr(search, Rank::kSum);
@@ -430,7 +484,9 @@ void Printer::PutNumberToChar(const Expr& number, std::string_view format) {
         Put("))");
         if (f.fewestDigits == 0 && f.decimals > 0) Put(", '0')");
     };
-    Put("case when length(");
+    Put("case when ");
+    putRounded();
+    Put(" is null then null when length(");
     putDigits();
     Put(") > " + width + " then '" + tooLong + "' else ");
     if (!f.fills) Put("substr('" + std::string(f.digits + behindPoint + 1, ' ') + "' || ");

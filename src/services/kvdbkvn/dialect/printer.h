@@ -123,7 +123,7 @@ private:
     // Comparisons. `sides`: all that are compared with one another
     using Sides = std::span<const Expr* const>;
     static bool ComparesNumbers(Sides sides);
-    bool Adapts(const Expr& expr, Sides sides) const;
+    bool Adapts(const Expr& expr) const;
     bool ComparesByByte(const Expr& expr, Sides sides) const;
     void PutComparison(const Expr& comparison);
     void PutComparand(const Expr& expr, const Expr& other, std::string_view sign);
@@ -141,7 +141,9 @@ private:
     void PutDays(const Expr& days, char sign, const std::function<void()>& putDate);
     void PutSysdate(const Expr& call);
     void PutToDate(const Expr& call);
+    void PutInCentury(const DateFormat& format, const std::function<void()>& putDate);
     void PutTrunc(const Expr& call);
+    void PutTruncatedDate(const Expr& call);
     void PutDateToChar(const Expr& date, const DateFormat& format);
     void PutNumberToChar(const Expr& number, std::string_view format);
 
@@ -169,6 +171,10 @@ private:
     void PutInstr(const Expr& call);
     void PutConcatOf(const Expr& call);
     void PutTrimmed(const Expr& call);
+    void PutPadded(const Expr& call);
+    void PutRound(const Expr& call);
+    void PutMod(const Expr& call);
+    void PutRegexpReplace(const Expr& call);
     void PutNvl2(const Expr& call);
     void PutExtreme(const Expr& call);
     void PutLargestOrSmallest(const Expr& call);

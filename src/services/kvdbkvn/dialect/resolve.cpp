@@ -75,18 +75,19 @@ private:
     }
 
     Columns ColumnsOf(const TableName& table) {
-        if (table.schema.empty()) {
-            const auto known = std::find_if(
-                named_.rbegin(), named_.rend(),
-                [&](const Source& source) { return SameName(source.name, table.name); });
-            if (known != named_.rend()) return known->columns;
-        }
+        const auto known = std::find_if(named_.rbegin(), named_.rend(), [&](const Source& source) {
+            return SameName(source.name, table.name);
+        });
+        const bool isNamed = known != named_.rend();
+        if (isNamed && table.schema.empty()) return known->columns;
+        std::string schema = EngineName(table.schema, context_.target);
+        if (!context_.hasSchema || !context_.hasSchema(schema)) schema.clear();
+        // Without its schema the engine would take the table for the query of that name.
+        if (isNamed && schema.empty()) throw Unreadable{table.schema};
         if (EqualsNoCase(table.name, "dual")) return {{"dummy", Type::kText}};
         if (EqualsNoCase(table.name, "all_tables"))
             return {{"owner", Type::kText}, {"table_name", Type::kText}};
         if (!context_.columnsOf) return {};
-        std::string schema = EngineName(table.schema, context_.target);
-        if (!context_.hasSchema || !context_.hasSchema(schema)) schema.clear();
         const std::string name = EngineName(table.name, context_.target);
         const auto [tables, isNew] = tables_.try_emplace(schema + "." + name);
         if (isNew) tables->second = context_.columnsOf(schema, name);

@@ -10,9 +10,9 @@
 namespace kv::dialect {
 namespace {
 
-constexpr std::array<std::string_view, 13> kTextFunctions = {
-    "concat", "initcap", "lesort", "lower",   "lpad", "ltrim", "replace",
-    "rpad",   "rtrim",   "substr", "to_char", "trim", "upper"};
+constexpr std::array<std::string_view, 15> kTextFunctions = {
+    "concat",    "initcap", "lesort", "lower",  "lpad",    "ltrim", "regexp_replace", "replace",
+    "translate", "rpad",    "rtrim",  "substr", "to_char", "trim",  "upper"};
 constexpr std::array<std::string_view, 14> kNumberFunctions = {
     "abs", "avg",   "ceil",  "count", "floor", "instr", "length",
     "mod", "power", "round", "sign",  "sqrt",  "sum",   "to_number"};
@@ -43,6 +43,7 @@ Type TypeOfCall(const Expr& call) {
     if (std::ranges::any_of(kTextFunctions, isOne)) return Type::kText;
     if (std::ranges::any_of(kNumberFunctions, isOne)) return Type::kNumber;
     if (IsCallOf(call, "decode") && call.items.size() >= 3) return TypeOfChoices(call.items, 2);
+    if (IsCallOf(call, "nvl2") && call.items.size() == 3) return CombineItems(call.items, 1, 1);
     if (std::ranges::any_of(kDateFunctions, isOne)) return Type::kDate;
     if (std::ranges::any_of(kChoosingFunctions, isOne)) return CombineItems(call.items, 0, 1);
     if ((IsCallOf(call, "trunc") || IsCallOf(call, "nullif")) && !call.items.empty())

@@ -406,9 +406,10 @@ TEST(Dialect, ComparesTextsByByteOnPostgres) {
 }
 
 TEST(Dialect, TakesWhatATextFunctionGivesForANumberBesideOne) {
-    for (const std::string call : {"concat(a, 'x')", "initcap(a)", "lesort(a)", "lower(a)",
-                                   "lpad(a, 5)", "ltrim(a)", "replace(a, 'x')", "rpad(a, 5)",
-                                   "rtrim(a)", "substr(a, 2)", "to_char(a)", "trim(a)", "upper(a)"})
+    for (const std::string call :
+         {"concat(a, 'x')", "initcap(a)", "lesort(a)", "lower(a)", "lpad(a, 5)", "ltrim(a)",
+          "replace(a, 'x')", "rpad(a, 5)", "rtrim(a)", "substr(a, 2)", "to_char(a)", "trim(a)",
+          "upper(a)", "regexp_replace(a, 'x')", "translate(a, 'x', 'y')", "nvl2(a, b||'x', 'y')"})
         EXPECT_THAT(OnPostgres("select 1 from t where " + call + " > 9"),
                     testing::EndsWith(" as numeric) > 9"))
             << call;
@@ -443,6 +444,53 @@ TEST(Dialect, TakesTheTypeOfTheFirstForTruncAndNullif) {
             << call;
     EXPECT_THAT(OnPostgres("select 1 from t where nullif(a||'x', 'y') > 9"),
                 testing::EndsWith(" as numeric) > 9"));
+}
+
+TEST(Dialect, RoundsToTensAndHundreds) {
+    EXPECT_EQ(Value("round(1250, -2)"), "1300");
+    EXPECT_EQ(Value("1000 / round(249, -2)"), "5");
+    EXPECT_EQ(Value("round(12.345, 2)"), "12.35");
+    EXPECT_EQ(OnPostgres("select round(a, -2) from t"),
+              "select trim_scale(cast(round(a, -2) as numeric)) from t");
+}
+
+TEST(Dialect, LeavesAllOfWhatNothingDivides) {
+    EXPECT_EQ(Value("mod(5, 0)"), "5");
+    EXPECT_EQ(Value("mod(5, 3)"), "2");
+    EXPECT_EQ(Value("mod(5, 1 - 1)"), "5");
+    EXPECT_EQ(OnPostgres("select mod(a, 0) from t"),
+              "select trim_scale(cast(case 0 when 0 then a else mod(a, 0) end as numeric)) from t");
+}
+
+TEST(Dialect, PadsToNoLengthWithNull) {
+    EXPECT_EQ(OnPostgres("select lpad(a, 0), rpad(a, b), lpad(a, 5) from t"),
+              "select nullif(lpad(a, 0), ''), nullif(rpad(a, b), ''), lpad(a, 5) from t");
+}
+
+TEST(Dialect, ReplacesEachPlaceOfAPatternOnPostgres) {
+    EXPECT_EQ(OnPostgres("select regexp_replace(a, 'x', '') from t"),
+              "select nullif(regexp_replace(cast(a as text), 'x', coalesce(cast(null as text), "
+              "''), 'g'), '') from t");
+    EXPECT_EQ(OnPostgres("select regexp_replace(a, 'x') from t"),
+              "select nullif(regexp_replace(cast(a as text), 'x', coalesce('', ''), 'g'), '') "
+              "from t");
+}
+
+TEST(Dialect, RefusesWhatWouldBeAnotherValue) {
+    const auto refusal = [](const std::string& sql) {
+        return Translate(sql, For(Target::kSqlite)).refusal;
+    };
+    EXPECT_THAT(refusal("select trunc(sysdate, 'Q') from dual"),
+                HasSubstr("it has no counterpart at character 23: 'Q'"));
+    EXPECT_THAT(refusal("select trunc(sysdate, a) from t"), HasSubstr("at character 8: trunc"));
+    EXPECT_THAT(refusal("select round(sysdate) from dual"), HasSubstr("at character 8: round"));
+    EXPECT_THAT(refusal("with t as (select 1 a from dual) select a from norvadon.t"),
+                HasSubstr("at character 48: norvadon"));
+    EXPECT_EQ(refusal("with t as (select 1 a from dual) select a from t"), "");
+    EXPECT_EQ(Translate("with t as (select 1 a from dual) select a from norvadon.t",
+                        WithSchema(Target::kSqlite))
+                  .refusal,
+              "");
 }
 
 TEST(Dialect, AnOrderBehindTheBracketsReplacesTheOneWithin) {
