@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <exception>
 #include <functional>
 #include <ostream>
 #include <string>
@@ -9,6 +10,7 @@
 #include "services/kvdbkvn/session_pool.h"
 #include "services_pg/line.h"
 #include "support/database_helpers.h"
+#include "support/failing_memory.h"
 #include "support/postgres_cluster.h"
 #include "support/postgres_database.h"
 #include "support/temp_folder.h"
@@ -99,14 +101,6 @@ TEST_F(PostgresEngine, ADateIsWrittenYearFirst) {
                   "create table kvt (d date); insert into kvt values ('2021-12-31')");
     manager_.Connect();
     EXPECT_EQ(Cell("select d from kvt"), "2021-12-31");
-}
-
-TEST_F(PostgresEngine, ABackslashInATextIsABackslash) {
-    database_.Run("alter database " + database_.Name() +
-                  " set standard_conforming_strings to off; create table kvt (a text)");
-    manager_.Connect();
-    manager_.Insert("insert into kvt values ('C:\\new\\')");
-    EXPECT_EQ(Cell("select a from kvt"), "C:\\new\\");
 }
 
 TEST(PostgresBytes, TextThatIsNotUtf8ComesThroughWhereTheServerHoldsBytes) {
@@ -337,6 +331,50 @@ TEST_P(PostgresSessions, OneThatWasTakenAmongChangesEndsWithThem) {
     EXPECT_EQ(database_.Run("select count(*) from kvt"), "1");
 }
 
+TEST_P(PostgresSessions, ABackslashInATextIsABackslash) {
+    database_.Run("alter database " + database_.Name() +
+                  " set standard_conforming_strings to off; create table kvt (a text)");
+    manager_.Disconnect();
+    kv::db::SessionPool::Instance().Clear();
+    manager_.Connect();
+    manager_.Insert("insert into kvt values ('C:\\new\\')");
+    ASSERT_EQ(manager_.Select("select a from kvt where a <> '\\'"), 1);
+    EXPECT_STREQ(manager_.GetItem(0, 0), "C:\\new\\");
+}
+
+TEST_P(PostgresSessions, OneThatThereIsNoMemoryToRollBackIsClosed) {
+    database_.Run("create table kvt (a text)");
+    manager_.Insert("insert into kvt values ('lost')");
+    {
+        const FailingMemory none;
+        manager_.Rollback();
+    }
+    manager_.Insert("insert into kvt values ('kept')");
+    manager_.Commit();
+    EXPECT_EQ(database_.Run("select string_agg(a, ' ') from kvt"), "kept");
+}
+
+TEST_P(PostgresSessions, ACommitThatRunsOutOfMemoryTellsTruly) {
+    database_.Run("create table kvt (a text)");
+    int kept = 0;
+    bool failed = true;
+    for (int first = 1; failed && first < 100; ++first) {
+        manager_.Insert("insert into kvt values ('x')");
+        {
+            const FailingMemory fault(first);
+            try {
+                manager_.Commit();
+                ++kept;
+            } catch (const std::exception&) {
+                // Nothing is kept then.
+            }
+            failed = fault.Failed();
+        }
+        EXPECT_EQ(database_.Run("select count(*) from kvt"), std::to_string(kept)) << first;
+    }
+    EXPECT_FALSE(failed);
+}
+
 TEST_P(PostgresSessions, AStatementThatAnAdministratorEndedIsNotRunAgain) {
     database_.Run(
         "create sequence kvs; create table kvt (a text);"
@@ -422,6 +460,14 @@ TEST_P(StoppedServer, StartedAgainTheFirstStatementFindsIt) {
     EXPECT_EQ(manager_.Insert("insert into kvt values ('three')"), 1);
     manager_.Disconnect();
     EXPECT_EQ(PostgresClient(cluster_.Url()).Run("select count(*) from kvt"), "3");
+}
+
+TEST_P(StoppedServer, StartedAgainTheFirstStatementOnATableNotAskedBeforeFindsIt) {
+    PostgresClient(cluster_.Url()).Run("create table kvu (b text); insert into kvu values ('x')");
+    EXPECT_EQ(manager_.Select("select a from kvt"), 2);
+    cluster_.Stop();
+    cluster_.Start();
+    EXPECT_EQ(manager_.Select("select b from kvu where b < 'y' order by b"), 1);
 }
 
 TEST_P(StoppedServer, StartedAgainIdleSessionsAreReplaced) {

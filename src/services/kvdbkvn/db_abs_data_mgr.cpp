@@ -114,6 +114,20 @@ struct CKvDbAbsDataMgr::State {
         session->Commit();
     }
 
+    /// The session is given back ahead of the message, whose window may ask the database, too.
+    void CommitOrTell() {
+        try {
+            Commit();
+        } catch (const CKvException& failure) {
+            GiveBack();
+            AfxMessageBox(failure.GetErrorMessage(true, true).c_str(), 0, 0);
+        } catch (const std::bad_alloc&) {
+            GiveBack();
+            AfxMessageBox("The changes are undone: there is not enough memory to commit them", 0,
+                          0);
+        }
+    }
+
     void Rollback() noexcept {
         if (session && !session->Rollback()) session.reset();
         changed = false;
@@ -222,13 +236,9 @@ void CKvDbAbsDataMgr::FreeData() {
 void CKvDbAbsDataMgr::Disconnect() {
     const std::shared_ptr<State> state = m_pState;
     try {
-        state->Commit();
-    } catch (const CKvException& failure) {
-        state->GiveBack();
-        AfxMessageBox(failure.GetErrorMessage(true, true).c_str(), 0, 0);
+        state->CommitOrTell();
     } catch (const std::bad_alloc&) {
-        state->GiveBack();
-        AfxMessageBox("The changes are undone: there is not enough memory to commit them", 0, 0);
+        // Without memory for a message nobody can be told.
     }
     state->GiveBack();
 }

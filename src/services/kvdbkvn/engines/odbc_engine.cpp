@@ -5,12 +5,14 @@
 #include <chrono>
 #include <map>
 #include <memory>
+#include <new>
 #include <string>
 #include <string_view>
 #include <utility>
 
 #include "base/text.h"
 #include "frame/kvdbkvn/sql_literal.h"
+#include "services/kvdbkvn/engines/bordered_session.h"
 #include "services/kvdbkvn/engines/column_types.h"
 #include "services/kvdbkvn/engines/engine_module.h"
 #include "services/kvdbkvn/engines/file_identity.h"
@@ -144,7 +146,7 @@ Quoting QuotingOf(std::string_view product) {
     return standard ? Quoting::kStandard : Quoting::kUnknown;
 }
 
-class OdbcSession final : public ModuleSession {
+class OdbcSession final {
 public:
     explicit OdbcSession(std::unique_ptr<Connection> connection)
         : connection_(std::move(connection)),
@@ -156,27 +158,29 @@ public:
         SQLSetConnectAttr(connection_->get(), SQL_ATTR_AUTOCOMMIT,
                           reinterpret_cast<SQLPOINTER>(SQL_AUTOCOMMIT_OFF), SQL_IS_UINTEGER);
         if (target_ == dialect::Target::kSqlite && !SetUpSqlite(failure)) return false;
-        if (target_ == dialect::Target::kPostgres && !Run(kPostgresSearchPath, failure))
-            return false;
+        if (target_ == dialect::Target::kPostgres && !SetUpPostgres(failure)) return false;
         return EndTransaction(SQL_COMMIT, failure);
     }
 
-    dialect::Target Target() const noexcept override { return target_; }
+    dialect::Target Target() const { return target_; }
 
-    bool IsAlive() noexcept override {
+    /// None is stopped over ODBC.
+    void StopQueryWhen(ModuleSession::IsOver*) {}
+
+    bool IsAlive() {
         SQLUINTEGER dead = SQL_CD_FALSE;
         SQLGetConnectAttr(connection_->get(), SQL_ATTR_CONNECTION_DEAD, &dead, 0, nullptr);
         return !lost_ && dead != SQL_CD_TRUE && (file_.empty() || IdentityOf(file_) == identity_);
     }
-    bool WasGoneAhead() const noexcept override { return !sent_; }
+    bool WasGoneAhead() const { return !sent_; }
 
     /// Drivers take whole seconds.
-    bool LimitStatements(std::chrono::milliseconds limit, std::string&) noexcept override {
+    bool LimitStatements(std::chrono::milliseconds limit, std::string&) {
         limit_ = static_cast<SQLULEN>(std::chrono::ceil<std::chrono::seconds>(limit).count());
         return true;
     }
 
-    bool HasSchema(const std::string& name) noexcept override {
+    bool HasSchema(const std::string& name) {
         switch (target_) {
             case dialect::Target::kSqlite:
                 return EqualsNoCase(name, "main") || EqualsNoCase(name, "temp");
@@ -189,23 +193,24 @@ public:
     }
 
     const dialect::Columns* ColumnsOf(const std::string& schema, const std::string& table,
-                                      std::string& failure) noexcept override {
+                                      std::string& failure) {
         const std::string name = schema + "." + table;
         if (const auto known = columns_.find(name); known != columns_.end()) return &known->second;
+        sent_ = false;
         const auto rows = Fetch(ColumnsQuery(target_, schema, table), failure);
         std::string ignored;
         if (!inTransaction_) EndTransaction(SQL_ROLLBACK, ignored);
         return rows ? &(columns_[name] = ColumnsIn(*rows, target_)) : nullptr;
     }
 
-    bool Check(const std::string& sql, std::string& failure) noexcept override {
+    bool Check(const std::string& sql, std::string& failure) {
         if (HoldsTwoStatements(sql)) return true;
         if (!BeginReading(failure)) return false;
         const bool prepared = Prepare(sql, failure);
         return EndReading(failure) && prepared;
     }
 
-    std::unique_ptr<Rows> Query(const std::string& sql, std::string& failure) noexcept override {
+    std::unique_ptr<Rows> Query(const std::string& sql, std::string& failure) {
         const Reading reading = ReadingOf(sql, quoting_);
         if (reading != Reading::kReads) {
             failure = reading == Reading::kDoubtful ? kDoubtfulEnd : kOnlyReads;
@@ -220,7 +225,7 @@ public:
         return rows;
     }
 
-    int Execute(const std::string& sql, std::string& failure) noexcept override {
+    int Execute(const std::string& sql, std::string& failure) {
         if (HoldsTwoStatements(sql)) {
             failure = kOneStatement;
             return -1;
@@ -242,8 +247,9 @@ public:
         return changed;
     }
 
-    bool Commit(std::string& failure) noexcept override {
+    bool Commit(std::string& failure) {
         if (!inTransaction_) return true;
+        sent_ = true;
         std::string reason;
         if (EndTransaction(SQL_COMMIT, reason)) {
             UndoAndUnlock();
@@ -252,7 +258,7 @@ public:
         failure = serverLost_ ? CommitUnanswered(reason) : CommitFailure(reason);
         return false;
     }
-    bool Rollback() noexcept override {
+    bool Rollback() {
         std::string ignored;
         const bool mayHoldLocks = inTransaction_;
         if (EndTransaction(SQL_ROLLBACK, ignored) && mayHoldLocks) UndoAndUnlock();
@@ -262,6 +268,10 @@ public:
 private:
     /// The others undo a statement that failed by themselves.
     bool HasSavepoints() const { return target_ != dialect::Target::kOracle; }
+
+    bool SetUpPostgres(std::string& failure) {
+        return Run(kPostgresSearchPath, failure) && Run(kPostgresPlainBackslashes, failure);
+    }
 
     /// None of this looks into the file, which others may have locked.
     bool SetUpSqlite(std::string& failure) {
@@ -338,14 +348,20 @@ private:
     /// unlike its other locks they outlast the transaction.
     void UndoAndUnlock() {
         std::string ignored;
-        if (target_ == dialect::Target::kPostgres && !Run(kPostgresGiveUpLocks, ignored))
+        try {
+            if (target_ == dialect::Target::kPostgres && !Run(kPostgresGiveUpLocks, ignored))
+                lost_ = true;
+            EndTransaction(SQL_ROLLBACK, ignored);
+        } catch (const std::bad_alloc&) {
+            // What came ahead, a commit perhaps, has ended well.
             lost_ = true;
-        EndTransaction(SQL_ROLLBACK, ignored);
+        }
     }
 
     bool HasPostgresSchema(const std::string& name) {
         if (const auto known = schemas_.find(name); known != schemas_.end()) return known->second;
         std::string ignored;
+        sent_ = false;
         const auto rows =
             Fetch("select 1 from pg_namespace where nspname = " + SqlLiteral(name), ignored);
         if (!inTransaction_) EndTransaction(SQL_ROLLBACK, ignored);
@@ -454,7 +470,8 @@ private:
     bool reading_ = false;
     bool lost_ = false;
     bool serverLost_ = false;
-    /// Whether the caller's statement that came last was sent.
+    /// Whether the caller's statement that came last was sent, or the commit behind it. False while
+    /// the server is asked what must be known to translate one.
     bool sent_ = false;
     /// Of SQLite; empty for one in memory, and for other databases.
     std::string file_;
@@ -524,5 +541,5 @@ extern "C" KVGUICTL_API kv::db::ModuleSession* KVGuiCtlOpenSession(const CKvDbIn
     if (!connection) return nullptr;
     auto session = std::make_unique<kv::db::OdbcSession>(std::move(connection));
     if (!session->SetUp(failure)) return nullptr;
-    return session.release();
+    return new kv::db::BorderedSession(std::move(session));
 }

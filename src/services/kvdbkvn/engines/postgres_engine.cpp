@@ -18,6 +18,7 @@
 #include <vector>
 
 #include "base/text.h"
+#include "services/kvdbkvn/engines/bordered_session.h"
 #include "services/kvdbkvn/engines/column_types.h"
 #include "services/kvdbkvn/engines/engine_module.h"
 #include "services/kvdbkvn/engines/postgres_statements.h"
@@ -47,7 +48,7 @@ constexpr const char* kStandby =
 
 constexpr const char* kSetUp[] = {
     kPostgresSearchPath,
-    "set standard_conforming_strings to on",
+    kPostgresPlainBackslashes,
     "set datestyle to 'ISO'",
 };
 
@@ -113,8 +114,10 @@ Command Run(std::string sql) {
     return {Command::Kind::kRun, std::move(sql)};
 }
 
-class PostgresSession final : public ModuleSession {
+class PostgresSession final {
 public:
+    using IsOver = ModuleSession::IsOver;
+
     explicit PostgresSession(Connection connection) : connection_(std::move(connection)) {}
 
     /// Settles what the statements rely on. False, with the reason, when the server will not.
@@ -132,16 +135,16 @@ public:
         return RunAll(std::move(commands), failure);
     }
 
-    dialect::Target Target() const noexcept override { return dialect::Target::kPostgres; }
+    dialect::Target Target() const { return dialect::Target::kPostgres; }
 
-    void StopQueryWhen(IsOver* isOver) noexcept override { isOver_ = isOver; }
+    void StopQueryWhen(IsOver* isOver) { isOver_ = isOver; }
 
-    bool LimitStatements(std::chrono::milliseconds limit, std::string& failure) noexcept override {
+    bool LimitStatements(std::chrono::milliseconds limit, std::string& failure) {
         return RunAll({Run("set statement_timeout to " + std::to_string(limit.count()))}, failure);
     }
 
     /// A server that went away has closed the connection; taking in what it sent last tells.
-    bool IsAlive() noexcept override {
+    bool IsAlive() {
         PGconn* connection = connection_.get();
         constexpr int kMostMessages = 8;
         for (int i = 0; i < kMostMessages && PQstatus(connection) == CONNECTION_OK; ++i) {
@@ -151,8 +154,9 @@ public:
         }
         return PQstatus(connection) == CONNECTION_OK;
     }
+    bool WasGoneAhead() const { return false; }
 
-    bool HasSchema(const std::string& name) noexcept override {
+    bool HasSchema(const std::string& name) {
         if (const auto known = schemas_.find(name); known != schemas_.end()) return known->second;
         const std::string lower = ToLower(name);
         char* quoted = PQescapeLiteral(connection_.get(), lower.data(), lower.size());
@@ -165,7 +169,7 @@ public:
     }
 
     const dialect::Columns* ColumnsOf(const std::string& schema, const std::string& table,
-                                      std::string& failure) noexcept override {
+                                      std::string& failure) {
         const std::string name = schema + "." + table;
         if (const auto known = columns_.find(name); known != columns_.end()) return &known->second;
         std::vector<Result> results =
@@ -178,7 +182,7 @@ public:
         return &(columns_[name] = ColumnsIn(rows, dialect::Target::kPostgres));
     }
 
-    bool Check(const std::string& sql, std::string& failure) noexcept override {
+    bool Check(const std::string& sql, std::string& failure) {
         const Result described = Describe(sql);
         if (!Succeeded(described)) failure = Words(described);
         return Succeeded(described);
@@ -186,7 +190,7 @@ public:
 
     /// Whether a text gives rows at all is known before it runs, so that none can end the
     /// transaction. Of most that is seen by their words; of others the server is asked.
-    std::unique_ptr<Rows> Query(const std::string& sql, std::string& failure) noexcept override {
+    std::unique_ptr<Rows> Query(const std::string& sql, std::string& failure) {
         const bool reads = ReadingOf(sql, Quoting::kStandard) == Reading::kReads;
         Result result = reads ? Result() : Describe(sql);
         if (reads || GivesRows(result)) result = RunReading({Run(sql)});
@@ -196,7 +200,7 @@ public:
         return nullptr;
     }
 
-    int Execute(const std::string& sql, std::string& failure) noexcept override {
+    int Execute(const std::string& sql, std::string& failure) {
         const bool begins = !inTransaction_;
         if (ToLower(sql).find("schema") != std::string::npos) schemas_.clear();
         if (MayDefine(sql)) columns_.clear();
@@ -215,7 +219,7 @@ public:
         return RowsChanged(results[1]);
     }
 
-    bool Commit(std::string& failure) noexcept override {
+    bool Commit(std::string& failure) {
         if (!inTransaction_) return true;
         const Result result = EndTransaction("commit");
         const bool answered = Succeeded(result);
@@ -230,7 +234,7 @@ public:
         return false;
     }
 
-    bool Rollback() noexcept override {
+    bool Rollback() {
         if (inTransaction_) EndTransaction("rollback");
         return PQtransactionStatus(connection_.get()) == PQTRANS_IDLE;
     }
@@ -549,5 +553,5 @@ extern "C" KVGUICTL_API kv::db::ModuleSession* KVGuiCtlOpenSession(const CKvDbIn
     }
     auto session = std::make_unique<kv::db::PostgresSession>(std::move(connection));
     if (!session->SetUp(failure)) return nullptr;
-    return session.release();
+    return new kv::db::BorderedSession(std::move(session));
 }

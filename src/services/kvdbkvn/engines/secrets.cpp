@@ -43,6 +43,17 @@ void AddUrlPassword(std::string_view server, Secrets& out) {
     if (!isHostAlone || !std::ranges::all_of(password, IsDigit)) AddPieces(password, out);
 }
 
+/// The value of a setting behind its opening brace. A closing brace in it is doubled; not every
+/// reader takes it so, so what stands ahead of the first is a secret, too.
+void AddBracedPassword(std::string_view value, Secrets& out) {
+    std::size_t end = value.find('}');
+    out.emplace_back(value.substr(0, end));
+    while (end != std::string_view::npos && value.substr(end, 2) == "}}")
+        end = value.find('}', end + 2);
+    out.emplace_back(value.substr(0, end));
+    out.push_back(ReplaceAll(value.substr(0, end), "}}", "}"));
+}
+
 /// The values of the password keywords, between "?", "&" and ";".
 void AddKeywordPasswords(std::string_view server, Secrets& out) {
     const std::string lower = ToLower(server);
@@ -53,17 +64,22 @@ void AddKeywordPasswords(std::string_view server, Secrets& out) {
             if (equals == std::string::npos || lower[equals] != '=') continue;
             std::string_view value = server.substr(equals + 1);
             value.remove_prefix(std::min(value.find_first_not_of(' '), value.size()));
-            const bool braced = !value.empty() && value.front() == '{';
-            if (braced) value.remove_prefix(1);
-            value = value.substr(0, value.find_first_of(braced ? "}" : "&;"));
-            out.emplace_back(value);
+            if (value.starts_with('{')) {
+                value.remove_prefix(1);
+                AddBracedPassword(value, out);
+                value = value.substr(0, value.find('}'));
+            } else {
+                value = value.substr(0, value.find_first_of("&;"));
+                out.emplace_back(value);
+            }
             out.push_back(PercentDecoded(value));
         }
     }
 }
 
 Secrets SecretsOf(const CKvDbInfo& info) {
-    Secrets secrets{info.GetPassword()};
+    // The second is how it stands in braces, which an ODBC text is sent with.
+    Secrets secrets{info.GetPassword(), ReplaceAll(info.GetPassword(), "}", "}}")};
     AddUrlPassword(info.GetServer(), secrets);
     AddKeywordPasswords(info.GetServer(), secrets);
     std::erase(secrets, "");

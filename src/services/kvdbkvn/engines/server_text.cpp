@@ -27,15 +27,21 @@ bool IsPasswordKeyword(std::string_view keyword) {
     return EqualsNoCase(keyword, "pwd") || EqualsNoCase(keyword, "password");
 }
 
+/// Whether it is a host by all looks: a name or an address in brackets, with or without a port.
+bool IsHost(std::string_view text) {
+    const std::size_t bracket = text.starts_with('[') ? text.find(']') : std::string_view::npos;
+    const std::size_t colon = text.find(':', bracket == std::string_view::npos ? 0 : bracket);
+    return colon == std::string_view::npos || std::ranges::all_of(text.substr(colon + 1), IsDigit);
+}
+
 /// Where user and password end in what follows the slashes of a URL. Signs of a password that
-/// should have been encoded do not end it, unless it is a port number by all looks.
+/// should have been encoded do not end it, unless hosts stand there by all looks.
 std::size_t EndOfLogin(std::string_view rest) {
-    const std::size_t authority = std::min(rest.find_first_of("/?#"), rest.size());
-    const std::size_t at = rest.substr(0, authority).rfind('@');
-    const std::size_t colon = rest.substr(0, authority).find(':');
-    if (at != std::string_view::npos || colon == std::string_view::npos) return at;
-    const std::string_view port = rest.substr(colon + 1, authority - colon - 1);
-    return std::ranges::all_of(port, IsDigit) ? std::string_view::npos : rest.rfind('@');
+    const std::string_view authority = rest.substr(0, rest.find_first_of("/?#"));
+    const std::size_t at = authority.rfind('@');
+    if (at != std::string_view::npos) return at;
+    const std::vector<std::string> hosts = Split(authority, ',');
+    return std::ranges::all_of(hosts, IsHost) ? std::string_view::npos : rest.rfind('@');
 }
 
 /// The last of two equal keywords counts, and they count ahead of what stands before the host.

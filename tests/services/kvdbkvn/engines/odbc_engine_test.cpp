@@ -1,12 +1,16 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <exception>
 #include <filesystem>
 #include <string_view>
+#include <system_error>
 
 #include "frame/kvdbkvn/database_fault.h"
 #include "services/kvdbkvn/engines/engine_module.h"
 #include "support/database_helpers.h"
+#include "support/failing_memory.h"
 #include "support/plain_user.h"
 #include "support/sqlite_file.h"
 #include "support/temp_folder.h"
@@ -101,6 +105,62 @@ TEST_F(OdbcEngine, ASessionOfAFileThatWasReplacedIsNotLentAgain) {
     std::filesystem::rename(fresh, path_);
     manager_.Connect();
     EXPECT_EQ(manager_.Select("select a from kvt"), 1);
+}
+
+TEST_F(OdbcEngine, WhenTheDatabaseUndoesTheWholeTransactionTheFailureSaysSo) {
+    RunOnSqliteFile(path_,
+                    "create trigger t before insert on kvt when new.b = 13 "
+                    "begin select raise(rollback, 'unlucky'); end");
+    manager_.Connect();
+    manager_.Insert("insert into kvt values ('one', 1)");
+    EXPECT_THAT(FailureOf([&] { manager_.Insert("insert into kvt values ('bad', 13)"); }),
+                testing::AllOf(HasSubstr("unlucky"),
+                               HasSubstr("; the earlier changes of this connection were undone, "
+                                         "too")));
+    manager_.Disconnect();
+    manager_.Connect();
+    EXPECT_EQ(manager_.Select("select a from kvt"), 0);
+}
+
+TEST_F(OdbcEngine, ASessionThatEndsLeavesNoConnectionOpen) {
+    const auto timesOpen = [&] {
+        namespace fs = std::filesystem;
+        const fs::path file = fs::canonical(path_);
+        std::error_code closed;
+        return std::ranges::count_if(
+            fs::directory_iterator("/proc/self/fd"),
+            [&](const auto& each) { return fs::read_symlink(each, closed) == file; });
+    };
+    const CKvDbInfo info("", "", ("odbc:Driver=SQLite3;Database=" + path_).c_str());
+    auto session = kv::db::OpenThroughModule("KVGuiCtlOdbc", "ODBC", info);
+    EXPECT_EQ(session->Query("select a from kvt")->Count(), 0);
+    EXPECT_EQ(timesOpen(), 1);
+    session.reset();
+    EXPECT_EQ(timesOpen(), 0);
+}
+
+TEST_F(OdbcEngine, ASessionThatRunsOutOfMemoryInAQueryIsNotUsedAgain) {
+    RunOnSqliteFile(path_, "insert into kvt values ('a text that needs memory to be kept', 1)");
+    const CKvDbInfo info("", "", ("odbc:Driver=SQLite3;Database=" + path_).c_str());
+    const auto open = [&] { return kv::db::OpenThroughModule("KVGuiCtlOdbc", "ODBC", info); };
+    const std::string sql = "select a from kvt";
+    ASSERT_EQ(open()->Query(sql)->Count(), 1);
+    bool answered = false;
+    int first = 1;
+    for (; !answered && first < 1000; ++first) {
+        const auto session = open();
+        {
+            const FailingMemory fault(first);
+            try {
+                answered = session->Query(sql)->Count() == 1;
+            } catch (const std::exception&) {
+                answered = false;
+            }
+        }
+        EXPECT_TRUE(answered || !session->IsAlive()) << first;
+    }
+    EXPECT_TRUE(answered);
+    EXPECT_GT(first, 5);
 }
 
 TEST_F(OdbcEngine, TextThatIsNotUtf8ComesAsItsBytes) {

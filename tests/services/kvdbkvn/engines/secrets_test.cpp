@@ -65,5 +65,13 @@ TEST(Secrets, SoAreTheValuesOfPasswordKeywords) {
     EXPECT_EQ(Scrubbed("got t1;ger", "odbc:DSN=X;PASSWORD = {t1;ger};Port=1"), "got ***");
 }
 
+TEST(Secrets, ABraceInAPasswordIsHiddenDoubledAndAlone) {
+    EXPECT_EQ(Scrubbed("got ab}}cd and ab}cd", "odbc:DSN=X;PWD={ab}}cd};Port=1"),
+              "got *** and ***");
+    EXPECT_EQ(Scrubbed("got PWD={ab}}cd};", "odbc:DSN=X", "ab}cd"), "got PWD={***};");
+    EXPECT_EQ(Scrubbed("got ab}cd;", "odbc:DSN=X", "ab}cd"), "got ***;");
+    EXPECT_EQ(Scrubbed("got ab}}cd", "odbc:DSN=X;PWD={ab}}cd"), "got ***");
+}
+
 }  // namespace
 }  // namespace test

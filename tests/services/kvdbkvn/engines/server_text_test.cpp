@@ -27,6 +27,17 @@ TEST(ServerText, WithoutALoginStaysAsItIs) {
         EXPECT_EQ(Apart(server.c_str()), "||" + server);
 }
 
+TEST(ServerText, HostsWithPortsAndAddressesInBracketsAreNoLogin) {
+    for (const std::string server :
+         {"postgresql://db1:5432,db2:5433/x?options=a@b", "postgresql://db1,db2:5433/x?options=a@b",
+          "postgresql://[::1]:5432/x?options=a@b", "postgresql://[::1],[fe80::2]:5/x?options=a@b"})
+        EXPECT_EQ(Apart(server.c_str()), "||" + server);
+    EXPECT_EQ(Apart("postgresql://db1:5432,db2:5433/x?user=kv@corp"),
+              "kv@corp||postgresql://db1:5432,db2:5433/x");
+    EXPECT_EQ(Apart("postgresql://scott:ti,ger/1@db1:5432,db2:5433/x"),
+              "scott|ti,ger/1|postgresql://db1:5432,db2:5433/x");
+}
+
 TEST(ServerText, OptionsOfAUrlCountAheadOfWhatStandsBeforeTheHost) {
     EXPECT_EQ(Apart("postgresql://gulf/db?user=scott&sslmode=require&password=t%2Fger"),
               "scott|t/ger|postgresql://gulf/db?sslmode=require");
