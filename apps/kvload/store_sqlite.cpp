@@ -9,6 +9,8 @@
 #include <system_error>
 #include <utility>
 
+#include "sampledata/sqlite_file.h"
+
 namespace kvload {
 namespace {
 
@@ -65,8 +67,10 @@ public:
     ~SqliteStore() override {
         insert_.reset();
         database_.reset();
+        if (!isNew_) return;
         std::error_code ignored;
-        if (isNew_) fs::remove(file_, ignored);
+        fs::remove(file_, ignored);
+        kv::sample::RemoveWhatLiesBeside(file_);
     }
 
     std::vector<Row> Query(const std::string& sql) override {
@@ -116,13 +120,18 @@ public:
         Run("commit");
         if (!isNew_) return;
         // Who reads it then holds up nobody who writes.
-        Query("pragma journal_mode = wal");
+        if (Query("pragma journal_mode = wal") != std::vector<Row>{{"wal"}})
+            throw std::runtime_error("The database cannot have a write-ahead log");
         if (sqlite3_close(database_.release()) != SQLITE_OK)
             throw std::runtime_error("The database does not close");
         if (fs::exists(target_))
             throw std::runtime_error(target_.string() + " has been made by someone else meanwhile");
         if (const int code = Sync(file_))
             throw std::runtime_error(target_.string() + ": " + ReasonOf(code));
+        if (!kv::sample::RemoveWhatLiesBeside(target_)) {
+            throw std::runtime_error("The log of a database that was at " + target_.string() +
+                                     " cannot be removed");
+        }
         fs::rename(file_, target_);
         isNew_ = false;
         const fs::path folder = target_.parent_path();

@@ -6,22 +6,9 @@
 #include <stdexcept>
 #include <system_error>
 
+#include "sampledata/sqlite_file.h"
+
 namespace kv::sample {
-
-namespace {
-
-/// What SQLite keeps beside a database. Left beside another of the same name, it would be taken for
-/// that one's. False when some of it stays.
-bool RemoveWhatLiesBeside(const std::filesystem::path& database) {
-    std::error_code error;
-    for (const char* ending : {"-journal", "-wal", "-shm"}) {
-        std::filesystem::remove(database.string() + ending, error);
-        if (error) return false;
-    }
-    return true;
-}
-
-}  // namespace
 
 SqliteLoader::SqliteLoader(std::filesystem::path target)
     : target_(std::move(target)),

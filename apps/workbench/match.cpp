@@ -124,14 +124,23 @@ constexpr Kind kKinds[] = {
     {"CKvGuiPipeProductDlg", KV_LAYER_PIPELINES, OfProduct},
 };
 
+struct List {
+    Values values;
+    /// Words for the user where lines of its file were cut.
+    std::string cut = {};
+};
+
 /// The list that was built, or the one in the file that stands for it.
-Values ListOf(const Run& run) {
-    if (!run.outcome.value("useListFile", false)) return run.outcome.at("values");
+List ListOf(const Run& run) {
+    if (!run.outcome.value("useListFile", false)) return {run.outcome.at("values").get<Values>()};
     const std::string path = run.outcome.at("listFile");
     const auto text = kv::ReadForeignText(path);
     if (!text) throw std::runtime_error("The list file " + path + " cannot be read.");
     if (!kv::IsText(*text)) throw std::runtime_error("The list file " + path + " is not text.");
-    return kv::ParseQualifiers(*text);
+    int cut = 0;
+    List list{kv::ParseQualifiers(*text, &cut)};
+    if (cut > 0) list.cut = kv::WordsOfCut(path, cut);
+    return list;
 }
 
 }  // namespace
@@ -139,9 +148,9 @@ Values ListOf(const Run& run) {
 std::optional<Match> MatchOf(const adaptors::Adaptor& adaptor, const Run& run) {
     const auto* kind = std::ranges::find(kKinds, adaptor.className, &Kind::className);
     if (kind == std::end(kKinds) || run.result != IDOK) return {};
-    const Values values = ListOf(run);
-    if (values.empty()) return {};
-    return Match{FindReportLayer(kind->layer), kind->condition(run, values)};
+    const List list = ListOf(run);
+    if (list.values.empty()) return {};
+    return Match{FindReportLayer(kind->layer), kind->condition(run, list.values), list.cut};
 }
 
 }  // namespace workbench

@@ -12,6 +12,7 @@ namespace workbench {
 struct Match {
     const ReportLayer* layer;
     std::string condition;  ///< SQL; "t" is the layer's table
+    std::string cut = {};   ///< words for the user where lines of the list file were cut
 };
 
 /// What the qualifier asks for that a dialog built with its sample inputs. Nothing for a dialog

@@ -542,6 +542,7 @@ void Workbench::ShowMatch(const adaptors::Adaptor& adaptor, const adaptors::Run&
     try {
         const auto match = MatchOf(adaptor, run);
         if (!match) return;
+        if (!match->cut.empty()) outcome_->AddNote(Text(match->cut));
         outcome_->AddNote(tr("Matching rows: %1 where %2")
                               .arg(Text(match->layer->title), Text(match->condition)));
         const std::string what = "Matching " + std::string(match->layer->title);

@@ -287,12 +287,15 @@ void CKvGuiDMSCtrl::SetPartner(CKvGuiDMSCtrl* pPartner) {
     pPartner->m_pPartner = this;
 }
 
-/// Whether the text is a bare number, which is the box's own. Only a fraction of degrees belongs to
-/// the boxes of minutes and seconds, where they are shown.
+/// Whether the text is a single number that is the box's own. Only a fraction of degrees belongs to
+/// the boxes of minutes and seconds, where they are shown. Behind a number in one of those, a small
+/// s is no south.
 bool CKvGuiDMSCtrl::IsOwnNumber(const CNumEdit& box, const std::string& text) const {
-    const auto number = kv::ScanLoneNumber(text);
-    if (!number) return false;
     const bool degrees = &box == m_pDegEdit.get();
+    std::string bare = kv::TrimSpace(text);
+    if (!degrees && bare.ends_with('s')) bare.pop_back();
+    const auto number = kv::ScanLoneNumber(bare);
+    if (!number) return false;
     return !degrees || m_bDecimal || *number == std::trunc(*number);
 }
 

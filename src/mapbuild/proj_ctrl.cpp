@@ -123,7 +123,11 @@ void CKvGuiProjCtrl::FillCatalogue() {
 }
 
 const std::string& CKvGuiProjCtrl::Description(int nCode) {
-    return m_tMapDesc.emplace(nCode, std::string()).first->second;
+    if (m_bMapDescHasData) return m_tMapDesc.emplace(nCode, std::string()).first->second;
+    // Kept, an empty one would stand in the way of the row that the next reading finds.
+    static const std::string kUnread;
+    const auto at = m_tMapDesc.find(nCode);
+    return at == m_tMapDesc.end() ? kUnread : at->second;
 }
 
 std::string CKvGuiProjCtrl::S_GetProjDesc(int nCode) {

@@ -75,7 +75,7 @@ private:
     /// A code that is entered already keeps its description.
     static void Enter(int nCode, const std::string& name, const std::string& description);
     static void FillCatalogue();
-    /// An unknown code gets an empty description, and stays.
+    /// An unknown code gets an empty description, and stays once the catalogue is read.
     static const std::string& Description(int nCode);
 
     void LookUpCombo();

@@ -89,6 +89,7 @@ void CheckListDialog::OnOK() {
 }
 
 void CheckListDialog::EnableDisable() {
+    if (!m_hWnd) return;
     const auto controls = m_hWnd->Children();
     for (const auto& control : controls) {
         CWnd::FromHandle(control.get())->EnableWindow(!m_bReadOnly || control->Id() == IDOK);

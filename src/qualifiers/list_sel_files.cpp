@@ -20,11 +20,6 @@ constexpr const char* kFilter = "Text File |*.txt|All Files |*.*|";
 constexpr const char* kImportTitle = "Import Norvadon PC Qualifiers";
 constexpr const char* kExportTitle = "Export Norvadon PC Qualifiers";
 
-std::string WordsOfCut(const std::string& path, int cut) {
-    return path + ":\n" + std::to_string(cut) + (cut == 1 ? " line was" : " lines were") +
-           " longer than " + std::to_string(kv::kLongestQualifier) + " characters and cut there.";
-}
-
 /// Below the work folder, where no import folder is remembered.
 void EnsureImportFolder() {
     kv::EnsureImportFolder(std::string(kv::catalogue::kReportFolder) + "\\");
@@ -52,7 +47,7 @@ void CKvGuiListSel::LoadQualifiers(const std::string& path) {
         Selected().AddString(value.c_str());
     }
     UpdateActionButtons();
-    if (cut > 0) AfxMessageBox(WordsOfCut(path, cut).c_str(), 0, 0);
+    if (cut > 0) AfxMessageBox(kv::WordsOfCut(path, cut).c_str(), 0, 0);
 }
 
 void CKvGuiListSel::OnExportButton() {

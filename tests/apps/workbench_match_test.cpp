@@ -115,6 +115,16 @@ TEST_F(MatchTest, AListFileStandsForTheList) {
     EXPECT_EQ(Of("CKvGuiListSel", outcome)->condition, "t.lessee in ('C')");
 }
 
+TEST_F(MatchTest, LinesOfAListFileThatAreCutAreTold) {
+    const std::string path = kv::FromNative(folder.Native("list.txt"));
+    const Json outcome = {{"values", {"C"}}, {"useListFile", true}, {"listFile", path}};
+    folder.Write("list.txt", std::string(99, 'a') + "\nb\n");
+    EXPECT_EQ(Of("CKvGuiListSel", outcome)->cut, "");
+    folder.Write("list.txt", std::string(100, 'a') + "\nb\n");
+    EXPECT_EQ(Of("CKvGuiListSel", outcome)->cut,
+              path + ":\n1 line was longer than 99 characters and cut there.");
+}
+
 TEST_F(MatchTest, AListFileThatCannotBeReadIsTold) {
     const Json outcome = {
         {"values", {"C"}}, {"useListFile", true}, {"listFile", "C:\\none\\list.txt"}};

@@ -147,6 +147,7 @@ TEST_F(WorkbenchReadouts, AChoiceMadeAheadOfTheFirstPositionStays) {
     At(Coordinates()).Select(coord::kUserProjection, "115 UTM");
     const Place place = Move(middle);
     EXPECT_EQ(Coordinates().DlgItemText(coord::kUnit), "meter");
+    // 0.3048 m to the foot, though feet are US survey feet.
     const double x = Feet(place, 115).first * 0.3048;
     EXPECT_NEAR(kv::Atof(Coordinates().DlgItemText(coord::kX)), x, 0.02);
     EXPECT_EQ(Coordinates().DlgItemText(coord::kMapProjection), std::to_string(Usual()));

@@ -17,7 +17,8 @@ void Check(bool holds) {
 }
 
 void CheckValue(const std::string& value) {
-    Check(!value.empty() && value.size() <= kv::kLongestQualifier);
+    constexpr std::size_t kLongestCharacter = 4;
+    Check(!value.empty() && value.size() <= kLongestCharacter * kv::kLongestQualifier);
     Check(kv::TrimSpace(value) == value);
     Check(kv::ToUpper(value) == value);
     Check(value.find('\n') == std::string::npos);

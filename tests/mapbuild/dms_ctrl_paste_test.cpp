@@ -125,6 +125,25 @@ TEST_F(DMSCtrlPaste, AMarkOfDegreesSpreadsAlsoFromMinutesAndSeconds) {
     });
 }
 
+TEST_F(DMSCtrlPaste, ASingleNumberWithAMarkOfMinutesOrSecondsIsTheBoxesOwn) {
+    RunBound([&](kv::User& user) {
+        for (const std::string text :
+             {"15.2534s", " 15.2534 s ", "15.2534\"", "15.2534''", "15.2534'", "15.2534m"}) {
+            Lat().SetDMS(1.5);
+            user.Paste(kLatGroup + kMinEdit, text);
+            EXPECT_EQ(LatBoxes(), "1|" + text + "|0.00");
+            Lat().SetDMS(1.5);
+            user.Paste(kLatGroup + kSecEdit, text);
+            EXPECT_EQ(LatBoxes(), "1|30|" + text);
+        }
+        Lat().SetDMS(1.5);
+        user.Paste(kLatGroup + kSecEdit, "28d30m15.25s");
+        EXPECT_EQ(LatBoxes(), "28|30|15.25");
+        user.Paste(kLatGroup + kDegEdit, "28.5s");
+        EXPECT_EQ(LatBoxes(), "-28|30|0.00");
+    });
+}
+
 TEST_F(DMSCtrlPaste, DecimalDegreesStandAsTheyAreWhereThatIsTheForm) {
     RunBound([&](kv::User& user) {
         Lat().SetFormat(true);

@@ -5,6 +5,7 @@
 #include "base/numbers.h"
 #include "frame/kvcom/util_lldrv.h"
 #include "mapbuild/projection_fixture.h"
+#include "window/acting/wait_scene.h"
 
 using kv::ControlKind;
 using test::ProjCtrl;
@@ -180,6 +181,17 @@ TEST_F(ProjectionContradictions, AreLoggedOnceByCodeAndBothNames) {
     CKvGuiProjCtrl::S_GetProjDesc(-102);
     EXPECT_THAT(Told(), SizeIs(lines.size()));
     EXPECT_THAT(desktop.Messages(), IsEmpty());
+}
+
+TEST_F(ProjectionContradictions, AreLoggedOfACodeThatWasAskedForBeforeACancelledReadingToo) {
+    kv::QueryScenes queries(desktop);
+    queries.Expect("", [](kv::User& wait) { wait.Click(IDCANCEL); });
+    Run(dialog, [](kv::User&) {
+        EXPECT_EQ(CKvGuiProjCtrl::S_GetProjDesc(4), "");
+        EXPECT_EQ(CKvGuiProjCtrl::S_GetProjDesc(4), "Zone : 4: North Coast");
+    });
+    EXPECT_EQ(queries.Left(), 0);
+    EXPECT_THAT(Told(), testing::Contains(Line("4", "North Coast", "Arkansas North")));
 }
 
 TEST_F(ProjectionContradictions, AreNoneInCaseBlanksAndSigns) {

@@ -438,6 +438,17 @@ TEST_F(CheckListWords, DialogsWithoutACallerOpen) {
     }
 }
 
+TEST_F(CheckListWords, EnablingAheadOfTheWindowDoesNothing) {
+    CKvGuiLeaseStatusDlg lease;
+    CKvGuiPipeStatusDlg status;
+    CKvGuiPipeProductDlg product;
+    lease.EnableDisableLeaseStatusDlg();
+    status.EnableDisableStatusDlg();
+    product.EnableDisableProductDlg();
+    EXPECT_EQ(lease.GetSafeHwnd(), nullptr);
+    EXPECT_EQ(Run(lease, [](kv::User& user) { user.Click(IDOK); }), IDOK);
+}
+
 TEST_F(CheckListWords, StaticsNameTheGroups) {
     const auto texts = [this](CDialog& dialog) {
         Texts statics;

@@ -48,6 +48,36 @@ TEST(QualifierFile, HoldsNinetyNineCharactersOfALine) {
     }
 }
 
+TEST(QualifierFile, CountsCharactersAndCutsNoneInTwo) {
+    const auto times = [](int count, const std::string& character) {
+        std::string text;
+        for (int i = 0; i < count; ++i)
+            text += character;
+        return text;
+    };
+    int cut = -1;
+    for (const std::string character : {"\xD0\x96", "\xE2\x82\xAC", "\xF0\x9F\x9B\xA2", "\xC6"}) {
+        for (const int count : {60, 99}) {
+            EXPECT_THAT(kv::ParseQualifiers(times(count, character), &cut),
+                        ElementsAre(times(count, character)));
+            EXPECT_EQ(cut, 0);
+        }
+        EXPECT_THAT(kv::ParseQualifiers(times(100, character), &cut),
+                    ElementsAre(times(99, character)));
+        EXPECT_EQ(cut, 1);
+    }
+}
+
+TEST(QualifierFile, DoesNotCountALineThatLosesWhiteSpaceAloneAsCut) {
+    int cut = -1;
+    const std::string longest(99, 'A');
+    EXPECT_THAT(kv::ParseQualifiers(longest + " \t \nB" + std::string(200, ' '), &cut),
+                ElementsAre(longest, "B"));
+    EXPECT_EQ(cut, 0);
+    EXPECT_THAT(kv::ParseQualifiers(longest + " c", &cut), ElementsAre(longest));
+    EXPECT_EQ(cut, 1);
+}
+
 TEST(QualifierFile, DoesNotCountALongCommentAsCut) {
     int cut = -1;
     EXPECT_THAT(kv::ParseQualifiers("#" + std::string(1000, 'a') + "\nb", &cut), ElementsAre("B"));

@@ -480,6 +480,7 @@ void CKvGuiCustomDlg::PopulateIsbLL(CKvMapBounds& tBounds) const {
             double lon = 0.0;
             CKvUtilLLdrv::XYdrv(x, y, &lat, &lon, m_nProjection, IsChecked(kFeet) ? 0 : 1, 1, 100.0,
                                 0.0, 0.0);
+            if (!std::isfinite(lat)) return;
             corners.emplace_back(lat, lon);
         }
     }

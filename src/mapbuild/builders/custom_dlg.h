@@ -73,7 +73,8 @@ protected:
     /// All boxes to the record, and the scale unless one was chosen. False, with a message, where
     /// they are not filled, and where the projection has no answer for them.
     bool UpdateBoundsScale();
-    /// The box of latitude and longitude around the whole rectangle of X/Y.
+    /// The box of latitude and longitude around the whole rectangle of X/Y. Where a corner is no
+    /// place, it stays as it was.
     void PopulateIsbLL(CKvMapBounds& tBounds) const;
 
     CInputValidationEdit m_tLatDegEdit;

@@ -1,5 +1,6 @@
 // A load is whole or not at all.
 
+#include <sqlite3.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
@@ -68,6 +69,30 @@ TEST_F(LoadWhole, OfANewFileLeavesADatasetThatTheProgramsOpen) {
                        std::string(table.name) + "'"),
                   std::to_string(table.indexes.size()) + "\n")
             << table.name;
+}
+
+TEST_F(LoadWhole, OfANewFileTakesAwayTheLogOfADatabaseThatWasThere) {
+    for (const char* ending : {"-wal", "-shm", "-journal"})
+        folder.Write(std::string("data.db") + ending, "left behind");
+    LoadArea();
+    EXPECT_THAT(Files(), testing::Not(testing::Contains(testing::StartsWith("data.db-"))));
+    EXPECT_EQ(Rows("select areaname from gulf_mexico_connam2"), "GREEN CANYON\n");
+}
+
+/// While it lives, SQLite takes files for those of a folder that shares no memory.
+class WithoutSharedMemory {
+public:
+    WithoutSharedMemory() { sqlite3_vfs_register(sqlite3_vfs_find("unix-none"), 1); }
+    ~WithoutSharedMemory() { sqlite3_vfs_register(sqlite3_vfs_find("unix"), 1); }
+    WithoutSharedMemory(const WithoutSharedMemory&) = delete;
+    WithoutSharedMemory& operator=(const WithoutSharedMemory&) = delete;
+};
+
+TEST_F(LoadWhole, LeavesNoNewFileThatCannotHaveALog) {
+    const WithoutSharedMemory files;
+    EXPECT_THAT([this] { LoadArea(); }, testing::ThrowsMessage<std::runtime_error>(
+                                            "The database cannot have a write-ahead log"));
+    EXPECT_THAT(Files(), testing::Not(testing::Contains(testing::StartsWith("data.db"))));
 }
 
 TEST_F(LoadWhole, AddsToWhatIsThere) {

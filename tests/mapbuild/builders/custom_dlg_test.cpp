@@ -716,6 +716,26 @@ TEST_F(CustomDlg, TheBoxAroundTheWholeRectangleHoldsItsCorners) {
     });
 }
 
+TEST_F(CustomDlg, TheBoxAroundARectangleWithACornerThatIsNoPlaceStaysAsItWas) {
+    constexpr double kNowhere = 1e12;
+    double lat = 0.0;
+    double lon = 0.0;
+    CKvUtilLLdrv::XYdrv(kNowhere, 4'000'000, &lat, &lon, 115, kMeterUnits, 1, 100.0, 0.0, 0.0);
+    ASSERT_EQ(lat, HUGE_VAL);
+    CKvMapBounds map;
+    map.SetXMin(1'000'000);
+    map.SetXMax(kNowhere);
+    map.SetYMin(3'000'000);
+    map.SetYMax(4'000'000);
+    map.SetLatMin(27);
+    map.SetLatMax(28);
+    map.SetLonMin(-91);
+    map.SetLonMax(-90);
+    dialog.m_nProjection = 115;
+    dialog.PopulateIsbLL(map);
+    ExpectNear(test::AnglesOf(map), {27, 28, -91, -90}, 0.0);
+}
+
 // Every order of choosing, against a plain model of what a person sees.
 
 enum Choice {
