@@ -90,16 +90,19 @@ constexpr Move kAddSortedMove{kLesseeTemplate, kAvailable, kSelected, kAdd, kMan
 
 const bench::Subject kSubjects[] = {
     {"qualifiers/add 50,000 rows", 1, [](benchmark::State& state) { MoveOurs(state, kAddMove); },
-     [](benchmark::State& state) { MovePeer(state, kAddMove); }},
+     [](benchmark::State& state) { MovePeer(state, kAddMove); }, bench::Clock::kCpu,
+     bench::Turns::kShort},
     {"qualifiers/add every second of 10,000 rows", 1,
      [](benchmark::State& state) { MoveOurs(state, kAddSecondMove); },
      [](benchmark::State& state) { MovePeer(state, kAddSecondMove); }},
     {"qualifiers/remove 50,000 rows", 1,
      [](benchmark::State& state) { MoveOurs(state, kRemoveMove); },
-     [](benchmark::State& state) { MovePeer(state, kRemoveMove); }},
+     [](benchmark::State& state) { MovePeer(state, kRemoveMove); }, bench::Clock::kCpu,
+     bench::Turns::kShort},
     {"qualifiers/add 50,000 rows, sorted", 1,
      [](benchmark::State& state) { MoveOurs(state, kAddSortedMove); },
-     [](benchmark::State& state) { MovePeer(state, kAddSortedMove); }},
+     [](benchmark::State& state) { MovePeer(state, kAddSortedMove); }, bench::Clock::kCpu,
+     bench::Turns::kShort},
 };
 
 }  // namespace
