@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <cstdlib>
+#include <string_view>
 
 #include "base/numbers.h"
 #include "base/text.h"
@@ -32,6 +33,17 @@ kv::AngleParts PartsOf(int nDeg, int nMin, double dSec) {
     const bool below = nDeg == 0 && (nMin < 0 || (nMin == 0 && dSec < 0.0));
     if (!below) return {nDeg < 0, std::abs(nDeg), nMin, dSec};
     return {true, 0, -nMin, nMin < 0 ? dSec : -dSec};
+}
+
+/// Without a mark of minutes or seconds at its end, where it has one.
+std::string WithoutMark(const std::string& text) {
+    const std::string trimmed = kv::TrimSpace(text);
+    for (const std::string_view mark :
+         {"''", "'", "\"", "m", "s", "\xE2\x80\xB2", "\xE2\x80\xB3"}) {
+        if (trimmed.ends_with(mark))
+            return kv::TrimSpace(trimmed.substr(0, trimmed.size() - mark.size()));
+    }
+    return text;
 }
 
 }  // namespace
@@ -287,16 +299,17 @@ void CKvGuiDMSCtrl::SetPartner(CKvGuiDMSCtrl* pPartner) {
     pPartner->m_pPartner = this;
 }
 
-/// Whether the text is a single number that is the box's own. Only a fraction of degrees belongs to
-/// the boxes of minutes and seconds, where they are shown. Behind a number in one of those, a small
-/// s is no south.
-bool CKvGuiDMSCtrl::IsOwnNumber(const CNumEdit& box, const std::string& text) const {
+/// The text of a single number that is the box's own, without the mark of minutes or seconds that
+/// may stand behind it in a box of those: a small s is no south there. Only a fraction of degrees
+/// belongs to those boxes, where they are shown.
+std::optional<std::string> CKvGuiDMSCtrl::OwnNumber(const CNumEdit& box,
+                                                    const std::string& text) const {
     const bool degrees = &box == m_pDegEdit.get();
-    std::string bare = kv::TrimSpace(text);
-    if (!degrees && bare.ends_with('s')) bare.pop_back();
+    const std::string bare = degrees ? text : WithoutMark(text);
     const auto number = kv::ScanLoneNumber(bare);
-    if (!number) return false;
-    return !degrees || m_bDecimal || *number == std::trunc(*number);
+    if (!number) return std::nullopt;
+    const bool own = !degrees || m_bDecimal || *number == std::trunc(*number);
+    return own ? std::optional(bare) : std::nullopt;
 }
 
 std::optional<double> CKvGuiDMSCtrl::Own(const kv::Coordinate& coordinate) const {
@@ -310,8 +323,14 @@ bool CKvGuiDMSCtrl::CanFill() const {
            !m_pDegEdit->m_hWnd->HasStyle(ES_READONLY);
 }
 
-bool CKvGuiDMSCtrl::Paste(const CNumEdit& box, const std::string& text) {
-    if (!CanFill() || IsOwnNumber(box, text)) return false;
+/// False where the box is to take the text as it stands.
+bool CKvGuiDMSCtrl::Paste(CNumEdit& box, const std::string& text) {
+    if (!CanFill()) return false;
+    if (const auto number = OwnNumber(box, text)) {
+        if (*number == text) return false;
+        box.ReplaceSel(number->c_str(), TRUE);
+        return true;
+    }
     const auto coordinate = kv::ParseCoordinate(text);
     const auto own = coordinate ? Own(*coordinate) : std::nullopt;
     if (!own) return false;

@@ -77,8 +77,8 @@ private:
     void Place(int id, const CRect& rect) const;
     void SetLabel(int id, const char* text) const;
 
-    bool Paste(const CNumEdit& box, const std::string& text);
-    bool IsOwnNumber(const CNumEdit& box, const std::string& text) const;
+    bool Paste(CNumEdit& box, const std::string& text);
+    std::optional<std::string> OwnNumber(const CNumEdit& box, const std::string& text) const;
     std::optional<double> Own(const kv::Coordinate& coordinate) const;
     bool CanFill() const;
     void Fill(double dValue);

@@ -127,14 +127,15 @@ TEST_F(DMSCtrlPaste, AMarkOfDegreesSpreadsAlsoFromMinutesAndSeconds) {
 
 TEST_F(DMSCtrlPaste, ASingleNumberWithAMarkOfMinutesOrSecondsIsTheBoxesOwn) {
     RunBound([&](kv::User& user) {
-        for (const std::string text :
-             {"15.2534s", " 15.2534 s ", "15.2534\"", "15.2534''", "15.2534'", "15.2534m"}) {
+        for (const std::string text : {"15.25s", " 15.25 s ", "15.25\"", "15.25''", "15.25'",
+                                       "15.25m", "15.25\u2032", "15.25 \u2033"}) {
             Lat().SetDMS(1.5);
             user.Paste(kLatGroup + kMinEdit, text);
-            EXPECT_EQ(LatBoxes(), "1|" + text + "|0.00");
+            EXPECT_EQ(LatBoxes(), "1|15.25|0.00") << text;
             Lat().SetDMS(1.5);
             user.Paste(kLatGroup + kSecEdit, text);
-            EXPECT_EQ(LatBoxes(), "1|30|" + text);
+            EXPECT_EQ(LatBoxes(), "1|30|15.25") << text;
+            EXPECT_NEAR(Lat().GetDMS(), 1.5 + 15.25 / 3600, 1e-9) << text;
         }
         Lat().SetDMS(1.5);
         user.Paste(kLatGroup + kSecEdit, "28d30m15.25s");

@@ -103,6 +103,32 @@ TEST_F(PostgresEngine, ADateIsWrittenYearFirst) {
     EXPECT_EQ(Cell("select d from kvt"), "2021-12-31");
 }
 
+TEST_F(PostgresEngine, ADateWithoutATimeIsCutToItsMonth) {
+    database_.Run("create table kvt (d date); insert into kvt values ('2024-05-17')");
+    manager_.Connect();
+    EXPECT_EQ(Cell("select trunc(d, 'MM') from kvt"), "2024-05-01 00:00:00");
+    EXPECT_EQ(Cell("select trunc(d) from kvt"), "2024-05-17 00:00:00");
+}
+
+TEST_F(PostgresEngine, NumbersOfDoublePrecisionAreRoundedCutAndDivided) {
+    database_.Run("create table kvt (x double precision); insert into kvt values (28.4567)");
+    manager_.Connect();
+    EXPECT_EQ(Cell("select round(x, 2) from kvt"), "28.46");
+    EXPECT_EQ(Cell("select trunc(x, 2) from kvt"), "28.45");
+    EXPECT_EQ(Cell("select mod(x, 1) from kvt"), "0.4567");
+    EXPECT_EQ(Cell("select mod(x, 0) from kvt"), "28.4567");
+}
+
+TEST_F(PostgresEngine, AYearOfFourDigitsStaysWhereTwoAreNamed) {
+    manager_.Connect();
+    EXPECT_EQ(Cell("select to_date(t, 'DD-MON-YY') from (select '01-JAN-1985' t from dual) x"),
+              "1985-01-01 00:00:00");
+    EXPECT_EQ(Cell("select to_date(t, 'DD.MM.RR') from (select '01.01.2055' t from dual) x"),
+              "2055-01-01 00:00:00");
+    EXPECT_EQ(Cell("select to_date(t, 'YYMMDDHH24MI') from (select '8501171345' t from dual) x"),
+              "2085-01-17 13:45:00");
+}
+
 TEST(PostgresBytes, TextThatIsNotUtf8ComesThroughWhereTheServerHoldsBytes) {
     TempFolder folder;
     const PostgresDatabase database("encoding 'SQL_ASCII' locale 'C' template template0");

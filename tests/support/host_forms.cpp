@@ -244,6 +244,17 @@ void AddNumbersBesideTexts(Forms& forms) {
           "select decode(refnum + 1, '9', 'y', 'n') from gulf_mexico_lbi where refnum in (8, 9) "
           "order by 1",
           {"n", "y"}},
+         {"ANumberDecodedByATextThatIsNone",
+          "select decode(refnum, 'A', 'x', 'n') from gulf_mexico_lbi where refnum = 9",
+          {"n"}},
+         {"AWrittenTextInPlaceOfANumber",
+          "select zone_code from gulf_mexico_zone_code where nvl(state_plane_code, '0') > 5 order "
+          "by 1",
+          {"1", "4"}},
+         {"AWrittenTextBesideTheOtherChoiceOfANumber",
+          "select zone_code from gulf_mexico_zone_code where nvl2(state_plane_code, 9, '3') > 5 "
+          "order by 1",
+          {"1", "4"}},
          {"AChosenTextAboveANumber",
           numbers + "nvl2(lbext, lbnum, '0') > 9 order by 1",
           {"1", "4", "5"}},

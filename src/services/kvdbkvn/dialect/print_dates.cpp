@@ -78,6 +78,15 @@ constexpr std::array<DateUnit, 11> kDateUnits = {{{"dd", "day", kStartOfDay},
                                                   {"year", "year", "%Y-01-01 00:00:00"},
                                                   {"yyyy", "year", "%Y-01-01 00:00:00"}}};
 
+/// Whether digits stand beside digits.
+bool AreDigits(const DatePart& part, const DatePart& next) {
+    const auto isText = [](const DatePart& each) {
+        return each.field == DateField::kSigns || each.field == DateField::kMonthName ||
+               each.field == DateField::kHalfDay;
+    };
+    return !isText(part) && !isText(next);
+}
+
 /// The format as PostgreSQL knows it.
 std::string PostgresFormat(const DateFormat& format) {
     std::string text;
@@ -131,15 +140,17 @@ void Printer::PutToDate(const Expr& call) {
         Put(written.text);
         return Put(")");
     }
-    PutInCentury(*format, [&] {
+    PutInCentury(*format, text, [&] {
         Put("cast(to_timestamp(");
         PutText(text);
         Put(", '" + PostgresFormat(*format) + "') as timestamp)");
     });
 }
 
-/// PostgreSQL takes years of two digits as those from 1970 to 2069.
-void Printer::PutInCentury(const DateFormat& format, const std::function<void()>& putDate) {
+/// PostgreSQL takes years of two digits as those from 1970 to 2069, and years of four digits, which
+/// may stand where signs end them, as they are.
+void Printer::PutInCentury(const DateFormat& format, const Expr& text,
+                           const std::function<void()>& putDate) {
     const auto has = [&](DateField field) {
         return std::ranges::find(format, field, &DatePart::field) != format.end();
     };
@@ -147,7 +158,13 @@ void Printer::PutInCentury(const DateFormat& format, const std::function<void()>
     if (!nearby && !has(DateField::kYearOfCentury)) return putDate();
     Put("case when ");
     putDate();
-    Put(nearby ? " >= timestamp '2050-01-01' then " : " < timestamp '2000-01-01' then ");
+    Put(nearby ? " >= timestamp '2050-01-01'" : " < timestamp '2000-01-01'");
+    if (std::ranges::adjacent_find(format, AreDigits) == format.end()) {
+        Put(" and ");
+        PutText(text);
+        Put(" !~ '(^|[^0-9])[0-9]{4}([^0-9]|$)'");
+    }
+    Put(" then ");
     putDate();
     Put(nearby ? " - interval '100 years' else " : " + interval '100 years' else ");
     putDate();
@@ -156,7 +173,7 @@ void Printer::PutInCentury(const DateFormat& format, const std::function<void()>
 
 void Printer::PutTrunc(const Expr& call) {
     if (TypeOf(*call.items.front()) == Type::kDate) return PutTruncatedDate(call);
-    PutTidied([&] { PutNumberOf(call); });
+    PutTidied([&] { PutNumericOf(call, 1); });
 }
 
 void Printer::PutTruncatedDate(const Expr& call) {
@@ -171,9 +188,9 @@ void Printer::PutTruncatedDate(const Expr& call) {
     if (row == kDateUnits.end()) throw Unreadable{call.items[1]->text};
     Put(ForPostgres() ? "date_trunc('" : "strftime('");
     Put(ForPostgres() ? row->postgres : row->sqlite);
-    Put("', ");
+    Put(ForPostgres() ? "', cast(" : "', ");
     PutExpr(*call.items.front());
-    Put(")");
+    Put(ForPostgres() ? " as timestamp))" : ")");
 }
 
 void Printer::PutDateToChar(const Expr& date, const DateFormat& format) {

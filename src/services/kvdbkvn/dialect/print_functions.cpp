@@ -91,7 +91,7 @@ const Printer::Function* Printer::FindFunction(const Expr& call) {
          {"nvl", 2, 2, &Printer::PutNvl},
          {"nvl2", 3, 3, &Printer::PutNvl2},
          {"power", 2, 2, &Printer::PutTidiedNumberOf},
-         {"regexp_replace", 2, 3, &Printer::PutRegexpReplace},
+         {"regexp_replace", 2, 4, &Printer::PutRegexpReplace},
          {"replace", 2, 3, &Printer::PutReplace},
          {"round", 1, 2, &Printer::PutRound},
          {"rpad", 2, 3, &Printer::PutPadded},
@@ -128,6 +128,19 @@ void Printer::PutPlainCall(const Expr& call, const std::function<void(const Expr
 /// A function of numbers takes texts as numbers.
 void Printer::PutNumberOf(const Expr& call) {
     PutPlainCall(call, [&](const Expr& item) { PutOperand(item, Rank::kAny); });
+}
+
+/// PostgreSQL has some functions for its type numeric alone: so many arguments are taken as that.
+void Printer::PutNumericOf(const Expr& call, std::size_t numeric) {
+    if (!ForPostgres()) return PutNumberOf(call);
+    std::size_t left = numeric;
+    PutPlainCall(call, [&](const Expr& item) {
+        if (left == 0) return PutOperand(item, Rank::kAny);
+        --left;
+        Put("cast(");
+        PutOperand(item, Rank::kAny);
+        Put(" as numeric)");
+    });
 }
 
 void Printer::PutTidiedNumberOf(const Expr& call) {
@@ -173,7 +186,7 @@ void Printer::PutPadded(const Expr& call) {
 void Printer::PutRound(const Expr& call) {
     if (TypeOf(*call.items.front()) == Type::kDate) throw Unreadable{call.names.front()};
     const int digits = call.items.size() > 1 ? IntegerOf(*call.items[1]).value_or(0) : 0;
-    if (ForPostgres() || digits >= 0) return PutTidiedNumberOf(call);
+    if (ForPostgres() || digits >= 0) return PutTidied([&] { PutNumericOf(call, 1); });
     const std::string unit = "1e" + std::to_string(-digits);
     PutTidied([&] {
         Put("(round(");
@@ -186,14 +199,14 @@ void Printer::PutRound(const Expr& call) {
 void Printer::PutMod(const Expr& call) {
     const Expr& divisor = *call.items[1];
     const std::optional<int> written = IntegerOf(divisor);
-    if (written && *written != 0) return PutTidiedNumberOf(call);
+    if (written && *written != 0) return PutTidied([&] { PutNumericOf(call, 2); });
     PutTidied([&] {
         Put("case ");
         PutOperand(divisor, Rank::kSum);
         Put(" when 0 then ");
         PutOperand(*call.items[0], Rank::kAny);
         Put(" else ");
-        PutNumberOf(call);
+        PutNumericOf(call, 2);
         Put(" end");
     });
 }
@@ -210,7 +223,12 @@ void Printer::PutRegexpReplace(const Expr& call) {
         PutText(*call.items[2]);
     else
         Put("''");
-    Put(", ''), 'g'), '')");
+    Put(", ''), ");
+    if (call.items.size() > 3) {
+        PutInteger(*call.items[3]);
+        return Put(", 0), '')");
+    }
+    Put("'g'), '')");
 }
 
 /// What is to be replaced, and by what, may be nothing.
@@ -302,11 +320,23 @@ void Printer::PutDecodeTest(const Expr& value, const Expr& search) {
 /// as what the value is.
 void Printer::PutDecodeSearch(const Expr& value, const Expr& search) {
     const Type type = TypeOf(value);
-    if (!ForPostgres() && type == Type::kNumber && search.kind == ExprKind::kText)
-        return PutAsNumber(search);
+    // A number is no text that reads as none.
+    const bool never = search.kind == ExprKind::kText && TypeOf(search) == Type::kText;
+    if (type == Type::kNumber) return never ? Put("null") : PutBesideNumber(search);
     const bool adapts = type == Type::kText || (ForPostgres() && type == Type::kUnknown);
     if (adapts && IsLiteral(search)) return PutAsTextLiteral(search);
     PutExpr(search, Rank::kSum);
+}
+
+/// A written text that SQLite would keep as one.
+void Printer::PutBesideNumber(const Expr& expr) {
+    const bool isText = TypeOf(expr) == Type::kNumberAsText;
+    isText && !ForPostgres() ? PutAsNumber(expr) : PutExpr(expr, Rank::kSum);
+}
+
+/// What is chosen in place of a value of that type.
+void Printer::PutChoice(const Expr& choice, Type type) {
+    type == Type::kNumber ? PutBesideNumber(choice) : PutExpr(choice);
 }
 
 /// All results are of the first one's type.
@@ -325,10 +355,11 @@ void Printer::PutNvl(const Expr& call) {
     Put("coalesce(");
     PutExpr(value);
     Put(", ");
-    if (ForPostgres() && TypeOf(value) != Type::kNumber)
+    const Type type = TypeOf(value);
+    if (ForPostgres() && type != Type::kNumber)
         PutAsTextLiteral(instead);
     else
-        PutExpr(instead);
+        PutChoice(instead, type);
     Put(")");
 }
 
@@ -338,7 +369,7 @@ void Printer::PutNvl2(const Expr& call) {
     Put(" is not null then ");
     PutExpr(*call.items[1]);
     Put(" else ");
-    PutExpr(*call.items[2]);
+    PutChoice(*call.items[2], TypeOf(*call.items[1]));
     Put(" end");
 }
 

@@ -141,7 +141,8 @@ private:
     void PutDays(const Expr& days, char sign, const std::function<void()>& putDate);
     void PutSysdate(const Expr& call);
     void PutToDate(const Expr& call);
-    void PutInCentury(const DateFormat& format, const std::function<void()>& putDate);
+    void PutInCentury(const DateFormat& format, const Expr& text,
+                      const std::function<void()>& putDate);
     void PutTrunc(const Expr& call);
     void PutTruncatedDate(const Expr& call);
     void PutDateToChar(const Expr& date, const DateFormat& format);
@@ -154,6 +155,8 @@ private:
     void PutDecode(const Expr& call);
     void PutDecodeTest(const Expr& value, const Expr& search);
     void PutDecodeSearch(const Expr& value, const Expr& search);
+    void PutBesideNumber(const Expr& expr);
+    void PutChoice(const Expr& choice, Type type);
     void PutDecodeResult(const Expr& result, Type first);
     void PutAsTextLiteral(const Expr& expr);
     void PutInteger(const Expr& expr);
@@ -167,6 +170,7 @@ private:
     void PutTextOf(const Expr& call);
     void PutPlainCall(const Expr& call, const std::function<void(const Expr&)>& putArgument);
     void PutNumberOf(const Expr& call);
+    void PutNumericOf(const Expr& call, std::size_t numeric);
     void PutTidiedNumberOf(const Expr& call);
     void PutInstr(const Expr& call);
     void PutConcatOf(const Expr& call);

@@ -80,13 +80,16 @@ private:
         });
         const bool isNamed = known != named_.rend();
         if (isNamed && table.schema.empty()) return known->columns;
-        std::string schema = EngineName(table.schema, context_.target);
-        if (!context_.hasSchema || !context_.hasSchema(schema)) schema.clear();
-        // Without its schema the engine would take the table for the query of that name.
-        if (isNamed && schema.empty()) throw Unreadable{table.schema};
         if (EqualsNoCase(table.name, "dual")) return {{"dummy", Type::kText}};
         if (EqualsNoCase(table.name, "all_tables"))
             return {{"owner", Type::kText}, {"table_name", Type::kText}};
+        std::string schema = EngineName(table.schema, context_.target);
+        if (!context_.hasSchema || !context_.hasSchema(schema)) schema.clear();
+        const bool hidden = isNamed || std::ranges::any_of(forward_, [&](std::string_view name) {
+                                return SameName(name, table.name);
+                            });
+        // Without its schema the engine would take the table for the query of that name.
+        if (hidden && schema.empty() && !table.schema.empty()) throw Unreadable{table.schema};
         if (!context_.columnsOf) return {};
         const std::string name = EngineName(table.name, context_.target);
         const auto [tables, isNew] = tables_.try_emplace(schema + "." + name);
@@ -96,6 +99,10 @@ private:
 
     Columns ResolveQuery(Query& query, const Scope* outer) {
         const std::size_t before = named_.size();
+        const std::size_t forward = forward_.size();
+        if (context_.target == Target::kSqlite)
+            for (const NamedQuery& named : query.with)
+                forward_.push_back(named.name);
         for (const NamedQuery& named : query.with)
             named_.push_back({named.name, Renamed(ResolveQuery(*named.query, outer), named)});
         Columns columns;
@@ -109,6 +116,7 @@ private:
         if (query.members.size() > 1 || !query.members.front().select)
             ResolveOrder(query, {nullptr, {{{}, columns}}});
         named_.resize(before);
+        forward_.resize(forward);
         return columns;
     }
 
@@ -255,6 +263,8 @@ private:
     Arena& arena_;
     /// Queries that have a name; the innermost last.
     std::vector<Source> named_;
+    /// The names of queries that SQLite knows ahead of them, too.
+    std::vector<std::string_view> forward_;
     std::map<std::string, Columns> tables_;
 };
 

@@ -43,7 +43,7 @@ Type TypeOfCall(const Expr& call) {
     if (std::ranges::any_of(kTextFunctions, isOne)) return Type::kText;
     if (std::ranges::any_of(kNumberFunctions, isOne)) return Type::kNumber;
     if (IsCallOf(call, "decode") && call.items.size() >= 3) return TypeOfChoices(call.items, 2);
-    if (IsCallOf(call, "nvl2") && call.items.size() == 3) return CombineItems(call.items, 1, 1);
+    if (IsCallOf(call, "nvl2") && call.items.size() == 3) return TypeOf(*call.items[1]);
     if (std::ranges::any_of(kDateFunctions, isOne)) return Type::kDate;
     if (std::ranges::any_of(kChoosingFunctions, isOne)) return CombineItems(call.items, 0, 1);
     if ((IsCallOf(call, "trunc") || IsCallOf(call, "nullif")) && !call.items.empty())

@@ -451,7 +451,7 @@ TEST(Dialect, RoundsToTensAndHundreds) {
     EXPECT_EQ(Value("1000 / round(249, -2)"), "5");
     EXPECT_EQ(Value("round(12.345, 2)"), "12.35");
     EXPECT_EQ(OnPostgres("select round(a, -2) from t"),
-              "select trim_scale(cast(round(a, -2) as numeric)) from t");
+              "select trim_scale(cast(round(cast(a as numeric), -2) as numeric)) from t");
 }
 
 TEST(Dialect, LeavesAllOfWhatNothingDivides) {
@@ -459,7 +459,8 @@ TEST(Dialect, LeavesAllOfWhatNothingDivides) {
     EXPECT_EQ(Value("mod(5, 3)"), "2");
     EXPECT_EQ(Value("mod(5, 1 - 1)"), "5");
     EXPECT_EQ(OnPostgres("select mod(a, 0) from t"),
-              "select trim_scale(cast(case 0 when 0 then a else mod(a, 0) end as numeric)) from t");
+              "select trim_scale(cast(case 0 when 0 then a else mod(cast(a as numeric), cast(0 as "
+              "numeric)) end as numeric)) from t");
 }
 
 TEST(Dialect, PadsToNoLengthWithNull) {
@@ -471,6 +472,9 @@ TEST(Dialect, ReplacesEachPlaceOfAPatternOnPostgres) {
     EXPECT_EQ(OnPostgres("select regexp_replace(a, 'x', '') from t"),
               "select nullif(regexp_replace(cast(a as text), 'x', coalesce(cast(null as text), "
               "''), 'g'), '') from t");
+    EXPECT_EQ(OnPostgres("select regexp_replace(a, 'x', 'y', 2) from t"),
+              "select nullif(regexp_replace(cast(a as text), 'x', coalesce('y', ''), cast(2 as "
+              "integer), 0), '') from t");
     EXPECT_EQ(OnPostgres("select regexp_replace(a, 'x') from t"),
               "select nullif(regexp_replace(cast(a as text), 'x', coalesce('', ''), 'g'), '') "
               "from t");
@@ -486,6 +490,19 @@ TEST(Dialect, RefusesWhatWouldBeAnotherValue) {
     EXPECT_THAT(refusal("select round(sysdate) from dual"), HasSubstr("at character 8: round"));
     EXPECT_THAT(refusal("with t as (select 1 a from dual) select a from norvadon.t"),
                 HasSubstr("at character 48: norvadon"));
+    EXPECT_THAT(refusal("with u as (select a from norvadon.t), t as (select 1 a from dual) select "
+                        "a from u"),
+                HasSubstr("at character 26: norvadon"));
+    EXPECT_THAT(refusal("with t as (select a from norvadon.t) select a from t"),
+                HasSubstr("at character 26: norvadon"));
+    EXPECT_EQ(
+        Translate("with t as (select a from norvadon.t) select a from t", For(Target::kPostgres))
+            .refusal,
+        "");
+    EXPECT_EQ(refusal("with dual as (select 1 a from t) select a from sys.dual"), "");
+    EXPECT_EQ(refusal("with t as (select 1 a from dual) select a from (with u as (select a from "
+                      "t) select a from u) x"),
+              "");
     EXPECT_EQ(refusal("with t as (select 1 a from dual) select a from t"), "");
     EXPECT_EQ(Translate("with t as (select 1 a from dual) select a from norvadon.t",
                         WithSchema(Target::kSqlite))
