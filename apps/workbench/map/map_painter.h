@@ -91,6 +91,7 @@ private:
     void AddLine(const Segment& line, const Box& seen);
     void DrawAreas();
     void DrawBlockLines();
+    void DrawHairlines(const QColor& color);
     void DrawAreaLines();
     void DrawPipelines();
     void DrawSpots(bool platforms);
@@ -100,7 +101,7 @@ private:
     void DrawMarkedBlocks(const std::vector<BlockRef>& blocks, const QColor& color);
 
     void DrawGraticule();
-    void DrawCurves(const std::vector<GraticuleCurve>& curves);
+    void DrawCurves(const std::vector<GraticuleCurve>& curves, const QColor& color);
     void DrawEdgeLabels();
     void PutEdgeLabel(const std::string& label, QPointF middle);
     void DrawAreaLabels();
@@ -147,6 +148,7 @@ private:
     MapLayers layers_;
     std::vector<const AreaMap*> visible_;
     std::vector<QLineF> lines_;
+    std::vector<QLineF> pieces_;
     std::vector<QRectF> dots_;
     GraticuleCurves curves_;
     std::vector<QRectF> panels_;
