@@ -163,17 +163,21 @@ void AddDates(Forms& forms) {
           "dual union select null d from dual) x order by d",
           {"2023-12-31 00:00:00", "2024-02-01 00:00:00", ""}},
          {"DatesCutToTheirUnits",
-          "select trunc(d), trunc(d, 'DD'), trunc(d, 'mm'), trunc(d, 'YYYY') from (select "
-          "timestamp "
+          "select trunc(d), trunc(d, 'DD'), trunc(d, 'DDD'), trunc(d, 'mm'), trunc(d, 'MON'), "
+          "trunc(d, 'Month') from (select timestamp '2024-05-17 13:45:09' d from dual) x",
+          {"2024-05-17 00:00:00|2024-05-17 00:00:00|2024-05-17 00:00:00|2024-05-01 00:00:00|"
+           "2024-05-01 00:00:00|2024-05-01 00:00:00"}},
+         {"DatesCutToTheirYears",
+          "select trunc(d, 'YY'), trunc(d, 'YEAR'), trunc(d, 'YYYY') from (select timestamp "
           "'2024-05-17 13:45:09' d from dual) x",
-          {"2024-05-17 00:00:00|2024-05-17 00:00:00|2024-05-01 00:00:00|2024-01-01 00:00:00"}},
+          {"2024-01-01 00:00:00|2024-01-01 00:00:00|2024-01-01 00:00:00"}},
          {"NoTextIsNoDate",
           "select nvl(to_char(to_date('', 'YYYY'), 'YYYY'), 'none') from dual",
           {"none"}},
          {"TimesCutToTheirUnits",
-          "select trunc(d, 'HH24'), trunc(d, 'MI') from (select timestamp '2024-05-17 13:45:09' d "
-          "from dual) x",
-          {"2024-05-17 13:00:00|2024-05-17 13:45:00"}},
+          "select trunc(d, 'HH'), trunc(d, 'HH24'), trunc(d, 'MI') from (select timestamp "
+          "'2024-05-17 13:45:09' d from dual) x",
+          {"2024-05-17 13:00:00|2024-05-17 13:00:00|2024-05-17 13:45:00"}},
          {"NoNumberInAFormat",
           "select to_char(state_plane_code, '990.00') from gulf_mexico_zone_code where zone_code "
           "= 100",

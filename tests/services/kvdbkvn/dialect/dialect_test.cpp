@@ -435,6 +435,38 @@ TEST(Dialect, KnowsNoTypeOfWhatAnotherFunctionGives) {
               "select 1 from t where own_code() > 9");
     EXPECT_EQ(OnPostgres("select 1 from t where own_code(length(a)) > 'x'"),
               "select 1 from t where own_code(length(a)) > 'x' collate \"C\"");
+    EXPECT_EQ(OnPostgres("select 1 from t where own_code(a, length(a), a) > 'x'"),
+              "select 1 from t where own_code(a, length(a), a) > 'x' collate \"C\"");
+}
+
+TEST(Dialect, CutsDatesToTheirUnitsOnPostgres) {
+    for (const auto& [unit, name] : {std::pair{"DD", "day"},
+                                     {"DDD", "day"},
+                                     {"HH", "hour"},
+                                     {"HH24", "hour"},
+                                     {"MI", "minute"},
+                                     {"MM", "month"},
+                                     {"MON", "month"},
+                                     {"MONTH", "month"},
+                                     {"YY", "year"},
+                                     {"YEAR", "year"},
+                                     {"YYYY", "year"}}) {
+        EXPECT_EQ(OnPostgres(std::string("select trunc(date '2024-05-17', '") + unit + "') from t"),
+                  std::string("select date_trunc('") + name +
+                      "', cast(timestamp '2024-05-17 00:00:00' as timestamp)) from t");
+    }
+}
+
+TEST(Dialect, TakesYearsOfTwoDigitsInTheirCenturyOnPostgres) {
+    const std::string date = "cast(to_timestamp(cast(a as text), 'YYMMDD') as timestamp)";
+    EXPECT_EQ(OnPostgres("select to_date(a, 'RRMMDD') from t"),
+              "select case when " + date + " >= timestamp '2050-01-01' then " + date +
+                  " - interval '100 years' else " + date + " end from t");
+    EXPECT_EQ(OnPostgres("select to_date(a, 'YYMMDD') from t"),
+              "select case when " + date + " < timestamp '2000-01-01' then " + date +
+                  " + interval '100 years' else " + date + " end from t");
+    EXPECT_THAT(OnPostgres("select to_date(a, 'DD.MM.YY') from t"),
+                HasSubstr(" and cast(a as text) !~ '(^|[^0-9])[0-9]{4}([^0-9]|$)' then "));
 }
 
 TEST(Dialect, TakesTheTypeOfTheFirstForTruncAndNullif) {
