@@ -243,6 +243,18 @@ TEST_F(DMSCtrlPaste, APartnerThatIsReadOnlyKeepsItsAngle) {
     });
 }
 
+TEST_F(DMSCtrlPaste, WhereTheDegreesAreDisabledABoxTakesTheTextAsItStands) {
+    RunBound([&](kv::User& user) {
+        Lat().SetDMS(1.5);
+        dialog.GetDlgItem(kLatGroup + kDegEdit)->EnableWindow(FALSE);
+        user.Paste(kLatGroup + kMinEdit, "15'");
+        EXPECT_EQ(LatBoxes(), "1|15'|0.00");
+        user.Paste(kLatGroup + kMinEdit, "28 30 15.25 N");
+        EXPECT_EQ(LatBoxes(), "1|28 30 15.25 N|0.00");
+        Lat().SetDMS(1.5);
+    });
+}
+
 TEST_F(DMSCtrlPaste, ABondEndsWithEitherPartner) {
     RunBound([&](kv::User& user) {
         Lon().SetPartner(nullptr);

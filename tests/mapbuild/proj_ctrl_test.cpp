@@ -194,6 +194,15 @@ TEST_F(ProjectionContradictions, AreLoggedOfACodeThatWasAskedForBeforeACancelled
     EXPECT_THAT(Told(), testing::Contains(Line("4", "North Coast", "Arkansas North")));
 }
 
+TEST_F(ProjectionContradictions, WhatWasReadAheadOfACancelIsKnown) {
+    kv::QueryScenes queries(desktop);
+    queries.Expect(
+        "", [](kv::User& wait) { wait.Click(IDCANCEL); }, 1);
+    Run(dialog,
+        [](kv::User&) { EXPECT_EQ(CKvGuiProjCtrl::S_GetProjDesc(4), "Zone : 4: North Coast"); });
+    EXPECT_EQ(queries.Left(), 0);
+}
+
 TEST_F(ProjectionContradictions, AreNoneInCaseBlanksAndSigns) {
     test::RunOnSqliteFile(
         zones,
